@@ -1,0 +1,15 @@
+# Warnings are errors in all of our code. All Windows modules carry their run-time with them.
+option(WEX_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+add_compile_options(-Wall -Wextra -Werror -Wno-missing-field-initializers)
+if(WEX_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(WIN32)
+  # 0x0A00: the per-monitor display scale is asked for. Handlers of windows take parameters they don't use.
+  add_compile_definitions(UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN)
+  add_link_options(-static -static-libgcc -static-libstdc++)
+  # The cast of GetProcAddress's answer is the platform's own way.
+  add_compile_options(-Wno-cast-function-type)
+endif()

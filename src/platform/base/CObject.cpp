@@ -1,0 +1,3 @@
+#include "src/platform/base/CObject.h"
+
+const CRuntimeClass CObject::runtimeClass = {"CObject", nullptr};

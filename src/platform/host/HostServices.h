@@ -1,0 +1,37 @@
+// The host's services beside its Lisp: messages to the person, files, windows, the display scale.
+#pragma once
+
+#include <windows.h>
+
+#include "src/platform/host/HostApi.h"
+
+// The word that pluginGetApiVersion reports.
+constexpr uint32_t HOST_API_VERSION = 0x00240001;
+
+// A modal alert box with one OK button.
+HOST_API void hostAlert(const wchar_t* text);
+// Prints on the host's command line. Takes the wide printf formats; %s is wide text.
+HOST_API int hostPrintf(const wchar_t* format, ...);
+// Readies the host's own user interface parts. Called once, while the plug-in is being attached.
+HOST_API void hostInitUiLibrary();
+// HOST_NORMAL while the graphics screen is in front.
+HOST_API int hostGraphScr();
+// The host's main frame window; null in a host without one.
+HOST_API HWND hostGetMainFrame();
+// Device pixels to one pixel of 96 dots per inch, on that monitor or, with null, the primary one.
+HOST_API double hostMonitorDpiXScale(HMONITOR monitor);
+HOST_API double hostMonitorDpiYScale(HMONITOR monitor);
+
+HOST_API int hostMemFileCreate(const wchar_t* path, const wchar_t* text, bool overwrite, bool unicode);
+HOST_API int hostMemFileDelete(const wchar_t* path);
+
+// Text files that the host's Lisp can load.
+struct HostMemFile {
+    // Writes `text` whole, replacing what is there when `overwrite`, with a byte order mark when `unicode`.
+    // 0 on success, otherwise the system's error code.
+    static int createTextFile(const wchar_t* path, const wchar_t* text, bool overwrite, bool unicode) {
+        return hostMemFileCreate(path, text, overwrite, unicode);
+    }
+    // 0 on success, otherwise the system's error code.
+    static int deleteFile(const wchar_t* path) { return hostMemFileDelete(path); }
+};
