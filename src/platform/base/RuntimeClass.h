@@ -15,9 +15,9 @@ struct CRuntimeClass {
 #define RUNTIME_CLASS(Class) (&Class::runtimeClass)
 
 // Within a class body: the class has a run-time class of its own. Without it, it answers with its base's.
-#define DECLARE_DYNAMIC(Class)                  \
-  public:                                       \
-    static const CRuntimeClass runtimeClass;    \
+#define DECLARE_DYNAMIC(Class)               \
+  public:                                    \
+    static const CRuntimeClass runtimeClass; \
     const CRuntimeClass* GetRuntimeClass() const override { return &runtimeClass; }
 
 #define IMPLEMENT_DYNAMIC(Class, Base) \

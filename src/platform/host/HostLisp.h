@@ -1,7 +1,7 @@
 // The host's Lisp as the plug-in reaches it: names, arguments, results, symbols, calls.
 //
-// All memory of chains and their strings comes from the host (hostNewRb, hostNewString, hostAlloc) and goes back
-// to it (hostRelRb), so that the two modules may have different run-times.
+// All memory of chains and their strings comes from the host (hostNewRb, hostNewString, hostAlloc) and goes
+// back to it (hostRelRb), so that the two modules may have different run-times.
 #pragma once
 
 #include <cstddef>
@@ -21,8 +21,8 @@ HOST_API int hostUndef(const wchar_t* name, int code);
 // The code of the Lisp function that is being called; -1 outside of a call.
 HOST_API int hostGetFunCode();
 
-// The arguments of the call at hand, or null when it has none. The chain belongs to the host and lives until the
-// call ends. A list arrives flat between HV_LIST_BEGIN and HV_LIST_END, nested ones too.
+// The arguments of the call at hand, or null when it has none. The chain belongs to the host and lives until
+// the call ends. A list arrives flat between HV_LIST_BEGIN and HV_LIST_END, nested ones too.
 HOST_API HostValue* hostGetArgs();
 
 // Each sets the result of the call at hand; the last one holds. A call that sets none gives nil.
@@ -31,13 +31,15 @@ HOST_API int hostRetNil();
 HOST_API int hostRetT();
 HOST_API int hostRetInt(int32_t number);
 HOST_API int hostRetStr(const wchar_t* text);
-// The elements of `chain` as a list (no begin and end nodes around the whole). The chain remains the caller's.
+// The elements of `chain` as a list (no begin and end nodes around the whole). The chain remains the
+// caller's.
 HOST_API int hostRetList(const HostValue* chain);
 // The value of one node. The node remains the caller's.
 HOST_API int hostRetVal(const HostValue* node);
 
-// A chain from pairs of type code and value: HV_STRING takes const wchar_t*, HV_SHORT and HV_LONG int, reals double,
-// HV_POINT const double*; codes without payload take none. HV_NONE or 0 ends it. Null when the first code ends it.
+// A chain from pairs of type code and value: HV_STRING takes const wchar_t*, HV_SHORT and HV_LONG int, reals
+// double, HV_POINT const double*; codes without payload take none. HV_NONE or 0 ends it. Null when the first
+// code ends it.
 HOST_API HostValue* hostBuildList(int type, ...);
 // One node of that type, all else zero.
 HOST_API HostValue* hostNewRb(int type);
@@ -48,10 +50,10 @@ HOST_API wchar_t* hostNewString(const wchar_t* source, wchar_t** destination);
 // Memory for a node's string, freed by hostRelRb with its node.
 HOST_API void* hostAlloc(size_t bytes);
 
-// Sets a Lisp symbol to a copy of the value: one node gives that value, several nodes (or a chain that opens with
-// HV_LIST_BEGIN) a list. Runs no Lisp. HOST_NORMAL or HOST_ERROR.
+// Sets a Lisp symbol to a copy of the value: one node gives that value, several nodes (or a chain that opens
+// with HV_LIST_BEGIN) a list. Runs no Lisp. HOST_NORMAL or HOST_ERROR.
 HOST_API int hostPutSym(const wchar_t* name, const HostValue* chain);
-// Calls the Lisp function named by the first node (a string; letter case does not count) with the other nodes as
-// arguments. `*result` must be null on entry; a chain left there is the caller's to release. HOST_ERROR where there
-// is no such function or the call ended in a Lisp error, which the host reports by itself.
+// Calls the Lisp function named by the first node (a string; letter case does not count) with the other nodes
+// as arguments. `*result` must be null on entry; a chain left there is the caller's to release. HOST_ERROR
+// where there is no such function or the call ended in a Lisp error, which the host reports by itself.
 HOST_API int hostInvoke(const HostValue* chain, HostValue** result);

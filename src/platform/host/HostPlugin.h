@@ -1,5 +1,5 @@
-// What the host asks of a plug-in module, and the objects through which a plug-in reaches the host's registries.
-// Objects cross as abstract classes; neither side deletes what the other made.
+// What the host asks of a plug-in module, and the objects through which a plug-in reaches the host's
+// registries. Objects cross as abstract classes; neither side deletes what the other made.
 #pragma once
 
 #include <windows.h>
@@ -11,9 +11,9 @@
 //   uint32_t pluginGetApiVersion()                              HOST_API_VERSION of its build
 // and may export, for automation,
 //   HWND     pluginFindWindow(const wchar_t* dialog, const wchar_t* key, int32_t id)
-//            the window of a tile of the newest running dialog of that name (any case; null: of any name), by `key`
-//            or, where that is null, by control id; the dialog's own window where `key` is null and `id` is -1.
-//            Null where there is none.
+//            the window of a tile of the newest running dialog of that name (any case; null: of any name), by
+//            `key` or, where that is null, by control id; the dialog's own window where `key` is null and
+//            `id` is -1. Null where there is none.
 constexpr const char* PLUGIN_ENTRY_POINT = "pluginEntryPoint";
 constexpr const char* PLUGIN_GET_API_VERSION = "pluginGetApiVersion";
 constexpr const char* PLUGIN_FIND_WINDOW = "pluginFindWindow";
