@@ -1,0 +1,52 @@
+// The record of one tile of one dialog, kept from the tile's first mention to the dialog's end. Portable.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "src/platform/base/CObject.h"
+#include "src/platform/base/CString.h"
+
+class CWnd;
+
+// What mode a tile is in; wex_start_list keeps its operation in the same place.
+enum TileMode : int32_t {
+    MODE_ENABLE = 0,
+    MODE_DISABLE = 1,
+    MODE_FOCUS = 2,
+    MODE_SELECT_TEXT = 3,
+    MODE_NOTHING = 4,
+    MODE_SHOW = 5,
+    MODE_HIDE = 6,
+};
+
+struct CCtrlInfo : CObject {
+    struct Rect {
+        int32_t left = 0, top = 0, right = 0, bottom = 0;
+    };
+    // Distances to the dialog's right and bottom edges, in client pixels.
+    struct AnchorOffsets {
+        int32_t left = UNANCHORED, top = UNANCHORED, right = UNANCHORED, bottom = UNANCHORED;
+        int32_t horizontalCentre = UNANCHORED, verticalCentre = UNANCHORED;
+    };
+    static constexpr int32_t UNANCHORED = -10000;
+
+    CString m_key;    // lower case
+    CString m_value;  // the last value set
+    CStringArray m_listItems;
+    CString m_action;  // name of the Lisp function
+    int32_t m_listIndex = -1;
+    int32_t m_mode = MODE_ENABLE;
+    int32_t m_ctrlId = -1;
+    int32_t m_resizeCode = -1;
+    int32_t m_editLimit = 36000;  // characters
+    CWnd* m_control = nullptr;    // the dialog's
+    CString m_slideFile;
+    CString m_auxText;  // the slide's name within its file, or a list control's column text
+    Rect m_slideRect;
+    bool m_endListFlag = false;
+    int32_t m_endListIndex = -1;
+    CString m_controlType;  // the type word that discovery gave
+    bool m_dblClickEnabled = true;
+    AnchorOffsets m_anchorOffsets;
+};

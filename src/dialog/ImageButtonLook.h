@@ -1,0 +1,35 @@
+// The captions that turn a button into an image button, and what such a button shows. Portable.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "src/platform/base/CString.h"
+
+// The four captions of the resource module. A and B are loaded from one string.
+struct ButtonCaptions {
+    CString a, b, c, d;
+};
+
+// The icons of the resource module.
+enum ImageButtonIcon {
+    ICON_ARROWS_LEFT = 209,
+    ICON_ARROWS_RIGHT = 210,
+    ICON_CAPTION_A = 211,
+    ICON_CAPTION_C = 212,
+    ICON_UP = 1005,
+    ICON_DOWN = 1006,
+};
+
+struct ImageButtonLook {
+    CString text;
+    int icon = 0;
+    // The icon is 16 by 16 pixels of 96 dots per inch, scaled to the monitor; otherwise it has its own size.
+    bool scaledIcon = false;
+};
+
+// Whether a button of that caption is an image button. kept: caption D alone is none.
+bool isImageButtonCaption(std::wstring_view caption, const ButtonCaptions& captions);
+
+// The look that a caption gives; nothing where no rule fits, and the button keeps its text and has no icon.
+std::optional<ImageButtonLook> imageButtonLook(std::wstring_view caption, const ButtonCaptions& captions);

@@ -1,0 +1,68 @@
+// A dialog made from a template, run modally by the library's own loop.
+#pragma once
+
+#include "src/platform/mfc/CWnd.h"
+
+class CDialog;
+
+struct CDataExchange {
+    CDialog* m_pDlgWnd;
+    bool m_bSaveAndValidate;
+};
+
+// Attaches the wrapper to the dialog's control of that id, unless it is attached already or the control is
+// missing.
+void DDX_Control(CDataExchange& exchange, int id, CWnd& wrapper);
+
+class CDialog : public CWnd {
+    DECLARE_DYNAMIC(CDialog)
+
+  public:
+    // The template's number; the parent is resolved when the dialog runs, and null means the application's
+    // main window.
+    CDialog(UINT templateId, CWnd* parent) : m_templateId(templateId), m_parent(parent) {}
+
+    // Runs the dialog until EndDialog. Gives its result, or -1 where the template can't be found or the
+    // window can't be made, and when the application quits. The owner is disabled meanwhile. While the loop
+    // is idle it sends WM_ENTERIDLE to the owner (to itself without one), once in each idle period. An
+    // exception that a window procedure kept ends the loop and is raised again from here, when the owner is
+    // enabled and the window destroyed. The object must outlive the call.
+    int DoModal();
+    // Creates the window without running it; it shows as the template says. False where it can't be made.
+    bool Create();
+    // Marks the dialog as ended and hides it, so that the focus leaves its controls while they still work.
+    // The last call before the loop leaves decides the result. No effect without a window; before the loop
+    // runs, the window never shows.
+    void EndDialog(int result);
+    bool isRunning() const { return m_running; }
+
+    bool UpdateData(bool save);
+    bool PreTranslateMessage(MSG& message) override;
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM w, LPARAM l) override;
+    bool OnCommand(UINT id, UINT notification) override;
+
+    // True: the platform sets the focus to the first control.
+    virtual bool OnInitDialog();
+    virtual void DoDataExchange(CDataExchange&) {}
+    // Saves the data and ends the dialog with 1.
+    virtual void OnOK();
+    // Ends the dialog with 2.
+    virtual void OnCancel();
+
+    // The module of the template; null: by the resource search.
+    HMODULE m_templateModule = nullptr;
+
+  private:
+    HWND owner() const;
+    bool create(HWND owner, bool hidden);
+    void runLoop(HWND owner);
+    bool preTranslate(MSG& message);
+
+    UINT m_templateId;
+    CWnd* m_parent;
+    int m_result = -1;
+    bool m_running = false;
+    bool m_ended = false;
+};

@@ -1,0 +1,133 @@
+// A window object around a window handle: the root of all window classes.
+//
+// There is one wrapper for each window. Permanent wrappers belong to whoever made them and outlive their
+// windows; when the window is gone, m_hWnd is null. A window that nobody wrapped gets an on-demand wrapper
+// when it is asked for. That one belongs to the library: it lives until the permanent wrapper of its dialog
+// is deleted, or, for a window outside of all dialogs, as long as the process; so pointers that records keep
+// never dangle.
+//
+// No C++ exception leaves a window procedure: it is kept, and the modal loop raises it again (see CDialog).
+#pragma once
+
+#include <windows.h>
+
+#include <exception>
+#include <memory>
+#include <vector>
+
+#include "src/platform/base/CObject.h"
+#include "src/platform/base/CString.h"
+#include "src/platform/mfc/MessageMap.h"
+
+class CWnd : public CObject {
+    DECLARE_DYNAMIC(CWnd)
+
+  public:
+    CWnd() = default;
+    // Gives a subclassed window its own procedure back; destroys a window that this object created.
+    ~CWnd() override;
+
+    HWND m_hWnd = nullptr;
+
+    // --- creation and attaching
+
+    // The wrapper of that window, made on demand; null for a null handle.
+    static CWnd* FromHandle(HWND window);
+    // The wrapper of that window if somebody made one, or null.
+    static CWnd* FromHandlePermanent(HWND window);
+
+    // Takes the window's messages. An on-demand wrapper of that window retires. Attached to that very window
+    // already: nothing to do. False where the object has another window or the handle is no window.
+    bool SubclassWindow(HWND window);
+    bool SubclassDlgItem(int id, CWnd* parent);
+    // Gives the window its own procedure back, and the handle to the caller.
+    HWND UnsubclassWindow();
+    // Creates a window of a registered class. `rect` is in the parent's client pixels.
+    bool CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style, const RECT& rect,
+                  HWND parent, UINT id);
+    bool DestroyWindow();
+
+    // --- queries
+
+    // Whether there is a window, still.
+    bool isLive() const { return m_hWnd && IsWindow(m_hWnd); }
+    // The wrapper of that child; null where there is none.
+    CWnd* GetDlgItem(int id) const;
+    CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
+    int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
+    DWORD GetStyle() const { return static_cast<DWORD>(GetWindowLongPtrW(m_hWnd, GWL_STYLE)); }
+    DWORD GetExStyle() const { return static_cast<DWORD>(GetWindowLongPtrW(m_hWnd, GWL_EXSTYLE)); }
+    // At most 255 characters.
+    CString className() const;
+    CString GetWindowText() const;
+    RECT GetClientRect() const;
+    RECT GetWindowRect() const;
+    // The window's rectangle in its parent's client pixels.
+    RECT rectInParent() const;
+    HFONT GetFont() const { return reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)); }
+
+    // --- verbs
+
+    LRESULT SendMessage(UINT message, WPARAM w = 0, LPARAM l = 0) const {
+        return ::SendMessageW(m_hWnd, message, w, l);
+    }
+    bool PostMessage(UINT message, WPARAM w = 0, LPARAM l = 0) const {
+        return ::PostMessageW(m_hWnd, message, w, l);
+    }
+    void SetWindowText(const CString& text) const { ::SetWindowTextW(m_hWnd, text.c_str()); }
+    void EnableWindow(bool enable) const { ::EnableWindow(m_hWnd, enable); }
+    void ShowWindow(int command) const { ::ShowWindow(m_hWnd, command); }
+    void SetFocus() const { ::SetFocus(m_hWnd); }
+    void SetFont(HFONT font) const { SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
+    void MoveWindow(const RECT& rect, bool repaint = true) const;
+    // Puts the window under all of its siblings, where it is and as large as it is.
+    void lower() const { SetWindowPos(m_hWnd, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE); }
+    void ModifyStyle(DWORD remove, DWORD add) const;
+    // The frame is drawn anew, and the client area measured.
+    void ModifyStyleEx(DWORD remove, DWORD add) const;
+    void Invalidate(bool erase = true) const { InvalidateRect(m_hWnd, nullptr, erase); }
+
+    // --- what classes override
+
+    // A message of the loop, seen before it is dispatched, from its window up to the dialog. True: it is
+    // dealt with.
+    virtual bool PreTranslateMessage(MSG&) { return false; }
+    virtual const MessageMap& messageMap() const;
+
+  protected:
+    virtual LRESULT WindowProc(UINT message, WPARAM w, LPARAM l);
+    // A command that neither the control nor the message map took. True: it is dealt with.
+    virtual bool OnCommand(UINT /*id*/, UINT /*notification*/) { return false; }
+    // The default processing of the message that is being handled.
+    LRESULT Default();
+    // What the window did before it was wrapped.
+    LRESULT DefWindowProc(UINT message, WPARAM w, LPARAM l);
+
+  private:
+    friend struct WindowTable;
+    friend LRESULT CALLBACK wexWindowProc(HWND, UINT, WPARAM, LPARAM);
+
+    bool reflect(UINT message, WPARAM w, LPARAM l, LRESULT& result);
+
+    bool m_onDemand = false;
+    bool m_created = false;
+    // On-demand wrappers of windows below this one, which are gone or have another wrapper now.
+    std::vector<std::unique_ptr<CWnd>> m_retired;
+};
+
+// Where the procedure of a window that is being created meets its wrapper: the next window that this thread
+// creates belongs to `wrapper` from its first message on.
+class WindowCreation {
+  public:
+    explicit WindowCreation(CWnd& wrapper);
+    ~WindowCreation();
+    WindowCreation(const WindowCreation&) = delete;
+    WindowCreation& operator=(const WindowCreation&) = delete;
+
+  private:
+    HHOOK m_hook;
+};
+
+// The exception that a window procedure kept, taken out; null where there is none.
+std::exception_ptr takeKeptException();
+bool hasKeptException();

@@ -1,0 +1,43 @@
+// The platform's standard controls as window classes, each with a run-time class of its own.
+#pragma once
+
+#include "src/platform/mfc/CWnd.h"
+
+class CButton : public CWnd {
+    DECLARE_DYNAMIC(CButton)
+
+  public:
+    int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
+};
+
+class CEdit : public CWnd {
+    DECLARE_DYNAMIC(CEdit)
+};
+
+class CStatic : public CWnd {
+    DECLARE_DYNAMIC(CStatic)
+};
+
+class CListBox : public CWnd {
+    DECLARE_DYNAMIC(CListBox)
+};
+
+class CComboBox : public CWnd {
+    DECLARE_DYNAMIC(CComboBox)
+};
+
+class CListCtrl : public CWnd {
+    DECLARE_DYNAMIC(CListCtrl)
+};
+
+class CTabCtrl : public CWnd {
+    DECLARE_DYNAMIC(CTabCtrl)
+};
+
+class CTreeCtrl : public CWnd {
+    DECLARE_DYNAMIC(CTreeCtrl)
+};
+
+class CScrollBar : public CWnd {
+    DECLARE_DYNAMIC(CScrollBar)
+};

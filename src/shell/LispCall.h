@@ -1,0 +1,74 @@
+// The frame of a Lisp function: resource scope, argument chain, one result.
+#pragma once
+
+#include <optional>
+
+#include "src/platform/base/CString.h"
+#include "src/platform/host/HostLisp.h"
+#include "src/shell/ResourceScope.h"
+
+// How a tile is named: by key or by control id.
+struct TileAddress {
+    static constexpr uint32_t NO_ID = 0xFFFFFFFF;
+
+    CString key;
+    uint32_t id = NO_ID;
+
+    bool isById() const { return id < NO_ID; }
+    int controlId() const { return static_cast<int>(id); }
+};
+
+// The argument chain of one Lisp call and its result. An argument is one node: a list's begin, elements and
+// end count as one each. Every reader takes the next node, whatever it holds.
+class LispCall {
+  public:
+    LispCall() : m_next(hostGetArgs()) {}
+    ~LispCall();
+    LispCall(const LispCall&) = delete;
+    LispCall& operator=(const LispCall&) = delete;
+
+    bool hasArguments() const { return m_next; }
+
+    // The next node, and null past the last one. The host's.
+    const HostValue* next();
+    // A string is a key and a short a control id; any other node is an empty key without an id, and so is -1.
+    TileAddress tile();
+    // The text of a string; nothing for any other node.
+    std::optional<CString> text();
+    // The number of a short; nothing for any other node.
+    std::optional<int> shortNumber();
+
+    void retVoid();
+    void retNil();
+    void retT();
+    void ret(int number);
+    void ret(const CString& text);
+
+  private:
+    void setsResult() { ++m_results; }
+
+    const HostValue* m_next;
+    int m_results = 0;
+};
+
+// The entry function around an implementation: without arguments it shows the alert and gives no value.
+template <void (*Body)(LispCall&)>
+int32_t withArguments() {
+    const ResourceScope scope;
+    LispCall call;
+    if (call.hasArguments()) {
+        Body(call);
+    } else {
+        alertText(TEXT_NO_ARGUMENTS);
+        call.retVoid();
+    }
+    return RESULT_SET;
+}
+
+// The entry function around an implementation that does with or without arguments, and shows no texts.
+template <void (*Body)(LispCall&)>
+int32_t withAnyArguments() {
+    LispCall call;
+    Body(call);
+    return RESULT_SET;
+}
