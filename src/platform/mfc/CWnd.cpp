@@ -185,8 +185,8 @@ CString CWnd::className() const {
 }
 
 CString CWnd::GetWindowText() const {
-    CString text(GetWindowTextLengthW(m_hWnd), L'\0');
-    text.resize(GetWindowTextW(m_hWnd, text.data(), static_cast<int>(text.size()) + 1));
+    CString text(::GetWindowTextLengthW(m_hWnd), L'\0');
+    text.resize(::GetWindowTextW(m_hWnd, text.data(), static_cast<int>(text.size()) + 1));
     return text;
 }
 
@@ -230,13 +230,13 @@ const MessageMap& CWnd::messageMap() const {
 LRESULT CWnd::Default() {
     const HandledMessage& handled = *g_handledMessage;
     return CallWindowProcW(
-        WindowTable::find(handled.window) ? WindowTable::find(handled.window)->ownProcedure : DefWindowProcW,
+        WindowTable::find(handled.window) ? WindowTable::find(handled.window)->ownProcedure : &::DefWindowProcW,
         handled.window, handled.message, handled.w, handled.l);
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM w, LPARAM l) {
     const WindowEntry* entry = WindowTable::find(m_hWnd);
-    if (!entry) return DefWindowProcW(m_hWnd, message, w, l);
+    if (!entry) return ::DefWindowProcW(m_hWnd, message, w, l);
     return CallWindowProcW(entry->ownProcedure, m_hWnd, message, w, l);
 }
 
