@@ -1,0 +1,24 @@
+// How Lisp file names become paths. The default takes them as the platform does, relative to the working
+// folder.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lisp {
+
+class FileAccess {
+  public:
+    virtual ~FileAccess() = default;
+
+    // The path that `name` stands for, whether it exists or not. May throw an Error to refuse it.
+    virtual std::filesystem::path resolve(std::u16string_view name) const;
+
+    // The file that `load` and `findfile` mean by `name`, or nothing. The default looks at resolve(name)
+    // only.
+    virtual std::optional<std::filesystem::path> find(std::u16string_view name) const;
+};
+
+}  // namespace lisp
