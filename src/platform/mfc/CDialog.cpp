@@ -2,14 +2,20 @@
 
 #include <cstring>
 #include <utility>
+#include <vector>
 
 #include "src/platform/mfc/CWinApp.h"
+#include "src/platform/mfc/KeptException.h"
 #include "src/platform/mfc/ModuleState.h"
 #include "src/platform/mfc/ThemeContext.h"
+#include "src/platform/mfc/WindowCreation.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 namespace {
+
+// Undocumented, but old as the hills: posted to make the caret blink.
+constexpr UINT WM_SYSTIMER = 0x0118;
 
 INT_PTR CALLBACK unusedDialogProc(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
 
@@ -47,7 +53,7 @@ class DisabledOwner {
     DisabledOwner& operator=(const DisabledOwner&) = delete;
 
     void enable() {
-        if (m_owner) EnableWindow(m_owner, TRUE);
+        if (const HWND owner = std::exchange(m_owner, nullptr)) EnableWindow(owner, TRUE);
     }
 
   private:
@@ -65,72 +71,79 @@ HWND CDialog::owner() const {
     return window ? GetAncestor(window, GA_ROOT) : nullptr;
 }
 
-bool CDialog::create(HWND owner, bool hidden) {
+bool CDialog::create(HWND owner, First first) {
     const HMODULE module = m_templateModule
                                ? m_templateModule
                                : AfxFindResourceHandle(MAKEINTRESOURCEW(m_templateId), RT_DIALOG);
     std::vector<BYTE> bytes = loadTemplate(module, m_templateId);
     if (bytes.empty()) return false;
-    if (hidden) clearVisible(bytes);
+    if (first == First::hidden) clearVisible(bytes);
     const ThemeContext themed;
     const WindowCreation creation(*this);
     CreateDialogIndirectParamW(module, reinterpret_cast<const DLGTEMPLATE*>(bytes.data()), owner,
                                &unusedDialogProc, 0);
-    return m_hWnd != nullptr;
+    return m_created = m_hWnd != nullptr;
 }
 
-bool CDialog::Create() { return create(owner(), false); }
+bool CDialog::Create() {
+    const bool created = create(owner(), First::asTemplate);
+    raiseKeptException();
+    return created;
+}
 
 int CDialog::DoModal() {
-    m_result = -1;
-    m_ended = false;
+    if (m_hWnd || isRunning()) return -1;
     const HWND owner = this->owner();
-    {
-        DisabledOwner disabled(owner);
-        m_running = true;
-        if (create(owner, true)) runLoop(owner);
-        m_running = false;
-        if (m_hWnd) {
-            const bool active = GetActiveWindow() == m_hWnd;
-            ::ShowWindow(m_hWnd, SW_HIDE);
-            // Before the window goes, or the activation would go to some other window.
-            disabled.enable();
-            if (owner && active) SetActiveWindow(owner);
-            DestroyWindow();
-        }
+    DisabledOwner disabled(owner);
+    m_end.begin();
+    m_wasActive = m_shown = m_toldIdle = false;
+    try {
+        if (create(owner, First::hidden)) runLoop(owner);
+    } catch (...) {
+        keepException();
     }
-    if (const std::exception_ptr kept = takeKeptException()) std::rethrow_exception(kept);
-    return m_result;
+    m_end.leave();
+    if (m_hWnd) {
+        m_wasActive = m_wasActive || GetActiveWindow() == m_hWnd;
+        ::ShowWindow(m_hWnd, SW_HIDE);
+    }
+    // Before the window goes, or the activation would go to some other window.
+    disabled.enable();
+    if (owner && m_wasActive) SetActiveWindow(owner);
+    DestroyWindow();
+    raiseKeptException();
+    return m_end.result();
 }
 
 void CDialog::runLoop(HWND owner) {
-    bool shown = false;
-    bool toldIdle = false;
-    const auto goesOn = [this] { return !m_ended && isLive() && !hasKeptException(); };
-    while (goesOn()) {
-        MSG message;
-        if (!PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
-            if (!std::exchange(shown, true)) {
-                ::ShowWindow(m_hWnd, SW_SHOWNORMAL);
-                UpdateWindow(m_hWnd);
-                continue;
-            }
-            if (!std::exchange(toldIdle, true)) {
-                ::SendMessageW(owner ? owner : m_hWnd, WM_ENTERIDLE, MSGF_DIALOGBOX,
-                               reinterpret_cast<LPARAM>(m_hWnd));
-                continue;
-            }
+    while (m_end.goesOn() && isLive() && !hasKeptException()) {
+        MSG message{};
+        if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (idle(owner)) continue;
+            GetMessageW(&message, nullptr, 0, 0);
         }
-        if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+        if (message.message == WM_QUIT) {
             PostQuitMessage(static_cast<int>(message.wParam));
-            m_result = -1;
             return;
         }
-        toldIdle = false;
+        // The caret's blinking is no activity.
+        m_toldIdle = m_toldIdle && message.message == WM_SYSTIMER;
         if (preTranslate(message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
+}
+
+// What is left to do when no message waits. False: nothing.
+bool CDialog::idle(HWND owner) {
+    if (!std::exchange(m_shown, true)) {
+        ::ShowWindow(m_hWnd, SW_SHOWNORMAL);
+        UpdateWindow(m_hWnd);
+        return true;
+    }
+    if (std::exchange(m_toldIdle, true)) return false;
+    ::SendMessageW(owner ? owner : m_hWnd, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
+    return true;
 }
 
 // Asks the windows from the message's own up to this dialog.
@@ -146,9 +159,9 @@ bool CDialog::preTranslate(MSG& message) {
 bool CDialog::PreTranslateMessage(MSG& message) { return m_hWnd && IsDialogMessageW(m_hWnd, &message); }
 
 void CDialog::EndDialog(int result) {
-    if (!m_hWnd) return;
-    m_result = result;
-    m_ended = true;
+    if (!m_hWnd || !m_end.isOpen()) return;
+    m_end.end(result);
+    m_wasActive = m_wasActive || GetActiveWindow() == m_hWnd;
     ::EndDialog(m_hWnd, result);
 }
 

@@ -14,6 +14,32 @@ struct CDataExchange {
 // missing.
 void DDX_Control(CDataExchange& exchange, int id, CWnd& wrapper);
 
+// When a modal run ends, and with what.
+class EndState {
+  public:
+    void begin() {
+        m_open = m_goesOn = true;
+        m_result = -1;
+    }
+    // The last call before `leave` decides. Without effect outside of a run.
+    void end(int result) {
+        if (!m_open) return;
+        m_goesOn = false;
+        m_result = result;
+    }
+    // What comes later changes nothing.
+    void leave() { m_open = m_goesOn = false; }
+
+    bool isOpen() const { return m_open; }
+    bool goesOn() const { return m_goesOn; }
+    int result() const { return m_result; }
+
+  private:
+    bool m_open = false;
+    bool m_goesOn = false;
+    int m_result = -1;
+};
+
 class CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)
 
@@ -21,20 +47,23 @@ class CDialog : public CWnd {
     // The template's number; the parent is resolved when the dialog runs, and null means the application's
     // main window.
     CDialog(UINT templateId, CWnd* parent) : m_templateId(templateId), m_parent(parent) {}
+    ~CDialog() override { DestroyWindow(); }
 
     // Runs the dialog until EndDialog. Gives its result, or -1 where the template can't be found or the
     // window can't be made, and when the application quits. The owner is disabled meanwhile. While the loop
     // is idle it sends WM_ENTERIDLE to the owner (to itself without one), once in each idle period. An
-    // exception that a window procedure kept ends the loop and is raised again from here, when the owner is
-    // enabled and the window destroyed. The object must outlive the call.
+    // exception that was kept meanwhile ends the loop and is raised again from here, when the owner is
+    // enabled and the window destroyed. The object must outlive the call, and runs once at a time.
     int DoModal();
     // Creates the window without running it; it shows as the template says. False where it can't be made.
+    // Raises what OnInitDialog throws.
     bool Create();
     // Marks the dialog as ended and hides it, so that the focus leaves its controls while they still work.
-    // The last call before the loop leaves decides the result. No effect without a window; before the loop
-    // runs, the window never shows.
+    // The last call before the loop leaves decides the result. No effect without a window or once the loop
+    // has left; before the loop runs, the window never shows.
     void EndDialog(int result);
-    bool isRunning() const { return m_running; }
+    // Whether DoModal is at work, from before the window is made until the loop has left.
+    bool isRunning() const { return m_end.isOpen(); }
 
     bool UpdateData(bool save);
     bool PreTranslateMessage(MSG& message) override;
@@ -55,14 +84,19 @@ class CDialog : public CWnd {
     HMODULE m_templateModule = nullptr;
 
   private:
+    enum class First { hidden, asTemplate };
+
     HWND owner() const;
-    bool create(HWND owner, bool hidden);
+    bool create(HWND owner, First first);
     void runLoop(HWND owner);
+    bool idle(HWND owner);
     bool preTranslate(MSG& message);
 
     UINT m_templateId;
     CWnd* m_parent;
-    int m_result = -1;
-    bool m_running = false;
-    bool m_ended = false;
+    EndState m_end;
+    // The window was the active one when it was ended, and hidden.
+    bool m_wasActive = false;
+    bool m_shown = false;
+    bool m_toldIdle = false;
 };

@@ -1,19 +1,17 @@
 #include "src/platform/mfc/CWnd.h"
 
-#include <exception>
-#include <unordered_map>
+#include <iterator>
 #include <utility>
 
+#include "src/platform/mfc/KeptException.h"
 #include "src/platform/mfc/ModuleState.h"
+#include "src/platform/mfc/ThemeContext.h"
+#include "src/platform/mfc/WindowCreation.h"
+#include "src/platform/mfc/WindowTable.h"
 
 IMPLEMENT_DYNAMIC(CWnd, CObject)
 
 namespace {
-
-struct WindowEntry {
-    CWnd* wrapper = nullptr;
-    WNDPROC ownProcedure = nullptr;  // what the window did before
-};
 
 struct HandledMessage {
     HWND window;
@@ -22,160 +20,76 @@ struct HandledMessage {
     LPARAM l;
 };
 
-std::exception_ptr g_keptException;
-CWnd* g_windowBeingCreated = nullptr;
 const HandledMessage* g_handledMessage = nullptr;
 
 }  // namespace
 
-LRESULT CALLBACK wexWindowProc(HWND window, UINT message, WPARAM w, LPARAM l);
-
-// The windows that have a wrapper.
-struct WindowTable {
-    static std::unordered_map<HWND, WindowEntry>& entries() {
-        static auto* table =
-            new std::unordered_map<HWND, WindowEntry>;  // outlives all statics that hold windows
-        return *table;
-    }
-
-    static WindowEntry* find(HWND window) {
-        const auto at = entries().find(window);
-        return at == entries().end() ? nullptr : &at->second;
-    }
-
-    static void attach(HWND window, CWnd& wrapper) {
-        WindowEntry& entry = entries()[window];
-        if (entry.wrapper) retire(*entry.wrapper);
-        if (!entry.ownProcedure) {
-            const auto procedure = reinterpret_cast<LONG_PTR>(&wexWindowProc);
-            entry.ownProcedure =
-                reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window, GWLP_WNDPROC, procedure));
-        }
-        entry.wrapper = &wrapper;
-        wrapper.m_hWnd = window;
-    }
-
-    // The window goes back to its own procedure.
-    static void detach(HWND window) {
-        const auto at = entries().find(window);
-        if (at == entries().end()) return;
-        const auto own = reinterpret_cast<LONG_PTR>(at->second.ownProcedure);
-        if (own && GetWindowLongPtrW(window, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&wexWindowProc))
-            SetWindowLongPtrW(window, GWLP_WNDPROC, own);
-        entries().erase(at);
-    }
-
-    // An on-demand wrapper that is done is kept by the nearest permanent wrapper above its window; a
-    // permanent one is its owner's.
-    static void retire(CWnd& wrapper) {
-        const HWND window = std::exchange(wrapper.m_hWnd, nullptr);
-        if (!wrapper.m_onDemand) return;
-        for (HWND above = GetAncestor(window, GA_PARENT); above; above = GetAncestor(above, GA_PARENT)) {
-            CWnd* keeper = CWnd::FromHandlePermanent(above);
-            if (!keeper) continue;
-            keeper->m_retired.emplace_back(&wrapper);
-            return;
-        }
-    }
-};
-
-LRESULT CALLBACK wexWindowProc(HWND window, UINT message, WPARAM w, LPARAM l) {
-    const WindowEntry* entry = WindowTable::find(window);
-    if (!entry) return DefWindowProcW(window, message, w, l);
-    const WNDPROC own = entry->ownProcedure;
-    const HandledMessage* outer = g_handledMessage;
+LRESULT CALLBACK CWnd::procedure(HWND window, UINT message, WPARAM w, LPARAM l) noexcept {
     const HandledMessage handled{window, message, w, l};
-    g_handledMessage = &handled;
+    const HandledMessage* outer = std::exchange(g_handledMessage, &handled);
     LRESULT result = 0;
     try {
-        result = entry->wrapper ? entry->wrapper->WindowProc(message, w, l)
-                                : CallWindowProcW(own, window, message, w, l);
+        CWnd* wrapper = WindowTable::permanent(window);
+        result = wrapper ? wrapper->WindowProc(message, w, l)
+                         : CallWindowProcW(WindowTable::ownProcedure(window), window, message, w, l);
     } catch (...) {
-        // The first one tells what went wrong.
-        if (!g_keptException) g_keptException = std::current_exception();
+        keepException();
+        // A paint that never ends would come again for ever.
+        if (message == WM_PAINT) ValidateRect(window, nullptr);
     }
     g_handledMessage = outer;
-    if (message == WM_NCDESTROY) {
-        if (const WindowEntry* last = WindowTable::find(window)) {
-            CWnd* wrapper = last->wrapper;
-            WindowTable::detach(window);
-            if (wrapper) WindowTable::retire(*wrapper);
-        }
-    }
+    if (message == WM_NCDESTROY) WindowTable::gone(window);
     return result;
 }
-
-std::exception_ptr takeKeptException() { return std::exchange(g_keptException, nullptr); }
-bool hasKeptException() { return g_keptException != nullptr; }
 
 CWnd* windowOf(WPARAM handle) { return CWnd::FromHandle(reinterpret_cast<HWND>(handle)); }
 
 CWnd::~CWnd() {
-    if (!m_hWnd) return;
     if (m_created)
         DestroyWindow();
     else
-        UnsubclassWindow();
+        WindowTable::detach(*this);
+    for (const auto& kept : m_kept) WindowTable::retire(*kept);
 }
 
 CWnd* CWnd::FromHandle(HWND window) {
     if (!window) return nullptr;
-    if (const WindowEntry* entry = WindowTable::find(window); entry && entry->wrapper) return entry->wrapper;
-    auto* wrapper = new CWnd;  // given to its keeper when the window goes
-    wrapper->m_onDemand = true;
-    WindowTable::attach(window, *wrapper);
-    return wrapper;
+    if (CWnd* wrapper = WindowTable::permanent(window)) return wrapper;
+    if (CWnd* wrapper = WindowTable::onDemand(window)) return wrapper;
+    return WindowTable::makeOnDemand(window);
 }
 
-CWnd* CWnd::FromHandlePermanent(HWND window) {
-    const WindowEntry* entry = WindowTable::find(window);
-    return entry && entry->wrapper && !entry->wrapper->m_onDemand ? entry->wrapper : nullptr;
-}
+CWnd* CWnd::FromHandlePermanent(HWND window) { return WindowTable::permanent(window); }
 
 bool CWnd::SubclassWindow(HWND window) {
     if (m_hWnd) return m_hWnd == window;
-    if (!IsWindow(window)) return false;
-    WindowTable::attach(window, *this);
-    return true;
+    return IsWindow(window) && WindowTable::attach(window, *this);
 }
 
 bool CWnd::SubclassDlgItem(int id, CWnd* parent) { return SubclassWindow(::GetDlgItem(parent->m_hWnd, id)); }
 
 HWND CWnd::UnsubclassWindow() {
-    const HWND window = std::exchange(m_hWnd, nullptr);
-    WindowTable::detach(window);
+    const HWND window = m_hWnd;
+    WindowTable::detach(*this);
     return window;
-}
-
-WindowCreation::WindowCreation(CWnd& wrapper) {
-    g_windowBeingCreated = &wrapper;
-    const HOOKPROC attach = [](int code, WPARAM w, LPARAM l) -> LRESULT {
-        if (code == HCBT_CREATEWND && g_windowBeingCreated) {
-            CWnd* wrapper = std::exchange(g_windowBeingCreated, nullptr);
-            wrapper->SubclassWindow(reinterpret_cast<HWND>(w));
-        }
-        return CallNextHookEx(nullptr, code, w, l);
-    };
-    m_hook = SetWindowsHookExW(WH_CBT, attach, nullptr, GetCurrentThreadId());
-}
-
-WindowCreation::~WindowCreation() {
-    UnhookWindowsHookEx(m_hook);
-    g_windowBeingCreated = nullptr;
 }
 
 bool CWnd::CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style,
                     const RECT& rect, HWND parent, UINT id) {
+    const ThemeContext themed;
     const WindowCreation creation(*this);
     const HINSTANCE module = AfxGetModuleState()->m_hCurrentInstanceHandle;
     CreateWindowExW(exStyle, className, text, style, rect.left, rect.top, rect.right - rect.left,
                     rect.bottom - rect.top, parent, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)),
                     module, nullptr);
-    m_created = m_hWnd != nullptr;
-    return m_created;
+    return m_created = m_hWnd != nullptr;
 }
 
-bool CWnd::DestroyWindow() { return m_hWnd && ::DestroyWindow(m_hWnd); }
+bool CWnd::DestroyWindow() {
+    if (!m_hWnd || !::DestroyWindow(m_hWnd)) return false;
+    WindowTable::retire(*this);
+    return true;
+}
 
 CWnd* CWnd::GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
 
@@ -229,15 +143,12 @@ const MessageMap& CWnd::messageMap() const {
 
 LRESULT CWnd::Default() {
     const HandledMessage& handled = *g_handledMessage;
-    return CallWindowProcW(
-        WindowTable::find(handled.window) ? WindowTable::find(handled.window)->ownProcedure : &::DefWindowProcW,
-        handled.window, handled.message, handled.w, handled.l);
+    return CallWindowProcW(WindowTable::ownProcedure(handled.window), handled.window, handled.message,
+                           handled.w, handled.l);
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM w, LPARAM l) {
-    const WindowEntry* entry = WindowTable::find(m_hWnd);
-    if (!entry) return ::DefWindowProcW(m_hWnd, message, w, l);
-    return CallWindowProcW(entry->ownProcedure, m_hWnd, message, w, l);
+    return CallWindowProcW(WindowTable::ownProcedure(m_hWnd), m_hWnd, message, w, l);
 }
 
 // Gives a notification to the control that it came from. False where the control doesn't take it.

@@ -4,14 +4,11 @@
 // windows; when the window is gone, m_hWnd is null. A window that nobody wrapped gets an on-demand wrapper
 // when it is asked for. That one belongs to the library: it lives until the permanent wrapper of its dialog
 // is deleted, or, for a window outside of all dialogs, as long as the process; so pointers that records keep
-// never dangle.
-//
-// No C++ exception leaves a window procedure: it is kept, and the modal loop raises it again (see CDialog).
+// never dangle. On-demand wrappers don't see their window go: isLive() tells.
 #pragma once
 
 #include <windows.h>
 
-#include <exception>
 #include <memory>
 #include <vector>
 
@@ -36,8 +33,9 @@ class CWnd : public CObject {
     // The wrapper of that window if somebody made one, or null.
     static CWnd* FromHandlePermanent(HWND window);
 
-    // Takes the window's messages. An on-demand wrapper of that window retires. Attached to that very window
-    // already: nothing to do. False where the object has another window or the handle is no window.
+    // Takes the window's messages. An on-demand wrapper of that window lets go of it and stays alive.
+    // Attached to that very window already: nothing to do. False where the object has another window, the
+    // window has another permanent wrapper, or there is no such window.
     bool SubclassWindow(HWND window);
     bool SubclassDlgItem(int id, CWnd* parent);
     // Gives the window its own procedure back, and the handle to the caller.
@@ -104,30 +102,14 @@ class CWnd : public CObject {
     LRESULT DefWindowProc(UINT message, WPARAM w, LPARAM l);
 
   private:
-    friend struct WindowTable;
-    friend LRESULT CALLBACK wexWindowProc(HWND, UINT, WPARAM, LPARAM);
+    friend class WindowTable;
+    friend class CDialog;
 
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l) noexcept;
     bool reflect(UINT message, WPARAM w, LPARAM l, LRESULT& result);
 
-    bool m_onDemand = false;
+    // The window was created by this object and goes with it.
     bool m_created = false;
-    // On-demand wrappers of windows below this one, which are gone or have another wrapper now.
-    std::vector<std::unique_ptr<CWnd>> m_retired;
+    // The on-demand wrappers of windows below this one, kept even when their windows are gone.
+    std::vector<std::unique_ptr<CWnd>> m_kept;
 };
-
-// Where the procedure of a window that is being created meets its wrapper: the next window that this thread
-// creates belongs to `wrapper` from its first message on.
-class WindowCreation {
-  public:
-    explicit WindowCreation(CWnd& wrapper);
-    ~WindowCreation();
-    WindowCreation(const WindowCreation&) = delete;
-    WindowCreation& operator=(const WindowCreation&) = delete;
-
-  private:
-    HHOOK m_hook;
-};
-
-// The exception that a window procedure kept, taken out; null where there is none.
-std::exception_ptr takeKeptException();
-bool hasKeptException();

@@ -1,0 +1,18 @@
+// A window class of our own, which templates of any module may name.
+#pragma once
+
+#include <windows.h>
+
+// Registered while it lives. Its windows do what the platform does by default until a wrapper takes their
+// messages. Windows of the class must be gone before it goes.
+class WindowClass {
+  public:
+    // `background` is borrowed, or a system colour plus one; null: nothing is painted.
+    WindowClass(const wchar_t* name, HBRUSH background);
+    ~WindowClass();
+    WindowClass(const WindowClass&) = delete;
+    WindowClass& operator=(const WindowClass&) = delete;
+
+  private:
+    ATOM m_atom;
+};
