@@ -1,0 +1,125 @@
+#include "src/LispFunctions.h"
+
+#include <array>
+
+#include "src/dialog/DialogFunctions.h"
+#include "src/platform/host/HostServices.h"
+#include "src/tiles/ValueFunctions.h"
+#include "src/tiles/WindowFunctions.h"
+
+namespace {
+
+int32_t notBuiltYet() {
+    const WexLispFunctionRow* row = rowOfCode(lispFunctions(), hostGetFunCode());
+    hostPrintf(L"%ls: not built yet\n", row->name);
+    hostRetNil();
+    return RESULT_SET;
+}
+
+constexpr WexLispFunctionRow rows[] = {
+    {L"wex_new_dialog", withArguments<newDialog>},
+    {L"wex_start_dialog", withAnyArguments<startDialog>},
+    {L"wex_done_dialog", withAnyArguments<doneDialog>},
+    {L"wex_unload_dialog", withAnyArguments<answerNil>},
+    {L"wex_load_dialog", withAnyArguments<answerNil>},
+    {L"wex_action_tile", withArguments<actionTile>},
+    {L"wex_set_tile", withArguments<setTile>},
+    {L"wex_mode_tile", withArguments<modeTile>},
+    {L"wex_get_attr", withAnyArguments<getAttr>},
+    {L"wex_get_tile", withArguments<getTile>},
+    {L"wex_start_image", notBuiltYet},
+    {L"wex_vector_image", notBuiltYet},
+    {L"wex_fill_image", notBuiltYet},
+    {L"wex_dimx_tile", withArguments<dimxTile>},
+    {L"wex_dimy_tile", withArguments<dimyTile>},
+    {L"wex_slide_image", notBuiltYet},
+    {L"wex_end_image", notBuiltYet},
+    {L"wex_start_list", notBuiltYet},
+    {L"wex_add_list", notBuiltYet},
+    {L"wex_end_list", notBuiltYet},
+    {L"wex_setaction_oninit", withArguments<setActionOnInit>},
+    {L"wex_setaction_onsize", withArguments<setActionOnSize>},
+    {L"wex_listctrl_addcolumn", notBuiltYet},
+    {L"wex_listctrl_additem", notBuiltYet},
+    {L"wex_listctrl_setitem", notBuiltYet},
+    {L"wex_listctrl_setcolumnwidth", notBuiltYet},
+    {L"wex_listctrl_getcolumnwidth", notBuiltYet},
+    {L"wex_listctrl_showgridlines", notBuiltYet},
+    {L"wex_listctrl_setcolumns", notBuiltYet},
+    {L"wex_listctrl_setcolumnreference", notBuiltYet},
+    {L"wex_listctrl_deletecolumn", notBuiltYet},
+    {L"wex_listctrl_renamecolumn", notBuiltYet},
+    {L"wex_listctrl_getcolcount", notBuiltYet},
+    {L"wex_listctrl_allowsorting", notBuiltYet},
+    {L"wex_listctrl_getselectednths", notBuiltYet},
+    {L"wex_listctrl_enabledbclk", notBuiltYet},
+    {L"wex_listctrl_keephighlight", notBuiltYet},
+    {L"wex_listctrl_setitemcount", notBuiltYet},
+    {L"wex_loadpicturefile", notBuiltYet},
+    {L"wex_setresizing", notBuiltYet},
+    {L"wex_setminresizing", notBuiltYet},
+    {L"wex_setmaxresizing", notBuiltYet},
+    {L"wex_settitlebar", withArguments<setTitleBar>},
+    {L"wex_grid_setrowcolumns", notBuiltYet},
+    {L"wex_grid_setcell", notBuiltYet},
+    {L"wex_grid_getcell", notBuiltYet},
+    {L"wex_grid_clearcells", notBuiltYet},
+    {L"wex_tab_add", notBuiltYet},
+    {L"wex_grid_setrowheight", notBuiltYet},
+    {L"wex_grid_setcolumnwidth", notBuiltYet},
+    {L"wex_tree_insertparent", notBuiltYet},
+    {L"wex_tree_insertchild", notBuiltYet},
+    {L"wex_tree_insertparentafter", notBuiltYet},
+    {L"wex_tree_insertchildafter", notBuiltYet},
+    {L"wex_tree_setitemdata", notBuiltYet},
+    {L"wex_tree_getitemdata", notBuiltYet},
+    {L"wex_tree_setitemtext", notBuiltYet},
+    {L"wex_tree_getitemtext", notBuiltYet},
+    {L"wex_tree_setitemimages", notBuiltYet},
+    {L"wex_tree_getitemimages", notBuiltYet},
+    {L"wex_tree_deleteitem", notBuiltYet},
+    {L"wex_tree_deleteallitems", notBuiltYet},
+    {L"wex_tree_sortchildren", notBuiltYet},
+    {L"wex_tree_getcursel", notBuiltYet},
+    {L"wex_tree_selectitem", notBuiltYet},
+    {L"wex_tree_getparent", notBuiltYet},
+    {L"wex_tree_getcount", notBuiltYet},
+    {L"wex_tree_expanditem", notBuiltYet},
+    {L"wex_tree_setupimagelist", notBuiltYet},
+    {L"wex_edit_setasnumeric", notBuiltYet},
+    {L"wex_edit_setasangular", notBuiltYet},
+    {L"wex_grid_sortcolbytext", notBuiltYet},
+    {L"wex_movecontrol", notBuiltYet},
+    {L"wex_start_controlmove", notBuiltYet},
+    {L"wex_end_controlmove", notBuiltYet},
+    {L"wex_enable_dialog", withAnyArguments<enableDialog>},
+    {L"wex_grid_getcolumncount", notBuiltYet},
+    {L"wex_grid_setrow", notBuiltYet},
+    {L"wex_edit_seteditlimit", notBuiltYet},
+    {L"wex_grid_addrow", notBuiltYet},
+    {L"wex_grid_getrowcount", notBuiltYet},
+    {L"wex_grid_setjustification", notBuiltYet},
+    {L"wex_alert", withArguments<alert>},
+    {L"wex_fp_setupdatasrc", notBuiltYet},
+    {L"wex_fp_cleardatasrc", notBuiltYet},
+    {L"wex_fp_getcount", notBuiltYet},
+    {L"wex_fp_getitem", notBuiltYet},
+    {L"wex_fp_setitem", notBuiltYet},
+    {L"wex_fp_additem", notBuiltYet},
+    {L"wex_fp_remitem", notBuiltYet},
+    {L"wex_fp_getadded", notBuiltYet},
+    {L"wex_fp_getmodified", notBuiltYet},
+    {L"wex_fp_getdeleted", notBuiltYet},
+    {L"wex_fp_savedb", notBuiltYet},
+};
+static_assert(std::size(rows) == 94);
+
+constexpr auto slots = [] {
+    std::array<const WexLispFunctionRow*, std::size(rows)> pointers{};
+    for (size_t code = 0; code < pointers.size(); ++code) pointers[code] = &rows[code];
+    return pointers;
+}();
+
+}  // namespace
+
+LispTable lispFunctions() { return slots; }

@@ -1,0 +1,51 @@
+// What the module exports to the host.
+#include <windows.h>
+
+#include "src/LispFunctions.h"
+#include "src/dialog/WexDialog.h"
+#include "src/platform/host/HostPlugin.h"
+#include "src/platform/host/HostServices.h"
+#include "src/platform/mfc/CWinApp.h"
+#include "src/shell/DocData.h"
+#include "src/shell/Module.h"
+#include "src/shell/WexDialogsApp.h"
+
+namespace {
+
+CWexDialogsApp g_app(lispFunctions());
+HostDocDataManager g_documentData;
+
+WexDialog* runningDialog(const wchar_t* name) {
+    const auto& dialogs = g_dialogs.dialogs();
+    for (auto at = dialogs.rbegin(); at != dialogs.rend(); ++at)
+        if ((*at)->isLive() && (!name || (*at)->m_name == toLower(name))) return at->get();
+    return nullptr;
+}
+
+}  // namespace
+
+extern "C" {
+
+__declspec(dllexport) int32_t pluginEntryPoint(int32_t message, void* packet) {
+    return dispatchMessage(g_app, message, packet);
+}
+
+__declspec(dllexport) uint32_t pluginGetApiVersion() { return HOST_API_VERSION; }
+
+__declspec(dllexport) HWND pluginFindWindow(const wchar_t* dialogName, const wchar_t* key, int32_t id) {
+    const WexDialog* dialog = runningDialog(dialogName);
+    if (!dialog) return nullptr;
+    if (!key && id == -1) return dialog->m_hWnd;
+    return ::GetDlgItem(dialog->m_hWnd, key ? dialog->idForKey(key) : id);
+}
+
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
+    if (reason == DLL_PROCESS_ATTACH) {
+        AfxSetMainWindow([] { return hostGetMainFrame(); });
+        g_dialogs.clearCurrent();
+        return attachModule(instance);
+    }
+    if (reason == DLL_PROCESS_DETACH) return detachModule();
+    return TRUE;
+}
+}

@@ -1,0 +1,4 @@
+// Access to the theme's drawing of push buttons.
+#pragma once
+
+class CThemeHelperST {};

@@ -1,0 +1,3 @@
+#include "src/buttons/CXPStyleButtonST.h"
+
+IMPLEMENT_DYNAMIC(CXPStyleButtonST, CButton)

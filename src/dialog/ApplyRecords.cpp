@@ -1,0 +1,64 @@
+// What Lisp said of the tiles before the window existed is carried over to the controls.
+#include "src/dialog/EventBridge.h"
+#include "src/dialog/WexDialog.h"
+
+bool WexDialog::OnInitDialog() {
+    CSnapDlg::OnInitDialog();
+    if (!m_title.IsEmpty()) SetWindowText(m_title);
+    m_initialClientRect = GetClientRect();
+    callLispAction(m_onInitAction);
+    applyRecords();
+    return true;
+}
+
+void WexDialog::applyRecords() {
+    // Lisp may have added records, and may add more from here.
+    for (size_t at = 0; at < m_tiles.size(); ++at) {
+        CCtrlInfo& tile = *m_tiles.at(at);
+        const int id = tile.m_ctrlId >= 0 ? tile.m_ctrlId : idForKey(tile.m_key);
+        if (id == -1) continue;
+        CWnd* control = tile.m_control ? tile.m_control : itemForId(id);
+        if (control) applyTile(*control, tile);
+    }
+}
+
+void WexDialog::applyTile(CWnd& control, CCtrlInfo& tile) {
+    CString type = tile.m_controlType;
+    if (type.IsEmpty()) {
+        type = control.className();
+        tile.m_control = &control;
+    }
+    applyMode(control, tile);
+    if (!tile.m_value.IsEmpty()) {
+        if (tile.m_ctrlId >= 0)
+            setValueById(tile.m_ctrlId, tile.m_value);
+        else if (!tile.m_key.IsEmpty())
+            setValueByKey(tile.m_key, tile.m_value);
+    }
+    if (auto* wrapper = dynamic_cast<TileControl*>(&control)) wrapper->applyRecord(tile);
+    if (const ControlFamily* family = familyOfType(type); family && family->applyMessages)
+        family->applyMessages(control, tile);
+}
+
+void WexDialog::applyMode(CWnd& control, CCtrlInfo& tile) {
+    switch (tile.m_mode) {
+        case MODE_ENABLE:
+        case MODE_DISABLE:
+            control.EnableWindow(tile.m_mode == MODE_ENABLE);
+            break;
+        case MODE_FOCUS:
+            if (tile.m_ctrlId < 0) tile.m_ctrlId = control.GetDlgCtrlID();
+            m_focusId = tile.m_ctrlId;
+            break;
+        case MODE_SELECT_TEXT:
+            control.SendMessage(EM_SETSEL, 0, tile.m_editLimit);
+            control.SendMessage(EM_SCROLLCARET);
+            break;
+        case MODE_SHOW:
+        case MODE_HIDE:
+            control.ShowWindow(tile.m_mode == MODE_SHOW ? SW_SHOW : SW_HIDE);
+            break;
+        default:
+            break;
+    }
+}

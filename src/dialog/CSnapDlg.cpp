@@ -1,0 +1,3 @@
+#include "src/dialog/CSnapDlg.h"
+
+IMPLEMENT_DYNAMIC(CSnapDlg, CDialog)

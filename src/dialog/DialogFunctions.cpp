@@ -1,0 +1,110 @@
+#include "src/dialog/DialogFunctions.h"
+
+#include <new>
+
+#include "src/dialog/ParentWindow.h"
+#include "src/dialog/WexDialog.h"
+#include "src/shell/EventFile.h"
+#include "src/shell/EventText.h"
+
+namespace {
+
+// The position argument of the last wex_new_dialog, -1 without one. A dialog's place comes from its template
+// and its profile alone. kept: programs give the position.
+int32_t g_dialogPosX = -1;
+int32_t g_dialogPosY = -1;
+
+int32_t truncated(double number) {
+    constexpr double beyond = 2147483648.0;
+    return number > -beyond - 1 && number < beyond ? static_cast<int32_t>(number) : INT32_MIN;
+}
+
+// Defines the function of an action in the event file, and gives its name.
+CString defineAction(const WexDialog& dialog, const CString& key, const CString& lispText) {
+    const CString suffix = dialog.m_name + key;
+    addAction(g_dialogName, suffix, lispText);
+    return actionFunctionName(suffix);
+}
+
+void setDialogAction(LispCall& call, CString WexDialog::*action, const wchar_t* word) {
+    const auto lispText = call.text();
+    WexDialog* dialog = currentDialog();
+    if (dialog && lispText) dialog->*action = defineAction(*dialog, word, *lispText);
+    call.retVoid();
+}
+
+// Leaves the status in g_doneStatus, and the dialog made before as the current one.
+void runToItsEnd(WexDialog& dialog) {
+    // Lisp may have made dialogs meanwhile that it never started: the newest goes, whichever ran.
+    struct Removal {
+        ~Removal() { g_dialogs.removeNewest(); }
+    } const removal;
+    if (dialog.DoModal() != 0) g_doneStatus = -1;
+}
+
+}  // namespace
+
+void newDialog(LispCall& call) {
+    g_dialogPosX = g_dialogPosY = -1;
+    if (const auto name = call.text()) g_dialogName = *name;
+    g_dialogs.clearCurrent();
+    const HostValue* position = call.next();
+    if (position && position->type == HV_POINT) {
+        g_dialogPosX = truncated(position->value.pointValue[0]);
+        g_dialogPosY = truncated(position->value.pointValue[1]);
+    }
+    const auto source = findDialog(g_dialogName);
+    if (!source) {
+        alertText(TEXT_NO_SUCH_DIALOG);
+        return call.retNil();
+    }
+    std::unique_ptr<WexDialog> dialog;
+    try {
+        dialog = std::make_unique<WexDialog>(*source, findParentWindow());
+    } catch (const std::bad_alloc&) {
+        alertText(TEXT_DIALOG_NOT_MADE);
+        return call.retNil();
+    }
+    dialog->m_name = toLower(g_dialogName);
+    g_dialogs.add(std::move(dialog));
+    beginEventFile(g_dialogName);
+    call.retT();
+}
+
+void startDialog(LispCall& call) {
+    if (!loadEventFile(g_dialogName)) return call.retVoid();
+    WexDialog* dialog = currentDialog();
+    // A dialog that is running already can't run a second time.
+    if (!dialog || dialog->isRunning()) return call.retVoid();
+    dialog->m_registrySection = L"Wex_" + g_dialogName;
+    runToItsEnd(*dialog);
+    call.ret(g_doneStatus);
+}
+
+void doneDialog(LispCall& call) {
+    g_doneStatus = call.shortNumber().value_or(0);
+    WexDialog* dialog = currentDialog();
+    if (!dialog) return call.retVoid();
+    dialog->EndDialog(0);
+    call.retNil();
+}
+
+void actionTile(LispCall& call) {
+    const TileAddress tile = call.tile();
+    const HostValue* text = call.next();
+    if (!text) return call.retNil();
+    WexDialog* dialog = currentDialog();
+    if (!dialog) return call.retVoid();
+    // With neither a key nor an id the key is "-1".
+    const CString key = tile.key.IsEmpty() ? CString(std::to_wstring(tile.controlId())) : tile.key;
+    const CString lispText = text->type == HV_STRING ? text->value.stringValue : L"";
+    CCtrlInfo* record = tile.isById() ? dialog->tileForId(tile.controlId()) : dialog->tileForKey(key);
+    record->m_action = defineAction(*dialog, key, lispText);
+    call.retT();
+}
+
+void setActionOnInit(LispCall& call) { setDialogAction(call, &WexDialog::m_onInitAction, L"OnInit"); }
+
+void setActionOnSize(LispCall& call) { setDialogAction(call, &WexDialog::m_onSizeAction, L"OnSize"); }
+
+void answerNil(LispCall& call) { call.retNil(); }

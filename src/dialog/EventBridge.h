@@ -1,0 +1,25 @@
+// The way of an event from a control to Lisp: three symbols are set, and the action's function is called by
+// name.
+#pragma once
+
+#include "src/platform/mfc/CWnd.h"
+
+// Why an action runs, as $reason tells it.
+enum EventReason : int16_t {
+    REASON_PRESSED = 1,
+    REASON_EDITED = 2,
+    REASON_SCROLLED = 3,
+    REASON_SELECTED = 4,
+};
+
+void setEventKey(const CString& key);
+void setEventValue(const CString& text);
+void setEventValuePoint(double x, double y);
+void setEventReason(int16_t reason);
+
+// Calls the Lisp function of that name; nothing for an empty one. It may open, end or delete any dialog.
+void callLispAction(const CString& name);
+
+// The whole event of a tile: $key by the id of `control` in its dialog, $value, $reason, then the action.
+// The control may be gone afterwards.
+void publish(const CWnd& control, const CString& value, EventReason reason, const CString& action);

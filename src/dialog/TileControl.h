@@ -1,0 +1,44 @@
+// What a control family does for the dialog: the part of a wrapper that knows that it is a tile.
+#pragma once
+
+#include <memory>
+
+#include "src/dialog/CCtrlInfo.h"
+#include "src/dialog/ControlKind.h"
+#include "src/platform/mfc/CWnd.h"
+
+class WexDialog;
+struct CDataExchange;
+
+class TileControl {
+  public:
+    virtual ~TileControl() = default;
+
+    // The wrapper as a window: the same object.
+    virtual CWnd& wnd() = 0;
+
+    // Takes the template's control of that id.
+    virtual void attach(WexDialog& dialog, CDataExchange& exchange, int id);
+    // The wrapper is attached and joined to its record.
+    virtual void discovered(WexDialog& /*dialog*/, CCtrlInfo& /*tile*/) {}
+    // Takes over what the wrapper keeps of the record. The base copies the action's name.
+    virtual void applyRecord(CCtrlInfo& tile);
+
+    // Name of the Lisp function behind the tile, empty for none.
+    CString m_action;
+};
+
+// What the dialog knows of a kind of control.
+struct ControlFamily {
+    ControlKind kind;
+    const wchar_t* typeWord;
+    // Makes a wrapper; null leaves the control unwrapped.
+    std::unique_ptr<TileControl> (*make)();
+    // The messages that carry the rest of a record to the control, wrapped or bare; null for none.
+    void (*applyMessages)(const CWnd& control, const CCtrlInfo& tile);
+};
+
+// The families of the product, one for each kind of control, in the module's ControlFamilies.cpp.
+const ControlFamily& familyOf(ControlKind kind);
+// The family of that type word, which is the class name of a bare control; null where there is none.
+const ControlFamily* familyOfType(const CString& typeWord);

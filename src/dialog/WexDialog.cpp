@@ -1,0 +1,82 @@
+#include "src/dialog/WexDialog.h"
+
+#include <utility>
+
+#include "src/dialog/EventBridge.h"
+#include "src/dialog/Pressable.h"
+
+IMPLEMENT_DYNAMIC(WexDialog, CSnapDlg)
+
+DialogRegistry<WexDialog> g_dialogs;
+CString g_dialogName;
+int32_t g_doneStatus = 0;
+
+WexDialog::WexDialog(const DialogSource& source, CWnd* parent)
+    : CSnapDlg(static_cast<UINT>(source.id), parent), m_templateId(static_cast<UINT>(source.id)) {
+    m_templateModule = source.templates;
+    if (auto list = source.keyList()) {
+        m_name = std::move(list->name);
+        m_tiles.keys = KeyList(std::move(list->keys));
+    }
+}
+
+WexDialog::~WexDialog() {
+    while (!m_controls.empty()) m_controls.pop_back();
+}
+
+CWnd* WexDialog::itemForKey(const CString& key) const { return itemForId(idForKey(key)); }
+
+CWnd* WexDialog::itemForId(int id) const { return isLive() ? GetDlgItem(id) : nullptr; }
+
+CWnd* WexDialog::itemFor(const TileAddress& tile) const {
+    return tile.isById() ? itemForId(tile.controlId()) : itemForKey(tile.key);
+}
+
+CCtrlInfo* WexDialog::tileFor(const TileAddress& tile) {
+    return tile.isById() ? tileForId(tile.controlId()) : tileForKey(tile.key);
+}
+
+const MessageMap& WexDialog::messageMap() const {
+    static const MessageMap map(CSnapDlg::messageMap(), {
+                                                            onCommand<3, &WexDialog::onReportCommand>(),
+                                                            on<WM_PAINT, &WexDialog::onPaint>(),
+                                                            on<WM_SIZE, &WexDialog::onSize>(),
+                                                            on<WM_HELP, &WexDialog::onHelp>(),
+                                                        });
+    return map;
+}
+
+// Esc closes the dialog wherever the focus is.
+bool WexDialog::PreTranslateMessage(MSG& message) {
+    if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
+        PostMessage(WM_CLOSE);
+        return true;
+    }
+    return CSnapDlg::PreTranslateMessage(message);
+}
+
+// All ways to cancel end like OK, and the status then tells that no action ended the dialog.
+void WexDialog::OnCancel() { OnOK(); }
+
+void WexDialog::onPaint() {
+    // The control that had the focus may run Lisp when it loses it, so the state is settled first.
+    const int32_t focusId = std::exchange(m_focusId, -1);
+    if (focusId >= 0)
+        if (const CWnd* control = itemForId(focusId)) control->SetFocus();
+    if (isLive()) Default();
+}
+
+void WexDialog::onSize(UINT /*type*/, int /*width*/, int /*height*/) {
+    Default();
+    if (!m_discovered || m_onSizeAction.IsEmpty()) return;
+    const RECT client = GetClientRect();
+    setEventValuePoint(client.right, client.bottom);
+    callLispAction(m_onSizeAction);
+}
+
+// F1 is the Help button's click, for a dialog that has one.
+LRESULT WexDialog::onHelp(HELPINFO*) {
+    if (CWnd* help = itemForKey(L"help"))
+        if (auto* button = dynamic_cast<Pressable*>(help)) button->press();
+    return TRUE;
+}

@@ -1,0 +1,91 @@
+// One dialog, from wex_new_dialog to the end of wex_start_dialog. Before it runs it has no window, and what
+// the Lisp program says of its tiles waits in their records.
+#pragma once
+
+#include "src/buttons/CThemeHelperST.h"
+#include "src/dialog/CSnapDlg.h"
+#include "src/dialog/DialogRegistry.h"
+#include "src/dialog/TileControl.h"
+#include "src/dialog/TileRecords.h"
+#include "src/shell/DialogSource.h"
+#include "src/shell/LispCall.h"
+
+class WexDialog : public CSnapDlg {
+    DECLARE_DYNAMIC(WexDialog)
+
+  public:
+    WexDialog(const DialogSource& source, CWnd* parent);
+    ~WexDialog() override;
+
+    // --- keys, control ids, records, windows
+
+    int idForKey(const CString& key) const { return m_tiles.keys.idForKey(key); }
+    CString keyForId(int id) const { return m_tiles.keys.keyForId(id); }
+    // The control of a key or an id; null without a window, and where there is none.
+    CWnd* itemForKey(const CString& key) const;
+    CWnd* itemForId(int id) const;
+    CWnd* itemFor(const TileAddress& tile) const;
+    CCtrlInfo* tileForId(int id) { return m_tiles.forId(id); }
+    CCtrlInfo* tileForKey(const CString& key) { return m_tiles.forKey(key); }
+    CCtrlInfo* tileForControl(const CWnd* control) const { return m_tiles.forControl(control); }
+    CCtrlInfo* tileFor(const TileAddress& tile);
+
+    // --- values (SetValue.cpp)
+
+    // Sets a tile's value in its control and its record. By key the dialog's own name and "main_title" also
+    // name its title.
+    void setValueByKey(const CString& key, const CString& value);
+    void setValueById(int id, const CString& value);
+
+    // --- events
+
+    bool PreTranslateMessage(MSG& message) override;
+
+    UINT m_templateId;
+    std::vector<std::unique_ptr<TileControl>> m_controls;  // every wrapper that discovery made
+    TileRecords m_tiles;
+    CString m_onInitAction;  // names of Lisp functions
+    CString m_onSizeAction;
+    RECT m_lastClientRect{};           // of the last layout
+    RECT m_initialClientRect{};        // at the start: the base for anchors
+    CCtrlInfo* m_listTile = nullptr;   // of the open wex_start_list
+    CCtrlInfo* m_imageTile = nullptr;  // of the open wex_start_image
+    CString m_name;                    // lower case
+    CString m_title;                   // set before the window exists
+    bool m_inAction = false;           // a button's click is being served
+    int32_t m_focusId = -1;            // the control that gets the focus at the first paint
+    CThemeHelperST m_themeHelper;
+
+  protected:
+    const MessageMap& messageMap() const override;
+    void DoDataExchange(CDataExchange& exchange) override;
+    bool OnInitDialog() override;
+    void OnCancel() override;
+
+  private:
+    void onReportCommand();
+    void onPaint();
+    void onSize(UINT type, int width, int height);
+    LRESULT onHelp(HELPINFO* help);
+
+    void discover(CDataExchange& exchange, int id);
+    void applyRecords();
+    void applyTile(CWnd& control, CCtrlInfo& tile);
+    void applyMode(CWnd& control, CCtrlInfo& tile);
+    void setControlValue(CWnd* control, const CString& value, bool byKey);
+
+    // The on-size action waits until discovery has run: the platform's own sizing at creation resized
+    // nothing.
+    bool m_discovered = false;
+};
+
+// All dialogs that were made and have not ended.
+extern DialogRegistry<WexDialog> g_dialogs;
+// The name given to the last wex_new_dialog, in the program's spelling.
+extern CString g_dialogName;
+// What the last wex_done_dialog said.
+extern int32_t g_doneStatus;
+
+// The dialog on which all tile functions work; null when there is none. Lisp may change it: ask again after a
+// call.
+inline WexDialog* currentDialog() { return g_dialogs.current(); }

@@ -1,0 +1,3 @@
+#include "src/grid/WexGrid.h"
+
+IMPLEMENT_DYNAMIC(WexGrid, CWnd)

@@ -1,0 +1,5 @@
+#include "src/tabs/WexTabCtrl.h"
+
+IMPLEMENT_DYNAMIC(WexTabCtrl, CTabCtrl)
+
+void WexTabCtrl::discovered(WexDialog&, CCtrlInfo&) { lower(); }

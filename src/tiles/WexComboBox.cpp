@@ -1,0 +1,3 @@
+#include "src/tiles/WexComboBox.h"
+
+IMPLEMENT_DYNAMIC(WexComboBox, CComboBox)

@@ -1,0 +1,64 @@
+#include "src/tiles/WexFrame.h"
+
+#include "src/dialog/WexDialog.h"
+
+IMPLEMENT_DYNAMIC(WexFrame, CWnd)
+
+namespace {
+
+constexpr wchar_t FRAME_CLASS[] = L"WexFrame";
+constexpr DWORD FRAME_WINDOW_STYLE = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
+constexpr DWORD GROUP_BOX_STYLE = WS_CHILD | WS_VISIBLE | BS_GROUPBOX;
+constexpr UINT GROUP_BOX_ID = 101;
+
+void registerFrameClass() {
+    static const ATOM registered = [] {
+        WNDCLASSEXW type = {sizeof type};
+        type.style = CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW;
+        type.lpfnWndProc = DefWindowProcW;
+        type.hInstance = AfxGetModuleState()->m_hCurrentInstanceHandle;
+        type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+        type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1);
+        type.lpszClassName = FRAME_CLASS;
+        return RegisterClassExW(&type);
+    }();
+    static_cast<void>(registered);
+}
+
+}  // namespace
+
+const MessageMap& WexFrame::messageMap() const {
+    static const MessageMap map(CWnd::messageMap(), {
+                                                        on<WM_SIZE, &WexFrame::onSize>(),
+                                                        onRaw<WM_SETTEXT, &WexFrame::onSetText>(),
+                                                    });
+    return map;
+}
+
+void WexFrame::attach(WexDialog& dialog, CDataExchange&, int id) {
+    CWnd* groupBox = dialog.GetDlgItem(id);
+    const CString caption = groupBox->GetWindowText();
+    const RECT rect = groupBox->rectInParent();
+    const HFONT font = dialog.GetFont();
+    groupBox->DestroyWindow();
+    registerFrameClass();
+    if (!CreateEx(0, FRAME_CLASS, L"", FRAME_WINDOW_STYLE, rect, dialog.m_hWnd, static_cast<UINT>(id)))
+        return;
+    createGroupBox(caption, font);
+    lower();
+}
+
+void WexFrame::createGroupBox(const CString& caption, HFONT font) {
+    m_groupBox.CreateEx(0, L"Button", caption.c_str(), GROUP_BOX_STYLE, GetClientRect(), m_hWnd,
+                        GROUP_BOX_ID);
+    m_groupBox.SetFont(font);
+}
+
+void WexFrame::onSize(UINT /*type*/, int width, int height) {
+    if (!m_groupBox.isLive()) return;
+    m_groupBox.MoveWindow({0, 0, width, height});
+    m_groupBox.Invalidate();
+}
+
+// The frame's own caption stays empty, and the group box keeps its own.
+LRESULT WexFrame::onSetText(WPARAM, LPARAM) { return TRUE; }

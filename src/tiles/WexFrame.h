@@ -1,0 +1,24 @@
+// A group box in a window of its own, so that what stands in it isn't covered by it.
+#pragma once
+
+#include "src/dialog/TileControl.h"
+#include "src/platform/mfc/Controls.h"
+
+class WexFrame : public CWnd, public TileControl {
+    DECLARE_DYNAMIC(WexFrame)
+
+  public:
+    CWnd& wnd() override { return *this; }
+    // Puts the frame in the place of the template's group box.
+    void attach(WexDialog& dialog, CDataExchange& exchange, int id) override;
+
+  protected:
+    const MessageMap& messageMap() const override;
+
+  private:
+    void createGroupBox(const CString& caption, HFONT font);
+    void onSize(UINT type, int width, int height);
+    LRESULT onSetText(WPARAM w, LPARAM l);
+
+    CButton m_groupBox;
+};

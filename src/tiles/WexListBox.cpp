@@ -1,0 +1,3 @@
+#include "src/tiles/WexListBox.h"
+
+IMPLEMENT_DYNAMIC(WexListBox, CListBox)

@@ -1,0 +1,3 @@
+#include "src/tiles/WexStatic.h"
+
+IMPLEMENT_DYNAMIC(WexStatic, CStatic)

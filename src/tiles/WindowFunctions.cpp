@@ -1,0 +1,54 @@
+#include "src/tiles/WindowFunctions.h"
+
+#include "src/dialog/ParentWindow.h"
+#include "src/dialog/WexDialog.h"
+
+namespace {
+
+UINT iconOf(std::optional<int> code) {
+    switch (code.value_or(0)) {
+        case 1:
+            return MB_ICONEXCLAMATION;
+        case 2:
+            return MB_ICONINFORMATION;
+        case 3:
+            return MB_ICONQUESTION;
+        case 4:
+            return MB_ICONHAND;
+        default:
+            return 0;
+    }
+}
+
+int enableValue(const HostValue* flag) {
+    if (flag && flag->type == HV_SHORT) return flag->value.shortValue;
+    return !flag || flag->type != HV_NIL;
+}
+
+}  // namespace
+
+void alert(LispCall& call) {
+    const CString text = call.text().value_or(CString());
+    const UINT icon = iconOf(call.shortNumber());
+    const CWnd* owner = findParentWindow();
+    MessageBoxW(owner ? owner->m_hWnd : nullptr, text.c_str(), resourceText(TEXT_ALERT_CAPTION).c_str(),
+                MB_OK | icon);
+    call.retNil();
+}
+
+void enableDialog(LispCall& call) {
+    const int enable = enableValue(call.next());
+    const WexDialog* dialog = currentDialog();
+    if (dialog && dialog->isLive()) {
+        dialog->EnableWindow(enable != 0);
+        if (enable) SetActiveWindow(dialog->m_hWnd);
+    }
+    call.retVoid();
+}
+
+void setTitleBar(LispCall& call) {
+    const CString text = call.text().value_or(CString());
+    const WexDialog* dialog = currentDialog();
+    if (dialog && dialog->isLive()) dialog->SetWindowText(text);
+    call.retNil();
+}

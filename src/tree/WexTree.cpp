@@ -1,0 +1,3 @@
+#include "src/tree/WexTree.h"
+
+IMPLEMENT_DYNAMIC(WexTree, CTreeCtrl)
