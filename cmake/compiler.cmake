@@ -1,11 +1,18 @@
 # Warnings are errors in all of our code. All Windows modules carry their run-time with them.
 option(WEX_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(WEX_FUZZ "Build the fuzz targets; needs clang" OFF)
 
-# gcc 12 sees uninitialized members in its own std::wstring moves.
-add_compile_options(-Wall -Wextra -Werror -Wno-missing-field-initializers -Wno-maybe-uninitialized)
+add_compile_options(-Wall -Wextra -Werror -Wno-missing-field-initializers)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # gcc 12 sees uninitialized members in its own std::wstring moves.
+  add_compile_options(-Wno-maybe-uninitialized)
+endif()
 if(WEX_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+if(WEX_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 if(WIN32)
   # 0x0A00: the per-monitor display scale is asked for. Handlers of windows take parameters they don't use.
