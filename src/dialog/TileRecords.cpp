@@ -1,9 +1,5 @@
 #include "src/dialog/TileRecords.h"
 
-TileRecords::~TileRecords() {
-    for (auto& record : m_records) record.reset();
-}
-
 CCtrlInfo* TileRecords::forId(int id) {
     for (const auto& record : m_records)
         if (record->m_ctrlId == id) return record.get();

@@ -23,8 +23,6 @@ class TileRecords {
     size_t size() const { return m_records.size(); }
     CCtrlInfo* at(size_t index) const { return m_records[index].get(); }
 
-    ~TileRecords();
-
   private:
     CCtrlInfo* add(CString key, int id);
 

@@ -41,6 +41,6 @@ void WexScrollBar::onScroll(UINT code, UINT position) {
             break;
     }
     m_position = std::max(low, std::min(m_position, high));
-    ::SetScrollPos(m_hWnd, SB_CTL, m_position, TRUE);
+    SetScrollPos(m_position);
     publish(*this, std::to_wstring(m_position), REASON_SCROLLED, m_action);
 }

@@ -1,0 +1,73 @@
+#include "src/dialog/ControlKind.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const ButtonCaptions captions{L"Pick", L"Pick", L"Browse", L"Search"};
+
+ControlKind kind(std::wstring_view className, std::wstring_view caption = L"", uint32_t style = 0x50010000,
+                 uint32_t exStyle = 0) {
+    return controlKindOf({className, style, exStyle, caption}, captions);
+}
+
+TEST(ControlKind, FollowsClassStyleAndCaptionInOrder) {
+    EXPECT_EQ(kind(L"Button", L"<<", FRAME_STYLE, SLIDE_EX_STYLE), ControlKind::slideImage);
+    EXPECT_EQ(kind(L"Button", L"<<", FRAME_STYLE), ControlKind::frame);
+    EXPECT_EQ(kind(L"Button", L"Group", 0x50000007), ControlKind::button);
+    EXPECT_EQ(kind(L"Button", L"Group", 0x44000007), ControlKind::button);
+    EXPECT_EQ(kind(L"Button", L"a<<b"), ControlKind::imageButton);
+    EXPECT_EQ(kind(L"Button", L"OK"), ControlKind::button);
+    EXPECT_EQ(kind(L"GXWND"), ControlKind::grid);
+    EXPECT_EQ(kind(L"SysTabControl32"), ControlKind::tab);
+    EXPECT_EQ(kind(L"SysTreeView32"), ControlKind::tree);
+    EXPECT_EQ(kind(L"Edit", L">>"), ControlKind::edit);
+    EXPECT_EQ(kind(L"Static"), ControlKind::staticText);
+    EXPECT_EQ(kind(L"ListBox"), ControlKind::listBox);
+    EXPECT_EQ(kind(L"ComboBox"), ControlKind::comboBox);
+    EXPECT_EQ(kind(L"SysListView32"), ControlKind::listControl);
+    EXPECT_EQ(kind(L"button", L"<<"), ControlKind::unknown) << "class names count with case";
+    EXPECT_EQ(kind(L"msctls_progress32"), ControlKind::unknown);
+}
+
+TEST(ImageButton, CaptionTest) {
+    for (const auto* caption : {L"<<", L"More >>", L"Sort ^", L"Sort v", L"PICK", L"browse"})
+        EXPECT_TRUE(isImageButtonCaption(caption, captions)) << caption;
+    for (const auto* caption : {L"Sortv", L"Sort V", L"Pick it", L"Search", L"v", L""})
+        EXPECT_FALSE(isImageButtonCaption(caption, captions)) << caption;
+}
+
+struct LookRow {
+    const wchar_t* caption;
+    const wchar_t* text;
+    int icon;
+};
+
+TEST(ImageButton, EachCaptionGivesItsTextAndIcon) {
+    const LookRow rows[] = {
+        {L"<<", L"", 209},
+        {L"<< Back", L"Back", 209},
+        {L"a << b", L"a b", 209},
+        {L">>", L"", 210},
+        {L"More >>", L"More ", 210},
+        {L">> Next", L"Next", 210},
+        {L">>>> x", L">>x", 210},
+        {L"Sort ^", L"Sort", 1005},
+        {L"Sort   v", L"Sort", 1006},
+        {L"pick", L"", 211},
+        {L"BROWSE", L"", 212},
+        {L"search", L"", 212},
+        {L"Pick it", L"Pick it", 211},
+        {L"Browse it", L"Browse it", 212},
+    };
+    for (const LookRow& row : rows) {
+        const auto look = imageButtonLook(row.caption, captions);
+        ASSERT_TRUE(look) << row.caption;
+        EXPECT_EQ(look->text, row.text) << row.caption;
+        EXPECT_EQ(look->icon, row.icon) << row.caption;
+        EXPECT_EQ(look->scaledIcon, row.icon > 1000) << row.caption;
+    }
+    EXPECT_FALSE(imageButtonLook(L"Searching", captions)) << "caption D counts whole only";
+}
+
+}  // namespace
