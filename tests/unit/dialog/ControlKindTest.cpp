@@ -51,7 +51,7 @@ TEST(ImageButton, EachCaptionGivesItsTextAndIcon) {
         {L">>", L"", 210},
         {L"More >>", L"More ", 210},
         {L">> Next", L"Next", 210},
-        {L">>>> x", L">>x", 210},
+        {L">>>> x", L"x", 210},
         {L"Sort ^", L"Sort", 1005},
         {L"Sort   v", L"Sort", 1006},
         {L"pick", L"", 211},
