@@ -109,7 +109,11 @@ int CDialog::DoModal() {
     }
     // Before the window goes, or the activation would go to some other window.
     disabled.enable();
-    if (owner && m_wasActive) SetActiveWindow(owner);
+    if (owner && m_wasActive) {
+        SetActiveWindow(owner);
+        // An owner that was active while it was disabled has lost the focus.
+        if (!GetFocus()) ::SetFocus(owner);
+    }
     DestroyWindow();
     raiseKeptException();
     return m_end.result();
@@ -162,7 +166,11 @@ void CDialog::EndDialog(int result) {
     if (!m_hWnd || !m_end.isOpen()) return;
     m_end.end(result);
     m_wasActive = m_wasActive || GetActiveWindow() == m_hWnd;
+    const HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
+    const bool ownerDisabled = owner && !IsWindowEnabled(owner);
     ::EndDialog(m_hWnd, result);
+    // The platform may have enabled the owner, but the handler that ends the dialog is still at work.
+    if (ownerDisabled) ::EnableWindow(owner, FALSE);
 }
 
 bool CDialog::UpdateData(bool save) {

@@ -1,0 +1,112 @@
+// Whatever a handler throws comes out of DoModal, from every kind of callback, and leaves order behind.
+#include <stdexcept>
+
+#include "src/platform/mfc/KeptException.h"
+#include "tests/ui/mfc/Support.h"
+
+namespace {
+
+struct Throwing {
+    const char* name;
+    // Readies the dialog so that it throws while it runs.
+    void (*prepare)(TestDialog& dialog, Owner& owner);
+};
+
+[[noreturn]] void fail() { throw std::runtime_error("handler failed"); }
+
+const Throwing places[] = {
+    {"Init", [](TestDialog& dialog, Owner&) { dialog.init = &fail; }},
+    {"Paint", [](TestDialog& dialog, Owner&) { dialog.paint = &fail; }},
+    {"Destroy",
+     [](TestDialog& dialog, Owner& owner) {
+         dialog.destroy = &fail;
+         owner.steps = {[&] { dialog.EndDialog(0); }};
+     }},
+    {"Timer",
+     [](TestDialog& dialog, Owner& owner) {
+         dialog.timer = &fail;
+         owner.waits = true;
+         dialog.init = [&] { SetTimer(dialog.m_hWnd, 1, 1, nullptr); };
+     }},
+    {"Size",
+     [](TestDialog& dialog, Owner& owner) {
+         owner.steps = {[&] {
+             dialog.size = &fail;
+             dialog.MoveWindow(RECT{0, 0, 300, 300});
+         }};
+     }},
+    {"Command",
+     [](TestDialog& dialog, Owner& owner) {
+         dialog.ok = &fail;
+         owner.steps = {[&] { dialog.click(1); }};
+     }},
+    {"PreTranslate",
+     [](TestDialog& dialog, Owner& owner) {
+         owner.steps = {[&] {
+             dialog.preTranslate = &fail;
+             dialog.PostMessage(WM_KEYDOWN, VK_TAB);
+         }};
+     }},
+    {"Owner", [](TestDialog&, Owner& owner) { owner.steps = {&fail}; }},
+};
+
+struct ExceptionTest : MfcTest, testing::WithParamInterface<Throwing> {};
+
+TEST_P(ExceptionTest, ComesOutOfTheRun) {
+    TestDialog dialog(&owner);
+    GetParam().prepare(dialog, owner);
+    try {
+        dialog.DoModal();
+        FAIL() << "nothing was thrown";
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "handler failed");
+    }
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_FALSE(dialog.isRunning());
+    EXPECT_TRUE(IsWindowEnabled(owner.m_hWnd));
+    EXPECT_FALSE(hasKeptException());
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, ExceptionTest, testing::ValuesIn(places),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+struct NestedExceptionTest : MfcTest {};
+
+TEST_F(NestedExceptionTest, PassesThroughOuterRunsUnlessItIsCaught) {
+    TestDialog outer(&owner);
+    TestDialog inner(&outer);
+    inner.init = &fail;
+    bool caught = false;
+    outer.ok = [&] {
+        try {
+            inner.DoModal();
+        } catch (const std::runtime_error&) {
+            caught = true;
+        }
+    };
+    owner.steps = {[&] { outer.click(1); },
+                   [&] {
+                       EXPECT_TRUE(caught);
+                       EXPECT_TRUE(IsWindowVisible(outer.m_hWnd)) << "the outer dialog runs on";
+                       outer.ok = [&] { inner.DoModal(); };
+                       outer.click(1);
+                   }};
+    EXPECT_THROW(outer.DoModal(), std::runtime_error);
+    EXPECT_TRUE(IsWindowEnabled(owner.m_hWnd));
+}
+
+TEST_F(NestedExceptionTest, FirstOfSeveralIsTheOneThatCounts) {
+    TestDialog dialog(&owner);
+    dialog.ok = &fail;
+    dialog.destroy = [] { throw std::logic_error("a consequence"); };
+    owner.steps = {[&] { dialog.click(1); }};
+    EXPECT_THROW(dialog.DoModal(), std::runtime_error);
+}
+
+TEST_F(NestedExceptionTest, ModelessCreationRaisesToo) {
+    TestDialog dialog(&owner);
+    dialog.init = &fail;
+    EXPECT_THROW(dialog.Create(), std::runtime_error);
+}
+
+}  // namespace

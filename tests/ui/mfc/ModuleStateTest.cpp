@@ -1,0 +1,47 @@
+// The resource search: which module gives a resource, and that no module gives none.
+#include "src/platform/mfc/CWinApp.h"
+#include "tests/ui/mfc/Support.h"
+
+namespace {
+
+struct ModuleStateTest : MfcTest {
+    const HMODULE program = GetModuleHandleW(nullptr);
+
+    static HMODULE findDialog(UINT id) { return AfxFindResourceHandle(MAKEINTRESOURCEW(id), RT_DIALOG); }
+};
+
+TEST_F(ModuleStateTest, CurrentModuleComesFirstAndTheChainBehind) {
+    EXPECT_EQ(findDialog(1), program);
+    EXPECT_EQ(findDialog(99), nullptr);
+    AfxGetModuleState()->m_hCurrentResourceHandle = nullptr;
+    EXPECT_EQ(findDialog(1), nullptr) << "null must not mean the host's executable";
+
+    AFX_EXTENSION_MODULE record;
+    EXPECT_FALSE(AfxInitExtensionModule(record, nullptr));
+    EXPECT_FALSE(record.bInitialized);
+    ASSERT_TRUE(AfxInitExtensionModule(record, program));
+    {
+        const CDynLinkLibrary part(record);
+        EXPECT_EQ(findDialog(1), program);
+        AfxGetModuleState()->m_hCurrentResourceHandle = GetModuleHandleW(L"comctl32.dll");
+        EXPECT_EQ(findDialog(1), program);
+    }
+    EXPECT_EQ(findDialog(1), nullptr);
+}
+
+TEST_F(ModuleStateTest, StringsAreEmptyWithoutAModuleAndCutAtTheBuffer) {
+    EXPECT_EQ(loadString(program, 1), L"0123456789");
+    EXPECT_EQ(loadString(program, 1, 5), L"0123");
+    EXPECT_EQ(loadString(program, 2), L"");
+    EXPECT_EQ(loadString(nullptr, 1), L"");
+    EXPECT_EQ(loadIcon(1), nullptr);
+}
+
+TEST_F(ModuleStateTest, ProfileKeepsNumbersOfBothSigns) {
+    ASSERT_TRUE(CWinApp::WriteProfileInt(L"MfcTest", L"left", -8));
+    EXPECT_EQ(CWinApp::GetProfileInt(L"MfcTest", L"left", 1), -8);
+    EXPECT_EQ(CWinApp::GetProfileInt(L"MfcTest", L"right", 17), 17);
+    RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\WexDialogs\\MfcTest");
+}
+
+}  // namespace

@@ -1,0 +1,169 @@
+// Where commands and notifications go: the control that sent them, the dialog's map, the dialog's defaults.
+#include <algorithm>
+
+#include "src/platform/mfc/Controls.h"
+#include "tests/ui/mfc/Support.h"
+
+namespace {
+
+class Pressed : public CButton {
+  public:
+    int clicks = 0;
+    const MessageMap& messageMap() const override {
+        static const MessageMap map(CButton::messageMap(), {onReflected<BN_CLICKED, &Pressed::onClicked>()});
+        return map;
+    }
+
+  private:
+    void onClicked() { ++clicks; }
+};
+
+class RefusingTree : public CTreeCtrl {
+  public:
+    bool refuse = true;
+    const MessageMap& messageMap() const override {
+        static const MessageMap map(CTreeCtrl::messageMap(),
+                                    {onReflectedNotify<TVN_SELCHANGINGW, &RefusingTree::onChanging>()});
+        return map;
+    }
+
+  private:
+    LRESULT onChanging(NMHDR*) { return refuse; }
+};
+
+class Bar : public CScrollBar {
+  public:
+    UINT code = 0, position = 0;
+    const MessageMap& messageMap() const override {
+        static const MessageMap map(CScrollBar::messageMap(),
+                                    {onReflectedMessage<WM_HSCROLL, &Bar::onScroll>()});
+        return map;
+    }
+
+  private:
+    void onScroll(UINT scrollCode, UINT at) {
+        code = scrollCode;
+        position = at;
+    }
+};
+
+class CommandDialog : public TestDialog {
+  public:
+    using TestDialog::TestDialog;
+    int commands = 0;
+    const MessageMap& messageMap() const override {
+        static const MessageMap map(TestDialog::messageMap(), {onCommand<111, &CommandDialog::onPress>(),
+                                                               onCommand<2, &CommandDialog::onPress>()});
+        return map;
+    }
+
+  private:
+    void onPress() { ++commands; }
+};
+
+struct ReflectionTest : MfcTest {};
+
+TEST_F(ReflectionTest, ControlTakesItsClickBeforeTheDialogDoes) {
+    CommandDialog dialog(&owner);
+    int oks = 0, cancels = 0;
+    dialog.ok = [&] { ++oks; };
+    dialog.cancel = [&] { ++cancels; };
+    ASSERT_TRUE(dialog.Create());
+
+    dialog.click(1);
+    EXPECT_EQ(oks, 1) << "the dialog's default";
+    dialog.click(111);
+    EXPECT_EQ(dialog.commands, 1) << "the dialog's map";
+    dialog.click(2);
+    EXPECT_EQ(dialog.commands, 2) << "the map comes before the default";
+    EXPECT_EQ(cancels, 0);
+
+    CButton plain;
+    plain.SubclassDlgItem(1, &dialog);
+    dialog.click(1);
+    EXPECT_EQ(oks, 2) << "a wrapper without a line for the click leaves it to the dialog";
+    plain.UnsubclassWindow();
+
+    Pressed ok, press;
+    ok.SubclassDlgItem(1, &dialog);
+    press.SubclassDlgItem(111, &dialog);
+    dialog.click(1);
+    dialog.click(111);
+    EXPECT_EQ(oks, 2);
+    EXPECT_EQ(dialog.commands, 2);
+    EXPECT_EQ(ok.clicks, 1);
+    EXPECT_EQ(press.clicks, 1);
+    dialog.SendMessage(WM_COMMAND, MAKEWPARAM(1, BN_SETFOCUS), reinterpret_cast<LPARAM>(ok.m_hWnd));
+    EXPECT_EQ(oks, 2) << "only a click is an OK";
+}
+
+TEST_F(ReflectionTest, AnswerOfANotificationReachesTheControl) {
+    RefusingTree tree;
+    TestDialog dialog(&owner);
+    ASSERT_TRUE(dialog.Create());
+    ASSERT_TRUE(tree.SubclassDlgItem(112, &dialog));
+    TVINSERTSTRUCTW row{};
+    row.item.mask = TVIF_TEXT;
+    row.item.pszText = const_cast<wchar_t*>(L"row");
+    const LPARAM item = tree.SendMessage(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&row));
+    EXPECT_FALSE(tree.SendMessage(TVM_SELECTITEM, TVGN_CARET, item));
+    tree.refuse = false;
+    EXPECT_TRUE(tree.SendMessage(TVM_SELECTITEM, TVGN_CARET, item));
+}
+
+TEST_F(ReflectionTest, ScrollBarGetsItsOwnScrolling) {
+    Bar bar;
+    TestDialog dialog(&owner);
+    ASSERT_TRUE(dialog.Create());
+    ASSERT_TRUE(bar.SubclassDlgItem(113, &dialog));
+    dialog.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 42), reinterpret_cast<LPARAM>(bar.m_hWnd));
+    EXPECT_EQ(bar.code, UINT{SB_THUMBTRACK});
+    EXPECT_EQ(bar.position, 42u);
+}
+
+// What a handler gets of a message, as text.
+class Unpacking : public CWnd {
+  public:
+    std::wstring got;
+    const MessageMap& messageMap() const override {
+        static const MessageMap map(CWnd::messageMap(), {
+                                                            on<WM_SIZE, &Unpacking::onSize>(),
+                                                            on<WM_NCHITTEST, &Unpacking::onHitTest>(),
+                                                            on<WM_MOUSEWHEEL, &Unpacking::onWheel>(),
+                                                            on<WM_SETTEXT, &Unpacking::onSetText>(),
+                                                        });
+        return map;
+    }
+
+  private:
+    void onSize(UINT type, int width, int height) { note({static_cast<int>(type), width, height}); }
+    LRESULT onHitTest(POINT at) {
+        note({at.x, at.y});
+        return HTCAPTION;
+    }
+    LRESULT onWheel(UINT keys, int turn, POINT at) {
+        note({static_cast<int>(keys), turn, at.x, at.y});
+        return 0;
+    }
+    LRESULT onSetText() { return Default(); }
+    void note(std::initializer_list<long> numbers) {
+        got.clear();
+        for (const long number : numbers) got += std::to_wstring(number) + L" ";
+    }
+};
+
+TEST_F(ReflectionTest, ParametersComeUnpacked) {
+    Unpacking window;
+    ASSERT_TRUE(window.CreateEx(0, L"Static", L"", WS_CHILD, RECT{}, owner.m_hWnd, 0));
+    window.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 200));
+    EXPECT_EQ(window.got, L"2 300 200 ");
+    // Points left of the primary monitor are negative.
+    EXPECT_EQ(window.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-5, 7)), HTCAPTION);
+    EXPECT_EQ(window.got, L"-5 7 ");
+    window.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), MAKELPARAM(1, -2));
+    EXPECT_EQ(window.got, L"4 -120 1 -2 ");
+    window.SetWindowText(L"passed on");
+    EXPECT_EQ(window.GetWindowText(), L"passed on");
+}
+
+}  // namespace
