@@ -1,15 +1,23 @@
-// A button that shows an icon beside or instead of its text.
+// An image button with the look of the active theme.
 #pragma once
 
+#include "src/buttons/CButtonST.h"
 #include "src/buttons/CThemeHelperST.h"
-#include "src/platform/mfc/Controls.h"
 
-class CXPStyleButtonST : public CButton {
+class CXPStyleButtonST : public CButtonST {
     DECLARE_DYNAMIC(CXPStyleButtonST)
 
   public:
-    // The button's from now on; null takes it away.
-    void SetIcon(HICON) {}
-    void SetAlign(int) {}
-    void SetThemeHelper(CThemeHelperST*) {}
+    // The helper must outlive the button's window. Without one, and without a theme, the look is the classic
+    // one.
+    void SetThemeHelper(CThemeHelperST* helper);
+
+  protected:
+    const MessageMap& messageMap() const override;
+    void drawFace(HDC dc, const ButtonState& state, RECT& content) override;
+
+  private:
+    void onThemeChanged();
+
+    CThemeHelperST* m_themeHelper = nullptr;
 };
