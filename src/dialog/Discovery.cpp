@@ -1,5 +1,7 @@
 // Discovery: when the dialog's window comes up, each control is wrapped in the class of its kind and joined
 // to its record.
+#include <map>
+
 #include "src/dialog/WexDialog.h"
 #include "src/shell/Module.h"
 
@@ -9,14 +11,44 @@ constexpr int FIRST_WALKED_ID = 109;
 constexpr int LAST_WALKED_ID = 399;
 // A mode that Lisp left to the control itself.
 constexpr int MODE_AS_CONTROL = -1;
-constexpr size_t CAPTION_CHARS = 1000;
+constexpr int CAPTION_CHARS = 1000;
+constexpr int CLASS_NAME_CHARS = 255;
 
-ControlKind kindOf(const CWnd& control) {
-    const CString className = control.className();
+CString textOf(HWND window, int(WINAPI* get)(HWND, wchar_t*, int), int limit) {
+    CString text(limit, L'\0');
+    text.resize(get(window, text.data(), limit + 1));
+    return text;
+}
+
+ControlKind kindOf(HWND control) {
+    const CString className = textOf(control, GetClassNameW, CLASS_NAME_CHARS);
     const CString caption =
-        className == L"Button" ? CString(control.GetWindowText().substr(0, CAPTION_CHARS)) : CString();
-    return controlKindOf({className, control.GetStyle(), control.GetExStyle(), caption},
+        className == L"Button" ? textOf(control, GetWindowTextW, CAPTION_CHARS) : CString();
+    const auto style = [control](int which) {
+        return static_cast<uint32_t>(GetWindowLongPtrW(control, which));
+    };
+    return controlKindOf({className, style(GWL_STYLE), style(GWL_EXSTYLE), caption},
                          {g_buttonCaptionA, g_buttonCaptionB, g_buttonCaptionC, g_buttonCaptionD});
+}
+
+// The dialog's own children in rising order of their ids, the first in the window order for each. One call
+// lists them all, where asking for each id in turn costs more than the dialog.
+std::map<int, HWND> childrenById(HWND dialog) {
+    struct Listing {
+        HWND dialog;
+        std::map<int, HWND> children;
+    } listing{dialog, {}};
+    const WNDENUMPROC add = [](HWND child, LPARAM to) -> BOOL {
+        auto& list = *reinterpret_cast<Listing*>(to);
+        if (GetParent(child) == list.dialog) list.children.emplace(GetDlgCtrlID(child), child);
+        return TRUE;
+    };
+    EnumChildWindows(dialog, add, reinterpret_cast<LPARAM>(&listing));
+    return std::move(listing.children);
+}
+
+bool isWalked(int id) {
+    return id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID || (id >= FIRST_WALKED_ID && id <= LAST_WALKED_ID);
 }
 
 }  // namespace
@@ -30,18 +62,15 @@ void TileControl::applyRecord(CCtrlInfo& tile) {
 void WexDialog::DoDataExchange(CDataExchange& exchange) {
     CSnapDlg::DoDataExchange(exchange);
     if (exchange.m_bSaveAndValidate) return;
-    discover(exchange, OK_CONTROL_ID);
-    discover(exchange, CANCEL_CONTROL_ID);
-    for (int id = FIRST_WALKED_ID; id <= LAST_WALKED_ID; ++id) discover(exchange, id);
+    for (const auto& [id, control] : childrenById(m_hWnd))
+        if (isWalked(id)) discover(exchange, id, control);
     m_discovered = true;
 }
 
-void WexDialog::discover(CDataExchange& exchange, int id) {
-    if (!::GetDlgItem(m_hWnd, id)) return;
+void WexDialog::discover(CDataExchange& exchange, int id, HWND control) {
     // A Cancel button without an action stays the plain one that the library handles.
     if (id == CANCEL_CONTROL_ID && tileForId(id)->m_action.IsEmpty()) return;
-    const CWnd& bare = *GetDlgItem(id);
-    const ControlFamily& family = familyOf(kindOf(bare));
+    const ControlFamily& family = familyOf(kindOf(control));
     CCtrlInfo* tile = nullptr;
     if (family.make) {
         TileControl& wrapper = *m_controls.emplace_back(family.make());

@@ -38,7 +38,6 @@ CCtrlInfo* WexDialog::tileFor(const TileAddress& tile) {
 
 const MessageMap& WexDialog::messageMap() const {
     static const MessageMap map(CSnapDlg::messageMap(), {
-                                                            onCommand<3, &WexDialog::onReportCommand>(),
                                                             on<WM_PAINT, &WexDialog::onPaint>(),
                                                             on<WM_SIZE, &WexDialog::onSize>(),
                                                             on<WM_HELP, &WexDialog::onHelp>(),

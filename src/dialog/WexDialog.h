@@ -63,12 +63,11 @@ class WexDialog : public CSnapDlg {
     void OnCancel() override;
 
   private:
-    void onReportCommand();
     void onPaint();
     void onSize(UINT type, int width, int height);
     LRESULT onHelp(HELPINFO* help);
 
-    void discover(CDataExchange& exchange, int id);
+    void discover(CDataExchange& exchange, int id, HWND control);
     void applyRecords();
     void applyTile(CWnd& control, CCtrlInfo& tile);
     void applyMode(CWnd& control, CCtrlInfo& tile);

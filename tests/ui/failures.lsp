@@ -1,0 +1,91 @@
+; What a Lisp program sees when something is wrong: never a crash, and the exact refusals.
+
+(test "Functions without arguments show one alert and give no value"
+  '((ui_alerts)
+    (foreach function '(wex_new_dialog wex_action_tile wex_set_tile wex_get_tile wex_mode_tile wex_dimx_tile
+                        wex_dimy_tile wex_alert wex_settitlebar wex_setaction_oninit wex_setaction_onsize)
+      (want nil (apply function nil))
+      (want 1 (length (ui_alerts))))
+    (foreach function '(wex_start_dialog wex_done_dialog wex_enable_dialog wex_get_attr wex_load_dialog
+                        wex_unload_dialog)
+      (want nil (apply function nil))
+      (want nil (ui_alerts)))))
+
+(test "Without a current dialog nothing happens"
+  '((want nil (wex_set_tile "MFG" "x"))
+    (want nil (wex_get_tile "MFG"))
+    (want nil (wex_mode_tile "MFG" 1))
+    (want nil (wex_action_tile "MFG" "(princ)"))
+    (want nil (wex_setaction_oninit "(princ)"))
+    (want nil (wex_settitlebar "x"))
+    (want 0 (wex_dimx_tile "MFG"))
+    (want 0 (wex_dimy_tile 112))
+    (want nil (wex_done_dialog 1))
+    (want nil (wex_start_dialog))
+    (want nil (ui_alerts))))
+
+(test "An unknown name shows an alert and leaves no dialog current"
+  '((ui_session "ADD_REC" '((ui_click "HELP") (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_action_tile "HELP" "(setq unknown (wex_new_dialog \"NO_SUCH\") reached (wex_get_tile \"MFG\"))")
+    (want -1 (wex_start_dialog))
+    (want nil unknown)
+    (want nil reached)
+    (want 1 (length (ui_alerts)))
+    (want nil (wex_new_dialog ""))
+    (want 1 (length (ui_alerts)))))
+
+(test "A dialog with a key list and no template is made, and its start gives -1"
+  '((want T (wex_new_dialog "LOOKUP_FP"))
+    (want -1 (wex_start_dialog))
+    (want nil (wex_start_dialog))))
+
+(test "An action with unbalanced parentheses takes all actions of the dialog with it, and the dialog runs"
+  '((ui_session "CONFIRM_DELREC" '((ui_click "LABEL0") (ui_click "OK") (ui_close)))
+    (wex_new_dialog "CONFIRM_DELREC")
+    (setq ran nil)
+    (wex_action_tile "OK" "(setq ran (list 1 2")
+    (want -1 (wex_start_dialog))
+    (want nil ran)))
+
+(test "A Lisp error inside an action ends that action alone"
+  '((ui_session "CONFIRM_DELREC" '((ui_click "OK") (ui_click "Cancel")))
+    (wex_new_dialog "CONFIRM_DELREC")
+    (setq reached-end nil)
+    (wex_action_tile "OK" "(car 5) (setq reached-end T)")
+    (want -1 (wex_start_dialog))
+    (want nil reached-end)))
+
+(test "Without c:wex_loadlisp the dialog runs without its actions"
+  '((setq kept c:wex_loadlisp)
+    (setq c:wex_loadlisp nil ran nil)
+    (ui_session "CONFIRM_DELREC" '((ui_click "OK") (ui_close)))
+    (wex_new_dialog "CONFIRM_DELREC")
+    (wex_action_tile "OK" "(setq ran T)")
+    (want -1 (wex_start_dialog))
+    (setq c:wex_loadlisp kept)
+    (want nil ran)))
+
+(test "The event file is gone after the start, and its text is loaded once"
+  '((setq loads nil kept c:wex_loadlisp)
+    (defun c:wex_loadlisp (path) (setq loads (cons path loads)) (load path))
+    (ui_session "CONFIRM_DELREC" '((ui_click "OK")))
+    (wex_new_dialog "Confirm_DelRec")
+    (wex_action_tile "OK" "(wex_done_dialog 1)")
+    (want 1 (wex_start_dialog))
+    (setq c:wex_loadlisp kept)
+    (want 1 (length loads))
+    (want T (not (null (wcmatch (car loads) "*Confirm_DelRecDlgEvents.lsp"))))
+    (want nil (findfile (car loads)))))
+
+(test "Two dialogs of one name without a start between them share one text"
+  '((wex_new_dialog "CONFIRM_DELREC")
+    (wex_action_tile "OK" "(wex_done_dialog 1)")
+    (wex_new_dialog "CONFIRM_DELREC")
+    (ui_session "CONFIRM_DELREC" '((ui_click "OK")))
+    (want -1 (wex_start_dialog))
+    (ui_session "CONFIRM_DELREC" '((ui_click "OK")))
+    (want 1 (wex_start_dialog))))
+
+(test "Functions of families that come later say so"
+  '((want nil (wex_tree_getcount "x"))))

@@ -1,0 +1,105 @@
+; Setting and reading what tiles show, before and during the run.
+
+(defun look (tile what) (cdr (assoc what (ui_look tile))))
+
+(defun in-dialog (name init session)
+  (ui_session name session)
+  (wex_new_dialog name)
+  (wex_setaction_oninit init)
+  (wex_start_dialog))
+
+(test "Values that wait in the records show at the start"
+  '((ui_session "ADD_REC"
+      '((want "ACME" (ui_text "MFG")) (want "12" (ui_text "QTY")) (want T (look "KEEP" "checked"))
+        (want "New part" (ui_title)) (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (want nil (wex_set_tile "MFG" "ACME"))
+    (wex_set_tile "QTY" 12)
+    (wex_set_tile "KEEP" 1)
+    (wex_set_tile "MAIN_TITLE" "New part")
+    (wex_settitlebar "not kept")
+    (want nil (wex_get_tile "MFG"))
+    (want -1 (wex_start_dialog))))
+
+(test "A button takes 1 and 0 as its state and anything else as its caption"
+  '((in-dialog "ADD_REC" "(wex_set_tile \"KEEP\" \"1\")"
+      '((want "1" (wex_get_tile "KEEP"))
+        (wex_set_tile "KEEP" "2")
+        (want "2" (ui_text "KEEP"))
+        (want "1" (wex_get_tile "KEEP"))
+        (wex_set_tile "KEEP" 0)
+        (want "0" (wex_get_tile "KEEP"))
+        (want "0" (wex_get_tile "OK"))
+        (ui_click "Cancel")))))
+
+(test "Values of other types are an empty text, and ids reach what keys reach"
+  '((in-dialog "ADD_REC" ""
+      '((wex_set_tile "MFG" "x")
+        (wex_set_tile "MFG" 2.5)
+        (want "" (wex_get_tile "MFG"))
+        (wex_set_tile 115 "by id")
+        (want "by id" (wex_get_tile "MFG"))
+        (wex_set_tile "MFG" 70000)
+        (want "70000" (wex_get_tile 115))
+        (want nil (wex_set_tile "MFG"))
+        (want nil (wex_get_tile "nobody"))
+        (want nil (wex_get_tile 399))
+        (wex_set_tile "nobody" "x")
+        (wex_set_tile "add_rec" "by name")
+        (want "by name" (ui_title))
+        (ui_click "Cancel")))))
+
+(test "Modes before the run: disabled, hidden, focused"
+  '((ui_session "ADD_REC"
+      '((want nil (look "CAT" "enabled")) (want nil (look "QTY" "visible")) (want T (look "DESC" "focus"))
+        (want T (look "MFG" "enabled")) (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_mode_tile "CAT" 1)
+    (wex_mode_tile "QTY" 6)
+    (wex_mode_tile "DESC" 2)
+    (wex_mode_tile "MFG" "1")
+    (want nil (wex_mode_tile "MFG"))
+    (wex_start_dialog)))
+
+(test "Modes on a live control; by id the focus doesn't move"
+  '((in-dialog "ADD_REC" ""
+      '((wex_mode_tile "CAT" 2)
+        (want T (look "CAT" "focus"))
+        (wex_mode_tile 121 2)
+        (want T (look "CAT" "focus"))
+        (wex_mode_tile "CAT" 1)
+        (want nil (look "CAT" "enabled"))
+        (want nil (look "CAT" "focus"))
+        (wex_mode_tile "CAT" 0)
+        (want T (look "CAT" "enabled"))
+        (wex_mode_tile "CAT" 6)
+        (want nil (look "CAT" "visible"))
+        (wex_mode_tile "CAT" 5)
+        (want T (look "CAT" "visible"))
+        (wex_mode_tile "CAT" 99)
+        (ui_click "Cancel")))))
+
+(test "Mode 3 selects the text of an edit box, so that typing replaces it"
+  '((in-dialog "ADD_REC" ""
+      '((wex_set_tile "MFG" "old")
+        (wex_mode_tile "MFG" 2)
+        (wex_mode_tile "MFG" 3)
+        (ui_key "X")
+        (want "X" (strcase (ui_text "MFG")))
+        (ui_click "Cancel")))))
+
+(test "wex_enable_dialog and wex_settitlebar work on the window"
+  '((in-dialog "ADD_REC" ""
+      '((wex_settitlebar "Renamed")
+        (want "Renamed" (ui_title))
+        (wex_settitlebar 5)
+        (want "" (ui_title))
+        (wex_enable_dialog 0)
+        (wex_enable_dialog)
+        (ui_click "Cancel")))))
+
+(test "wex_alert shows its text over the dialog and gives nil"
+  '((want nil (wex_alert "Mind this" 1))
+    (want '("Mind this") (ui_alerts))
+    (want nil (wex_alert 5))
+    (want '("") (ui_alerts))))
