@@ -26,6 +26,7 @@
 namespace lisp {
 
 class Machine;
+class Root;
 
 struct Limits {
     // Bytes of C++ stack that nested Lisp calls may use, counted from the shallowest entry into the
@@ -76,7 +77,7 @@ class Interpreter {
     // The same for a file: UTF-8 with or without mark, UTF-16 with mark, any line ends. An Error where it
     // can't be read. `name` is found through the FileAccess.
     Value loadFile(std::u16string_view name);
-    Value loadFile(const std::filesystem::path& path);
+    Value loadPath(const std::filesystem::path& path);
     // The first form of a text, unevaluated; nil where there is none.
     Value read(std::u16string_view text);
 
@@ -106,7 +107,9 @@ class Interpreter {
     void setCollectAlways(bool always);
     size_t heapBytesInUse() const;
 
+    // For the functions of the language itself.
     Machine& machine() { return *machine_; }
+    Root*& rootList();
 
   private:
     template <class Work>

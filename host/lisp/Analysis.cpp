@@ -1,0 +1,282 @@
+#include "host/lisp/Analysis.h"
+
+#include <iterator>
+#include <optional>
+
+#include "host/lisp/Arithmetic.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/CallNodes.h"
+#include "host/lisp/ControlNodes.h"
+#include "host/lisp/Machine.h"
+#include "host/lisp/Printer.h"
+#include "host/lisp/Text.h"
+
+namespace lisp {
+
+namespace {
+
+// Why a special form is malformed.
+struct Malformed {
+    std::u16string text;
+};
+
+class Analyser;
+
+struct SpecialForm {
+    const char16_t* name;
+    const Node* (Analyser::*analyse)(Value arguments);
+};
+
+// Analyses into one Code.
+class Analyser {
+  public:
+    Analyser(Machine& machine, Code& code, Place place) : machine_(machine), code_(code), place_(place) {}
+
+    const Node* node(Value form);
+    const Node* body(Value forms);
+
+    const Node* quote(Value arguments);
+    const Node* function(Value arguments);
+    const Node* ifForm(Value arguments);
+    const Node* cond(Value arguments);
+    const Node* andForm(Value arguments) { return code_.make<JunctionNode>(nodes(arguments), false); }
+    const Node* orForm(Value arguments) { return code_.make<JunctionNode>(nodes(arguments), true); }
+    const Node* progn(Value arguments) { return body(arguments); }
+    const Node* setq(Value arguments);
+    const Node* whileForm(Value arguments);
+    const Node* repeat(Value arguments);
+    const Node* foreach (Value arguments);
+    const Node* lambda(Value arguments);
+    const Node* defun(Value arguments);
+    const Node* catchError(Value arguments);
+
+  private:
+    const Node* list(Value form);
+    const Node* call(Symbol* name, Value arguments);
+    const Node* constant(Value value);
+    NodeList nodes(Value forms);
+    // The first of the remaining arguments, which it takes off.
+    Value take(Value& arguments, const char16_t* what) const;
+    Symbol* variable(Value value) const;
+    Function* makeFunction(Value parameters, Value forms);
+
+    Machine& machine_;
+    Code& code_;
+    // Of the innermost form that the reader placed.
+    Place place_;
+    Symbol* form_ = nullptr;
+};
+
+constexpr SpecialForm kSpecialForms[] = {
+    {u"QUOTE", &Analyser::quote},     {u"FUNCTION", &Analyser::function},
+    {u"IF", &Analyser::ifForm},       {u"COND", &Analyser::cond},
+    {u"AND", &Analyser::andForm},     {u"OR", &Analyser::orForm},
+    {u"PROGN", &Analyser::progn},     {u"SETQ", &Analyser::setq},
+    {u"WHILE", &Analyser::whileForm}, {u"REPEAT", &Analyser::repeat},
+    {u"FOREACH", &Analyser::foreach}, {u"LAMBDA", &Analyser::lambda},
+    {u"DEFUN", &Analyser::defun},     {u"CATCH-ERROR", &Analyser::catchError},
+};
+
+const Node* Analyser::node(Value form) {
+    machine_.checkDepth();
+    if (form.isSymbol()) return code_.make<VariableNode>(form.asSymbol());
+    return form.isCons() ? list(form) : constant(form);
+}
+
+const Node* Analyser::list(Value form) {
+    Place outer = place_;
+    Symbol* outerForm = form_;
+    if (form.asCons()->place.line) place_ = form.asCons()->place;
+    Value head = form.car(), arguments = form.cdr();
+    const Node* result = nullptr;
+    form_ = head.isSymbol() ? head.asSymbol() : nullptr;
+    try {
+        if (form_ && form_->specialForm)
+            result = (this->*kSpecialForms[form_->specialForm - 1].analyse)(arguments);
+        else if (form_)
+            result = call(form_, arguments);
+        else
+            result = code_.make<CallValueNode>(place_, node(head), nodes(arguments));
+    } catch (const Malformed& fault) {
+        result = code_.make<MalformedNode>(place_, form_, fault.text);
+    }
+    place_ = outer;
+    form_ = outerForm;
+    return result;
+}
+
+const Node* Analyser::constant(Value value) {
+    code_.constants.push_back(value);
+    return code_.make<ConstantNode>(value.orNil());
+}
+
+NodeList Analyser::nodes(Value forms) {
+    NodeList result;
+    for (Value form : Elements(forms)) result.push_back(node(form));
+    return result;
+}
+
+const Node* Analyser::body(Value forms) {
+    if (!forms.isCons()) return constant(Value::nil());
+    if (!forms.cdr().isCons()) return node(forms.car());
+    return code_.make<SequenceNode>(nodes(forms));
+}
+
+Value Analyser::take(Value& arguments, const char16_t* what) const {
+    if (!arguments.isCons()) throw Malformed{std::u16string(what) + u" is missing"};
+    Value first = arguments.car();
+    arguments = arguments.cdr();
+    return first;
+}
+
+Symbol* Analyser::variable(Value value) const {
+    if (!value.isSymbol()) throw Malformed{u"expected a variable, got " + abbreviated(machine_, value)};
+    if (value.asSymbol()->specialForm)
+        throw Malformed{lowerCase(value.symbolName()) + u" can't be used as a variable or function name"};
+    return value.asSymbol();
+}
+
+const Node* Analyser::quote(Value arguments) { return constant(take(arguments, u"what to quote")); }
+
+const Node* Analyser::function(Value arguments) {
+    Value quoted = take(arguments, u"a function");
+    return isLambda(machine_, quoted) ? node(quoted) : constant(quoted);
+}
+
+const Node* Analyser::ifForm(Value arguments) {
+    const Node* test = node(take(arguments, u"the condition"));
+    const Node* yes = node(take(arguments, u"what to do when it holds"));
+    const Node* no = node(arguments.isCons() ? arguments.car() : Value::nil());
+    if (arguments.isCons() && arguments.cdr().isCons())
+        throw Malformed{u"expected at most 3 parts: a condition and what to do in each case (see progn)"};
+    return code_.make<IfNode>(test, yes, no);
+}
+
+const Node* Analyser::cond(Value arguments) {
+    auto* result = code_.make<CondNode>();
+    for (Value clause : Elements(arguments)) {
+        if (!clause.isCons()) throw Malformed{u"expected a clause, got " + abbreviated(machine_, clause)};
+        const Node* test = node(clause.car());
+        result->clauses.push_back({test, clause.cdr().isCons() ? body(clause.cdr()) : nullptr});
+    }
+    return result;
+}
+
+const Node* Analyser::setq(Value arguments) {
+    NodeList settings;
+    while (arguments.isCons()) {
+        Symbol* target = variable(take(arguments, u"a variable"));
+        const Node* value = node(take(arguments, u"the value"));
+        settings.push_back(code_.make<SetNode>(target, value));
+    }
+    if (settings.empty()) throw Malformed{u"a variable is missing"};
+    return settings.size() == 1 ? settings[0] : code_.make<SequenceNode>(std::move(settings));
+}
+
+const Node* Analyser::whileForm(Value arguments) {
+    const Node* test = node(take(arguments, u"the condition"));
+    return code_.make<WhileNode>(test, body(arguments));
+}
+
+const Node* Analyser::repeat(Value arguments) {
+    const Node* count = node(take(arguments, u"how often"));
+    return code_.make<RepeatNode>(place_, form_, count, body(arguments));
+}
+
+const Node* Analyser::foreach (Value arguments) {
+    Symbol* element = variable(take(arguments, u"a variable"));
+    const Node* elements = node(take(arguments, u"a list"));
+    return code_.make<ForeachNode>(place_, form_, element, elements, body(arguments));
+}
+
+const Node* Analyser::lambda(Value arguments) {
+    Value parameters = take(arguments, u"the list of parameters");
+    return constant(Value::of(makeFunction(parameters, arguments)));
+}
+
+const Node* Analyser::defun(Value arguments) {
+    Symbol* name = variable(take(arguments, u"the name"));
+    Value parameters = take(arguments, u"the list of parameters");
+    Function* made = makeFunction(parameters, arguments);
+    made->name = name;
+    return code_.make<SetNode>(name, constant(Value::of(made)), name);
+}
+
+const Node* Analyser::catchError(Value arguments) {
+    const Node* tried = node(take(arguments, u"the form to try"));
+    return code_.make<CatchErrorNode>(tried, arguments.isCons() ? node(arguments.car()) : nullptr);
+}
+
+Function* Analyser::makeFunction(Value parameters, Value forms) {
+    if (!parameters.isList())
+        throw Malformed{u"expected a list of parameters, got " + abbreviated(machine_, parameters)};
+    Function* function = machine_.heap.function();
+    bool locals = false;
+    for (Value parameter : Elements(parameters)) {
+        Symbol* symbol = variable(parameter);
+        if (symbol->name == u"/" && !locals) {
+            locals = true;
+            function->minimum = uint32_t(function->variables.size());
+        } else {
+            function->variables.push_back(symbol);
+        }
+    }
+    if (!locals) function->minimum = uint32_t(function->variables.size());
+    function->maximum = function->minimum;
+    function->code = machine_.heap.code();
+    function->code->root = Analyser(machine_, *function->code, place_).body(forms);
+    machine_.heap.charge(64 * function->code->nodes.size());
+    return function;
+}
+
+template <class Operation>
+const Node* makeArithmetic(Code& code, Place place, Symbol* name, NodeList arguments) {
+    code.constants.push_back(name->value);
+    return code.make<ArithmeticNode<Operation>>(place, name, std::move(arguments));
+}
+
+const Node* Analyser::call(Symbol* name, Value arguments) {
+    NodeList list = nodes(arguments);
+    if (list.size() == 2 && name->value.isFunction()) {
+        struct Fast {
+            NativeFunction native;
+            const Node* (*make)(Code&, Place, Symbol*, NodeList);
+        };
+        static constexpr Fast kFast[] = {
+            {addNumbers, makeArithmetic<Add>},
+            {subtractNumbers, makeArithmetic<Subtract>},
+            {multiplyNumbers, makeArithmetic<Multiply>},
+            {divideNumbers, makeArithmetic<Divide>},
+            {remainderOfNumbers, makeArithmetic<Remainder>},
+            {compareEqual, makeArithmetic<Equal>},
+            {compareLess, makeArithmetic<Less>},
+            {compareGreater, makeArithmetic<Greater>},
+            {compareLessOrEqual, makeArithmetic<LessOrEqual>},
+            {compareGreaterOrEqual, makeArithmetic<GreaterOrEqual>},
+        };
+        NativeFunction native = name->value.asFunction()->native;
+        for (const Fast& fast : kFast)
+            if (fast.native == native) return fast.make(code_, place_, name, std::move(list));
+    }
+    return code_.make<CallNode>(place_, name, std::move(list));
+}
+
+}  // namespace
+
+Code* analyse(Machine& machine, Value form) {
+    Code* code = machine.heap.code();
+    code->root = Analyser(machine, *code, machine.currentPlace()).node(form);
+    machine.heap.charge(64 * code->nodes.size());
+    return code;
+}
+
+void defineSpecialForms(Machine& machine) {
+    uint8_t number = 0;
+    for (const SpecialForm& form : kSpecialForms) machine.symbols.intern(form.name)->specialForm = ++number;
+}
+
+bool isLambda(Machine& machine, Value list) {
+    return list.isCons() && list.car().isSymbol() && list.car().asSymbol() == machine.symbols.find(u"LAMBDA");
+}
+
+}  // namespace lisp

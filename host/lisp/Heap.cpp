@@ -1,0 +1,213 @@
+#include "host/lisp/Heap.h"
+
+#include <algorithm>
+#include <bitset>
+
+#include "host/lisp/Error.h"
+#include "host/lisp/Interpreter.h"
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/asan_interface.h>
+#else
+#define ASAN_POISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
+#define ASAN_UNPOISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
+#endif
+
+namespace lisp {
+
+// Aligned to its size, so that the block of a cons is found by its address.
+struct alignas(32768) Heap::Block {
+    static constexpr size_t kCount = 1016;
+
+    std::bitset<1024> marked;
+    std::bitset<1024> used;
+    Cons conses[kCount];
+
+    static Block* of(const Cons* cons) {
+        return reinterpret_cast<Block*>(reinterpret_cast<uintptr_t>(cons) & ~uintptr_t(sizeof(Block) - 1));
+    }
+    size_t indexOf(const Cons* cons) const { return size_t(cons - conses); }
+};
+
+Heap::Heap(size_t limit, int64_t& countdown) : limit_(limit), countdown_(countdown) {}
+
+Heap::~Heap() {
+    for (auto& block : blocks_) ASAN_UNPOISON_MEMORY_REGION(block->conses, sizeof block->conses);
+    while (objects_) {
+        Object* next = objects_->next;
+        destroy(objects_);
+        objects_ = next;
+    }
+}
+
+void Heap::charge(size_t bytes) {
+    if (bytes > limit_ || used_ > limit_ - bytes) throw Error(u"out of memory");
+    used_ += bytes;
+    if (wantsCollection()) countdown_ = 0;
+}
+
+Cons* Heap::cons(Value car, Value cdr, Place place) {
+    charge(sizeof(Cons));
+    if (!freeConses_) addBlock();
+    Cons* cons = freeConses_;
+    ASAN_UNPOISON_MEMORY_REGION(cons, sizeof *cons);
+    freeConses_ = reinterpret_cast<Cons*>(cons->code);
+    Block* block = Block::of(cons);
+    block->used.set(block->indexOf(cons));
+    *cons = {place, nullptr, car.orNil(), cdr.orNil()};
+    return cons;
+}
+
+void Heap::addBlock() {
+    static_assert(sizeof(Block) == 32768);
+    blocks_.push_back(std::make_unique<Block>());
+    Block& block = *blocks_.back();
+    for (size_t i = Block::kCount; i-- > 0;) {
+        block.conses[i].code = reinterpret_cast<Code*>(freeConses_);
+        freeConses_ = &block.conses[i];
+        ASAN_POISON_MEMORY_REGION(&block.conses[i], sizeof(Cons));
+    }
+}
+
+template <class T, class... Arguments>
+T* Heap::adopt(size_t bytes, Arguments&&... arguments) {
+    charge(bytes);
+    T* object = new T(std::forward<Arguments>(arguments)...);
+    object->next = objects_;
+    objects_ = object;
+    return object;
+}
+
+String* Heap::string(std::u16string text) {
+    size_t bytes = sizeof(String) + 2 * text.size();
+    return adopt<String>(bytes, std::move(text));
+}
+
+Function* Heap::function() { return adopt<Function>(sizeof(Function)); }
+File* Heap::file() { return adopt<File>(sizeof(File)); }
+Code* Heap::code() { return adopt<Code>(sizeof(Code)); }
+
+void Heap::mark(Value value) {
+    if (value.isCons()) {
+        Block* block = Block::of(value.asCons());
+        size_t index = block->indexOf(value.asCons());
+        if (block->marked.test(index)) return;
+        block->marked.set(index);
+        greyConses_.push_back(value.asCons());
+    } else if (value.isString()) {
+        value.asStringObject()->marked = true;
+    } else if (value.isFunction()) {
+        mark(static_cast<Object*>(value.asFunction()));
+    } else if (value.isFile()) {
+        value.asFile()->marked = true;
+    }
+}
+
+void Heap::mark(Object* object) {
+    if (!object || object->marked) return;
+    object->marked = true;
+    greyObjects_.push_back(object);
+}
+
+void Heap::markChildren(Object* object) {
+    if (object->kind == ObjectKind::Function) mark(static_cast<Function*>(object)->code);
+    if (object->kind == ObjectKind::Code)
+        for (Value constant : static_cast<Code*>(object)->constants) mark(constant);
+}
+
+void Heap::collect(const std::function<void()>& markRoots) {
+    markRoots();
+    for (Root* root = firstRoot_; root; root = root->next_) mark(root->value_);
+    while (!greyConses_.empty() || !greyObjects_.empty()) {
+        if (!greyConses_.empty()) {
+            Cons* cons = greyConses_.back();
+            greyConses_.pop_back();
+            mark(cons->code);
+            mark(cons->car);
+            mark(cons->cdr);
+        } else {
+            Object* object = greyObjects_.back();
+            greyObjects_.pop_back();
+            markChildren(object);
+        }
+    }
+    used_ = 0;
+    sweepConses();
+    sweepObjects();
+    threshold_ = std::min(std::max(size_t(8) << 20, used_ * 2), std::max(limit_ / 2, used_ + limit_ / 8));
+}
+
+void Heap::sweepConses() {
+    for (auto& block : blocks_) {
+        for (size_t i = 0; i < Block::kCount; ++i) {
+            if (!block->used.test(i) || block->marked.test(i)) continue;
+            block->conses[i].code = reinterpret_cast<Code*>(freeConses_);
+            freeConses_ = &block->conses[i];
+            ASAN_POISON_MEMORY_REGION(&block->conses[i], sizeof(Cons));
+        }
+        block->used = block->marked;
+        block->marked.reset();
+        used_ += block->used.count() * sizeof(Cons);
+    }
+}
+
+void Heap::sweepObjects() {
+    for (Object** link = &objects_; *link;) {
+        Object* object = *link;
+        if (object->marked) {
+            object->marked = false;
+            used_ += sizeOf(object);
+            link = &object->next;
+        } else {
+            *link = object->next;
+            destroy(object);
+        }
+    }
+}
+
+size_t Heap::sizeOf(const Object* object) {
+    switch (object->kind) {
+        case ObjectKind::String:
+            return sizeof(String) + 2 * static_cast<const String*>(object)->text.size();
+        case ObjectKind::Function:
+            return sizeof(Function);
+        case ObjectKind::File:
+            return sizeof(File) + 2 * static_cast<const File*>(object)->content.size();
+        case ObjectKind::Code:
+            return sizeof(Code) + 64 * static_cast<const Code*>(object)->nodes.size();
+    }
+    return 0;
+}
+
+void Heap::destroy(Object* object) {
+    switch (object->kind) {
+        case ObjectKind::String:
+            delete static_cast<String*>(object);
+            break;
+        case ObjectKind::Function:
+            delete static_cast<Function*>(object);
+            break;
+        case ObjectKind::File:
+            delete static_cast<File*>(object);
+            break;
+        case ObjectKind::Code:
+            delete static_cast<Code*>(object);
+            break;
+    }
+}
+
+Root::Root(Interpreter& lisp, Value value) : value_(value), previous_(nullptr), first_(&lisp.rootList()) {
+    next_ = *first_;
+    if (next_) next_->previous_ = this;
+    *first_ = this;
+}
+
+Root::~Root() {
+    if (previous_)
+        previous_->next_ = next_;
+    else
+        *first_ = next_;
+    if (next_) next_->previous_ = previous_;
+}
+
+}  // namespace lisp

@@ -1,0 +1,69 @@
+// Owns the objects of an interpreter and collects those that nothing reaches (mark and sweep).
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/lisp/Node.h"
+#include "host/lisp/Objects.h"
+
+namespace lisp {
+
+class Root;
+
+class Heap {
+  public:
+    // `countdown` is set to 0 as soon as a collection is due.
+    Heap(size_t limit, int64_t& countdown);
+    ~Heap();
+    Heap(const Heap&) = delete;
+    Heap& operator=(const Heap&) = delete;
+
+    // Each throws Error at the limit and never collects.
+    Cons* cons(Value car, Value cdr, Place place = {});
+    String* string(std::u16string text);
+    Function* function();
+    File* file();
+    Code* code();
+    // Accounts for memory that an object holds beside itself.
+    void charge(size_t bytes);
+
+    // So much was made since the last collection that another is worth its time.
+    bool wantsCollection() const { return used_ >= threshold_; }
+    // `markRoots` calls mark() for every value to keep.
+    void collect(const std::function<void()>& markRoots);
+    void mark(Value value);
+
+    size_t used() const { return used_; }
+    Root*& roots() { return firstRoot_; }
+
+  private:
+    struct Block;
+
+    template <class T, class... Arguments>
+    T* adopt(size_t bytes, Arguments&&... arguments);
+    void addBlock();
+    void mark(Object* object);
+    void markChildren(Object* object);
+    void sweepConses();
+    void sweepObjects();
+    static size_t sizeOf(const Object* object);
+    static void destroy(Object* object);
+
+    size_t limit_;
+    int64_t& countdown_;
+    size_t used_ = 0;
+    size_t threshold_ = size_t(8) << 20;
+    std::vector<std::unique_ptr<Block>> blocks_;
+    Cons* freeConses_ = nullptr;
+    Object* objects_ = nullptr;
+    Root* firstRoot_ = nullptr;
+    // Marked, children still to be marked.
+    std::vector<Cons*> greyConses_;
+    std::vector<Object*> greyObjects_;
+};
+
+}  // namespace lisp

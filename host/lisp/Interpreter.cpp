@@ -1,0 +1,178 @@
+#include "host/lisp/Interpreter.h"
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+#include "host/lisp/Analysis.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/Machine.h"
+#include "host/lisp/Printer.h"
+#include "host/lisp/Reader.h"
+#include "host/lisp/Text.h"
+
+namespace lisp {
+
+namespace {
+
+void writeToStandardOutput(std::u16string_view text) {
+    std::string bytes = toUtf8(text);
+    std::fwrite(bytes.data(), 1, bytes.size(), stdout);
+}
+
+}  // namespace
+
+Interpreter::Interpreter(Limits limits)
+    : machine_(std::make_unique<Machine>(*this, limits)), files_(std::make_unique<FileAccess>()) {
+    setOutput(nullptr);
+    defineSpecialForms(*machine_);
+    defineControlFunctions(*this);
+    definePredicates(*this);
+    defineListFunctions(*this);
+    defineSequenceFunctions(*this);
+    defineNumberFunctions(*this);
+    defineStringFunctions(*this);
+    defineOutputFunctions(*this);
+    defineFileFunctions(*this);
+}
+
+Interpreter::~Interpreter() = default;
+
+// Runs work that may call Lisp: puts the value stack back and tells where an error came up.
+template <class Work>
+auto Interpreter::guarded(Work&& work) {
+    Machine::Entry entry(*machine_);
+    try {
+        return work();
+    } catch (Error& error) {
+        machine_->locate(error);
+        throw;
+    }
+}
+
+Value Interpreter::string(std::u16string_view text) {
+    return Value::of(machine_->heap.string(std::u16string(text)));
+}
+
+Value Interpreter::symbol(std::u16string_view name) {
+    if (name.size() == 3 && upperCase(name) == u"NIL") return Value::nil();
+    if (name.size() == 1 && upperCase(name[0]) == u'T') return Value::truth();
+    return Value::of(machine_->symbols.intern(name));
+}
+
+Value Interpreter::cons(Value first, Value rest) { return Value::of(machine_->heap.cons(first, rest)); }
+
+Value Interpreter::list(std::span<const Value> elements) {
+    Value result;
+    for (size_t i = elements.size(); i-- > 0;) result = cons(elements[i], result);
+    return result;
+}
+
+Value Interpreter::list(std::initializer_list<Value> elements) {
+    return list(std::span(elements.begin(), elements.size()));
+}
+
+void Interpreter::defineNative(std::u16string_view name, NativeFunction native, void* userData, int minimum,
+                               int maximum) {
+    Symbol* symbol = machine_->symbols.intern(name);
+    Function* function = machine_->heap.function();
+    function->name = symbol;
+    function->native = native;
+    function->userData = userData;
+    function->minimum = uint32_t(minimum);
+    if (maximum >= 0) function->maximum = uint32_t(maximum);
+    symbol->value = Value::of(function);
+}
+
+void Interpreter::undefine(std::u16string_view name) { setSymbol(name, Value::nil()); }
+
+void Interpreter::setSymbol(std::u16string_view name, Value value) {
+    Value target = symbol(name);
+    if (target.isSymbol()) target.asSymbol()->value = value.orNil();
+}
+
+Value Interpreter::getSymbol(std::u16string_view name) {
+    Value source = symbol(name);
+    return source.isSymbol() ? source.asSymbol()->value : source;
+}
+
+Value Interpreter::eval(Value form) {
+    return guarded([&] { return machine_->eval(form); });
+}
+
+Value Interpreter::call(Value function, std::span<const Value> arguments) {
+    return guarded([&] {
+        Machine& machine = *machine_;
+        machine.push(function);
+        Function* callee = machine.callable(function);
+        Value* base = machine.top();
+        for (Value argument : arguments) machine.push(argument.orNil());
+        return machine.call(callee, base);
+    });
+}
+
+std::optional<Value> Interpreter::apply(std::u16string_view name, std::span<const Value> arguments) {
+    Symbol* symbol = machine_->symbols.find(name);
+    if (!symbol || symbol->specialForm) return std::nullopt;
+    bool callable = symbol->value.isFunction() || isLambda(*machine_, symbol->value);
+    if (!callable) return std::nullopt;
+    return call(Value::of(symbol), arguments);
+}
+
+Value Interpreter::evalText(std::u16string_view text, std::u16string_view name) {
+    return guarded([&] { return machine_->evalText(text, name); });
+}
+
+Value Interpreter::loadFile(std::u16string_view name) {
+    std::optional<std::filesystem::path> path = files_->find(name);
+    if (!path) throw Error(u"can't open " + readable(name));
+    return loadPath(*path);
+}
+
+Value Interpreter::loadPath(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    std::string bytes(std::istreambuf_iterator<char>(stream), {});
+    if (!stream.is_open() || stream.bad()) throw Error(u"can't open " + readable(path.u16string()));
+    return evalText(decodeFile(bytes), path.filename().u16string());
+}
+
+Value Interpreter::read(std::u16string_view text) {
+    return guarded([&] {
+        Value form;
+        Reader(*machine_, text, 0).next(form);
+        return form;
+    });
+}
+
+bool Interpreter::isComplete(std::u16string_view text) { return Reader::isComplete(text); }
+
+std::u16string Interpreter::display(Value value) const { return printed(*machine_, value, false); }
+std::u16string Interpreter::print(Value value) const { return printed(*machine_, value, true); }
+
+void Interpreter::setOutput(std::function<void(std::u16string_view)> output) {
+    output_ = output ? std::move(output) : writeToStandardOutput;
+}
+
+void Interpreter::write(std::u16string_view text) { output_(text); }
+
+void Interpreter::setFileAccess(std::unique_ptr<FileAccess> access) {
+    files_ = access ? std::move(access) : std::make_unique<FileAccess>();
+}
+
+void Interpreter::interrupt() { machine_->interrupt(); }
+void Interpreter::clearInterrupt() { machine_->clearInterrupt(); }
+std::u16string Interpreter::place() const { return machine_->placeText(); }
+void Interpreter::setCollectAlways(bool always) { machine_->setCollectAlways(always); }
+size_t Interpreter::heapBytesInUse() const { return machine_->heap.used(); }
+Root*& Interpreter::rootList() { return machine_->heap.roots(); }
+
+void ListBuilder::addTail(Value value, bool asElement) {
+    Value added = asElement ? lisp_.cons(value, {}) : value.orNil();
+    if (last_)
+        last_->cdr = added;
+    else
+        list_ = added;
+    if (asElement) last_ = added.asCons();
+}
+
+}  // namespace lisp

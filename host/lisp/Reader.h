@@ -1,0 +1,47 @@
+// Reads forms from text.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/lisp/Value.h"
+
+namespace lisp {
+
+class Machine;
+
+class Reader {
+  public:
+    // `file` numbers the source for the places of lists, 0 for none. `text` must outlive the reader.
+    Reader(Machine& machine, std::u16string_view text, uint32_t file);
+
+    // Reads the next form; false at the end of the text. Throws a located Error.
+    bool next(Value& form);
+
+    // Whether no list, string or comment of `text` is still open. More closing than opening parentheses count
+    // as complete: reading tells the error.
+    static bool isComplete(std::u16string_view text);
+
+  private:
+    bool atEnd() const { return position_ >= text_.size(); }
+    char16_t peek() const { return text_[position_]; }
+    char16_t take();
+    void skipBlanks();
+    Value form();
+    Value list();
+    Value string();
+    Value atom();
+    void appendEscape(std::u16string& text);
+    [[noreturn]] void fail(std::u16string message, uint32_t line) const;
+
+    Machine& machine_;
+    std::u16string_view text_;
+    size_t position_ = 0;
+    uint32_t line_ = 1;
+    uint32_t file_;
+};
+
+// How prin1 writes a string.
+std::u16string readable(std::u16string_view text);
+
+}  // namespace lisp
