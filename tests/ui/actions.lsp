@@ -13,12 +13,12 @@
 
 (test "An edit box reports its text once, when the focus leaves it and before the button that takes it"
   '((setq notes nil)
-    (ui_session "ADD_REC" '((ui_type "MFG" "ACME") (ui_click "HELP") (ui_click "Cancel")))
+    (ui_session "ADD_REC" '((ui_type "DESC" "ACME") (ui_click "HELP") (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
-    (wex_action_tile "MFG" "(note (list $key $value $reason))")
+    (wex_action_tile "DESC" "(note (list $key $value $reason))")
     (wex_action_tile "HELP" "(note $key)")
     (wex_start_dialog)
-    (want '(("mfg" "ACME" 2) "help") notes)))
+    (want '(("desc" "ACME" 2) "help") notes)))
 
 (test "The function's name follows the spelling, and the record of OK has three names"
   '((ui_session "ADD_REC" '((ui_click "OK")))
@@ -64,10 +64,10 @@
 
 (test "The start action runs once, before the stored values show"
   '((setq notes nil)
-    (ui_session "ADD_REC" '((note (ui_text "MFG")) (ui_click "Cancel")))
+    (ui_session "ADD_REC" '((note (ui_text "DESC")) (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
-    (wex_set_tile "MFG" "stored")
-    (wex_setaction_oninit "(note (wex_get_tile \"MFG\")) (wex_set_tile \"CAT\" \"from start\")")
+    (wex_set_tile "DESC" "stored")
+    (wex_setaction_oninit "(note (wex_get_tile \"DESC\")) (wex_set_tile \"CAT\" \"from start\")")
     (wex_start_dialog)
     (want '("" "stored") notes)))
 
@@ -83,7 +83,7 @@
 
 (test "F1 presses the Help button, which need not have the focus"
   '((setq notes nil)
-    (ui_session "ADD_REC" '((ui_key "F1" "MFG") (ui_click "Cancel")))
+    (ui_session "ADD_REC" '((ui_key "F1" "DESC") (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
     (wex_action_tile "HELP" "(note (list $key $value $reason))")
     (wex_start_dialog)
@@ -91,7 +91,7 @@
 
 (test "The keyboard presses buttons: Enter the default one, Space and mnemonics"
   '((setq notes nil)
-    (ui_session "ADD_REC" '((ui_key "SPACE" "KEEP") (ui_key "ENTER" "MFG") (ui_click "Cancel")))
+    (ui_session "ADD_REC" '((ui_key "SPACE" "KEEP") (ui_key "ENTER" "DESC") (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
     (wex_action_tile "KEEP" "(note $value)")
     (wex_action_tile "OK" "(note $key)")

@@ -64,15 +64,15 @@
     (ui_session "CONFIRM_DELREC" '((want 2 (length (ui_dialogs))) (ui_click "OK")))
     (wex_new_dialog "ADD_REC")
     (wex_action_tile "HELP"
-      "(wex_set_tile \"MFG\" \"before\")
+      "(wex_set_tile \"DESC\" \"before\")
        (wex_new_dialog \"CONFIRM_DELREC\")
        (setq inner (wex_start_dialog))
-       (wex_set_tile \"MFG\" (strcat (wex_get_tile \"MFG\") \" and after\"))
-       (setq outer (wex_get_tile \"MFG\"))")
+       (wex_set_tile \"DESC\" (strcat (wex_get_tile \"DESC\") \" and after\"))
+       (setq outer (wex_get_tile \"DESC\"))")
     (want -1 (wex_start_dialog))
     (want -1 inner)
     (want "before and after" outer)
-    (want nil (wex_get_tile "MFG"))))
+    (want nil (wex_get_tile "DESC"))))
 
 (setq depth 0)
 (defun open-deeper ()
@@ -93,7 +93,7 @@
 (test "A dialog that is made and never started lies in front of the one that runs"
   '((ui_session "ADD_REC" '((ui_click "HELP") (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
-    (wex_action_tile "HELP" "(wex_new_dialog \"CONFIRM_DELREC\") (setq reached (wex_get_tile \"MFG\"))")
+    (wex_action_tile "HELP" "(wex_new_dialog \"CONFIRM_DELREC\") (setq reached (wex_get_tile \"DESC\"))")
     (want -1 (wex_start_dialog))
     (want nil reached)
     ; The one that ran stays in the list and can run again.

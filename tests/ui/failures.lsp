@@ -12,13 +12,13 @@
       (want nil (ui_alerts)))))
 
 (test "Without a current dialog nothing happens"
-  '((want nil (wex_set_tile "MFG" "x"))
-    (want nil (wex_get_tile "MFG"))
-    (want nil (wex_mode_tile "MFG" 1))
-    (want nil (wex_action_tile "MFG" "(princ)"))
+  '((want nil (wex_set_tile "DESC" "x"))
+    (want nil (wex_get_tile "DESC"))
+    (want nil (wex_mode_tile "DESC" 1))
+    (want nil (wex_action_tile "DESC" "(princ)"))
     (want nil (wex_setaction_oninit "(princ)"))
     (want nil (wex_settitlebar "x"))
-    (want 0 (wex_dimx_tile "MFG"))
+    (want 0 (wex_dimx_tile "DESC"))
     (want 0 (wex_dimy_tile 112))
     (want nil (wex_done_dialog 1))
     (want nil (wex_start_dialog))
@@ -27,7 +27,7 @@
 (test "An unknown name shows an alert and leaves no dialog current"
   '((ui_session "ADD_REC" '((ui_click "HELP") (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
-    (wex_action_tile "HELP" "(setq unknown (wex_new_dialog \"NO_SUCH\") reached (wex_get_tile \"MFG\"))")
+    (wex_action_tile "HELP" "(setq unknown (wex_new_dialog \"NO_SUCH\") reached (wex_get_tile \"DESC\"))")
     (want -1 (wex_start_dialog))
     (want nil unknown)
     (want nil reached)

@@ -10,15 +10,15 @@
 
 (test "Values that wait in the records show at the start"
   '((ui_session "ADD_REC"
-      '((want "ACME" (ui_text "MFG")) (want "12" (ui_text "QTY")) (want T (look "KEEP" "checked"))
+      '((want "ACME" (ui_text "DESC")) (want "12" (ui_text "QTY")) (want T (look "KEEP" "checked"))
         (want "New part" (ui_title)) (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
-    (want nil (wex_set_tile "MFG" "ACME"))
+    (want nil (wex_set_tile "DESC" "ACME"))
     (wex_set_tile "QTY" 12)
     (wex_set_tile "KEEP" 1)
     (wex_set_tile "MAIN_TITLE" "New part")
     (wex_settitlebar "not kept")
-    (want nil (wex_get_tile "MFG"))
+    (want nil (wex_get_tile "DESC"))
     (want -1 (wex_start_dialog))))
 
 (test "A button takes 1 and 0 as its state and anything else as its caption"
@@ -34,14 +34,14 @@
 
 (test "Values of other types are an empty text, and ids reach what keys reach"
   '((in-dialog "ADD_REC" ""
-      '((wex_set_tile "MFG" "x")
-        (wex_set_tile "MFG" 2.5)
-        (want "" (wex_get_tile "MFG"))
-        (wex_set_tile 115 "by id")
-        (want "by id" (wex_get_tile "MFG"))
-        (wex_set_tile "MFG" 70000)
-        (want "70000" (wex_get_tile 115))
-        (want nil (wex_set_tile "MFG"))
+      '((wex_set_tile "DESC" "x")
+        (wex_set_tile "DESC" 2.5)
+        (want "" (wex_get_tile "DESC"))
+        (wex_set_tile 122 "by id")
+        (want "by id" (wex_get_tile "DESC"))
+        (wex_set_tile "DESC" 70000)
+        (want "70000" (wex_get_tile 122))
+        (want nil (wex_set_tile "DESC"))
         (want nil (wex_get_tile "nobody"))
         (want nil (wex_get_tile 399))
         (wex_set_tile "nobody" "x")
@@ -51,21 +51,21 @@
 
 (test "Modes before the run: disabled, hidden, focused"
   '((ui_session "ADD_REC"
-      '((want nil (look "CAT" "enabled")) (want nil (look "QTY" "visible")) (want T (look "DESC" "focus"))
-        (want T (look "MFG" "enabled")) (ui_click "Cancel")))
+      '((want nil (look "CAT" "enabled")) (want nil (look "QTY" "visible")) (want T (look "ASMB" "focus"))
+        (want T (look "DESC" "enabled")) (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
     (wex_mode_tile "CAT" 1)
     (wex_mode_tile "QTY" 6)
-    (wex_mode_tile "DESC" 2)
-    (wex_mode_tile "MFG" "1")
-    (want nil (wex_mode_tile "MFG"))
+    (wex_mode_tile "ASMB" 2)
+    (wex_mode_tile "DESC" "1")
+    (want nil (wex_mode_tile "DESC"))
     (wex_start_dialog)))
 
 (test "Modes on a live control; by id the focus doesn't move"
   '((in-dialog "ADD_REC" ""
       '((wex_mode_tile "CAT" 2)
         (want T (look "CAT" "focus"))
-        (wex_mode_tile 121 2)
+        (wex_mode_tile 120 2)
         (want T (look "CAT" "focus"))
         (wex_mode_tile "CAT" 1)
         (want nil (look "CAT" "enabled"))
@@ -81,11 +81,11 @@
 
 (test "Mode 3 selects the text of an edit box, so that typing replaces it"
   '((in-dialog "ADD_REC" ""
-      '((wex_set_tile "MFG" "old")
-        (wex_mode_tile "MFG" 2)
-        (wex_mode_tile "MFG" 3)
+      '((wex_set_tile "DESC" "old")
+        (wex_mode_tile "DESC" 2)
+        (wex_mode_tile "DESC" 3)
         (ui_key "X")
-        (want "X" (strcase (ui_text "MFG")))
+        (want "X" (strcase (ui_text "DESC")))
         (ui_click "Cancel")))))
 
 (test "wex_enable_dialog and wex_settitlebar work on the window"

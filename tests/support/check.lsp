@@ -1,0 +1,35 @@
+; A small library for user sessions as tests.
+;
+;   (test "What the user sees"
+;     '((ui_session "ADD_REC" '((ui_click "OK")))
+;       (wex_new_dialog "ADD_REC")
+;       (want -1 (wex_start_dialog))))
+;
+; A wish that fails, or an error, is told and fails the test; the other tests run on. (report-tests) closes a file.
+
+(setq *passed* 0 *failed* 0 *wrong* nil)
+
+(defun note-wrong (text) (setq *wrong* (cons text *wrong*)))
+
+; Whether `actual` is what was wanted; works in sessions and actions too.
+(defun want (expected actual)
+  (cond ((equal expected actual) T)
+        (T (note-wrong (strcat "wanted " (prin1-to-string expected) ", got " (prin1-to-string actual))) nil)))
+
+; Runs the forms one by one, on a clean record of alerts.
+(defun test (name forms)
+  (setq *wrong* nil)
+  (ui_alerts)
+  (catch-error (foreach form forms (eval form)) note-wrong)
+  (cond (*wrong* (setq *failed* (1+ *failed*))
+                 (princ (strcat "FAILED " name "\n"))
+                 (foreach text (reverse *wrong*) (princ (strcat "       " text "\n"))))
+        (T (setq *passed* (1+ *passed*))
+           (princ (strcat "ok     " name "\n"))))
+  (princ))
+
+; Prints the counts, and ends the program with an error when a test failed.
+(defun report-tests ()
+  (princ (strcat (itoa *passed*) " passed, " (itoa *failed*) " failed\n"))
+  (if (> *failed* 0) (error "tests failed"))
+  (princ))
