@@ -12,10 +12,7 @@ WindowCreation::WindowCreation(CWnd& wrapper) {
     s_hook = SetWindowsHookExW(WH_CBT, &hook, nullptr, GetCurrentThreadId());
 }
 
-WindowCreation::~WindowCreation() {
-    unhook();
-    s_wrapper = nullptr;
-}
+WindowCreation::~WindowCreation() { unhook(); }
 
 void WindowCreation::unhook() {
     if (s_hook) UnhookWindowsHookEx(std::exchange(s_hook, nullptr));
@@ -25,11 +22,11 @@ LRESULT CALLBACK WindowCreation::hook(int code, WPARAM w, LPARAM l) noexcept {
     const HWND window = reinterpret_cast<HWND>(w);
     wchar_t name[8];
     // The platform may make its input method window on the way to ours.
-    const bool ours = code == HCBT_CREATEWND && s_wrapper && GetClassNameW(window, name, 8) &&
+    const bool ours = code == HCBT_CREATEWND && GetClassNameW(window, name, 8) &&
                       CompareStringOrdinal(name, -1, L"IME", -1, TRUE) != CSTR_EQUAL;
     const LRESULT result = CallNextHookEx(s_hook, code, w, l);
     if (ours) {
-        std::exchange(s_wrapper, nullptr)->SubclassWindow(window);
+        s_wrapper->SubclassWindow(window);
         // The controls of a dialog are created within; each would pay for the hook.
         unhook();
     }

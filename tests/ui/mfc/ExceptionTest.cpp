@@ -107,6 +107,15 @@ TEST_F(NestedExceptionTest, ModelessCreationRaisesToo) {
     TestDialog dialog(&owner);
     dialog.init = &fail;
     EXPECT_THROW(dialog.Create(), std::runtime_error);
+
+    // A paint that fails counts as done: a loop of the platform's own, a message box, must come to rest.
+    dialog.paint = &fail;
+    dialog.Invalidate();
+    int messages = 0;
+    for (MSG message; messages < 1000 && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE); ++messages)
+        DispatchMessageW(&message);
+    EXPECT_LT(messages, 1000);
+    EXPECT_THROW(raiseKeptException(), std::runtime_error);
 }
 
 }  // namespace

@@ -43,8 +43,7 @@ TEST_F(ModalTest, EndWhileItIsInitialisedNeverShowsIt) {
         dialog.EndDialog(5);
         dialog.EndDialog(6);
     };
-    dialog.paint = [&] { shown = true; };
-    dialog.destroy = [&] { shown = shown || IsWindowVisible(dialog.m_hWnd); };
+    dialog.show = [&] { shown = shown || !IsWindowVisible(dialog.m_hWnd); };  // it is about to be
     EXPECT_EQ(dialog.DoModal(), 6);
     EXPECT_FALSE(shown);
     EXPECT_EQ(owner.idles, 0);

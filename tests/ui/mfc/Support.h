@@ -54,7 +54,7 @@ class TestDialog : public CDialog {
   public:
     explicit TestDialog(CWnd* parent, UINT templateId = 1) : CDialog(templateId, parent) {}
 
-    Action init, ok, cancel, size, timer, destroy, paint, preTranslate;
+    Action init, ok, cancel, size, timer, destroy, show, paint, preTranslate;
 
     bool PreTranslateMessage(MSG& message) override {
         run(preTranslate);
@@ -66,6 +66,7 @@ class TestDialog : public CDialog {
                                                                on<WM_SIZE, &TestDialog::onSize>(),
                                                                on<WM_TIMER, &TestDialog::onTimer>(),
                                                                on<WM_DESTROY, &TestDialog::onDestroy>(),
+                                                               on<WM_SHOWWINDOW, &TestDialog::onShow>(),
                                                                on<WM_PAINT, &TestDialog::onPaint>(),
                                                            });
         return map;
@@ -86,6 +87,10 @@ class TestDialog : public CDialog {
     void onSize(UINT, int, int) { run(size); }
     void onTimer(UINT_PTR) { run(timer); }
     void onDestroy() { run(destroy); }
+    void onShow() {
+        run(show);
+        Default();
+    }
     void onPaint() {
         run(paint);
         Default();
