@@ -1,0 +1,129 @@
+#include "host/units/LinearUnits.h"
+
+#include <cmath>
+#include <cstdio>
+
+#include "host/units/NumberScanner.h"
+
+namespace units {
+
+namespace {
+
+enum Unit { SCIENTIFIC = 1, DECIMAL, ENGINEERING, ARCHITECTURAL, FRACTIONAL };
+
+constexpr double INCHES_PER_FOOT = 12;
+
+std::wstring formatted(const char* format, int precision, double value) {
+    char text[512];
+    const int length = std::snprintf(text, sizeof text, format, precision, value);
+    return std::wstring(text, text + length);
+}
+
+std::wstring whole(double value) { return formatted("%.*f", 0, value); }
+
+// A value that rounds to nothing has no sign.
+std::wstring withSign(double value, std::wstring magnitude) {
+    const bool hasDigit = magnitude.find_first_of(L"123456789") != std::wstring::npos;
+    return value < 0 && hasDigit ? L'-' + magnitude : magnitude;
+}
+
+std::wstring engineering(double magnitude, int precision) {
+    double feet = std::floor(magnitude / INCHES_PER_FOOT);
+    std::wstring inches = formatted("%.*f", precision, magnitude - feet * INCHES_PER_FOOT);
+    if (std::wcstod(inches.c_str(), nullptr) >= INCHES_PER_FOOT) {
+        ++feet;
+        inches = formatted("%.*f", precision, 0);
+    }
+    return (feet > 0 ? whole(feet) + L"'-" : L"") + inches + L'"';
+}
+
+// The fraction of `parts` over 2 to `power`, reduced, behind a blank where something stands before it.
+std::wstring fraction(double parts, int power, bool behindWhole) {
+    auto numerator = static_cast<long>(parts);
+    long denominator = 1L << power;
+    if (numerator == 0) return {};
+    for (; numerator % 2 == 0; numerator /= 2) denominator /= 2;
+    return (behindWhole ? L" " : L"") + std::to_wstring(numerator) + L'/' + std::to_wstring(denominator);
+}
+
+// In parts of 1 over 2 to `power`.
+std::wstring fractional(double parts, int power, bool alwaysWhole) {
+    const double perWhole = std::ldexp(1, power);
+    const double wholes = std::floor(parts / perWhole);
+    const double rest = parts - wholes * perWhole;
+    const bool showsWhole = alwaysWhole || wholes > 0 || rest == 0;
+    return (showsWhole ? whole(wholes) : L"") + fraction(rest, power, showsWhole);
+}
+
+std::wstring architectural(double parts, int power) {
+    const double perFoot = INCHES_PER_FOOT * std::ldexp(1, power);
+    const double feet = std::floor(parts / perFoot);
+    const std::wstring inches = fractional(parts - feet * perFoot, power, feet > 0);
+    return (feet > 0 ? whole(feet) + L"'-" : L"") + inches + L'"';
+}
+
+std::optional<double> feetAndInches(NumberScanner& scanner) {
+    const std::wstring_view start = scanner.rest();
+    const auto feet = scanner.number(false);
+    if (!feet || !scanner.take(L'\'')) {
+        scanner.back(start);
+        const auto inches = scanner.mixedNumber();
+        scanner.take(L'"');
+        return inches;
+    }
+    if (!scanner.take(L'-')) scanner.skipBlanks();
+    const double inFeet = *feet * INCHES_PER_FOOT;
+    if (scanner.atEnd()) return inFeet;
+    const auto inches = scanner.mixedNumber();
+    scanner.take(L'"');
+    return inches ? std::optional(inFeet + *inches) : std::nullopt;
+}
+
+std::optional<double> magnitudeFrom(NumberScanner& scanner, int unit) {
+    switch (unit) {
+        case SCIENTIFIC:
+        case DECIMAL:
+            return scanner.number(true);
+        case ENGINEERING:
+        case ARCHITECTURAL:
+            return feetAndInches(scanner);
+        case FRACTIONAL:
+            return scanner.mixedNumber();
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+std::optional<std::wstring> distanceText(double value, int unit, int precision) {
+    if (precision == -1) precision = 4;
+    if (precision < 0 || precision > 8 || !std::isfinite(value)) return std::nullopt;
+    const double magnitude = std::fabs(value);
+    const auto parts = [&] { return std::round(std::ldexp(magnitude, precision)); };
+    switch (unit) {
+        case SCIENTIFIC:
+            return withSign(value, formatted("%.*E", precision, magnitude));
+        case DECIMAL:
+            return withSign(value, formatted("%.*f", precision, magnitude));
+        case ENGINEERING:
+            return withSign(value, engineering(magnitude, precision));
+        case ARCHITECTURAL:
+            return withSign(value, architectural(parts(), precision));
+        case FRACTIONAL:
+            return withSign(value, fractional(parts(), precision, false));
+        default:
+            return std::nullopt;
+    }
+}
+
+std::optional<double> distanceFromText(std::wstring_view text, int unit) {
+    NumberScanner scanner(text);
+    scanner.skipBlanks();
+    const double sign = scanner.sign();
+    const auto magnitude = magnitudeFrom(scanner, unit);
+    scanner.skipBlanks();
+    return magnitude && scanner.atEnd() ? std::optional(sign * *magnitude) : std::nullopt;
+}
+
+}  // namespace units

@@ -1,0 +1,87 @@
+#include "host/units/NumberScanner.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <string>
+
+namespace units {
+
+namespace {
+
+bool isDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+
+wchar_t upper(wchar_t c) { return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - L'a' + L'A') : c; }
+
+}  // namespace
+
+void NumberScanner::skipBlanks() {
+    while (!m_rest.empty() && m_rest.front() == L' ') m_rest.remove_prefix(1);
+}
+
+bool NumberScanner::take(wchar_t letter) {
+    if (m_rest.empty() || upper(m_rest.front()) != upper(letter)) return false;
+    m_rest.remove_prefix(1);
+    return true;
+}
+
+double NumberScanner::sign() {
+    if (take(L'-')) return -1;
+    take(L'+');
+    return 1;
+}
+
+size_t NumberScanner::digitsFrom(size_t at) const {
+    while (at < m_rest.size() && isDigit(m_rest[at])) ++at;
+    return at;
+}
+
+std::optional<double> NumberScanner::wholeNumber() {
+    const size_t end = digitsFrom(0);
+    if (end == 0) return std::nullopt;
+    const double value = std::strtod(std::string(m_rest.begin(), m_rest.begin() + end).c_str(), nullptr);
+    m_rest.remove_prefix(end);
+    return std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+std::optional<double> NumberScanner::number(bool withExponent) {
+    const size_t whole = digitsFrom(0);
+    size_t end = whole;
+    size_t digits = whole;
+    if (end < m_rest.size() && m_rest[end] == L'.') {
+        end = digitsFrom(whole + 1);
+        digits += end - whole - 1;
+    }
+    if (digits == 0) return std::nullopt;
+    if (withExponent && end < m_rest.size() && upper(m_rest[end]) == L'E') {
+        size_t power = end + 1;
+        if (power < m_rest.size() && (m_rest[power] == L'-' || m_rest[power] == L'+')) ++power;
+        if (const size_t last = digitsFrom(power); last > power) end = last;
+    }
+    const double value = std::strtod(std::string(m_rest.begin(), m_rest.begin() + end).c_str(), nullptr);
+    m_rest.remove_prefix(end);
+    return std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+std::optional<double> NumberScanner::mixedNumber() {
+    const std::wstring_view start = m_rest;
+    const auto first = wholeNumber();
+    if (first && take(L'/')) {
+        const auto denominator = wholeNumber();
+        return denominator && *denominator != 0 ? std::optional(*first / *denominator) : std::nullopt;
+    }
+    const std::wstring_view behindFirst = m_rest;
+    if (first && (take(L' ') || take(L'-'))) {
+        skipBlanks();
+        const auto numerator = wholeNumber();
+        if (numerator && take(L'/')) {
+            const auto denominator = wholeNumber();
+            if (!denominator || *denominator == 0) return std::nullopt;
+            return *first + *numerator / *denominator;
+        }
+        m_rest = behindFirst;
+    }
+    m_rest = start;
+    return number(false);
+}
+
+}  // namespace units
