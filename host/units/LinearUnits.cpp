@@ -71,9 +71,11 @@ std::optional<double> feetAndInches(NumberScanner& scanner) {
         scanner.take(L'"');
         return inches;
     }
-    if (!scanner.take(L'-')) scanner.skipBlanks();
     const double inFeet = *feet * INCHES_PER_FOOT;
-    if (scanner.atEnd()) return inFeet;
+    if (!scanner.take(L'-')) {
+        scanner.skipBlanks();
+        if (scanner.atEnd()) return inFeet;
+    }
     const auto inches = scanner.mixedNumber();
     scanner.take(L'"');
     return inches ? std::optional(inFeet + *inches) : std::nullopt;
