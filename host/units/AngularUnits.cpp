@@ -146,8 +146,9 @@ std::optional<std::wstring> angleText(double radians, int unit, int precision) {
         }
         case GRADS:
             return withinTurn(angle * GRADS_PER_RADIAN, 400, precision) + L'g';
+        // A turn is no multiple of the last place, so nothing rounds up to it.
         case RADIANS:
-            return withinTurn(angle, TURN, precision) + L'r';
+            return fixed(angle, precision) + L'r';
         case SURVEYOR:
             return bearing(degrees, precision);
         default:
