@@ -1,0 +1,136 @@
+#include "host/documents/Documents.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/lisp/Error.h"
+#include "host/services/Texts.h"
+#include "src/platform/base/Text.h"
+
+namespace {
+
+// Whether Lisp reads this text as one symbol.
+bool isSymbolName(const std::wstring& name) {
+    constexpr std::wstring_view delimiters = L"()'\";";
+    const auto parts = [&](wchar_t c) { return c <= L' ' || delimiters.find(c) != std::wstring_view::npos; };
+    return !name.empty() && std::none_of(name.begin(), name.end(), parts);
+}
+
+}  // namespace
+
+void Documents::open() {
+    if (!m_documents.empty()) {
+        for (const auto& plugin : m_plugins) {
+            if (plugin->worksWithSeveralDocuments()) continue;
+            throw lisp::Error(lispText(plugin->name() + L" works with one document only"));
+        }
+    }
+    m_current = m_documents.emplace_back(std::make_unique<HostDocument>()).get();
+    for (const auto& plugin : m_plugins) tell(*plugin, PLUGIN_LOAD_DOCUMENT);
+}
+
+bool Documents::close() {
+    if (!m_current) return false;
+    // A reactor may take itself out while it is being told.
+    for (HostDocManagerReactor* reactor : std::vector(m_reactors)) reactor->documentToBeDestroyed(m_current);
+    for (const auto& plugin : m_plugins) tell(*plugin, PLUGIN_UNLOAD_DOCUMENT);
+    // What a plug-in left behind goes with the document all the same.
+    for (const std::wstring& name : std::set(m_current->functions)) undefine(name);
+    std::erase_if(m_documents, [this](const auto& document) { return document.get() == m_current; });
+    m_current = m_documents.empty() ? nullptr : m_documents.back().get();
+    return true;
+}
+
+void Documents::loadPlugin(const std::wstring& path) {
+    Plugin& plugin = *m_plugins.emplace_back(std::make_unique<Plugin>(path));
+    tell(plugin, PLUGIN_INIT);
+    for (const auto& document : m_documents) tellOfDocument(*document, plugin, PLUGIN_LOAD_DOCUMENT);
+}
+
+void Documents::unloadPlugin() {
+    if (m_plugins.empty()) throw lisp::Error(u"no plug-in is loaded");
+    Plugin& plugin = *m_plugins.back();
+    if (!plugin.isUnloadable()) throw lisp::Error(lispText(plugin.name() + L" doesn't allow to be unloaded"));
+    if (CallFrame::isRunning(&plugin)) {
+        throw lisp::Error(lispText(plugin.name() + L" can't be unloaded while one of its functions runs"));
+    }
+    for (const auto& document : m_documents) tellOfDocument(*document, plugin, PLUGIN_UNLOAD_DOCUMENT);
+    tell(plugin, PLUGIN_UNLOAD);
+    forgetFunctionsOf(plugin);
+    m_plugins.pop_back();
+}
+
+Plugin* Documents::pluginOf(HMODULE module) const {
+    const auto found = std::find_if(m_plugins.begin(), m_plugins.end(),
+                                    [=](const auto& plugin) { return plugin->module() == module; });
+    return found == m_plugins.end() ? nullptr : found->get();
+}
+
+void Documents::closeAll() {
+    while (close()) {
+    }
+    for (; !m_plugins.empty(); m_plugins.pop_back()) tell(*m_plugins.back(), PLUGIN_UNLOAD);
+}
+
+HWND Documents::findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id) const {
+    for (auto plugin = m_plugins.rbegin(); plugin != m_plugins.rend(); ++plugin) {
+        if (const HWND window = (*plugin)->findWindow(dialog, key, id)) return window;
+    }
+    return nullptr;
+}
+
+bool Documents::define(const std::wstring& name, int code) {
+    if (!m_current || !isSymbolName(name)) return false;
+    const std::wstring key = toLower(name);
+    std::unique_ptr<LispFunction>& function = m_functions[key];
+    if (!function) function = std::make_unique<LispFunction>();
+    const auto bound = m_handlers.find({m_told, code});
+    *function = {name, code, m_told, bound == m_handlers.end() ? nullptr : bound->second};
+    m_lisp.defineNative(lispText(name), &callPluginFunction, function.get());
+    m_current->functions.insert(key);
+    return true;
+}
+
+bool Documents::bind(HostLispFunction handler, int code) {
+    m_handlers[{m_told, code}] = handler;
+    for (const auto& [name, function] : m_functions) {
+        if (function->plugin == m_told && function->code == code) function->handler = handler;
+    }
+    return true;
+}
+
+bool Documents::undefine(const std::wstring& name) {
+    const std::wstring key = toLower(name);
+    if (!m_current || !m_current->functions.erase(key)) return false;
+    const auto knows = [&](const auto& document) { return document->functions.contains(key); };
+    if (std::any_of(m_documents.begin(), m_documents.end(), knows)) return true;
+    // The record of the function stays: a call of it may be under way.
+    m_lisp.undefine(lispText(key));
+    return true;
+}
+
+void Documents::addReactor(HostDocManagerReactor* reactor) { m_reactors.push_back(reactor); }
+
+void Documents::removeReactor(HostDocManagerReactor* reactor) { std::erase(m_reactors, reactor); }
+
+void Documents::tell(Plugin& plugin, PluginMessage message) {
+    Plugin* outer = std::exchange(m_told, &plugin);
+    plugin.send(message);
+    m_told = outer;
+}
+
+void Documents::tellOfDocument(HostDocument& document, Plugin& plugin, PluginMessage message) {
+    HostDocument* outer = std::exchange(m_current, &document);
+    tell(plugin, message);
+    m_current = outer;
+}
+
+void Documents::forgetFunctionsOf(const Plugin& plugin) {
+    for (const auto& [name, function] : m_functions) {
+        if (function->plugin != &plugin) continue;
+        for (const auto& document : m_documents) document->functions.erase(name);
+        m_lisp.undefine(lispText(name));
+    }
+    std::erase_if(m_functions, [&](const auto& entry) { return entry.second->plugin == &plugin; });
+    std::erase_if(m_handlers, [&](const auto& entry) { return entry.first.first == &plugin; });
+}

@@ -1,0 +1,68 @@
+// The open documents, the plug-ins, and the Lisp functions that plug-ins define in each document.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "host/documents/Plugin.h"
+#include "host/lisp/Interpreter.h"
+#include "host/services/CallFrame.h"
+#include "src/platform/host/HostPlugin.h"
+
+// A drawing that is open. The names are those of Lisp functions that plug-ins defined in it, in lower case.
+class HostDocument {
+  public:
+    std::set<std::wstring> functions;
+};
+
+class Documents final : public HostDocManager {
+  public:
+    explicit Documents(lisp::Interpreter& lisp) : m_lisp(lisp) {}
+
+    // Opens an empty document, makes it the current one and tells the plug-ins. Throws lisp::Error where a
+    // loaded plug-in can't work with several documents.
+    void open();
+    // Closes the current document; the one opened before it becomes current. False where none is open.
+    bool close();
+    size_t count() const { return m_documents.size(); }
+
+    // Loads a plug-in, readies it and tells it of the open documents. Throws lisp::Error.
+    void loadPlugin(const std::wstring& path);
+    // Unloads the plug-in that was loaded last. Throws lisp::Error where there is none, or it doesn't allow
+    // it, or one of its functions is being called.
+    void unloadPlugin();
+    // Null where the module is none of the loaded plug-ins.
+    Plugin* pluginOf(HMODULE module) const;
+    // Unloads all plug-ins and closes all documents, at the end of the process.
+    void closeAll();
+
+    // The window that a plug-in knows under this address; see PLUGIN_FIND_WINDOW in HostPlugin.h.
+    HWND findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id) const;
+
+    // What hostDefun, hostRegFunc and hostUndef do, on behalf of the plug-in that is being told something.
+    bool define(const std::wstring& name, int code);
+    bool bind(HostLispFunction handler, int code);
+    bool undefine(const std::wstring& name);
+
+    void addReactor(HostDocManagerReactor* reactor) override;
+    void removeReactor(HostDocManagerReactor* reactor) override;
+
+  private:
+    void tell(Plugin& plugin, PluginMessage message);
+    void tellOfDocument(HostDocument& document, Plugin& plugin, PluginMessage message);
+    void forgetFunctionsOf(const Plugin& plugin);
+
+    lisp::Interpreter& m_lisp;
+    std::vector<std::unique_ptr<Plugin>> m_plugins;
+    std::vector<std::unique_ptr<HostDocument>> m_documents;
+    std::vector<HostDocManagerReactor*> m_reactors;
+    HostDocument* m_current = nullptr;
+    Plugin* m_told = nullptr;
+    // By name in lower case; the interpreter refers to them. And the handlers that were bound before or
+    // after.
+    std::map<std::wstring, std::unique_ptr<LispFunction>> m_functions;
+    std::map<std::pair<Plugin*, int>, HostLispFunction> m_handlers;
+};

@@ -1,0 +1,35 @@
+// Tells of what happens to the dialogs of this thread: a loop ran empty, a box came up, a window went.
+#pragma once
+
+#include <windows.h>
+
+class DialogObserver {
+  public:
+    // The modal loop of `dialog` has nothing more to do. Told once each time it runs empty.
+    virtual void dialogIdle(HWND dialog) = 0;
+    // A message box is about to be seen.
+    virtual void messageBoxShown(HWND box) = 0;
+    // The window is on its way out; of any window of the thread.
+    virtual void windowGone(HWND window) = 0;
+
+  protected:
+    ~DialogObserver() = default;
+};
+
+// Watches while it lives; one at a time. The observer's calls may run Lisp and open dialogs, and must not
+// throw.
+class IdleWatch {
+  public:
+    explicit IdleWatch(DialogObserver& observer);
+    ~IdleWatch();
+    IdleWatch(const IdleWatch&) = delete;
+    IdleWatch& operator=(const IdleWatch&) = delete;
+
+  private:
+    static LRESULT CALLBACK messageHook(int code, WPARAM w, LPARAM l) noexcept;
+    static LRESULT CALLBACK activationHook(int code, WPARAM w, LPARAM l) noexcept;
+
+    static inline DialogObserver* s_observer = nullptr;
+    HHOOK m_messages;
+    HHOOK m_activations;
+};

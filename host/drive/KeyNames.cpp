@@ -1,0 +1,60 @@
+#include "host/drive/KeyNames.h"
+
+#include <string>
+
+#include "src/platform/base/Text.h"
+
+namespace {
+
+struct NamedKey {
+    std::wstring_view name;
+    int virtualKey;
+};
+
+// The codes are those of the system's WinUser.h.
+constexpr NamedKey KEYS[] = {
+    {L"enter", 0x0D},    {L"return", 0x0D}, {L"esc", 0x1B},       {L"escape", 0x1B}, {L"tab", 0x09},
+    {L"space", 0x20},    {L"back", 0x08},   {L"backspace", 0x08}, {L"delete", 0x2E}, {L"del", 0x2E},
+    {L"insert", 0x2D},   {L"ins", 0x2D},    {L"home", 0x24},      {L"end", 0x23},    {L"pageup", 0x21},
+    {L"pagedown", 0x22}, {L"left", 0x25},   {L"up", 0x26},        {L"right", 0x27},  {L"down", 0x28},
+};
+
+constexpr int FIRST_FUNCTION_KEY = 0x70;
+constexpr int FUNCTION_KEYS = 12;
+
+std::optional<int> keyNamed(const std::wstring& name) {
+    if (name.size() == 1 && ((name[0] >= L'a' && name[0] <= L'z') || (name[0] >= L'0' && name[0] <= L'9'))) {
+        // Codes of letters are those of their capitals.
+        return name[0] >= L'a' ? name[0] - L'a' + L'A' : name[0];
+    }
+    if (name.size() >= 2 && name.size() <= 3 && name[0] == L'f') {
+        const int number = decimalNumber(name.substr(1));
+        if (number >= 1 && number <= FUNCTION_KEYS && name == L"f" + std::to_wstring(number)) {
+            return FIRST_FUNCTION_KEY + number - 1;
+        }
+    }
+    for (const NamedKey& key : KEYS) {
+        if (key.name == name) return key.virtualKey;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<KeyStroke> parseKeyStroke(std::wstring_view text) {
+    std::wstring rest = toLower(text);
+    KeyStroke stroke{};
+    for (size_t plus; (plus = rest.find(L'+')) != std::wstring::npos; rest.erase(0, plus + 1)) {
+        const std::wstring modifier = rest.substr(0, plus);
+        bool* held = modifier == L"shift"                            ? &stroke.shift
+                     : modifier == L"ctrl" || modifier == L"control" ? &stroke.control
+                     : modifier == L"alt"                            ? &stroke.alt
+                                                                     : nullptr;
+        if (!held || *held) return std::nullopt;
+        *held = true;
+    }
+    const std::optional<int> key = keyNamed(rest);
+    if (!key) return std::nullopt;
+    stroke.virtualKey = *key;
+    return stroke;
+}

@@ -1,0 +1,43 @@
+#include "host/drive/Keyboard.h"
+
+namespace {
+
+constexpr BYTE KEY_DOWN = 0x80;
+
+// Sent for F1 by the system's input queue; the default window procedure makes WM_HELP of it. Not in the
+// headers.
+constexpr UINT WM_KEYF1 = 0x004D;
+
+constexpr LPARAM ALT_HELD = LPARAM(1) << 29;
+constexpr LPARAM WAS_DOWN = LPARAM(1) << 30;
+constexpr LPARAM RELEASED = LPARAM(1) << 31;
+
+// Posted keys leave the thread's keyboard state alone, where programs look for Shift, Ctrl and Alt.
+void hold(const KeyStroke& stroke, BYTE state) {
+    BYTE keys[256];
+    GetKeyboardState(keys);
+    const auto set = [&](int both, int left) { keys[both] = keys[left] = state; };
+    if (stroke.shift) set(VK_SHIFT, VK_LSHIFT);
+    if (stroke.control) set(VK_CONTROL, VK_LCONTROL);
+    if (stroke.alt) set(VK_MENU, VK_LMENU);
+    SetKeyboardState(keys);
+}
+
+}  // namespace
+
+void typeText(HWND window, std::wstring_view text) {
+    for (const wchar_t c : text) PostMessageW(window, WM_CHAR, c == L'\n' ? L'\r' : c, 1);
+}
+
+void pressKey(HWND window, const KeyStroke& stroke) {
+    hold(stroke, KEY_DOWN);
+    const auto key = static_cast<WPARAM>(stroke.virtualKey);
+    const LPARAM scan = LPARAM(MapVirtualKeyW(stroke.virtualKey, MAPVK_VK_TO_VSC)) << 16 | 1;
+    const bool system = stroke.alt && !stroke.control;
+    const LPARAM alt = system ? ALT_HELD : 0;
+    PostMessageW(window, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key, scan | alt);
+    if (stroke.virtualKey == VK_F1 && !stroke.alt) PostMessageW(window, WM_KEYF1, 0, 0);
+    PostMessageW(window, system ? WM_SYSKEYUP : WM_KEYUP, key, scan | alt | WAS_DOWN | RELEASED);
+}
+
+void releaseHeldKeys() { hold({.virtualKey = 0, .shift = true, .control = true, .alt = true}, 0); }

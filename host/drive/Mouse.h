@@ -1,0 +1,17 @@
+// A person's mouse, by posted messages: they are handled when the dialog's loop runs again, in the order of
+// posting, with all moves of the focus and all notifications.
+#pragma once
+
+#include <windows.h>
+
+// A point of a window, in its client pixels.
+struct Spot {
+    HWND window;
+    POINT point;
+};
+
+Spot middleOf(HWND window);
+
+void click(const Spot& spot);
+void doubleClick(const Spot& spot);
+void rightClick(const Spot& spot);

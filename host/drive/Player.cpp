@@ -1,0 +1,152 @@
+#include "host/drive/Player.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/drive/MessageBoxes.h"
+#include "host/services/Host.h"
+#include "host/services/Texts.h"
+
+namespace {
+
+// How often a form that waits for something is tried again.
+constexpr UINT WAIT_MILLISECONDS = 10;
+
+constexpr int LISP_ERROR = 1;
+constexpr int STILL_OPEN = 3;
+
+std::wstring quoted(const std::wstring& text) { return L"\"" + text + L"\""; }
+
+void report(const std::wstring& line, int status) {
+    host().console().error(line);
+    host().fail(status);
+}
+
+std::wstring printed(lisp::Value form) { return wideText(host().lisp().print(form)); }
+
+}  // namespace
+
+Player& player() {
+    static Player& instance = *new Player;
+    return instance;
+}
+
+void Player::setPlays(bool plays) {
+    m_plays = plays;
+    host().alerts().setAttended(!plays);
+    m_watch.reset();
+    if (plays) m_watch.emplace(*this);
+}
+
+void Player::queue(std::unique_ptr<Session> session) {
+    if (m_plays) m_queue.add(std::move(session));
+}
+
+void Player::reportLeftovers() {
+    for (const auto& session : m_queue.waiting()) {
+        report(L"session " + quoted(session->dialog()) + L": its dialog was never opened", LISP_ERROR);
+    }
+}
+
+// The plug-in names its newest dialog, and no other than the newest can be idle.
+bool Player::isPluginDialog(HWND dialog) const {
+    return host().documents().findWindow(nullptr, nullptr, -1) == dialog;
+}
+
+void Player::dialogIdle(HWND dialog) {
+    host().console().flush();
+    if (const auto work = std::exchange(m_nextIdle, nullptr)) work();
+    if (isPluginDialog(dialog)) {
+        play(dialog);
+    } else if (isSystemDialog(dialog)) {
+        answer(dialog);
+    }
+}
+
+Player::Run& Player::runOf(HWND dialog) {
+    const auto found =
+        std::find_if(m_runs.begin(), m_runs.end(), [=](const Run& run) { return run.dialog == dialog; });
+    if (found != m_runs.end()) return *found;
+    std::shared_ptr<Session> session = m_queue.take([=](const std::wstring& name) {
+        return host().documents().findWindow(name.c_str(), nullptr, -1) == dialog;
+    });
+    if (!session && host().isHeadless()) {
+        report(L"no session for dialog " + quoted(textOf(dialog)) + L", and nobody else to work it",
+               STILL_OPEN);
+    }
+    return m_runs.emplace_back(Run{dialog, std::move(session)});
+}
+
+void Player::play(HWND dialog) {
+    Run& run = runOf(dialog);
+    if (run.session && !run.session->isOver()) {
+        // Evaluating may add and remove runs, and end this one.
+        const std::shared_ptr<Session> session = run.session;
+        evaluate(dialog, *session);
+    } else if (run.session || host().isHeadless()) {
+        closeLeftOpen(run);
+    }
+}
+
+void Player::evaluate(HWND dialog, Session& session) {
+    const lisp::Value form = session.takeForm();
+    const std::wstring place = L"session " + quoted(session.dialog()) + L", step " +
+                               std::to_wstring(session.step()) + L": " + printed(form);
+    m_progress.set(place);
+    m_repeat = false;
+    m_evaluating.push_back(dialog);
+    try {
+        host().lisp().eval(form);
+    } catch (const lisp::Error& error) {
+        report(place + L"\n  " + wideText(error.text()), LISP_ERROR);
+    } catch (const std::exception& error) {
+        report(place + L"\n  " + wideFromUtf8(error.what()), LISP_ERROR);
+    }
+    m_evaluating.pop_back();
+    const bool waiting = std::exchange(m_repeat, false);
+    if (waiting) session.putBack();
+    wakeAgain(dialog, waiting);
+}
+
+// The loop has run empty and sleeps until a message comes.
+void Player::wakeAgain(HWND dialog, bool waiting) {
+    if (m_timer && !waiting) KillTimer(nullptr, std::exchange(m_timer, 0));
+    if (waiting) {
+        if (!m_timer) m_timer = SetTimer(nullptr, 0, WAIT_MILLISECONDS, nullptr);
+    } else {
+        PostMessageW(dialog, WM_NULL, 0, 0);
+    }
+}
+
+void Player::closeLeftOpen(Run& run) {
+    const std::wstring dialog = L"dialog " + quoted(textOf(run.dialog));
+    if (run.closing) {
+        report(dialog + L": the close box does not end it", STILL_OPEN);
+        host().exit(host().status());
+    }
+    if (run.session) report(dialog + L" is still open at the end of its session", STILL_OPEN);
+    run.closing = true;
+    PostMessageW(run.dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+void Player::messageBoxShown(HWND box) { answer(box); }
+
+void Player::answer(HWND box) {
+    if (std::find(m_answered.begin(), m_answered.end(), box) != m_answered.end()) return;
+    m_answered.push_back(box);
+    host().alerts().record(boxText(box));
+    answerBox(box);
+}
+
+void Player::windowGone(HWND window) {
+    std::erase(m_answered, window);
+    const auto found =
+        std::find_if(m_runs.begin(), m_runs.end(), [=](const Run& run) { return run.dialog == window; });
+    if (found == m_runs.end()) return;
+    const Run run = *found;
+    m_runs.erase(found);
+    if (!run.session || run.session->isOver()) return;
+    report(L"session " + quoted(run.session->dialog()) + L": the dialog ended before step " +
+               std::to_wstring(run.session->step() + 1) + L": " + printed(run.session->nextForm()),
+           LISP_ERROR);
+}

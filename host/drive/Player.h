@@ -1,0 +1,69 @@
+// Plays sessions: at each idle moment of a dialog's loop it evaluates one form.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/drive/IdleWatch.h"
+#include "host/drive/Progress.h"
+#include "host/drive/Sessions.h"
+
+class Player : public DialogObserver {
+  public:
+    // While sessions aren't played, ui_session is dropped and a dialog waits for the person.
+    bool plays() const { return m_plays; }
+    void setPlays(bool plays);
+
+    void queue(std::unique_ptr<Session> session);
+    // Reports sessions whose dialog never came up.
+    void reportLeftovers();
+
+    // The dialog whose session evaluates a form at this moment; null where none does.
+    HWND playedDialog() const { return m_evaluating.empty() ? nullptr : m_evaluating.back(); }
+    // Has the form at hand evaluated again at the next idle moment; for ui_wait.
+    void repeatForm() { m_repeat = true; }
+    // Done at the next idle moment, before anything else.
+    void atNextIdle(std::function<void()> work) { m_nextIdle = std::move(work); }
+
+    Progress& progress() { return m_progress; }
+
+    void dialogIdle(HWND dialog) override;
+    void messageBoxShown(HWND box) override;
+    void windowGone(HWND window) override;
+
+  private:
+    // A dialog that has been seen idle.
+    struct Run {
+        HWND dialog;
+        std::shared_ptr<Session> session;  // null where none was queued
+        bool closing = false;              // its close box was pressed
+    };
+
+    bool isPluginDialog(HWND dialog) const;
+    Run& runOf(HWND dialog);
+    void play(HWND dialog);
+    void evaluate(HWND dialog, Session& session);
+    void wakeAgain(HWND dialog, bool waiting);
+    void closeLeftOpen(Run& run);
+    void answer(HWND box);
+
+    bool m_plays = false;
+    bool m_repeat = false;
+    UINT_PTR m_timer = 0;
+    SessionQueue m_queue;
+    // The innermost dialog last.
+    std::vector<Run> m_runs;
+    std::vector<HWND> m_evaluating;
+    std::vector<HWND> m_answered;
+    std::function<void()> m_nextIdle;
+    std::optional<IdleWatch> m_watch;
+    Progress m_progress;
+};
+
+// The one of the process; made at the first question.
+Player& player();

@@ -1,0 +1,214 @@
+#include "host/drive/UiFunctions.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "host/drive/Items.h"
+#include "host/drive/Keyboard.h"
+#include "host/drive/Look.h"
+#include "host/drive/MessageBoxes.h"
+#include "host/drive/Mouse.h"
+#include "host/drive/Player.h"
+#include "host/drive/Shot.h"
+#include "host/drive/Tile.h"
+#include "host/services/Host.h"
+#include "host/services/Texts.h"
+
+namespace {
+
+using lisp::Call;
+using lisp::Value;
+
+std::wstring g_shotsFolder;
+
+std::wstring wideArgument(Call& call, size_t index) { return wideText(call.text(index)); }
+
+Value text(Call& call, const std::wstring& text) { return call.lisp.string(lispText(text)); }
+
+// Where to click for "tile [item [column]]": the entry, or the middle of the tile where none is named.
+Spot spotOf(Call& call, const Tile& tile) {
+    if (!call.has(1)) return middleOf(tile.window());
+    const auto items = itemsOf(tile.window());
+    if (!items) tile.fail(L"it is no list");
+    const int index = items->find(call[1]);
+    if (index < 0) tile.fail(L"it has no item " + wideText(call.lisp.print(call[1])));
+    return items->show(index, call.integerOr(2, 0));
+}
+
+template <void (*Press)(const Spot&)>
+Value press(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    Press(spotOf(call, tile));
+    return Value::none();
+}
+
+// (ui_session "NAME" '(form ...))
+Value session(Call& call) {
+    player().queue(std::make_unique<Session>(call.lisp, wideArgument(call, 0), call.list(1)));
+    return Value::none();
+}
+
+// (ui_header tile column)
+Value header(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    const int column = call.integer(1);
+    const std::optional<Spot> spot = headerSpot(tile.window(), column);
+    if (!spot) tile.fail(L"it has no header of column " + std::to_wstring(column));
+    click(*spot);
+    return Value::none();
+}
+
+// The window that takes the characters: a combo box has an edit box inside.
+HWND typingWindow(const Tile& tile) {
+    COMBOBOXINFO parts = {sizeof parts};
+    const bool isCombo = GetComboBoxInfo(tile.window(), &parts) && parts.hwndItem;
+    return isCombo ? parts.hwndItem : tile.window();
+}
+
+// (ui_type tile "text"): as if the person had marked what stood there.
+Value type(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    const std::wstring characters = wideArgument(call, 1);
+    const HWND window = typingWindow(tile);
+    // A click where it has the focus already would be the second half of a double click.
+    if (GetFocus() != window) click(middleOf(window));
+    PostMessageW(window, EM_SETSEL, 0, -1);
+    if (characters.empty()) {
+        pressKey(window, {VK_DELETE});
+    } else {
+        typeText(window, characters);
+    }
+    return Value::none();
+}
+
+// (ui_key "ENTER" [tile])
+Value key(Call& call) {
+    const std::optional<KeyStroke> stroke = parseKeyStroke(wideArgument(call, 0));
+    if (!stroke) call.expected(0, "the name of a key");
+    HWND window = GetFocus();
+    if (call.has(1)) {
+        const Tile tile(call, 1);
+        tile.mustBeWorkable();
+        window = typingWindow(tile);
+        if (GetFocus() != window) SetFocus(window);
+    }
+    pressKey(window ? window : runningDialog(), *stroke);
+    player().atNextIdle(&releaseHeldKeys);
+    return Value::none();
+}
+
+// (ui_close)
+Value close(Call&) {
+    PostMessageW(runningDialog(), WM_SYSCOMMAND, SC_CLOSE, 0);
+    return Value::none();
+}
+
+// (ui_size width height): the whole window, in pixels.
+Value size(Call& call) {
+    const int width = call.integer(0);
+    const int height = call.integer(1);
+    SetWindowPos(runningDialog(), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return Value::none();
+}
+
+// (ui_wait form): evaluating the whole call again asks the form again.
+Value wait(Call& call) {
+    if (call[0].isNil()) player().repeatForm();
+    return call[0];
+}
+
+// (ui_text tile)
+Value textOfTile(Call& call) { return text(call, textOf(Tile(call, 0).window())); }
+
+// (ui_items tile)
+Value items(Call& call) {
+    const Tile tile(call, 0);
+    const auto items = itemsOf(tile.window());
+    if (!items) tile.fail(L"it is no list");
+    lisp::ListBuilder list(call.lisp);
+    for (int i = 0; i < items->count(); ++i) list.add(text(call, items->text(i)));
+    return list.list();
+}
+
+// (ui_look tile)
+Value look(Call& call) { return lookOf(call.lisp, Tile(call, 0)); }
+
+// (ui_title)
+Value title(Call& call) { return text(call, textOf(runningDialog())); }
+
+// (ui_dialogs): titles, outermost first.
+Value dialogs(Call& call) {
+    std::vector<HWND> found;
+    const auto gather = [](HWND window, LPARAM list) noexcept -> BOOL {
+        if (isSystemDialog(window) && IsWindowVisible(window)) {
+            reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+        }
+        return TRUE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), gather, reinterpret_cast<LPARAM>(&found));
+    const auto depth = [](HWND window) {
+        int owners = 0;
+        for (HWND at = window; (at = GetWindow(at, GW_OWNER)) != nullptr;) ++owners;
+        return owners;
+    };
+    std::stable_sort(found.begin(), found.end(), [&](HWND a, HWND b) { return depth(a) < depth(b); });
+    lisp::ListBuilder list(call.lisp);
+    for (const HWND window : found) list.add(text(call, textOf(window)));
+    return list.list();
+}
+
+// (ui_alerts): what was said since the last call.
+Value alerts(Call& call) {
+    lisp::ListBuilder list(call.lisp);
+    for (const std::wstring& said : host().alerts().take()) list.add(text(call, said));
+    return list.list();
+}
+
+// (ui_shot "file.png"): gives the path.
+Value shot(Call& call) {
+    namespace fs = std::filesystem;
+    const fs::path name = call.lisp.files().resolve(call.text(0));
+    const fs::path path = name.is_relative() ? fs::path(g_shotsFolder) / name : name;
+    photograph(runningDialog(), path.wstring());
+    return text(call, path.wstring());
+}
+
+struct UiFunction {
+    const char16_t* name;
+    lisp::NativeFunction function;
+    int minimum;
+    int maximum;
+};
+
+constexpr UiFunction FUNCTIONS[] = {
+    {u"ui_session", &session, 2, 2},
+    {u"ui_click", &press<&click>, 1, 1},
+    {u"ui_dblclick", &press<&doubleClick>, 1, 3},
+    {u"ui_rclick", &press<&rightClick>, 1, 3},
+    {u"ui_pick", &press<&click>, 2, 3},
+    {u"ui_header", &header, 2, 2},
+    {u"ui_type", &type, 2, 2},
+    {u"ui_key", &key, 1, 2},
+    {u"ui_close", &close, 0, 0},
+    {u"ui_size", &size, 2, 2},
+    {u"ui_wait", &wait, 1, 1},
+    {u"ui_text", &textOfTile, 1, 1},
+    {u"ui_items", &items, 1, 1},
+    {u"ui_look", &look, 1, 1},
+    {u"ui_title", &title, 0, 0},
+    {u"ui_dialogs", &dialogs, 0, 0},
+    {u"ui_alerts", &alerts, 0, 0},
+    {u"ui_shot", &shot, 1, 1},
+};
+
+}  // namespace
+
+void defineUiFunctions(lisp::Interpreter& lisp, const std::wstring& shotsFolder) {
+    g_shotsFolder = shotsFolder;
+    for (const UiFunction& function : FUNCTIONS) {
+        lisp.defineNative(function.name, function.function, nullptr, function.minimum, function.maximum);
+    }
+}

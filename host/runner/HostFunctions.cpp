@@ -1,0 +1,56 @@
+#include "host/runner/HostFunctions.h"
+
+#include "host/drive/Resources.h"
+#include "host/runner/HostFiles.h"
+#include "host/services/Host.h"
+#include "host/services/Texts.h"
+
+namespace {
+
+using lisp::Call;
+using lisp::Value;
+
+// The plug-in has its event files loaded by this command.
+constexpr std::u16string_view START_UP = u"(defun c:wex_loadlisp (path) (load path))";
+
+// Each of the two gives the number of documents that are open then.
+Value openDocument(Call&) {
+    host().documents().open();
+    return Value::integer(static_cast<int32_t>(host().documents().count()));
+}
+
+Value closeDocument(Call&) {
+    if (!host().documents().close()) throw lisp::Error(u"no document is open");
+    return Value::integer(static_cast<int32_t>(host().documents().count()));
+}
+
+Value loadPlugin(Call& call) {
+    host().documents().loadPlugin(systemPath(wideText(call.text(0))).wstring());
+    return Value::truth();
+}
+
+Value unloadPlugin(Call&) {
+    host().documents().unloadPlugin();
+    return Value::truth();
+}
+
+// (windows gdi-objects kernel-handles)
+Value resources(Call& call) {
+    const HeldResources held = heldResources();
+    return call.lisp.list(
+        {Value::integer(held.windows), Value::integer(held.gdiObjects), Value::integer(held.kernelHandles)});
+}
+
+Value exitProgram(Call& call) { host().exit(call.integerOr(0, host().status())); }
+
+}  // namespace
+
+void defineHostFunctions(lisp::Interpreter& lisp) {
+    lisp.defineNative(u"host_open_document", &openDocument, nullptr, 0, 0);
+    lisp.defineNative(u"host_close_document", &closeDocument, nullptr, 0, 0);
+    lisp.defineNative(u"host_load_plugin", &loadPlugin, nullptr, 1, 1);
+    lisp.defineNative(u"host_unload_plugin", &unloadPlugin, nullptr, 0, 0);
+    lisp.defineNative(u"host_resources", &resources, nullptr, 0, 0);
+    lisp.defineNative(u"exit", &exitProgram, nullptr, 0, 1);
+    lisp.evalText(START_UP, u"start-up");
+}

@@ -1,0 +1,108 @@
+#include "host/runner/Options.h"
+
+#include <cwchar>
+
+namespace {
+
+class Parser {
+  public:
+    explicit Parser(std::span<const std::wstring> arguments) : m_rest(arguments) {}
+
+    Options parse() {
+        while (!m_rest.empty() && m_options.error.empty()) take(next());
+        return m_options;
+    }
+
+  private:
+    const std::wstring& next() {
+        const std::wstring& first = m_rest.front();
+        m_rest = m_rest.subspan(1);
+        return first;
+    }
+
+    void fail(const std::wstring& why) { m_options.error = why; }
+
+    // The operand of `option`, or an empty text and an error.
+    std::wstring operand(const std::wstring& option) {
+        if (!m_rest.empty()) return next();
+        fail(option + L" needs an operand");
+        return {};
+    }
+
+    void takeTimeout(const std::wstring& option) {
+        const std::wstring text = operand(option);
+        if (!m_options.error.empty()) return;
+        wchar_t* end = nullptr;
+        m_options.timeoutSeconds = std::wcstod(text.c_str(), &end);
+        const bool isNumber = !text.empty() && *end == L'\0';
+        if (!isNumber || !(m_options.timeoutSeconds > 0))
+            fail(option + L": " + text + L" is no number of seconds");
+    }
+
+    void takeOperand(const std::wstring& argument) {
+        if (m_options.checkDialogs) {
+            m_options.modules.push_back(argument);
+        } else {
+            m_options.steps.push_back({false, argument});
+        }
+    }
+
+    void take(const std::wstring& argument) {
+        if (m_onlyFiles || argument.empty() || argument[0] != L'-') return takeOperand(argument);
+        if (argument == L"--headless") {
+            m_options.headless = true;
+        } else if (argument == L"--play") {
+            m_options.play = true;
+        } else if (argument == L"-i") {
+            m_options.interactive = true;
+        } else if (argument == L"--help" || argument == L"-h") {
+            m_options.help = true;
+        } else if (argument == L"--check-dialogs") {
+            m_options.checkDialogs = true;
+        } else if (argument == L"--timeout") {
+            takeTimeout(argument);
+        } else if (argument == L"--support") {
+            m_options.supportFolders.push_back(operand(argument));
+        } else if (argument == L"--shots") {
+            m_options.shotsFolder = operand(argument);
+        } else if (argument == L"--plugin") {
+            m_options.plugin = operand(argument);
+        } else if (argument == L"-e") {
+            m_options.steps.push_back({true, operand(argument)});
+        } else if (argument == L"--") {
+            m_onlyFiles = true;
+        } else {
+            fail(argument + L" is no option");
+        }
+    }
+
+    std::span<const std::wstring> m_rest;
+    Options m_options;
+    bool m_onlyFiles = false;
+};
+
+}  // namespace
+
+Options parseOptions(std::span<const std::wstring> arguments) { return Parser(arguments).parse(); }
+
+std::wstring_view usage() {
+    return LR"(Usage: wexhost [OPTION]... [FILE.lsp]...
+Runs Lisp programs with the dialog functions. Without a file or an expression it opens its main frame.
+
+  -e EXPR            evaluate a Lisp expression; files and expressions run in the order given
+  -i                 prompt on the terminal, after the files
+  --headless         nobody is there: play the programs' sessions, answer all alerts
+  --play             play the programs' sessions where the person can watch
+  --timeout SECONDS  give up after that time
+  --support DIR      look for Lisp files in DIR too; may be given several times
+  --shots DIR        where ui_shot writes its pictures (the working folder)
+  --plugin PATH      the plug-in to load (WexDialogs.pgx beside wexhost.exe)
+  --check-dialogs [MODULE]...
+                     check key lists and dialog templates against each other
+  --help             print this text
+  --                 what follows are files
+
+Exit status: 0 done; 1 a Lisp error; 2 bad usage; 3 a session ended with its dialog still open;
+4 time ran out.
+)";
+}

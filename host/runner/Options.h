@@ -1,0 +1,37 @@
+// The command line of wexhost. Portable.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct Options {
+    // A file to load or an expression to evaluate; they run in the order in which they were given.
+    struct Step {
+        bool isExpression;
+        std::wstring text;
+    };
+
+    bool headless = false;
+    bool play = false;
+    bool interactive = false;
+    bool help = false;
+    bool checkDialogs = false;
+    double timeoutSeconds = 0;  // 0: no limit
+    std::wstring shotsFolder;
+    std::wstring plugin;
+    std::vector<std::wstring> supportFolders;
+    std::vector<Step> steps;
+    std::vector<std::wstring> modules;  // the operands of --check-dialogs
+    std::wstring error;                 // what is wrong with the command line; empty if nothing
+
+    // Whether sessions are played: they are meant for runs without a person.
+    bool playsSessions() const { return headless || play; }
+};
+
+// `arguments` without the program's own name.
+Options parseOptions(std::span<const std::wstring> arguments);
+
+// What --help prints.
+std::wstring_view usage();

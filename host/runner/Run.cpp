@@ -1,0 +1,158 @@
+#include "host/runner/Run.h"
+
+#include <windows.h>
+
+#include <exception>
+#include <filesystem>
+#include <vector>
+
+#include "host/drive/Player.h"
+#include "host/drive/UiFunctions.h"
+#include "host/runner/HostFiles.h"
+#include "host/runner/HostFunctions.h"
+#include "host/runner/MainFrame.h"
+#include "host/runner/Options.h"
+#include "host/runner/Prompt.h"
+#include "host/runner/Terminal.h"
+#include "host/runner/Watchdog.h"
+#include "host/services/Host.h"
+#include "host/services/Texts.h"
+
+namespace {
+
+constexpr int LISP_ERROR = 1;
+constexpr int BAD_USAGE = 2;
+
+constexpr wchar_t PLUGIN_NAME[] = L"WexDialogs.pgx";
+
+std::filesystem::path programFolder() {
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+    return std::filesystem::path(path).parent_path();
+}
+
+void reportError(const std::wstring& text) {
+    host().console().error(text);
+    host().fail(LISP_ERROR);
+}
+
+// Where Lisp looks for files: the support folders, then the folders of the programs.
+std::unique_ptr<HostFiles> filesFor(const Options& options) {
+    std::vector<std::filesystem::path> folders;
+    for (const std::wstring& folder : options.supportFolders) folders.push_back(systemPath(folder));
+    for (const Options::Step& step : options.steps) {
+        if (!step.isExpression) folders.push_back(systemPath(step.text).parent_path());
+    }
+    return std::make_unique<HostFiles>(std::move(folders));
+}
+
+void loadPlugin(const std::wstring& named) {
+    const std::filesystem::path path = named.empty() ? programFolder() / PLUGIN_NAME : systemPath(named);
+    try {
+        host().documents().loadPlugin(path.wstring());
+    } catch (const lisp::Error& error) {
+        reportError(wideText(error.text()));
+    }
+}
+
+void startHost(const Options& options) {
+    host().setHeadless(options.headless);
+    player().setPlays(options.playsSessions());
+    lisp::Interpreter& lisp = host().lisp();
+    lisp.setOutput([](std::u16string_view text) { host().console().print(wideText(text)); });
+    lisp.setFileAccess(filesFor(options));
+    defineHostFunctions(lisp);
+    defineUiFunctions(lisp, systemPath(options.shotsFolder).wstring());
+    host().documents().open();
+    loadPlugin(options.plugin);
+}
+
+// Whether the step came to its end.
+bool runStep(const Options::Step& step) {
+    try {
+        if (step.isExpression) {
+            host().lisp().evalText(lispText(step.text), u"-e");
+        } else {
+            host().lisp().loadFile(std::u16string_view(lispText(step.text)));
+        }
+        return true;
+    } catch (const lisp::Error& error) {
+        reportError(wideText(error.text()));
+    } catch (const std::exception& error) {
+        reportError(wideFromUtf8(error.what()));
+    }
+    return false;
+}
+
+// Whether the main frame still stands.
+bool dispatchWaitingMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) return false;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return true;
+}
+
+void workMainFrame() {
+    host().mainFrame();
+    while (dispatchWaitingMessages()) WaitMessage();
+}
+
+void printPrompt(const Prompt& prompt) {
+    if (!Terminal::isPerson()) return;
+    host().console().print(prompt.isContinuing() ? L"more: " : L"Command: ");
+    host().console().flush();
+}
+
+void workTerminal() {
+    Prompt prompt(host().lisp(),
+                  [](const std::u16string& error) { host().console().error(wideText(error)); });
+    static Terminal& terminal = *new Terminal;
+    printPrompt(prompt);
+    while (!terminal.isOver()) {
+        const HANDLE event = terminal.event();
+        MsgWaitForMultipleObjects(1, &event, FALSE, INFINITE, QS_ALLINPUT);
+        if (!dispatchWaitingMessages()) return;
+        while (const std::optional<std::wstring> line = terminal.takeLine()) {
+            prompt.enter(lispText(*line));
+            printPrompt(prompt);
+        }
+    }
+}
+
+void work(const Options& options) {
+    startHost(options);
+    for (const Options::Step& step : options.steps) {
+        if (!runStep(step)) break;
+    }
+    if (options.interactive) {
+        workTerminal();
+    } else if (options.steps.empty()) {
+        workMainFrame();
+    }
+    player().reportLeftovers();
+}
+
+int refuse(const Options& options) {
+    host().console().error(L"wexhost: " + options.error + L"\nTry wexhost --help.");
+    return BAD_USAGE;
+}
+
+}  // namespace
+
+int hostRun(int count, wchar_t** arguments) {
+    SetConsoleOutputCP(CP_UTF8);
+    SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+    const Options options = parseOptions(std::vector<std::wstring>(arguments + 1, arguments + count));
+    if (!options.error.empty()) return refuse(options);
+    if (options.help) {
+        host().console().print(usage());
+        return 0;
+    }
+    std::optional<Watchdog> watchdog;
+    if (options.timeoutSeconds > 0) watchdog.emplace(options.timeoutSeconds);
+    work(options);
+    host().exit(host().status());
+}

@@ -1,0 +1,22 @@
+#include "host/services/Alerts.h"
+
+#include <windows.h>
+
+#include <utility>
+
+#include "src/platform/host/HostServices.h"
+
+void Alerts::show(std::wstring_view text) {
+    record(text);
+    if (!m_attended) return;
+    const HWND active = GetActiveWindow();
+    MessageBoxW(active ? active : hostGetMainFrame(), std::wstring(text).c_str(), L"WexHost",
+                MB_OK | MB_ICONEXCLAMATION);
+}
+
+void Alerts::record(std::wstring_view text) {
+    m_texts.emplace_back(text);
+    m_console.print(L"[alert] " + m_texts.back() + L"\n");
+}
+
+std::vector<std::wstring> Alerts::take() { return std::exchange(m_texts, {}); }

@@ -1,0 +1,60 @@
+#include "host/services/CallFrame.h"
+
+#include <exception>
+
+#include "host/documents/Plugin.h"
+#include "host/services/Crossing.h"
+#include "host/services/Texts.h"
+
+namespace {
+
+lisp::Error failure(const std::u16string& why) {
+    return lisp::Error(u"the plug-in's function failed: " + why);
+}
+
+int32_t run(const LispFunction& function) {
+    if (function.handler) return function.handler();
+    if (!function.plugin) throw lisp::Error(u"no handler is bound to this function");
+    function.plugin->send(PLUGIN_INVOKE_FUNCTION);
+    return 0;
+}
+
+}  // namespace
+
+CallFrame::CallFrame(lisp::Interpreter& lisp, const LispFunction& function,
+                     std::span<const lisp::Value> arguments)
+    : m_lisp(lisp), m_function(function), m_arguments(arguments), m_outer(s_current), m_result(lisp) {
+    s_current = this;
+}
+
+bool CallFrame::isRunning(const Plugin* plugin) {
+    for (const CallFrame* frame = s_current; frame; frame = frame->m_outer) {
+        if (frame->m_function.plugin == plugin) return true;
+    }
+    return false;
+}
+
+HostValue* CallFrame::arguments() {
+    if (!m_chain) m_chain.reset(chainOf(m_arguments));
+    return m_chain.get();
+}
+
+lisp::Value CallFrame::result(int32_t status) const {
+    if (m_hasResult) return m_result;
+    return status == RESULT_SET ? lisp::Value::none() : lisp::Value::nil();
+}
+
+lisp::Value callPluginFunction(lisp::Call& call) {
+    const auto& function = *static_cast<const LispFunction*>(call.userData);
+    CallFrame frame(call.lisp, function, call.arguments);
+    // Anything may come out of a module that was built elsewhere; Lisp knows its own errors only.
+    try {
+        return frame.result(run(function));
+    } catch (const lisp::Error&) {
+        throw;
+    } catch (const std::exception& error) {
+        throw failure(lispText(wideFromUtf8(error.what())));
+    } catch (...) {
+        throw failure(u"an exception of an unknown kind");
+    }
+}

@@ -1,0 +1,60 @@
+// One call of a plug-in's Lisp function: which function, its arguments, its result. Frames nest as calls do.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "host/lisp/Interpreter.h"
+#include "host/services/ValueChain.h"
+#include "src/platform/host/HostLisp.h"
+
+class Plugin;
+
+// A Lisp name that a plug-in defined.
+struct LispFunction {
+    std::wstring name;
+    int code;
+    Plugin* plugin;            // null where the host itself was asked to define it
+    HostLispFunction handler;  // null: the plug-in is sent message 5
+};
+
+class CallFrame {
+  public:
+    // `arguments` must outlive the frame.
+    CallFrame(lisp::Interpreter& lisp, const LispFunction& function, std::span<const lisp::Value> arguments);
+    ~CallFrame() { s_current = m_outer; }
+    CallFrame(const CallFrame&) = delete;
+    CallFrame& operator=(const CallFrame&) = delete;
+
+    // The innermost call; null outside of any.
+    static CallFrame* current() { return s_current; }
+    // Whether a function of `plugin` is being called.
+    static bool isRunning(const Plugin* plugin);
+
+    int code() const { return m_function.code; }
+    const LispFunction& function() const { return m_function; }
+    // Made at the first question, since many functions ask for none.
+    HostValue* arguments();
+    lisp::Interpreter& lisp() const { return m_lisp; }
+    void setResult(lisp::Value result) {
+        m_result = result;
+        m_hasResult = true;
+    }
+    // What the call gives: the last result that was set; without one no value where `status` says that there
+    // is one, otherwise nil.
+    lisp::Value result(int32_t status) const;
+
+  private:
+    static inline CallFrame* s_current = nullptr;
+
+    lisp::Interpreter& m_lisp;
+    const LispFunction& m_function;
+    std::span<const lisp::Value> m_arguments;
+    CallFrame* m_outer;
+    OwnedChain m_chain;
+    lisp::Root m_result;
+    bool m_hasResult = false;
+};
+
+// The native function behind every name that a plug-in defines; its user data is the LispFunction.
+lisp::Value callPluginFunction(lisp::Call& call);

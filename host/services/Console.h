@@ -1,0 +1,31 @@
+// Where the host's Lisp prints and where errors go: standard output and standard error in UTF-8, and the main
+// frame's output while there is one. Any thread may use it.
+#pragma once
+
+#include <functional>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <thread>
+
+class Console {
+  public:
+    using Listener = std::function<void(std::wstring_view)>;
+
+    // Standard output. What ends in a line end, or has grown long, is handed on at once.
+    void print(std::wstring_view text);
+    // One line on standard error, behind all that was printed before.
+    void error(std::wstring_view line);
+    void flush();
+    // Is shown all that the calling thread prints from now on, errors too. Null for none.
+    void setListener(Listener listener);
+
+  private:
+    void flushLocked();
+    void tell(std::wstring_view text);
+
+    std::mutex m_mutex;
+    std::string m_pending;
+    Listener m_listener;
+    std::thread::id m_listenerThread;
+};

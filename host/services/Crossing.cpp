@@ -1,0 +1,116 @@
+#include "host/services/Crossing.h"
+
+#include <limits>
+#include <vector>
+
+#include "host/services/Texts.h"
+
+namespace {
+
+// Deeper nesting would cost stack in proportion.
+constexpr int DEEPEST_LIST = 1000;
+
+void appendValue(ChainBuilder& chain, lisp::Value value, int depth);
+
+bool isPoint(lisp::Value list) {
+    const lisp::Value rest = list.cdr();
+    return list.car().isReal() && rest.isCons() && rest.car().isReal() && rest.cdr().isNil();
+}
+
+void appendInteger(ChainBuilder& chain, int32_t number) {
+    using Short = std::numeric_limits<int16_t>;
+    if (number >= Short::min() && number <= Short::max()) {
+        chain.append(HV_SHORT).value.shortValue = static_cast<int16_t>(number);
+    } else {
+        chain.append(HV_LONG).value.longValue = number;
+    }
+}
+
+void appendList(ChainBuilder& chain, lisp::Value list, int depth) {
+    if (isPoint(list)) {
+        HostValue& node = chain.append(HV_POINT);
+        node.value.pointValue[0] = list.car().asReal();
+        node.value.pointValue[1] = list.cdr().car().asReal();
+        return;
+    }
+    if (depth >= DEEPEST_LIST) throw lisp::Error(u"a list is nested too deeply to be handed over");
+    chain.append(HV_LIST_BEGIN);
+    for (; list.isCons(); list = list.cdr()) appendValue(chain, list.car(), depth + 1);
+    if (!list.isNil()) appendValue(chain, list, depth + 1);
+    chain.append(HV_LIST_END);
+}
+
+void appendValue(ChainBuilder& chain, lisp::Value value, int depth) {
+    if (value.isInteger()) {
+        appendInteger(chain, value.asInteger());
+    } else if (value.isReal()) {
+        chain.append(HV_REAL).value.realValue = value.asReal();
+    } else if (value.isString()) {
+        chain.appendText(wideText(value.asString()));
+    } else if (value.isTruth()) {
+        chain.append(HV_TRUE);
+    } else if (value.isCons()) {
+        appendList(chain, value, depth);
+    } else if (value.isSymbol()) {
+        chain.appendText(wideText(value.symbolName()));
+    } else {
+        chain.append(HV_NIL);
+    }
+}
+
+lisp::Value valueOfNode(lisp::Interpreter& lisp, const HostValue& node) {
+    switch (node.type) {
+        case HV_SHORT:
+            return lisp::Value::integer(node.value.shortValue);
+        case HV_LONG:
+            return lisp::Value::integer(node.value.longValue);
+        case HV_REAL:
+        case HV_ANGLE:
+        case HV_ORIENT:
+            return lisp::Value::real(node.value.realValue);
+        case HV_POINT:
+            return lisp.list(
+                {lisp::Value::real(node.value.pointValue[0]), lisp::Value::real(node.value.pointValue[1])});
+        case HV_STRING:
+            return lisp.string(lispText(node.value.stringValue ? node.value.stringValue : L""));
+        case HV_TRUE:
+            return lisp::Value::truth();
+        default:
+            return lisp::Value::nil();
+    }
+}
+
+}  // namespace
+
+HostValue* chainOf(std::span<const lisp::Value> values) {
+    ChainBuilder chain;
+    for (const lisp::Value value : values) appendValue(chain, value, 0);
+    return chain.take();
+}
+
+lisp::Value listOfChain(lisp::Interpreter& lisp, const HostValue* chain) {
+    // One list in the making for each that is open, the outermost first.
+    std::vector<std::vector<lisp::Value>> open(1);
+    const auto close = [&] {
+        const lisp::Value list = lisp.list(open.back());
+        open.pop_back();
+        open.back().push_back(list);
+    };
+    for (; chain; chain = chain->next) {
+        if (chain->type == HV_LIST_BEGIN) {
+            open.emplace_back();
+        } else if (chain->type == HV_LIST_END) {
+            if (open.size() > 1) close();
+        } else {
+            open.back().push_back(valueOfNode(lisp, *chain));
+        }
+    }
+    // A list that nothing closed ends where the chain ends.
+    while (open.size() > 1) close();
+    return lisp.list(open.front());
+}
+
+lisp::Value valueOfChain(lisp::Interpreter& lisp, const HostValue* chain) {
+    const lisp::Value list = listOfChain(lisp, chain);
+    return list.isCons() && list.cdr().isNil() ? list.car() : list;
+}
