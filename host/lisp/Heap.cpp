@@ -41,9 +41,12 @@ Heap::~Heap() {
 }
 
 void Heap::charge(size_t bytes) {
-    if (bytes > limit_ || used_ > limit_ - bytes) throw Error(u"out of memory");
+    bool full = bytes > limit_ || used_ > limit_ - bytes;
+    // What the failed program leaves behind is garbage.
+    if (full) threshold_ = 0;
+    if (full || used_ + bytes >= threshold_) countdown_ = 0;
+    if (full) throw Error(u"out of memory");
     used_ += bytes;
-    if (wantsCollection()) countdown_ = 0;
 }
 
 Cons* Heap::cons(Value car, Value cdr, Place place) {
@@ -134,7 +137,9 @@ void Heap::collect(const std::function<void()>& markRoots) {
     used_ = 0;
     sweepConses();
     sweepObjects();
-    threshold_ = std::min(std::max(size_t(8) << 20, used_ * 2), std::max(limit_ / 2, used_ + limit_ / 8));
+    // Near the limit more often, but not at every step.
+    size_t room = limit_ - std::min(limit_, used_);
+    threshold_ = std::min(std::max(size_t(8) << 20, used_ * 2), used_ + std::max(room / 2, limit_ / 64));
 }
 
 void Heap::sweepConses() {

@@ -107,6 +107,7 @@ Value Machine::evalText(std::u16string_view text, std::u16string_view name) {
     Reader reader(*this, text, fileNumber(name));
     Value result;
     while (true) {
+        if (heap.wantsCollection()) collect();
         Value form;
         if (!reader.next(form)) return result;
         result = eval(form);

@@ -60,7 +60,7 @@ void Printer::append(Value value) {
 }  // namespace
 
 std::u16string printed(const Machine& machine, Value value, bool forReading) {
-    constexpr size_t kLongest = size_t(1) << 26;
+    constexpr size_t kLongest = size_t(1) << 24;
     Printer printer{machine, forReading, kLongest, {}};
     printer.append(value);
     if (printer.out.size() > kLongest) throw Error(u"too long to print");

@@ -29,6 +29,7 @@ Reader::Reader(Machine& machine, std::u16string_view text, uint32_t file)
 bool Reader::next(Value& result) {
     skipBlanks();
     if (atEnd()) return false;
+    if (file_) machine_.setCurrent({file_, line_}, nullptr);
     result = form();
     return true;
 }
@@ -191,7 +192,7 @@ Value Reader::atom() {
 }
 
 void Reader::fail(std::u16string message, uint32_t line) const {
-    machine_.setCurrent({file_, line}, nullptr);
+    if (file_) machine_.setCurrent({file_, line}, nullptr);
     throw Error(std::move(message));
 }
 
