@@ -97,11 +97,17 @@ class TestDialog : public CDialog {
     }
 };
 
-// The templates are those of the test program itself.
+// The templates, texts and manifest are those of the test program itself.
+class OwnResources {
+  public:
+    OwnResources() { *AfxGetModuleState() = {GetModuleHandleW(nullptr), GetModuleHandleW(nullptr)}; }
+    ~OwnResources() { *AfxGetModuleState() = {}; }
+    OwnResources(const OwnResources&) = delete;
+    OwnResources& operator=(const OwnResources&) = delete;
+};
+
 class MfcTest : public testing::Test {
   protected:
-    MfcTest() { AfxGetModuleState()->m_hCurrentResourceHandle = GetModuleHandleW(nullptr); }
-    ~MfcTest() override { AfxGetModuleState()->m_hCurrentResourceHandle = nullptr; }
-
+    OwnResources resources;
     Owner owner;
 };
