@@ -1,6 +1,7 @@
 #include "src/tiles/WexFrame.h"
 
 #include "src/dialog/WexDialog.h"
+#include "src/platform/mfc/WindowClass.h"
 
 IMPLEMENT_DYNAMIC(WexFrame, CWnd)
 
@@ -12,17 +13,8 @@ constexpr DWORD GROUP_BOX_STYLE = WS_CHILD | WS_VISIBLE | BS_GROUPBOX;
 constexpr UINT GROUP_BOX_ID = 101;
 
 void registerFrameClass() {
-    static const ATOM registered = [] {
-        WNDCLASSEXW type = {sizeof type};
-        type.style = CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW;
-        type.lpfnWndProc = DefWindowProcW;
-        type.hInstance = AfxGetModuleState()->m_hCurrentInstanceHandle;
-        type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-        type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1);
-        type.lpszClassName = FRAME_CLASS;
-        return RegisterClassExW(&type);
-    }();
-    static_cast<void>(registered);
+    static const WindowClass registered(FRAME_CLASS, reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1),
+                                        CS_HREDRAW | CS_VREDRAW);
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 
 #include "src/platform/mfc/ModuleState.h"
 
-WindowClass::WindowClass(const wchar_t* name, HBRUSH background) {
+WindowClass::WindowClass(const wchar_t* name, HBRUSH background, UINT style) {
     WNDCLASSW request{};
     // Global: the windows are created with the instance of the module that holds the template.
-    request.style = CS_GLOBALCLASS | CS_DBLCLKS;
+    request.style = style | CS_GLOBALCLASS | CS_DBLCLKS;
     request.lpfnWndProc = &DefWindowProcW;
     request.hInstance = AfxGetModuleState()->m_hCurrentInstanceHandle;
     request.hCursor = LoadCursorW(nullptr, IDC_ARROW);
