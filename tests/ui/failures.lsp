@@ -2,13 +2,13 @@
 
 (test "Functions without arguments show one alert and give no value"
   '((ui_alerts)
-    (foreach function '(wex_new_dialog wex_action_tile wex_set_tile wex_get_tile wex_mode_tile wex_dimx_tile
+    (foreach name '(wex_new_dialog wex_action_tile wex_set_tile wex_get_tile wex_mode_tile wex_dimx_tile
                         wex_dimy_tile wex_alert wex_settitlebar wex_setaction_oninit wex_setaction_onsize)
-      (want nil (apply function nil))
+      (want nil (apply name nil))
       (want 1 (length (ui_alerts))))
-    (foreach function '(wex_start_dialog wex_done_dialog wex_enable_dialog wex_get_attr wex_load_dialog
+    (foreach name '(wex_start_dialog wex_done_dialog wex_enable_dialog wex_get_attr wex_load_dialog
                         wex_unload_dialog)
-      (want nil (apply function nil))
+      (want nil (apply name nil))
       (want nil (ui_alerts)))))
 
 (test "Without a current dialog nothing happens"
