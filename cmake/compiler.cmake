@@ -19,5 +19,5 @@ if(WIN32)
   add_compile_definitions(UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN)
   add_link_options(-static -static-libgcc -static-libstdc++)
   # The cast of GetProcAddress's answer is the platform's own way.
-  add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-Wno-cast-function-type>)
+  add_compile_options(-Wno-cast-function-type)
 endif()
