@@ -1,0 +1,183 @@
+#include "host/runner/DialogFindings.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+
+namespace {
+
+// The control ids that are looked at when a dialog starts, besides those of OK and Cancel.
+constexpr int FIRST_SEEN_ID = 109;
+constexpr int LAST_SEEN_ID = 399;
+// What an unknown key asks for; the second is how older templates write it.
+constexpr int UNKNOWN_KEY_ID = -1;
+constexpr int UNKNOWN_KEY_ID_16 = 0xFFFF;
+
+// Styles as the platform numbers them.
+constexpr uint32_t BUTTON_KIND = 0xF;
+constexpr uint32_t STATIC_KIND = 0x1F;
+constexpr uint32_t NO_PREFIX = 0x80;
+constexpr uint32_t CENTER_IMAGE = 0x200;
+constexpr uint32_t MULTI_LINE_BUTTON = 0x2000;
+constexpr uint32_t PICTURE_BUTTON = 0xC0;
+constexpr uint32_t EXTENDED_STATIC_EDGE = 0x20000;
+
+// What surrounds a button's text, in dialog units.
+constexpr int PUSH_BUTTON_BORDER = 4;
+constexpr int CHECK_MARK_WIDTH = 12;
+constexpr int GROUP_BOX_BORDER = 12;
+
+using Words = std::vector<std::wstring>;
+
+std::wstring nameOf(int id) { return L"control " + std::to_wstring(id); }
+std::wstring quoted(std::wstring_view text) { return L'"' + std::wstring(text) + L'"'; }
+
+int idOfKey(const CString& key, size_t position) {
+    if (key == L"ok" || key == L"accept") return OK_CONTROL_ID;
+    if (key == L"cancel") return CANCEL_CONTROL_ID;
+    return FIRST_KEY_CONTROL_ID + static_cast<int>(position);
+}
+
+bool isSeen(int id) {
+    return id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID || (id >= FIRST_SEEN_ID && id <= LAST_SEEN_ID);
+}
+
+void checkKeys(const KeyListText& list, const DialogTemplate& dialog, Words& found) {
+    std::map<CString, size_t> first;
+    for (size_t i = 0; i < list.keys.size(); ++i) {
+        const CString& key = list.keys[i];
+        if (key.empty()) continue;
+        const int id = idOfKey(key, i);
+        const auto [at, isNew] = first.emplace(key, i);
+        if (!isNew)
+            found.push_back(L"key " + quoted(key) +
+                            L" stands twice, and only the first is found: rename the one at position " +
+                            std::to_wstring(i));
+        else if (!isSeen(id))
+            found.push_back(L"key " + quoted(key) + L" belongs to " + nameOf(id) +
+                            L", which is out of reach: shorten the list to 290 keys");
+        else if (std::none_of(dialog.controls.begin(), dialog.controls.end(),
+                              [id](const auto& control) { return control.id == id; }))
+            found.push_back(L"key " + quoted(key) + L" has no control: give the id " + std::to_wstring(id) +
+                            L" to one, or leave the key's field empty");
+    }
+}
+
+std::optional<std::wstring> problemOfId(const KeyListText& list, int id) {
+    if (id == UNKNOWN_KEY_ID || id == UNKNOWN_KEY_ID_16)
+        return L" is what every unknown key would reach: give it an id of its own";
+    if (!isSeen(id)) return L" is out of reach: use the ids 1, 2 and 110 to 399";
+    if (id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID) return std::nullopt;
+    const size_t position = static_cast<size_t>(id) - FIRST_KEY_CONTROL_ID;
+    if (id < FIRST_KEY_CONTROL_ID || position >= list.keys.size())
+        return L" has no key: add one to the list, or use the id of a key that stands there";
+    const CString& key = list.keys[position];
+    if (const int meant = idOfKey(key, position); !key.empty() && meant != id)
+        return L" stands at the place of the key " + quoted(key) + L", which belongs to the id " +
+               std::to_wstring(meant) + L": use another id";
+    return std::nullopt;
+}
+
+void checkIds(const KeyListText& list, const DialogTemplate& dialog, Words& found) {
+    std::set<int> ids;
+    for (const DialogTemplateControl& control : dialog.controls) {
+        if (!ids.insert(control.id).second)
+            found.push_back(nameOf(control.id) + L" is there twice, and only the first is found: give " +
+                            quoted(control.text) + L" another id");
+        else if (const auto problem = problemOfId(list, control.id))
+            found.push_back(nameOf(control.id) + *problem);
+    }
+}
+
+// The character behind a single "&", lower case.
+std::optional<wchar_t> mnemonicOf(std::wstring_view text) {
+    for (size_t at = text.find(L'&'); at != std::wstring_view::npos && at + 1 < text.size();
+         at = text.find(L'&', at + 2))
+        if (text[at + 1] != L'&') return toLower(text.substr(at + 1, 1)).front();
+    return std::nullopt;
+}
+
+bool readsMnemonic(const DialogTemplateControl& control) {
+    return control.className == L"Button" || (control.className == L"Static" && !(control.style & NO_PREFIX));
+}
+
+void checkMnemonics(const DialogTemplate& dialog, Words& found) {
+    std::map<wchar_t, int> first;
+    for (const DialogTemplateControl& control : dialog.controls) {
+        if (!readsMnemonic(control)) continue;
+        const auto mnemonic = mnemonicOf(control.text);
+        if (!mnemonic) continue;
+        const auto [at, isNew] = first.emplace(*mnemonic, control.id);
+        if (!isNew)
+            found.push_back(nameOf(control.id) + L" has the mnemonic " + quoted({&*mnemonic, 1}) + L" of " +
+                            nameOf(at->second) + L": put the & before another letter");
+    }
+}
+
+std::optional<TextRoom> roomOfStatic(const DialogTemplateControl& control) {
+    TextRoom room{control.width, control.height, true, !(control.style & NO_PREFIX)};
+    switch (control.style & STATIC_KIND) {
+        case 0x0:  // SS_LEFT
+        case 0x1:  // SS_CENTER
+        case 0x2:  // SS_RIGHT
+            room.wraps = !(control.style & CENTER_IMAGE);
+            return room;
+        case 0xB:  // SS_SIMPLE
+        case 0xC:  // SS_LEFTNOWORDWRAP
+            room.wraps = false;
+            return room;
+        default:
+            return std::nullopt;
+    }
+}
+
+std::optional<TextRoom> roomOfButton(const DialogTemplateControl& control) {
+    if (control.style & PICTURE_BUTTON || control.exStyle & EXTENDED_STATIC_EDGE) return std::nullopt;
+    TextRoom room{control.width, control.height, (control.style & MULTI_LINE_BUTTON) != 0};
+    switch (control.style & BUTTON_KIND) {
+        case 0x0:  // BS_PUSHBUTTON
+        case 0x1:  // BS_DEFPUSHBUTTON
+            room.width -= PUSH_BUTTON_BORDER;
+            return room;
+        case 0x7:  // BS_GROUPBOX
+            room.width -= GROUP_BOX_BORDER;
+            return room;
+        case 0xB:  // BS_OWNERDRAW
+            return std::nullopt;
+        default:
+            room.width -= CHECK_MARK_WIDTH;
+            return room;
+    }
+}
+
+// Nothing for controls that show no text of the template, or scroll it.
+std::optional<TextRoom> roomFor(const DialogTemplateControl& control) {
+    if (control.className == L"Static") return roomOfStatic(control);
+    if (control.className == L"Button") return roomOfButton(control);
+    return std::nullopt;
+}
+
+void checkTexts(const DialogTemplate& dialog, const Words& iconCaptions, const FitsRoom& fits, Words& found) {
+    for (const DialogTemplateControl& control : dialog.controls) {
+        const auto room = roomFor(control);
+        const bool isIcon = std::any_of(iconCaptions.begin(), iconCaptions.end(), [&](const auto& caption) {
+            return equalIgnoringCase(caption, control.text);
+        });
+        if (room && !isIcon && !control.text.empty() && !fits(control.text, *room))
+            found.push_back(nameOf(control.id) + L" cuts off its text " + quoted(control.text) +
+                            L": make it larger, or the text shorter");
+    }
+}
+
+}  // namespace
+
+Words findMismatches(const KeyListText& keys, const DialogTemplate& dialog, const Words& iconCaptions,
+                     const FitsRoom& fits) {
+    Words found;
+    checkKeys(keys, dialog, found);
+    checkIds(keys, dialog, found);
+    checkMnemonics(dialog, found);
+    checkTexts(dialog, iconCaptions, fits, found);
+    return found;
+}

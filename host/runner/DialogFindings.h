@@ -1,0 +1,25 @@
+// What doesn't fit between a dialog's key list and its template. Portable.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/runner/DialogTemplate.h"
+#include "src/platform/base/KeyListText.h"
+
+// The room that a control has for its text, in dialog units.
+struct TextRoom {
+    int width = 0;
+    int height = 0;
+    bool wraps = false;
+    bool hasMnemonic = true;
+};
+
+// Whether a text fits that room in the template's font.
+using FitsRoom = std::function<bool(const std::wstring& text, const TextRoom& room)>;
+
+// The text of each finding: key or control id, what is wrong, and how to mend it. `iconCaptions` are captions
+// that become icons, so they need no room.
+std::vector<std::wstring> findMismatches(const KeyListText& keys, const DialogTemplate& dialog,
+                                         const std::vector<std::wstring>& iconCaptions, const FitsRoom& fits);

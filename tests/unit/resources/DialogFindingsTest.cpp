@@ -1,0 +1,103 @@
+#include "host/runner/DialogFindings.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Findings = std::vector<std::wstring>;
+
+DialogTemplateControl control(int id, const wchar_t* className = L"Edit", const wchar_t* text = L"",
+                              uint32_t style = 0) {
+    return {.id = id, .style = style, .width = 40, .height = 14, .className = className, .text = text};
+}
+
+bool alwaysFits(const std::wstring&, const TextRoom&) { return true; }
+
+Findings findings(const wchar_t* keys, std::vector<DialogTemplateControl> controls,
+                  const FitsRoom& fits = alwaysFits) {
+    DialogTemplate dialog;
+    dialog.controls = std::move(controls);
+    return findMismatches(*parseKeyList(keys), dialog, {L"Browse"}, fits);
+}
+
+// Each of `parts` is found in the finding at its place, and there are no more findings.
+void expectFindings(const Findings& found, const Findings& parts) {
+    ASSERT_EQ(found.size(), parts.size()) << testing::PrintToString(found);
+    for (size_t i = 0; i < parts.size(); ++i) EXPECT_NE(found[i].find(parts[i]), std::wstring::npos) << i;
+}
+
+TEST(DialogFindings, nothingWhereAllFits) {
+    expectFindings(findings(L"A,HELP,Cancel,OK,,X", {control(110), control(1), control(2), control(113 + 1)}),
+                   {});
+}
+
+TEST(DialogFindings, theStandardButtonsNeedNoKeys) {
+    expectFindings(findings(L"A,X", {control(1), control(2), control(110)}), {});
+}
+
+TEST(DialogFindings, keysThatReachNothing) {
+    expectFindings(findings(L"A,OK,X,Y", {control(112)}),
+                   {L"\"ok\" has no control: give the id 1", L"\"x\" has no control: give the id 111"});
+    expectFindings(findings(L"A,X,X", {control(110), control(111)}), {L"\"x\" stands twice"});
+}
+
+TEST(DialogFindings, aListLongerThanTheIdsThatAreSeen) {
+    std::wstring list = L"A";
+    std::vector<DialogTemplateControl> controls;
+    for (int id = 110; id <= 400; ++id) {
+        list += L",K" + std::to_wstring(id);
+        controls.push_back(control(id));
+    }
+    expectFindings(
+        findings(list.c_str(), controls),
+        {L"\"k400\" belongs to control 400, which is out of reach", L"control 400 is out of reach"});
+}
+
+TEST(DialogFindings, controlsThatNoKeyReaches) {
+    expectFindings(findings(L"A,OK,X", {control(1), control(111), control(112), control(109)}),
+                   {L"control 112 has no key", L"control 109 has no key"});
+    // The place of OK: the key means the id 1.
+    expectFindings(findings(L"A,OK,X", {control(1), control(110), control(111)}),
+                   {L"control 110 stands at the place of the key \"ok\""});
+}
+
+TEST(DialogFindings, idsThatAreNeverLookedAt) {
+    expectFindings(findings(L"A,X", {control(110), control(3), control(400), control(0)}),
+                   {L"control 3 is out of reach", L"control 400", L"control 0"});
+    expectFindings(findings(L"A,X", {control(110), control(-1), control(0xFFFF)}),
+                   {L"control -1 is what every unknown key", L"control 65535 is what every unknown key"});
+}
+
+TEST(DialogFindings, oneIdForTwoControls) {
+    expectFindings(findings(L"A,X", {control(110), control(110, L"Edit", L"second")}),
+                   {L"control 110 is there twice, and only the first is found: give \"second\""});
+}
+
+TEST(DialogFindings, oneMnemonicForTwoControls) {
+    constexpr uint32_t noPrefix = 0x80;
+    expectFindings(
+        findings(L"A,V,W,X,Y,Z", {control(110, L"Static", L"&Find"), control(111, L"Button", L"O&f"),
+                                  control(112, L"Static", L"R&&d &first", noPrefix),
+                                  control(113, L"Button", L"f&&f"), control(114, L"Edit", L"&f")}),
+        {L"control 111 has the mnemonic \"f\" of control 110"});
+}
+
+TEST(DialogFindings, textIsMeasuredWhereItIsShownWhole) {
+    std::vector<std::wstring> measured;
+    const auto tooLong = [&](const std::wstring& text, const TextRoom& room) {
+        measured.push_back(text + (room.wraps ? L" wraps " : L" ") + std::to_wstring(room.width));
+        return text != L"Long";
+    };
+    constexpr uint32_t checkBox = 3, icon = 3, oneLine = 0xC, ownDrawn = 0xB;
+    expectFindings(
+        findings(L"A,A1,A2,A3,A4,A5,A6,A7,A8",
+                 {control(110, L"Static", L"Long"), control(111, L"Static", L"Line", oneLine),
+                  control(112, L"Static", L"file", icon), control(113, L"Button", L"Check", checkBox),
+                  control(114, L"Button", L"BROWSE"), control(115, L"Button", L"own", ownDrawn),
+                  control(116, L"Edit", L"scrolls"), control(117, L"Button", L"Push")},
+                 tooLong),
+        {L"control 110 cuts off its text \"Long\""});
+    EXPECT_EQ(measured, (std::vector<std::wstring>{L"Long wraps 40", L"Line 40", L"Check 28", L"Push 36"}));
+}
+
+}  // namespace
