@@ -70,6 +70,7 @@ start_xvfb() {
 make_wine_prefix() {
     echo "Preparing Wine (once, about 10 seconds) …" >&2
     rm -rf "$WINEPREFIX"
+    local -x DISPLAY
     start_xvfb
     wine64 wineboot.exe -i </dev/null >/dev/null 2>&1
     wine_server -w
