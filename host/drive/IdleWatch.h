@@ -9,7 +9,7 @@ class DialogObserver {
     virtual void dialogIdle(HWND dialog) = 0;
     // A message box is about to be seen.
     virtual void messageBoxShown(HWND box) = 0;
-    // The window is on its way out; of any window of the thread.
+    // The window of a dialog that was told to be idle is on its way out.
     virtual void windowGone(HWND window) = 0;
 
   protected:
@@ -18,6 +18,9 @@ class DialogObserver {
 
 // Watches while it lives; one at a time. The observer's calls may run Lisp and open dialogs, and must not
 // throw.
+//
+// A modal loop that runs empty tells the dialog's owner, and the owners of nested dialogs pass that on until
+// it comes to the main frame. So no hook sees the messages, each of which would cost more than its handling.
 class IdleWatch {
   public:
     explicit IdleWatch(DialogObserver& observer);
@@ -25,11 +28,15 @@ class IdleWatch {
     IdleWatch(const IdleWatch&) = delete;
     IdleWatch& operator=(const IdleWatch&) = delete;
 
+    // The main frame was told that the modal loop of `dialog` has run empty. Ignored while nobody watches.
+    static void loopIsEmpty(HWND dialog);
+
   private:
-    static LRESULT CALLBACK messageHook(int code, WPARAM w, LPARAM l) noexcept;
+    static LRESULT CALLBACK dialogProc(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
+                                       DWORD_PTR) noexcept;
+
     static LRESULT CALLBACK activationHook(int code, WPARAM w, LPARAM l) noexcept;
 
     static inline DialogObserver* s_observer = nullptr;
-    HHOOK m_messages;
     HHOOK m_activations;
 };

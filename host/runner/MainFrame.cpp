@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "host/drive/IdleWatch.h"
 #include "host/runner/DrawingArea.h"
 #include "host/services/DisplayScale.h"
 #include "host/services/Host.h"
@@ -204,6 +205,9 @@ LRESULT CALLBACK MainFrame::windowProc(HWND window, UINT message, WPARAM w, LPAR
             if (reinterpret_cast<HWND>(l) != frame->m_output) break;
             SetBkColor(reinterpret_cast<HDC>(w), PAPER);
             return reinterpret_cast<LRESULT>(frame->m_paper);
+        case WM_ENTERIDLE:
+            if (w == MSGF_DIALOGBOX) IdleWatch::loopIsEmpty(reinterpret_cast<HWND>(l));
+            return 0;
         case WM_CLOSE:
             PostQuitMessage(0);
             return 0;

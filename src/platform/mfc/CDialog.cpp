@@ -200,5 +200,9 @@ bool CDialog::OnCommand(UINT id, UINT notification) {
 
 LRESULT CDialog::WindowProc(UINT message, WPARAM w, LPARAM l) {
     if (message == WM_INITDIALOG) return OnInitDialog();
+    // Who watches for idle loops of nested dialogs and message boxes stands at the end of the chain of
+    // owners.
+    if (message == WM_ENTERIDLE && w == MSGF_DIALOGBOX)
+        if (const HWND owner = ::GetWindow(m_hWnd, GW_OWNER)) return ::SendMessageW(owner, message, w, l);
     return CWnd::WindowProc(message, w, l);
 }
