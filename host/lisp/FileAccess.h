@@ -9,6 +9,11 @@
 
 namespace lisp {
 
+// Text and path as they are, unpaired surrogates too, which the library's own conversion would throw at.
+// Paths come back with `/` between their parts.
+std::filesystem::path toPath(std::u16string_view text);
+std::u16string fromPath(const std::filesystem::path& path);
+
 class FileAccess {
   public:
     virtual ~FileAccess() = default;

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 fs::path pathOf(Call& call, size_t index) { return call.lisp.files().resolve(call.text(index)); }
 
 // Names look the same on every platform.
-Value nameOf(Call& call, const fs::path& path) { return call.lisp.string(path.generic_u16string()); }
+Value nameOf(Call& call, const fs::path& path) { return call.lisp.string(fromPath(path)); }
 
 bool openForReading(Call& call, const fs::path& path, File& file) {
     std::error_code fault;
@@ -129,9 +129,11 @@ Value makeFolder(Call& call) {
 Value folderFiles(Call& call) {
     std::vector<std::u16string> names;
     std::error_code fault;
-    for (const auto& entry : fs::directory_iterator(pathOf(call, 0), fault)) {
-        std::u16string name = entry.path().filename().u16string();
-        if (entry.is_regular_file(fault) && (!call.has(1) || wildcardMatch(name, call.text(1))))
+    fs::directory_iterator entry(pathOf(call, 0), fault);
+    for (; !fault && entry != fs::directory_iterator(); entry.increment(fault)) {
+        std::u16string name = fromPath(entry->path().filename());
+        std::error_code unknown;
+        if (entry->is_regular_file(unknown) && (!call.has(1) || wildcardMatch(name, call.text(1))))
             names.push_back(name);
     }
     std::sort(names.begin(), names.end());
@@ -140,9 +142,9 @@ Value folderFiles(Call& call) {
     return result.list();
 }
 
-Value fileBase(Call& call) { return nameOf(call, fs::path(call.text(0)).stem()); }
-Value fileExtension(Call& call) { return nameOf(call, fs::path(call.text(0)).extension()); }
-Value fileFolder(Call& call) { return nameOf(call, fs::path(call.text(0)).parent_path()); }
+Value fileBase(Call& call) { return nameOf(call, toPath(call.text(0)).stem()); }
+Value fileExtension(Call& call) { return nameOf(call, toPath(call.text(0)).extension()); }
+Value fileFolder(Call& call) { return nameOf(call, toPath(call.text(0)).parent_path()); }
 
 constexpr Definition kFunctions[] = {
     {u"open", openFile, 2, 2},

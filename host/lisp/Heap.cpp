@@ -49,6 +49,10 @@ void Heap::charge(size_t bytes) {
     used_ += bytes;
 }
 
+void Heap::requireRoom(size_t bytes) const {
+    if (bytes > limit_ || used_ > limit_ - bytes) throw Error(u"out of memory");
+}
+
 Cons* Heap::cons(Value car, Value cdr, Place place) {
     charge(sizeof(Cons));
     if (!freeConses_) addBlock();

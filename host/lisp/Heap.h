@@ -31,6 +31,9 @@ class Heap {
     // Accounts for memory that an object holds beside itself.
     void charge(size_t bytes);
 
+    // Throws Error where so many bytes more would not fit; asked while a large text grows.
+    void requireRoom(size_t bytes) const;
+
     // So much was made since the last collection that another is worth its time.
     bool wantsCollection() const { return used_ >= threshold_; }
     // `markRoots` calls mark() for every value to keep.

@@ -132,8 +132,8 @@ Value Interpreter::loadFile(std::u16string_view name) {
 Value Interpreter::loadPath(const std::filesystem::path& path) {
     std::ifstream stream(path, std::ios::binary);
     std::string bytes(std::istreambuf_iterator<char>(stream), {});
-    if (!stream.is_open() || stream.bad()) throw Error(u"can't open " + readable(path.u16string()));
-    return evalText(decodeFile(bytes), path.filename().u16string());
+    if (!stream.is_open() || stream.bad()) throw Error(u"can't open " + readable(fromPath(path)));
+    return evalText(decodeFile(bytes), fromPath(path.filename()));
 }
 
 Value Interpreter::read(std::u16string_view text) {

@@ -30,7 +30,8 @@ class Root;
 
 struct Limits {
     // Bytes of C++ stack that nested Lisp calls may use, counted from the shallowest entry into the
-    // interpreter. Leave a reserve of some 64 KB for native functions. Deeper recursion is a Lisp error.
+    // interpreter; leave a reserve of some 64 KB for native functions. As many bytes again hold the arguments
+    // and bindings of running calls. Deeper recursion is a Lisp error.
     size_t stackBytes = 1024 * 1024;
     // Bytes of Lisp objects; more is a Lisp error.
     size_t heapBytes = size_t(2) << 30;

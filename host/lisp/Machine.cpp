@@ -49,10 +49,10 @@ Machine::Machine(Interpreter& owner, Limits limits)
       heap(limits.heapBytes, fuel_),
       limits_(limits),
       stepsLeft_(limits.steps ? limits.steps : UINT64_MAX),
-      stack_(static_cast<Value*>(std::malloc(kStackValues * sizeof(Value))), &std::free) {
+      stack_(static_cast<Value*>(std::malloc(limits.stackBytes)), &std::free) {
     if (!stack_) throw std::bad_alloc();
     top_ = stack_.get();
-    stackLimit_ = top_ + kStackValues;
+    stackLimit_ = top_ + limits.stackBytes / sizeof(Value);
 }
 
 Value Machine::call(Function* function, Value* base) {

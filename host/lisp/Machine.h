@@ -84,8 +84,6 @@ class Machine {
     void setCollectAlways(bool always);
 
   private:
-    static constexpr size_t kStackValues = size_t(1) << 20;
-
     Value callLisp(Function* function, Value* base);
     uint32_t fileNumber(std::u16string_view name);
     void refuel();

@@ -12,10 +12,25 @@ namespace {
 
 constexpr std::u16string_view kBlanks = u" \t\r\n";
 
+// A text that grows within the bounds of the heap.
+class Growing {
+  public:
+    explicit Growing(Call& call) : call_(call) {}
+    void add(std::u16string_view part) {
+        call_.lisp.machine().heap.requireRoom(sizeof(char16_t) * (text_.size() + part.size()));
+        text_ += part;
+    }
+    Value value() const { return call_.lisp.string(text_); }
+
+  private:
+    Call& call_;
+    std::u16string text_;
+};
+
 Value concatenate(Call& call) {
-    std::u16string result;
-    for (size_t i = 0; i < call.count(); ++i) result += call.text(i);
-    return call.lisp.string(result);
+    Growing result(call);
+    for (size_t i = 0; i < call.count(); ++i) result.add(call.text(i));
+    return result.value();
 }
 
 Value length(Call& call) {
@@ -117,11 +132,14 @@ Value search(Call& call) {
 Value replace(Call& call) {
     const std::u16string &text = call.text(0), &what = call.text(1), &by = call.text(2);
     if (what.empty()) return call[0];
-    std::u16string result;
-    size_t from = 0;
-    for (size_t at; (at = text.find(what, from)) != text.npos; from = at + what.size())
-        result.append(text, from, at - from).append(by);
-    return call.lisp.string(result.append(text, from));
+    Growing result(call);
+    std::u16string_view rest = text;
+    for (size_t at; (at = rest.find(what)) != rest.npos; rest.remove_prefix(at + what.size())) {
+        result.add(rest.substr(0, at));
+        result.add(by);
+    }
+    result.add(rest);
+    return result.value();
 }
 
 Value trimmed(Call& call, bool left, bool right) {
@@ -148,15 +166,15 @@ Value split(Call& call) {
 }
 
 Value join(Call& call) {
-    std::u16string result;
+    Growing result(call);
     bool first = true;
     for (Value part : Elements(call.list(0))) {
         if (!part.isString()) call.expected(0, "a list of strings");
-        if (!first) result += call.text(1);
-        result += part.asString();
+        if (!first) result.add(call.text(1));
+        result.add(part.asString());
         first = false;
     }
-    return call.lisp.string(result);
+    return result.value();
 }
 
 Value startsWith(Call& call) { return Value::truth(call.text(1).starts_with(call.text(0))); }

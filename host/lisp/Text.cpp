@@ -149,7 +149,8 @@ std::u16string decimal(int64_t number) {
 
 std::u16string decimal(double number) {
     if (std::isnan(number)) return u"nan";
-    if (std::isinf(number)) return number < 0 ? u"-inf" : u"inf";
+    // Beyond every finite one, so that it reads back.
+    if (std::isinf(number)) return number < 0 ? u"-1e999" : u"1e999";
     char digits[32];
     char* end = std::to_chars(digits, digits + sizeof digits, number).ptr;
     std::u16string text(digits, end);
