@@ -87,5 +87,20 @@
     (ui_session "CONFIRM_DELREC" '((ui_click "OK")))
     (want 1 (wex_start_dialog))))
 
+(test "Actions that can't be written keep the dialog from running, and a later start tries again"
+  '((setq kept c:wex_loadlisp)
+    (defun c:wex_loadlisp (path) (setq event-file path) (load path))
+    (ui_session "CONFIRM_DELREC" '((ui_click "Cancel")))
+    (wex_new_dialog "CONFIRM_DELREC")
+    (wex_start_dialog)
+    (setq c:wex_loadlisp kept)
+    (make-folder event-file)
+    (wex_new_dialog "CONFIRM_DELREC")
+    (wex_action_tile "OK" "(wex_done_dialog 8)")
+    (want nil (wex_start_dialog))
+    (rename-file event-file (strcat event-file "." (itoa (ticks))))
+    (ui_session "CONFIRM_DELREC" '((ui_click "OK")))
+    (want 8 (wex_start_dialog))))
+
 (test "Functions of families that come later say so"
   '((want nil (wex_tree_getcount "x"))))

@@ -1,0 +1,25 @@
+#!/bin/bash
+# Runs every Lisp example of docs/lisp-functions.md; it must print what its ";=>" lines tell, and nothing else.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+awk -v folder="$work" '
+    /^```lisp$/ { inside = 1; file = sprintf("%s/%02d.lsp", folder, ++count); printf "; at line %d\n", NR > file; next }
+    /^```$/     { inside = 0 }
+    inside      { print > file }' docs/lisp-functions.md
+
+passed=0 failed=0
+for example in "$work"/*.lsp; do
+    if difference=$(diff -u <(sed -n 's/^;=> //p' "$example") \
+            <(./wexhost --headless --timeout 60 "$example" 2>&1 | tr -d '\r' | sed -e '$a\')); then
+        passed=$((passed + 1))
+    else
+        failed=$((failed + 1))
+        echo "FAILED: the example of docs/lisp-functions.md $(head -n 1 "$example" | cut -c3-)"
+        echo "$difference"
+    fi
+done
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
