@@ -1,0 +1,69 @@
+#!/bin/bash
+# Usage: ./test.sh     installs what is missing, builds everything, runs all tests; the last line counts them
+# FUZZ_SECONDS says how long each fuzz target runs (20). Logs and pictures are left in build/test-logs.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+root=$PWD
+logs=$root/build/test-logs
+bin=$root/build/windows/bin
+
+tools/install-packages.sh
+. tools/wine-env.sh
+. tools/test-report.sh
+rm -rf "$logs"
+mkdir -p "$logs/shots"
+tools/build.sh native windows fuzz
+
+native_tests() {
+    local program
+    for program in $(cat build/native/tests/programs.txt); do
+        run "$(basename "$program")" "$program"
+    done
+    run "tree" tools/check-tree.sh
+    for program in $(cat build/fuzz/tests/programs.txt); do
+        fuzz "$(basename "$program")" "$program"
+    done
+}
+
+# What a target finds in one run is kept for the next; the input that made it fail goes to the logs.
+fuzz() {
+    local found=$root/build/fuzz/corpus/$1
+    mkdir -p "$found"
+    run "fuzz $1" "$2" -max_total_time="${FUZZ_SECONDS:-20}" -timeout=10 -rss_limit_mb=2048 -verbosity=0 \
+        -artifact_prefix="$logs/fuzz-$1-" "$found" "tests/fuzz/corpus/$1"
+}
+
+# Runs the host with nobody there.
+host() { wine64 "$bin/wexhost.exe" --headless --timeout 120 --shots "$logs/shots" "$@"; }
+
+# An example is right when it prints what stands under its name in tests/ui/examples.
+example() {
+    local printed="$logs/example-$1.printed"
+    host "examples/$1.lsp" >"$printed" || return
+    diff -u "tests/ui/examples/$1.txt" <(tr -d '\r' <"$printed")
+}
+
+windows_tests() {
+    local file name
+    start_wine headless
+    wine_limit=300
+    for file in $(cat build/windows/tests/programs.txt); do
+        run "$(basename "$file" .exe)" wine64 "$file"
+    done
+    run "check-dialogs" wine64 "$bin/wexhost.exe" --check-dialogs
+    for file in tests/ui/*.lsp; do
+        run "$(basename "$file" .lsp)" host tests/support/check.lsp "$file" -e '(report-tests)'
+    done
+    for file in examples/*.lsp; do
+        name=$(basename "$file" .lsp)
+        run "example $name" example "$name"
+    done
+    for file in tests/ui/*.sh; do
+        run "$(basename "$file" .sh)" "$file"
+    done
+}
+
+native_tests &
+windows_tests
+wait $!
+report_totals

@@ -1,0 +1,47 @@
+#!/bin/bash
+# Checks what reviewers shouldn't have to: format, include rules, junk. Prints each finding; fails if there is one.
+# That window-free code includes no <windows.h> is proved by the native build.
+set -uo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+findings=$(mktemp)
+trap 'rm -f "$findings"' EXIT
+
+# Files that git has or would take.
+files() {
+    git ls-files --cached --others --exclude-standard -- "$@" | while read -r file; do
+        [ ! -e "$file" ] || echo "$file"
+    done
+}
+
+# Each line that is read becomes a finding, with the words of $1.
+tell() { sed "s|\$|: $1|" >>"$findings"; }
+
+# may_not_include FOLDER FORBIDDEN ALLOWED WHY: regular expressions of included paths
+may_not_include() {
+    files "$1/*.h" "$1/*.cpp" | xargs -r grep -nE "^ *#include *[<\"]$2" | grep -vE "#include *[<\"]($3)" | tell "$4"
+}
+
+# resources/ has a header of the resource compiler's kind, in columns.
+files '*.h' '*.cpp' ':!resources' | xargs -P2 -n20 clang-format --dry-run -Werror 2>&1 |
+    sed -n 's/^\([^:]*\):[0-9]*:.* error: .*/\1/p' | sort -u | tell 'clang-format would change it'
+
+families='src/(tiles|listctrl|tabs|grid|tree|datasource|slides|report|preview)/'
+may_not_include host 'src/' 'src/platform/(host|base)/' "of the plug-in's source the host sees the interface only"
+may_not_include src 'host/' '-' 'the plug-in knows the host by its interface only'
+may_not_include src/platform 'src/' 'src/platform/' 'the platform is below the subsystems'
+may_not_include src/platform/base 'src/platform/(mfc|host)/' '-' 'the base types are lowest'
+may_not_include src/platform/mfc 'src/platform/host/' '-' 'the class library knows no host'
+may_not_include src/buttons 'src/' 'src/(platform|buttons)/' 'the drawing of buttons knows no dialog'
+may_not_include src/shell "$families" '-' 'the shell is below the control families'
+may_not_include src/dialog "$families" '-' 'control families meet the dialog by virtuals'
+
+files '*.h' ':!resources' | xargs grep -L '^#pragma once' | tell 'no #pragma once'
+files '*.h' '*.cpp' '*.lsp' '*.sh' '*.md' '*.rc' '*.cmake' '*CMakeLists.txt' '*.txt' ':!tests/ui/examples' |
+    xargs grep -nE "[[:blank:]]\$|"$'\t'"|^(<<<<<<<|>>>>>>>)|\b(TO""DO|FIX""ME)\b" | tell 'blanks at the end, a tab, or something unfinished'
+for script in $(files '*.sh' wexhost .ci/run); do
+    bash -n "$script" 2>>"$findings"
+done
+
+[ ! -s "$findings" ] && exit 0
+cat "$findings"
+exit 1
