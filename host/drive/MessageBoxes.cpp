@@ -11,6 +11,10 @@ bool hasClass(HWND window, const wchar_t* name) {
     return lstrcmpiW(found, name) == 0;
 }
 
+bool isShownButton(HWND window) {
+    return window && hasClass(window, L"Button") && (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE);
+}
+
 }  // namespace
 
 bool isSystemDialog(HWND window) { return hasClass(window, L"#32770"); }
@@ -32,10 +36,11 @@ std::wstring textOf(HWND window) {
 std::wstring boxText(HWND box) { return textOf(isMessageBox(box) ? GetDlgItem(box, TEXT_ID) : box); }
 
 void answerBox(HWND box) {
-    const HWND ok = GetDlgItem(box, IDOK);
-    // A box with buttons it doesn't show (a box of Yes and No has an OK all the same) is asked for its
-    // default.
-    const bool hasOk = ok && (GetWindowLongW(ok, GWL_STYLE) & WS_VISIBLE);
-    const WORD button = hasOk ? WORD(IDOK) : LOWORD(SendMessageW(box, DM_GETDEFID, 0, 0));
-    PostMessageW(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
+    HWND button = GetDlgItem(box, IDOK);
+    if (!isShownButton(button)) {
+        button = GetWindow(box, GW_CHILD);
+        while (button && !isShownButton(button)) button = GetWindow(button, GW_HWNDNEXT);
+    }
+    const int id = button ? GetDlgCtrlID(button) : IDOK;
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
 }

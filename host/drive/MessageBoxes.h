@@ -14,7 +14,8 @@ bool isMessageBox(HWND window);
 // What it says: a message box's text, another dialog's caption.
 std::wstring boxText(HWND box);
 
-// Has the box answered with OK, or with its default button where it has no OK, as soon as its loop runs.
+// Has the box answered with OK, or with its first button (such as Yes) where it has no OK, as soon as its
+// loop runs.
 void answerBox(HWND box);
 
 // The window's text.

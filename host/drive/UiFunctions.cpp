@@ -89,13 +89,14 @@ Value key(Call& call) {
     const std::optional<KeyStroke> stroke = parseKeyStroke(wideArgument(call, 0));
     if (!stroke) call.expected(0, "the name of a key");
     HWND window = GetFocus();
+    const HWND dialog = runningDialog();
     if (call.has(1)) {
         const Tile tile(call, 1);
         tile.mustBeWorkable();
         window = typingWindow(tile);
         if (GetFocus() != window) SetFocus(window);
     }
-    pressKey(window ? window : runningDialog(), *stroke);
+    pressKey(window && IsChild(dialog, window) ? window : dialog, *stroke);
     player().atNextIdle(&releaseHeldKeys);
     return Value::none();
 }

@@ -88,6 +88,7 @@ void MainFrame::createChildren() {
     };
     m_output = child(0, L"EDIT", L"", WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL);
     SendMessageW(m_output, EM_SETLIMITTEXT, 0, 0);
+    SendMessageW(m_output, EM_SETMARGINS, EC_LEFTMARGIN, scaled(MARGIN));
     m_label = child(0, L"STATIC", LABEL, SS_CENTERIMAGE);
     m_commandLine = child(WS_EX_CLIENTEDGE, L"EDIT", L"", ES_AUTOHSCROLL);
     SetWindowSubclass(m_commandLine, &commandLineProc, 0, reinterpret_cast<DWORD_PTR>(this));

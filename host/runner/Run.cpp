@@ -23,6 +23,7 @@ namespace {
 constexpr int LISP_ERROR = 1;
 constexpr int BAD_USAGE = 2;
 
+constexpr wchar_t GREETING[] = L"Type a Lisp expression, or the name of a command.\n";
 constexpr wchar_t PLUGIN_NAME[] = L"WexDialogs.pgx";
 
 std::filesystem::path programFolder() {
@@ -97,6 +98,7 @@ bool dispatchWaitingMessages() {
 
 void workMainFrame() {
     host().mainFrame();
+    host().console().print(GREETING);
     while (dispatchWaitingMessages()) WaitMessage();
 }
 

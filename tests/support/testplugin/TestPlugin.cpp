@@ -1,0 +1,191 @@
+// A plug-in for tests of the host: functions that do one thing with the interface each, some of them wrong.
+#include <windows.h>
+
+#include <stdexcept>
+#include <string>
+
+#include "src/platform/host/HostLisp.h"
+#include "src/platform/host/HostPlugin.h"
+#include "src/platform/host/HostServices.h"
+#include "tests/support/testplugin/TestDialog.h"
+
+namespace {
+
+HMODULE g_module;
+std::wstring g_messages;
+
+int32_t echo() {
+    hostRetList(hostGetArgs());
+    return RESULT_SET;
+}
+
+int32_t value() {
+    hostRetVal(hostGetArgs());
+    return RESULT_SET;
+}
+
+// The type codes of the arguments, less 5000.
+int32_t types() {
+    HostValue* codes = nullptr;
+    HostValue** tail = &codes;
+    for (const HostValue* node = hostGetArgs(); node; node = node->next) {
+        *tail = hostNewRb(HV_SHORT);
+        (*tail)->value.shortValue = static_cast<int16_t>(node->type - HV_NONE);
+        tail = &(*tail)->next;
+    }
+    hostRetList(codes);
+    hostRelRb(codes);
+    return RESULT_SET;
+}
+
+int32_t noValue() {
+    hostRetVoid();
+    return RESULT_SET;
+}
+
+int32_t noResult() { return RESULT_SET; }
+
+int32_t twoResults() {
+    hostRetInt(1);
+    hostRetStr(L"the last one");
+    return RESULT_SET;
+}
+
+int32_t throwError() { throw std::runtime_error("out of wire"); }
+
+int32_t throwNumber() { throw 5; }
+
+int32_t code() { return hostRetInt(hostGetFunCode()) == HOST_NORMAL ? RESULT_SET : 0; }
+
+// Calls the function that the arguments name; gives (status result-or-nil code-of-this-function).
+int32_t invoke() {
+    HostValue* result = nullptr;
+    const int status = hostInvoke(hostGetArgs(), &result);
+    HostValue* answer = hostBuildList(HV_LONG, status, HV_SHORT, hostGetFunCode(), 0);
+    answer->next->next = result;
+    hostRetList(answer);
+    hostRelRb(answer);
+    return RESULT_SET;
+}
+
+// Sets the symbol that the first argument names to the others.
+int32_t put() {
+    const HostValue* name = hostGetArgs();
+    const int status = hostPutSym(name->value.stringValue, name->next);
+    hostRetInt(status);
+    return RESULT_SET;
+}
+
+// Every kind of node that hostBuildList knows.
+int32_t build() {
+    const double point[] = {1.5, -2.5, 9.0};
+    HostValue* chain = hostBuildList(HV_SHORT, -7, HV_LONG, 70000, HV_REAL, 0.5, HV_ANGLE, 1.25, HV_STRING,
+                                     L"\u00E4\u03A9", HV_POINT, point, HV_LIST_BEGIN, HV_TRUE, HV_LIST_BEGIN,
+                                     HV_LIST_END, HV_LIST_END, HV_NIL, HV_NONE);
+    hostRetList(chain);
+    hostRelRb(chain);
+    return RESULT_SET;
+}
+
+int32_t dialog() {
+    hostRetInt(runTestDialog(g_module, hostGetMainFrame(), hostGetArgs() != nullptr));
+    return RESULT_SET;
+}
+
+int32_t events() {
+    hostRetStr(testDialogEvents().c_str());
+    return RESULT_SET;
+}
+
+// Asks without an owner, and gives the button.
+int32_t ask() {
+    hostRetInt(MessageBoxW(nullptr, hostGetArgs()->value.stringValue, L"Question", MB_YESNO));
+    return RESULT_SET;
+}
+
+int32_t say() {
+    hostRetInt(MessageBoxW(GetActiveWindow(), hostGetArgs()->value.stringValue, L"Message", MB_OK));
+    return RESULT_SET;
+}
+
+int32_t print() {
+    hostPrintf(L"%s has %d of %c\n", L"gr\u00FCn", 3, L'x');
+    hostRetVoid();
+    return RESULT_SET;
+}
+
+int32_t leakBrush() {
+    CreateSolidBrush(RGB(1, 2, 3));
+    hostRetVoid();
+    return RESULT_SET;
+}
+
+int32_t messages() {
+    hostRetStr(g_messages.c_str());
+    return RESULT_SET;
+}
+
+struct Row {
+    const wchar_t* name;
+    HostLispFunction handler;
+};
+
+constexpr Row ROWS[] = {
+    {L"t_echo", &echo},         {L"t_value", &value},
+    {L"t_types", &types},       {L"t_void", &noValue},
+    {L"t_noresult", &noResult}, {L"t_two", &twoResults},
+    {L"t_throw", &throwError},  {L"t_throw5", &throwNumber},
+    {L"t_code", &code},         {L"t_invoke", &invoke},
+    {L"t_put", &put},           {L"t_build", &build},
+    {L"t_dialog", &dialog},     {L"t_events", &events},
+    {L"t_ask", &ask},           {L"t_say", &say},
+    {L"t_print", &print},       {L"t_leak", &leakBrush},
+    {L"t_messages", &messages},
+};
+constexpr int COUNT = ARRAYSIZE(ROWS);
+
+// The host calls this one by message 5, since no handler is bound to it.
+constexpr wchar_t UNBOUND[] = L"t_unbound";
+constexpr int UNBOUND_CODE = COUNT;
+
+void init() {
+    HostService* linker = hostSysRegistry()->at(L"DynamicLinker");
+    if (!linker || !linker->isKindOf(HostDynamicLinker::className)) throw std::runtime_error("no linker");
+    static_cast<HostDynamicLinker*>(linker)->allowUnload(g_module);
+    static_cast<HostDynamicLinker*>(linker)->worksWithSeveralDocuments(g_module);
+}
+
+void define() {
+    for (int i = 0; i < COUNT; ++i) {
+        hostDefun(ROWS[i].name, i);
+        hostRegFunc(ROWS[i].handler, i);
+    }
+    hostDefun(UNBOUND, UNBOUND_CODE);
+}
+
+}  // namespace
+
+extern "C" {
+
+__declspec(dllexport) int32_t pluginEntryPoint(int32_t message, void*) {
+    g_messages += std::to_wstring(message);
+    if (message == PLUGIN_INIT) init();
+    if (message == PLUGIN_LOAD_DOCUMENT) define();
+    if (message == PLUGIN_UNLOAD_DOCUMENT) {
+        for (int i = 0; i < COUNT; ++i) hostUndef(ROWS[i].name, i);
+    }
+    if (message == PLUGIN_INVOKE_FUNCTION && hostGetFunCode() == UNBOUND_CODE) hostRetStr(L"by message");
+    return 0;
+}
+
+__declspec(dllexport) uint32_t pluginGetApiVersion() { return HOST_API_VERSION; }
+
+__declspec(dllexport) HWND pluginFindWindow(const wchar_t* dialog, const wchar_t* key, int32_t id) {
+    return findInTestDialog(dialog, key, id);
+}
+
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
+    if (reason == DLL_PROCESS_ATTACH) g_module = instance;
+    return TRUE;
+}
+}

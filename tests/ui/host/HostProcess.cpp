@@ -1,0 +1,116 @@
+#include "tests/ui/host/HostProcess.h"
+
+#include <windows.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// No test needs longer, and none may hang.
+constexpr wchar_t TIMEOUT_SECONDS[] = L"30";
+
+fs::path testFolder() {
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+    return fs::path(path).parent_path();
+}
+
+// As the C run-time of the started program takes it apart again.
+std::wstring quoted(const std::wstring& argument) {
+    std::wstring text = L"\"";
+    size_t backslashes = 0;
+    for (const wchar_t c : argument) {
+        if (c == L'"') text.append(backslashes + 1, L'\\');
+        backslashes = c == L'\\' ? backslashes + 1 : 0;
+        text += c;
+    }
+    return text.append(backslashes, L'\\') + L"\"";
+}
+
+// A file that the started program takes as one of its standard streams.
+class Stream {
+  public:
+    explicit Stream(const wchar_t* name)
+        : m_path(fs::temp_directory_path() / (std::to_wstring(GetCurrentProcessId()) + name)) {
+        SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+        m_handle = CreateFileW(m_path.c_str(), GENERIC_READ | GENERIC_WRITE,
+                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inherited,
+                               CREATE_ALWAYS, 0, nullptr);
+    }
+    ~Stream() {
+        CloseHandle(m_handle);
+        // Fails while a service that the first program started still has the file; it is written anew next
+        // time.
+        std::error_code ignored;
+        fs::remove(m_path, ignored);
+    }
+    Stream(const Stream&) = delete;
+    Stream& operator=(const Stream&) = delete;
+
+    HANDLE handle() const { return m_handle; }
+    void fill(const std::string& text) const {
+        DWORD written;
+        WriteFile(m_handle, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
+        SetFilePointer(m_handle, 0, nullptr, FILE_BEGIN);
+    }
+    std::string text() const {
+        std::ifstream file(m_path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+  private:
+    fs::path m_path;
+    HANDLE m_handle;
+};
+
+unsigned runProcess(std::wstring command, STARTUPINFOW& startup) {
+    PROCESS_INFORMATION process;
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+                        &process)) {
+        return ~0U;
+    }
+    WaitForSingleObject(process.hProcess, INFINITE);
+    DWORD status;
+    GetExitCodeProcess(process.hProcess, &status);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return status;
+}
+
+}  // namespace
+
+HostRun runHost(const std::vector<std::wstring>& arguments, const std::string& input) {
+    const fs::path folder = testFolder();
+    std::wstring command = quoted(folder.parent_path() / L"bin" / L"wexhost.exe");
+    command += L" --plugin " + quoted(folder / L"testplugin.pgx");
+    for (const std::wstring& argument : arguments) command += L" " + quoted(argument);
+
+    const Stream in(L"in.txt");
+    const Stream out(L"out.txt");
+    const Stream errors(L"err.txt");
+    in.fill(input);
+    STARTUPINFOW startup = {sizeof startup};
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdInput = in.handle();
+    startup.hStdOutput = out.handle();
+    startup.hStdError = errors.handle();
+    const unsigned status = runProcess(command, startup);
+    return {status, out.text(), errors.text()};
+}
+
+HostRun evaluate(const std::wstring& expression) {
+    return runHost({L"--headless", L"--timeout", TIMEOUT_SECONDS, L"-e", expression});
+}
+
+HostRun runProgram(const std::string& text, const std::vector<std::wstring>& options) {
+    const fs::path path = fs::temp_directory_path() / L"program.lsp";
+    std::ofstream(path, std::ios::binary) << text;
+    std::vector<std::wstring> arguments = {L"--headless", L"--timeout", TIMEOUT_SECONDS};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    arguments.push_back(path.wstring());
+    return runHost(arguments);
+}

@@ -1,0 +1,21 @@
+// Runs wexhost.exe in a process of its own and gathers what it prints.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+struct HostRun {
+    unsigned status;
+    std::string output;
+    std::string errors;
+};
+
+// With the test plug-in. `input` is what comes from standard input.
+HostRun runHost(const std::vector<std::wstring>& arguments, const std::string& input = {});
+
+// One expression behind -e, headless.
+HostRun evaluate(const std::wstring& expression);
+
+// A program in a file of that name, headless, with the options in front of it.
+HostRun runProgram(const std::string& text, const std::vector<std::wstring>& options = {});

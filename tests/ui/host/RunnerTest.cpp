@@ -1,0 +1,57 @@
+// The command line of wexhost: what it prints where, and its exit status.
+#include <gtest/gtest.h>
+
+#include "tests/ui/host/HostProcess.h"
+
+namespace {
+
+TEST(Runner, StepsRunInOrderAndStopAtTheFirstError) {
+    const HostRun run = runHost({L"--headless", L"-e", L"(setq x 1)", L"-e", L"(princ (1+ x))", L"-e",
+                                 L"(car 5)", L"-e", L"(princ \"never\")"});
+    EXPECT_EQ(run.output, "2");
+    EXPECT_EQ(run.errors, "-e:1: (car): argument 1: expected a list, got 5\n");
+    EXPECT_EQ(run.status, 1U);
+}
+
+TEST(Runner, WrongUsageAndAMissingFileAreTold) {
+    EXPECT_EQ(runHost({L"--no-such"}).status, 2U);
+    EXPECT_EQ(runHost({L"--headless", L"no-such.lsp"}).status, 1U);
+    EXPECT_EQ(evaluate(L"(exit 7)").status, 7U);
+}
+
+TEST(Runner, ThePromptGoesOnOverLinesAndErrors) {
+    const HostRun run =
+        runHost({L"--headless", L"-i"},
+                "(+ 1\r\n 2)\n(car 5)\n(princ)\n(defun c:greet () \"hello\")\ngreet\nt\n\"gr\xC3\xBCn\"");
+    EXPECT_EQ(run.output, "3\n\nC:GREET\n\"hello\"\nT\n\"gr\xC3\xBCn\"\n");
+    EXPECT_NE(run.errors.find("(car): argument 1"), std::string::npos) << run.errors;
+    EXPECT_EQ(run.status, 0U);
+}
+
+TEST(Runner, AlertsAndMessageBoxesAreAnsweredAndRecorded) {
+    const HostRun run = evaluate(
+        L"(progn (prin1 (list (t_say \"first\") (t_ask \"second\"))) (prin1 (ui_alerts)) "
+        L"(prin1 (ui_alerts)) (t_print))");
+    // A question that has no OK is answered with Yes.
+    EXPECT_EQ(run.output,
+              "[alert] first\n[alert] second\n(1 6)(\"first\" \"second\")nilgr\xC3\xBCn has 3 of x\n");
+}
+
+TEST(Runner, TimeRunsOutInALoopOfLisp) {
+    const HostRun run = runHost({L"--headless", L"--timeout", L"0.5", L"-e", L"(while T (setq x 1))"});
+    EXPECT_EQ(run.status, 4U);
+    EXPECT_EQ(run.errors.find("time ran out\n"), 0U) << run.errors;
+}
+
+TEST(Runner, TimeRunsOutInADialogThatWaits) {
+    const HostRun run =
+        runHost({L"--headless", L"--timeout", L"1", L"-e",
+                 L"(progn (ui_session \"everything\" '((ui_title) (ui_wait nil))) (t_dialog))"});
+    EXPECT_EQ(run.status, 4U);
+    EXPECT_EQ(run.errors.find("time ran out\n  dialog \"Everything\" is open\n"
+                              "  the last step was session \"everything\", step 2: (UI_WAIT nil)\n"),
+              0U)
+        << run.errors;
+}
+
+}  // namespace

@@ -1,0 +1,125 @@
+// Sessions work a plain dialog with a control of each kind as a person would.
+#include <gtest/gtest.h>
+
+#include "tests/ui/host/HostProcess.h"
+
+namespace {
+
+constexpr char HELPERS[] = R"(
+(defun look (tile what) (cdr (assoc what (ui_look tile))))
+(defun show (value) (prin1 value) (terpri))
+)";
+
+HostRun play(const std::string& forms) {
+    return runProgram(HELPERS + ("(ui_session \"EVERYTHING\" '(" + forms + ")) (setq answer (t_dialog))"));
+}
+
+// What a session shows that ends with OK and makes no error.
+std::string shown(const std::string& forms) {
+    const HostRun run = play(forms + "(ui_click \"ok\")");
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.status, 0U);
+    return run.output;
+}
+
+TEST(Session, EditBoxesAndCheckBoxesBehaveAsUnderAHand) {
+    EXPECT_EQ(shown(R"((ui_type "edit" "Hello") (show (ui_text "edit"))
+                       (ui_type 110 "grün") (show (ui_text 110))
+                       (ui_type "edit" "") (show (ui_text "edit"))
+                       (ui_click "check") (show (list (look "check" "checked") (look "check" "focus")))
+                       (ui_key "SPACE") (show (look "check" "checked"))
+                       (ui_key "Alt+C" "edit") (show (list (look "check" "checked") (look "check" "focus")))
+                       (ui_key "shift+tab") (show (look "edit" "focus"))
+                       (ui_type "edit" "abc") (ui_key "END") (ui_key "shift+left") (ui_key "x")
+                       (show (ui_text "edit"))
+                       (ui_key "F1") (show (not (null (wcmatch (t_events) "*help;")))))"),
+              "\"Hello\"\n\"grün\"\n\"\"\n(T T)\nnil\n(T T)\nT\n\"abx\"\nT\n");
+}
+
+// Each kind selects, scrolls what is out of sight into view, and notifies as the system does (-3 is a double
+// click, -5 a right click, -108 a column, -551 a tab; 1 the new selection of a list).
+TEST(Session, EntriesArePickedInEveryKindOfList) {
+    EXPECT_EQ(shown(R"((ui_pick "list" 20) (show (look "list" "selected"))
+                       (ui_pick "list" "entry 3") (show (look "list" "selected"))
+                       (ui_pick "combo" 25) (show (list (look "combo" "selected") (ui_text "combo")))
+                       (show (nth 15 (ui_items "rows")))
+                       (ui_pick "rows" 15) (show (look "rows" "selected"))
+                       (ui_header "rows" 1) (ui_dblclick "rows" 15) (ui_rclick "rows" 3)
+                       (show (ui_items "tree"))
+                       (ui_pick "tree" "tin") (setq tin (look "tree" "selected"))
+                       (ui_pick "tree" "gases") (show (equal tin (look "tree" "selected")))
+                       (ui_pick "tree" (car tin)) (show (equal tin (look "tree" "selected")))
+                       (show (ui_items "tab")) (ui_pick "tab" "Details") (show (look "tab" "selected")))"),
+              "(20)\n(3)\n((25) \"entry 25\")\n\"part 15\\t150\"\n(15)\n"
+              "(\"metals\" \"copper\" \"tin\" \"gases\")\nnil\nT\n(\"General\" \"Details\")\n(1)\n");
+    const std::string events =
+        shown(R"((ui_pick "list" 2) (ui_pick "combo" 1) (ui_header "rows" 1) (ui_dblclick "rows" 0)
+                                        (ui_rclick "rows" 1) (ui_pick "tab" 1) (princ (t_events)))");
+    for (const char* event : {"list 1;", "combo 1;", "rows -108;", "rows -3;", "rows -5;", "tab -551;"}) {
+        EXPECT_NE(events.find(event), std::string::npos) << event << " in " << events;
+    }
+}
+
+TEST(Session, WaitingFormsAreTriedAgain) {
+    EXPECT_EQ(
+        shown("(setq n 0) (ui_wait (> (setq n (1+ n)) 3)) (show n) (t_say \"meanwhile\") (show (ui_alerts)) "
+              "(show (ui_dialogs))"),
+        "4\n[alert] meanwhile\n(\"meanwhile\")\n(\"Everything\")\n");
+}
+
+// Every refusal names the step, the tile and the dialog, and the session goes on.
+TEST(Session, WhatAPersonCannotDoIsRefused) {
+    const HostRun run =
+        play(R"((ui_click "disabled") (ui_click "hidden") (ui_click "nobody") (ui_pick "edit" 1)
+                                (ui_pick "list" 99) (ui_key "QQ") (ui_header "edit" 1) (ui_click "ok"))");
+    EXPECT_EQ(run.status, 1U);
+    for (const char* why :
+         {"step 1: (UI_CLICK \"disabled\")\n", "tile \"disabled\" of dialog \"Everything\": it is disabled\n",
+          "tile \"hidden\" of dialog \"Everything\": it is not visible\n",
+          "tile \"nobody\" of dialog \"Everything\": there is no such tile\n",
+          "tile \"edit\" of dialog \"Everything\": it is no list\n",
+          "tile \"list\" of dialog \"Everything\": it has no item 99\n",
+          "expected the name of a key, got \"QQ\"\n",
+          "tile \"edit\" of dialog \"Everything\": it has no header of column 1\n"}) {
+        EXPECT_NE(run.errors.find(why), std::string::npos) << why << " in " << run.errors;
+    }
+}
+
+TEST(Session, ADialogLeftOpenIsClosedAndTold) {
+    const HostRun run = play("(ui_title)");
+    EXPECT_EQ(run.status, 3U);
+    EXPECT_EQ(run.errors, "dialog \"Everything\" is still open at the end of its session\n");
+
+    const HostRun stubborn =
+        runProgram("(ui_session \"everything\" '((ui_title))) (t_dialog T) (princ \"never\")");
+    EXPECT_EQ(stubborn.status, 3U);
+    EXPECT_EQ(stubborn.output, "");
+
+    const HostRun alone = runProgram("(t_dialog) (princ \"goes on\")");
+    EXPECT_EQ(alone.status, 3U);
+    EXPECT_EQ(alone.output, "goes on");
+    EXPECT_EQ(alone.errors, "no session for dialog \"Everything\", and nobody else to work it\n");
+}
+
+TEST(Session, FormsThatWereNeverReachedAreTold) {
+    const HostRun early = play("(ui_click \"ok\") (ui_title)");
+    EXPECT_EQ(early.status, 1U);
+    EXPECT_EQ(early.errors, "session \"EVERYTHING\": the dialog ended before step 2: (UI_TITLE)\n");
+
+    const HostRun never = runProgram("(ui_session \"NEVER\" '((ui_title)))");
+    EXPECT_EQ(never.status, 1U);
+    EXPECT_EQ(never.errors, "session \"NEVER\": its dialog was never opened\n");
+}
+
+// The whole window with its caption, in the folder of the command line; PNG files begin like this and tell
+// their size at byte 16.
+TEST(Session, APictureShowsTheWholeWindow) {
+    const HostRun run = runProgram(
+        "(ui_session \"everything\" '((ui_size 400 300) (setq path (ui_shot \"every.png\")) (ui_close)))"
+        "(t_dialog) (setq file (open path \"r\")) (princ path) (close file)",
+        {L"--shots", L"C:\\"});
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.output, "C:\\every.png");
+}
+
+}  // namespace

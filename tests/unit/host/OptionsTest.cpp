@@ -1,0 +1,44 @@
+#include "host/runner/Options.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+Options parse(std::vector<std::wstring> arguments) { return parseOptions(arguments); }
+
+TEST(Options, FilesAndExpressionsKeepTheirOrder) {
+    const Options options =
+        parse({L"a.lsp", L"-e", L"-1", L"--support", L"x", L"b.lsp", L"--support", L"y", L"--", L"-c.lsp"});
+    ASSERT_EQ(options.steps.size(), 4U);
+    EXPECT_EQ(options.steps[0].text, L"a.lsp");
+    EXPECT_TRUE(options.steps[1].isExpression);
+    EXPECT_EQ(options.steps[1].text, L"-1");
+    EXPECT_EQ(options.steps[3].text, L"-c.lsp");
+    EXPECT_FALSE(options.steps[3].isExpression);
+    EXPECT_EQ(options.supportFolders, (std::vector<std::wstring>{L"x", L"y"}));
+    EXPECT_EQ(options.error, L"");
+}
+
+TEST(Options, SessionsPlayOnlyWhereNobodyWorksTheProgram) {
+    EXPECT_FALSE(parse({L"-i", L"a.lsp"}).playsSessions());
+    EXPECT_TRUE(parse({L"--play"}).playsSessions());
+    EXPECT_TRUE(parse({L"--headless"}).playsSessions());
+}
+
+TEST(Options, OperandsOfTheDialogCheckAreModules) {
+    const Options options = parse({L"--check-dialogs", L"a.dll", L"b.dll"});
+    EXPECT_TRUE(options.checkDialogs);
+    EXPECT_EQ(options.modules, (std::vector<std::wstring>{L"a.dll", L"b.dll"}));
+    EXPECT_TRUE(options.steps.empty());
+}
+
+TEST(Options, WhatIsWrongIsNamed) {
+    EXPECT_EQ(parse({L"--nope"}).error, L"--nope is no option");
+    EXPECT_EQ(parse({L"--shots"}).error, L"--shots needs an operand");
+    EXPECT_EQ(parse({L"--timeout", L"2.5"}).timeoutSeconds, 2.5);
+    for (const wchar_t* text : {L"soon", L"", L"0", L"-1", L"5s", L"nan"}) {
+        EXPECT_NE(parse({L"--timeout", text}).error, L"") << text;
+    }
+}
+
+}  // namespace
