@@ -1,7 +1,8 @@
 #include "host/runner/DialogTemplate.h"
 
 #include <array>
-#include <iterator>
+
+#include "src/platform/base/Text.h"
 
 namespace {
 
@@ -33,13 +34,25 @@ class Reader {
     }
     std::wstring text() { return textFrom(word()); }
 
-    // A name, or an ordinal that is the name of a standard class; any other ordinal gives an empty text.
-    std::wstring textOrOrdinal(bool namesClass) {
+    // An ordinal gives an empty text.
+    std::wstring textOrOrdinal() {
         const uint16_t first = word();
         if (first != ORDINAL_FOLLOWS) return textFrom(first);
-        const size_t ordinal = word();
-        const size_t index = ordinal - FIRST_CLASS_ORDINAL;
-        return namesClass && index < CLASS_NAMES.size() ? CLASS_NAMES[index] : L"";
+        word();
+        return {};
+    }
+
+    std::wstring className() {
+        const uint16_t first = word();
+        if (first == ORDINAL_FOLLOWS) {
+            const size_t index = static_cast<size_t>(word()) - FIRST_CLASS_ORDINAL;
+            return index < CLASS_NAMES.size() ? CLASS_NAMES[index] : L"";
+        }
+        const std::wstring name = textFrom(first);
+        // Resource compilers write the standard classes in capitals, too.
+        for (const wchar_t* standard : CLASS_NAMES)
+            if (equalIgnoringCase(name, standard)) return standard;
+        return name;
     }
 
     void skip(size_t count) {
@@ -79,8 +92,8 @@ DialogTemplateControl readControl(Reader& reader, bool extended) {
     }
     readRectangle(reader, control);
     control.id = extended ? static_cast<int32_t>(reader.doubleWord()) : reader.word();
-    control.className = reader.textOrOrdinal(true);
-    control.text = reader.textOrOrdinal(false);
+    control.className = reader.className();
+    control.text = reader.textOrOrdinal();
     reader.skip(reader.word());  // data of the control's own
     return control;
 }
@@ -113,9 +126,9 @@ std::optional<DialogTemplate> parseDialogTemplate(std::span<const uint8_t> bytes
         reader.skip(4);  // the extended style
     }
     const unsigned count = reader.word();
-    reader.skip(8);               // the rectangle
-    reader.textOrOrdinal(false);  // the menu
-    reader.textOrOrdinal(false);  // the window class
+    reader.skip(8);          // the rectangle
+    reader.textOrOrdinal();  // the menu
+    reader.textOrOrdinal();  // the window class
     result.title = reader.text();
     readFont(reader, extended, result);
     for (unsigned i = 0; i < count && !reader.failed(); ++i)

@@ -8,6 +8,7 @@
 
 #include "host/drive/Player.h"
 #include "host/drive/UiFunctions.h"
+#include "host/runner/CheckDialogs.h"
 #include "host/runner/HostFiles.h"
 #include "host/runner/HostFunctions.h"
 #include "host/runner/MainFrame.h"
@@ -153,6 +154,7 @@ int hostRun(int count, wchar_t** arguments) {
         host().console().print(usage());
         return 0;
     }
+    if (options.checkDialogs) return checkDialogs(options.modules);
     std::optional<Watchdog> watchdog;
     if (options.timeoutSeconds > 0) watchdog.emplace(options.timeoutSeconds);
     work(options);

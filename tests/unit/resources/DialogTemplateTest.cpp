@@ -48,7 +48,7 @@ std::vector<uint8_t> olderDialog() {
     bytes.doubleWord(0x80C80040).doubleWord(0).word(1).rectangle(0, 0, 90, 40);
     bytes.word(0xFFFF).word(5).text("OwnClass").text("Old").word(9).text("Helv");
     bytes.align().doubleWord(CHILD_VISIBLE).doubleWord(4).rectangle(1, 2, 3, 4);
-    bytes.word(0xFFFF).word(0xFFFF).word(0x82).text("Label").word(0);
+    bytes.word(0xFFFF).text("STATIC").text("Label").word(0);
     return bytes.data;
 }
 
