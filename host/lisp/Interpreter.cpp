@@ -103,7 +103,6 @@ Value Interpreter::eval(Value form) {
 Value Interpreter::call(Value function, std::span<const Value> arguments) {
     return guarded([&] {
         Machine& machine = *machine_;
-        machine.push(function);
         Function* callee = machine.callable(function);
         Value* base = machine.top();
         for (Value argument : arguments) machine.push(argument.orNil());

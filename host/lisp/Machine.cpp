@@ -147,7 +147,6 @@ void Machine::refuel() {
     if (interrupted_) throw Interrupted(u"interrupted");
     stepsLeft_ -= std::min(stepsLeft_, uint64_t(chunk_));
     if (stepsLeft_ == 0) throw Interrupted(u"too many steps");
-    if (limits_.steps == 0) stepsLeft_ = UINT64_MAX;
     if (collectAlways_ || heap.wantsCollection()) collect();
     chunk_ = collectAlways_ ? 1 : int64_t(std::min(uint64_t(kChunk), stepsLeft_));
     fuel_ = chunk_ - 1;

@@ -38,13 +38,16 @@ void checkReading(lisp::Interpreter& lisp, std::u16string_view text) {
 // The first byte chooses whether objects are collected at every step.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size == 0) return 0;
-    lisp::Interpreter lisp({.stackBytes = 256 * 1024, .heapBytes = size_t(8) << 20, .steps = 3000});
+    const bool collectAlways = data[0] & 1;
+    // Fewer steps where each costs a collection.
+    const uint64_t steps = collectAlways ? 300 : 3000;
+    lisp::Interpreter lisp({.stackBytes = 256 * 1024, .heapBytes = size_t(8) << 20, .steps = steps});
     lisp.setFileAccess(std::make_unique<NoFiles>());
     lisp.setOutput([](std::u16string_view) {});
     std::u16string text = lisp::decodeFile({reinterpret_cast<const char*>(data) + 1, size - 1});
     lisp.read(u"enter");
     checkReading(lisp, text);
-    lisp.setCollectAlways(data[0] & 1);
+    lisp.setCollectAlways(collectAlways);
     try {
         lisp.evalText(text, u"fuzz");
     } catch (const lisp::Error&) {

@@ -34,16 +34,18 @@ TEST(NativeFunctions, GetCheckedArgumentsAndTheirData) {
     EXPECT_EQ(session.run("(join-number \"a\")"), "error: example:1: (join-number): no such function");
 }
 
-TEST(NativeFunctions, MayUndefineThemselves) {
-    Session session;
-    session.lisp.setCollectAlways(true);
-    session.lisp.defineNative(u"once", [](Call& call) {
-        call.lisp.undefine(u"once");
-        Value result = call.lisp.evalText(u"(list 1 2)", u"inner");
-        return result;
-    });
-    EXPECT_EQ(session.run("(once)"), "(1 2)");
-    EXPECT_EQ(session.run("(catch-error (once))"), "\"example:1: (once): no such function\"");
+TEST(NativeFunctions, MayUndefineThemselvesWhileTheyAreUsed) {
+    for (const char* program : {"(once 1)", "(car (mapcar 'once '(1 2)))",
+                                "(progn (sort '(2 1 3) 'once) '(1 2))", "(reduce 'once '(1 2 3))"}) {
+        Session session;
+        session.lisp.setCollectAlways(true);
+        session.lisp.defineNative(u"once", [](Call& call) {
+            call.lisp.undefine(u"once");
+            return call.lisp.evalText(u"(list 1 2)", u"inner");
+        });
+        EXPECT_EQ(session.run(program), "(1 2)") << program;
+        EXPECT_EQ(session.run("(catch-error (once))"), "\"example:1: (once): no such function\"");
+    }
 }
 
 TEST(NativeFunctions, ForeignExceptionsPassAndLeaveTheInterpreterWhole) {

@@ -44,6 +44,18 @@ TEST(Functions, ArithmeticFollowsARedefinition) {
     EXPECT_EQ(session.run("(setq + nil) (sum 1 2)"), "error: example:1: (+): no such function");
 }
 
+TEST(Functions, EachFormLeavesTheStackOfValuesAsItWas) {
+    for (const char* form :
+         {"((lambda (x) x) 1)", "(foreach x '(1 2) x)", "(while nil)", "(catch-error (car 5))",
+          "(catch-error (car 5) strlen)", "(catch-error (f 1 2 3) f)", "(+ 1 2)",
+          "(catch-error (+ 1.5 \"a\"))", "(mapcar 'f '(1 2))", "(eval '(f 1))", "(sort '(2 1 3) '<)",
+          "(apply 'list '(1 2 3))"}) {
+        Session session({.stackBytes = 64 * 1024});
+        std::string program = std::string("(defun f (x / y) x) (repeat 10000 ") + form + ") 'done";
+        EXPECT_EQ(session.run(program), "DONE") << form;
+    }
+}
+
 TEST(Functions, SpecialFormsAndConstantsAreNotRedefined) {
     Session session;
     EXPECT_EQ(session.run("(setq if 1)"),
@@ -112,6 +124,14 @@ TEST(Strings, CountCharactersBeyondTheFirstPlaneAsPairs) {
               "E \xC5\xBD \xCE\xA9\xCF\x82 \xD0\xAF \xC5\xB8\"");
     EXPECT_EQ(session.run("(strcase (strcase \"\xC5\xBE\xC4\x91\xC5\x82\xC5\xB7 \xD1\x91\xC3\xBF\") T)"),
               "\"\xC5\xBE\xC4\x91\xC5\x82\xC5\xB7 \xD1\x91\xC3\xBF\"");
+}
+
+TEST(Strings, AnEmptyPartIsFoundButNotReplaced) {
+    Session session;
+    EXPECT_EQ(
+        session.run("(list (string-search \"ab\" \"\" 1) (string-search \"ab\" \"\" 3)"
+                    "(string-replace \"ab\" \"\" \"x\") (catch-error (string-split \"ab\" \"\") strlen))"),
+        "(1 nil \"ab\" 84)");
 }
 
 TEST(Strings, MatchPatterns) {
