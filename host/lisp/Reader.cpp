@@ -1,7 +1,5 @@
 #include "host/lisp/Reader.h"
 
-#include <optional>
-
 #include "host/lisp/Machine.h"
 #include "host/lisp/Text.h"
 
@@ -142,22 +140,7 @@ void Reader::appendEscape(std::u16string& text) {
             text += u'\x1B';
             return;
         case u'U':
-            // \U+ and four hexadecimal digits.
-            if (text_.size() - position_ >= 5 && peek() == u'+') {
-                uint32_t code = 0;
-                bool valid = true;
-                for (size_t i = 1; i <= 4; ++i) {
-                    int digit = digitValue(text_[position_ + i]);
-                    valid = valid && digit < 16;
-                    code = code << 4 | uint32_t(digit & 15);
-                }
-                if (valid) {
-                    position_ += 5;
-                    text += char16_t(code);
-                    return;
-                }
-            }
-            text += c;
+            text += takeUnicode().value_or(c);
             return;
         default:
             break;
@@ -170,6 +153,19 @@ void Reader::appendEscape(std::u16string& text) {
     for (int i = 0; i < 2 && !atEnd() && digitValue(peek()) < 8; ++i)
         code = code << 3 | uint32_t(digitValue(take()));
     text += char16_t(code);
+}
+
+// The character behind `\U`, where a plus sign and four hexadecimal digits follow.
+std::optional<char16_t> Reader::takeUnicode() {
+    if (text_.size() - position_ < 5 || peek() != u'+') return std::nullopt;
+    uint32_t code = 0;
+    for (size_t i = 1; i <= 4; ++i) {
+        int digit = digitValue(text_[position_ + i]);
+        if (digit >= 16) return std::nullopt;
+        code = code << 4 | uint32_t(digit);
+    }
+    position_ += 5;
+    return char16_t(code);
 }
 
 Value Reader::atom() {

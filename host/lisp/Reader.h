@@ -1,6 +1,7 @@
 // Reads forms from text.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,7 @@ class Reader {
     Value string();
     Value atom();
     void appendEscape(std::u16string& text);
+    std::optional<char16_t> takeUnicode();
     [[noreturn]] void fail(std::u16string message, uint32_t line) const;
 
     Machine& machine_;
