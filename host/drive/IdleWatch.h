@@ -9,7 +9,7 @@ class DialogObserver {
     virtual void dialogIdle(HWND dialog) = 0;
     // A message box is about to be seen.
     virtual void messageBoxShown(HWND box) = 0;
-    // The window of a dialog that was told to be idle is on its way out.
+    // The window is on its way out; of any window of the thread.
     virtual void windowGone(HWND window) = 0;
 
   protected:
@@ -32,11 +32,8 @@ class IdleWatch {
     static void loopIsEmpty(HWND dialog);
 
   private:
-    static LRESULT CALLBACK dialogProc(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
-                                       DWORD_PTR) noexcept;
-
-    static LRESULT CALLBACK activationHook(int code, WPARAM w, LPARAM l) noexcept;
+    static LRESULT CALLBACK windowHook(int code, WPARAM w, LPARAM l) noexcept;
 
     static inline DialogObserver* s_observer = nullptr;
-    HHOOK m_activations;
+    HHOOK m_hook;
 };

@@ -62,6 +62,8 @@ MainFrame::MainFrame()
     ShowWindow(m_window, SW_SHOW);
     UpdateWindow(m_window);
     SetFocus(m_commandLine);
+    // Showing text costs much more than printing it.
+    if (host().isHeadless()) return;
     host().console().setListener([this](std::wstring_view text) { append(text); });
 }
 

@@ -138,6 +138,12 @@ void work(const Options& options) {
     player().reportLeftovers();
 }
 
+std::vector<std::wstring> systemPaths(std::span<const std::wstring> paths) {
+    std::vector<std::wstring> converted;
+    for (const std::wstring& path : paths) converted.push_back(systemPath(path).wstring());
+    return converted;
+}
+
 int refuse(const Options& options) {
     host().console().error(L"wexhost: " + options.error + L"\nTry wexhost --help.");
     return BAD_USAGE;
@@ -154,7 +160,7 @@ int hostRun(int count, wchar_t** arguments) {
         host().console().print(usage());
         return 0;
     }
-    if (options.checkDialogs) return checkDialogs(options.modules);
+    if (options.checkDialogs) return checkDialogs(systemPaths(options.modules));
     std::optional<Watchdog> watchdog;
     if (options.timeoutSeconds > 0) watchdog.emplace(options.timeoutSeconds);
     work(options);

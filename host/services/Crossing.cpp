@@ -1,7 +1,6 @@
 #include "host/services/Crossing.h"
 
 #include <limits>
-#include <vector>
 
 #include "host/services/Texts.h"
 
@@ -80,6 +79,21 @@ lisp::Value valueOfNode(lisp::Interpreter& lisp, const HostValue& node) {
     }
 }
 
+// Adds the elements up to the end of their list, or of the chain, and leaves `at` there.
+void appendElements(lisp::Interpreter& lisp, lisp::ListBuilder& list, const HostValue*& at) {
+    for (; at && at->type != HV_LIST_END; at = at->next) {
+        if (at->type != HV_LIST_BEGIN) {
+            list.add(valueOfNode(lisp, *at));
+            continue;
+        }
+        lisp::ListBuilder nested(lisp);
+        at = at->next;
+        appendElements(lisp, nested, at);
+        list.add(nested.list());
+        if (!at) return;
+    }
+}
+
 }  // namespace
 
 HostValue* chainOf(std::span<const lisp::Value> values) {
@@ -89,25 +103,13 @@ HostValue* chainOf(std::span<const lisp::Value> values) {
 }
 
 lisp::Value listOfChain(lisp::Interpreter& lisp, const HostValue* chain) {
-    // One list in the making for each that is open, the outermost first.
-    std::vector<std::vector<lisp::Value>> open(1);
-    const auto close = [&] {
-        const lisp::Value list = lisp.list(open.back());
-        open.pop_back();
-        open.back().push_back(list);
-    };
+    lisp::ListBuilder list(lisp);
     for (; chain; chain = chain->next) {
-        if (chain->type == HV_LIST_BEGIN) {
-            open.emplace_back();
-        } else if (chain->type == HV_LIST_END) {
-            if (open.size() > 1) close();
-        } else {
-            open.back().push_back(valueOfNode(lisp, *chain));
-        }
+        // The rest behind an end that nothing opened counts all the same.
+        appendElements(lisp, list, chain);
+        if (!chain) break;
     }
-    // A list that nothing closed ends where the chain ends.
-    while (open.size() > 1) close();
-    return lisp.list(open.front());
+    return list.list();
 }
 
 lisp::Value valueOfChain(lisp::Interpreter& lisp, const HostValue* chain) {
