@@ -94,7 +94,9 @@ Value key(Call& call) {
         const Tile tile(call, 1);
         tile.mustBeWorkable();
         window = typingWindow(tile);
-        if (GetFocus() != window) SetFocus(window);
+        // As the Tab key does it: a button becomes the default one, the text of an edit box is selected.
+        if (GetFocus() != window)
+            SendMessageW(runningDialog(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
     }
     pressKey(window && IsChild(dialog, window) ? window : dialog, *stroke);
     player().atNextIdle(&releaseHeldKeys);
