@@ -17,10 +17,9 @@ void print(const std::wstring& line) { host().console().print(line + L"\n"); }
 class DialogCheck {
   public:
     explicit DialogCheck(const std::vector<ResourceModule>& modules) : m_modules(modules) {
-        for (const ResourceModule& module : modules)
-            for (const int id : ICON_CAPTION_IDS)
-                if (std::wstring caption = module.text(id); !caption.empty())
-                    m_iconCaptions.push_back(caption);
+        const std::optional<ResourceModule> own = ownResourceModule();
+        if (!own) return;
+        for (const int id : ICON_CAPTION_IDS) m_iconCaptions.push_back(own->text(id));
     }
 
     void check(const ResourceModule& module) {

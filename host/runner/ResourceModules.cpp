@@ -10,6 +10,8 @@ namespace {
 constexpr int FIRST_ID = 1500;
 constexpr int LAST_ID = 3999;
 
+constexpr wchar_t RESOURCE_MODULE[] = L"WexDialogsRes.dll";
+
 std::optional<DialogTemplate> readTemplate(HMODULE module, HRSRC resource) {
     const auto* bytes = static_cast<const uint8_t*>(LockResource(LoadResource(module, resource)));
     return parseDialogTemplate({bytes, SizeofResource(module, resource)});
@@ -37,7 +39,7 @@ std::filesystem::path programFolder() {
 
 std::vector<std::filesystem::path> ownModules() {
     const std::filesystem::path folder = programFolder();
-    std::vector<std::filesystem::path> paths{folder / L"WexDialogs.pgx", folder / L"WexDialogsRes.dll"};
+    std::vector<std::filesystem::path> paths{folder / L"WexDialogs.pgx", folder / RESOURCE_MODULE};
     std::error_code noFolder;
     for (const auto& entry : std::filesystem::directory_iterator(folder / L"WexDialogs.d", noFolder))
         if (entry.path().extension() == L".dll") paths.push_back(entry.path());
@@ -51,6 +53,8 @@ std::wstring ResourceModule::text(int id) const {
     const int length = LoadStringW(handle.get(), id, reinterpret_cast<wchar_t*>(&text), 0);
     return {text, text + length};
 }
+
+std::optional<ResourceModule> ownResourceModule() { return load(programFolder() / RESOURCE_MODULE); }
 
 std::vector<ResourceModule> loadResourceModules(std::span<const std::wstring> paths, std::wstring& missing) {
     std::vector<std::filesystem::path> wanted;

@@ -21,12 +21,15 @@ struct ResourceModule {
     std::wstring name;  // without the folder
     std::unique_ptr<std::remove_pointer_t<HMODULE>, Free> handle;
     std::map<int, std::wstring> keyLists;
-    // The bytes live as long as the module; null where they can't be understood.
+    // The bytes live as long as the module; nothing where they can't be understood.
     std::map<int, std::optional<DialogTemplate>> templates;
 
     // Nothing where the string is missing.
     std::wstring text(int id) const;
 };
+
+// The product's resource module beside the running program; nothing where it is missing.
+std::optional<ResourceModule> ownResourceModule();
 
 // Loads the modules; with none given, the product's own beside the running program. The path of the first
 // that can't be loaded comes back in `missing`.
