@@ -6,6 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 root=$PWD
 logs=$root/build/test-logs
 bin=$root/build/windows/bin
+testbin=$root/build/windows/testbin
 
 tools/install-packages.sh
 . tools/wine-env.sh
@@ -36,6 +37,11 @@ fuzz() {
 # Runs the host with nobody there.
 host() { wine64 "$bin/wexhost.exe" --headless --timeout 120 --shots "$logs/shots" "$@"; }
 
+# Sessions run beside an add-on of dialogs that only they need.
+session() {
+    wine64 "$testbin/wexhost.exe" --headless --timeout 120 --shots "$logs/shots" tests/support/check.lsp "$1" -e '(report-tests)'
+}
+
 # An example is right when it prints what stands under its name in tests/ui/examples.
 example() {
     local printed="$logs/example-$1.printed"
@@ -52,7 +58,7 @@ windows_tests() {
     done
     run "check-dialogs" wine64 "$bin/wexhost.exe" --check-dialogs
     for file in tests/ui/*.lsp; do
-        run "$(basename "$file" .lsp)" host tests/support/check.lsp "$file" -e '(report-tests)'
+        run "$(basename "$file" .lsp)" session "$file"
     done
     for file in examples/*.lsp; do
         name=$(basename "$file" .lsp)

@@ -2,8 +2,6 @@
 
 #include <filesystem>
 
-#include "host/runner/HostFiles.h"
-
 namespace {
 
 // Ids of the strings that can be key lists; a template has the id of its key list.
@@ -57,8 +55,7 @@ std::wstring ResourceModule::text(int id) const {
 std::optional<ResourceModule> ownResourceModule() { return load(programFolder() / RESOURCE_MODULE); }
 
 std::vector<ResourceModule> loadResourceModules(std::span<const std::wstring> paths, std::wstring& missing) {
-    std::vector<std::filesystem::path> wanted;
-    for (const std::wstring& path : paths) wanted.push_back(systemPath(path));
+    std::vector<std::filesystem::path> wanted(paths.begin(), paths.end());
     if (wanted.empty()) wanted = ownModules();
     std::vector<ResourceModule> modules;
     for (const auto& path : wanted) {
