@@ -175,6 +175,8 @@ Value shot(Call& call) {
     namespace fs = std::filesystem;
     const fs::path name = call.lisp.files().resolve(call.text(0));
     const fs::path path = name.is_relative() ? fs::path(g_shotsFolder) / name : name;
+    std::error_code ignored;
+    fs::create_directories(path.parent_path(), ignored);
     photograph(runningDialog(), path.wstring());
     return text(call, path.wstring());
 }

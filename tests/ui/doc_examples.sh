@@ -1,14 +1,15 @@
 #!/bin/bash
-# Runs every Lisp example of docs/lisp-functions.md; it must print what its ";=>" lines tell, and nothing else.
+# Runs every Lisp example of the documents below; it must print what its ";=>" lines tell, and nothing else.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
+documents=(docs/lisp-functions.md docs/sessions.md)
 awk -v folder="$work" '
-    /^```lisp$/ { inside = 1; file = sprintf("%s/%02d.lsp", folder, ++count); printf "; at line %d\n", NR > file; next }
+    /^```lisp$/ { inside = 1; file = sprintf("%s/%02d.lsp", folder, ++count); printf "; %s, line %d\n", FILENAME, FNR > file; next }
     /^```$/     { inside = 0 }
-    inside      { print > file }' docs/lisp-functions.md
+    inside      { print > file }' "${documents[@]}"
 
 passed=0 failed=0
 for example in "$work"/*.lsp; do
@@ -17,7 +18,7 @@ for example in "$work"/*.lsp; do
         passed=$((passed + 1))
     else
         failed=$((failed + 1))
-        echo "FAILED: the example of docs/lisp-functions.md $(head -n 1 "$example" | cut -c3-)"
+        echo "FAILED: the example of $(head -n 1 "$example" | cut -c3-)"
         echo "$difference"
     fi
 done

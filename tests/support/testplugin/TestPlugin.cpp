@@ -125,6 +125,25 @@ int32_t messages() {
     return RESULT_SET;
 }
 
+// Types a text on the main frame's command line, where there is one, and then presses the key; gives what the
+// line and the output show.
+int32_t command() {
+    const HostValue* text = hostGetArgs();
+    const HWND output = FindWindowExW(hostGetMainFrame(), nullptr, L"Edit", nullptr);
+    const HWND line = FindWindowExW(hostGetMainFrame(), output, L"Edit", nullptr);
+    if (*text->value.stringValue) {
+        SendMessageW(line, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text->value.stringValue));
+    }
+    SendMessageW(line, WM_KEYDOWN, text->next->value.shortValue, 1);
+    wchar_t shown[2][4096] = {};
+    GetWindowTextW(line, shown[0], ARRAYSIZE(shown[0]));
+    GetWindowTextW(output, shown[1], ARRAYSIZE(shown[1]));
+    HostValue* both = hostBuildList(HV_STRING, shown[0], HV_STRING, shown[1], 0);
+    hostRetList(both);
+    hostRelRb(both);
+    return RESULT_SET;
+}
+
 struct Row {
     const wchar_t* name;
     HostLispFunction handler;
@@ -140,7 +159,7 @@ constexpr Row ROWS[] = {
     {L"t_dialog", &dialog},     {L"t_events", &events},
     {L"t_ask", &ask},           {L"t_say", &say},
     {L"t_print", &print},       {L"t_leak", &leakBrush},
-    {L"t_messages", &messages},
+    {L"t_messages", &messages}, {L"t_command", &command},
 };
 constexpr int COUNT = ARRAYSIZE(ROWS);
 

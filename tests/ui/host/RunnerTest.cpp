@@ -28,6 +28,19 @@ TEST(Runner, ThePromptGoesOnOverLinesAndErrors) {
     EXPECT_EQ(run.status, 0U);
 }
 
+// 13 is Enter, 38 and 40 are Up and Down, 27 is Esc.
+TEST(Runner, TheMainFramesCommandLineEvaluatesAndRemembers) {
+    const HostRun run = runHost(
+        {L"--timeout", L"20", L"-e",
+         L"(progn (t_command \"(setq x 5)\" 13) (t_command \"(+ x\" 13) (t_command \"2)\" 13)"
+         L"(setq seen (t_command \"typed\" 38)) (foreach key '(38 38 40 40 40 27) (setq seen (cons (car "
+         L"(t_command \"\" key)) seen))) (prin1 (reverse seen)))"});
+    EXPECT_EQ(run.output,
+              "Command: (setq x 5)\n5\nCommand: (+ x\nmore: 2)\n7\n"
+              "(\"Command: (setq x 5)\\r\\n5\\r\\nCommand: (+ x\\r\\nmore: 2)\\r\\n7\\r\\n\" \"2)\" \"(+ x\" "
+              "\"(setq x 5)\" \"(+ x\" \"2)\" \"typed\" \"\")");
+}
+
 TEST(Runner, AlertsAndMessageBoxesAreAnsweredAndRecorded) {
     const HostRun run = evaluate(
         L"(progn (prin1 (list (t_say \"first\") (t_ask \"second\"))) (prin1 (ui_alerts)) "
