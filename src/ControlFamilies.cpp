@@ -4,6 +4,7 @@
 #include "src/listctrl/WexListCtrl.h"
 #include "src/slides/WexSlideImage.h"
 #include "src/tabs/WexTabCtrl.h"
+#include "src/tiles/ListRecords.h"
 #include "src/tiles/WexButton.h"
 #include "src/tiles/WexButtonSt.h"
 #include "src/tiles/WexComboBox.h"
@@ -39,8 +40,8 @@ constexpr ControlFamily families[] = {
     {ControlKind::tree, L"SysTreeView32", make<WexTree>, nullptr},
     {ControlKind::edit, L"Edit", make<WexEditBox>, applyEditLimit},
     {ControlKind::staticText, L"Static", make<WexStatic>, nullptr},
-    {ControlKind::listBox, L"ListBox", make<WexListBox>, nullptr},
-    {ControlKind::comboBox, L"ComboBox", make<WexComboBox>, nullptr},
+    {ControlKind::listBox, L"ListBox", make<WexListBox>, applyListBox},
+    {ControlKind::comboBox, L"ComboBox", make<WexComboBox>, applyComboBox},
     {ControlKind::listControl, L"SysListView32", make<WexListCtrl>, nullptr},
     {ControlKind::unknown, L"", nullptr, nullptr},
 };

@@ -4,6 +4,7 @@
 
 #include "src/dialog/DialogFunctions.h"
 #include "src/platform/host/HostServices.h"
+#include "src/tiles/ListFunctions.h"
 #include "src/tiles/ValueFunctions.h"
 #include "src/tiles/WindowFunctions.h"
 
@@ -34,9 +35,9 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_dimy_tile", withArguments<dimyTile>},
     {L"wex_slide_image", notBuiltYet},
     {L"wex_end_image", notBuiltYet},
-    {L"wex_start_list", notBuiltYet},
-    {L"wex_add_list", notBuiltYet},
-    {L"wex_end_list", notBuiltYet},
+    {L"wex_start_list", withArguments<startList>},
+    {L"wex_add_list", withArguments<addList>},
+    {L"wex_end_list", withAnyArguments<endList>},
     {L"wex_setaction_oninit", withArguments<setActionOnInit>},
     {L"wex_setaction_onsize", withArguments<setActionOnSize>},
     {L"wex_listctrl_addcolumn", notBuiltYet},

@@ -1,6 +1,7 @@
 #include "src/tiles/ValueFunctions.h"
 
 #include "src/dialog/WexDialog.h"
+#include "src/platform/mfc/RedrawHold.h"
 #include "src/tiles/WexButton.h"
 
 namespace {
@@ -69,8 +70,10 @@ void applyLiveMode(const CWnd& control, const WexDialog& dialog, const TileAddre
             control.SendMessage(EM_SCROLLCARET);
             return;
         case MODE_SHOW:
+            releaseRedraw();
             return control.ShowWindow(SW_SHOW);
         case MODE_HIDE:
+            releaseRedraw();
             return control.ShowWindow(SW_HIDE);
         default:
             return;

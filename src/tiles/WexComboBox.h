@@ -1,4 +1,4 @@
-// A combo box.
+// A combo box that tells Lisp which entry is selected.
 #pragma once
 
 #include "src/dialog/TileControl.h"
@@ -9,4 +9,10 @@ class WexComboBox : public CComboBox, public TileControl {
 
   public:
     CWnd& wnd() override { return *this; }
+
+  protected:
+    const MessageMap& messageMap() const override;
+
+  private:
+    void onSelectionChanged();
 };

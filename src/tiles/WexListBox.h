@@ -1,4 +1,4 @@
-// A list box.
+// A list box that tells Lisp what is selected, and whose double click presses OK.
 #pragma once
 
 #include "src/dialog/TileControl.h"
@@ -9,4 +9,15 @@ class WexListBox : public CListBox, public TileControl {
 
   public:
     CWnd& wnd() override { return *this; }
+    void applyRecord(CCtrlInfo& tile) override;
+
+  protected:
+    const MessageMap& messageMap() const override;
+
+  private:
+    void onSelectionChanged();
+    void onDoubleClick(UINT keys, POINT at);
+    bool hasSelection() const;
+
+    bool m_dblClickEnabled = true;
 };

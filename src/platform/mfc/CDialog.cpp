@@ -7,6 +7,7 @@
 #include "src/platform/mfc/CWinApp.h"
 #include "src/platform/mfc/KeptException.h"
 #include "src/platform/mfc/ModuleState.h"
+#include "src/platform/mfc/RedrawHold.h"
 #include "src/platform/mfc/ThemeContext.h"
 #include "src/platform/mfc/WindowCreation.h"
 
@@ -122,6 +123,7 @@ int CDialog::DoModal() {
 void CDialog::runLoop(HWND owner) {
     while (m_end.goesOn() && isLive() && !hasKeptException()) {
         MSG message{};
+        releaseRedraw();
         if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             if (idle(owner)) continue;
             GetMessageW(&message, nullptr, 0, 0);

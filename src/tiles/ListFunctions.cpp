@@ -1,0 +1,102 @@
+#include "src/tiles/ListFunctions.h"
+
+#include "src/dialog/WexDialog.h"
+#include "src/platform/host/HostServices.h"
+#include "src/platform/mfc/RedrawHold.h"
+
+namespace {
+
+enum ListOperation { CHANGE_ROW = -1, CHANGE = 1, APPEND = 2, NEW_LIST = 3 };
+
+// The messages of a class whose entries are single texts.
+struct EntryMessages {
+    const wchar_t* className;
+    UINT reset, add, selected, remove, insert;
+};
+
+constexpr EntryMessages entryMessages[] = {
+    {L"ListBox", LB_RESETCONTENT, LB_ADDSTRING, LB_GETCURSEL, LB_DELETESTRING, LB_INSERTSTRING},
+    {L"ComboBox", CB_RESETCONTENT, CB_ADDSTRING, CB_GETCURSEL, CB_DELETESTRING, CB_INSERTSTRING},
+};
+
+const EntryMessages* messagesOf(const CWnd& control) {
+    const CString className = control.className();
+    for (const EntryMessages& messages : entryMessages)
+        if (className == messages.className) return &messages;
+    return nullptr;
+}
+
+void emptyControl(const CWnd& control) {
+    if (const EntryMessages* messages = messagesOf(control))
+        control.SendMessage(messages->reset);
+    else if (control.className() == L"SysListView32")
+        control.SendMessage(LVM_DELETEALLITEMS);
+}
+
+void addEntry(const CWnd& control, const EntryMessages& messages, const CString& text, int operation) {
+    const auto entry = reinterpret_cast<LPARAM>(text.c_str());
+    holdRedraw(control.m_hWnd);
+    if (operation != CHANGE) {
+        control.SendMessage(messages.add, 0, entry);
+        return;
+    }
+    // With nothing selected the index is -1: the delete fails, and the insert appends.
+    const LRESULT selected = control.SendMessage(messages.selected);
+    control.SendMessage(messages.remove, selected);
+    control.SendMessage(messages.insert, selected, entry);
+}
+
+void addItem(WexDialog& dialog, const CString& text) {
+    CCtrlInfo* tile = dialog.m_listTile;
+    if (!tile) return alertText(TEXT_NO_LIST_OPEN);
+    if (!tile->m_control) return tile->m_listItems.push_back(text);
+    const CWnd& control = *tile->m_control;
+    const int operation = dialog.tileForControl(&control)->m_mode;
+    if (const EntryMessages* messages = messagesOf(control))
+        addEntry(control, *messages, text, operation);
+    else if (control.className() == L"SysListView32")
+        hostPrintf(L"wex_add_list on a list control: not built yet\n");
+}
+
+}  // namespace
+
+void startList(LispCall& call) {
+    const TileAddress address = call.tile();
+    const int operation = call.shortNumber().value_or(NEW_LIST);
+    const int index = call.shortNumber().value_or(-1);
+    call.retVoid();
+    WexDialog* dialog = currentDialog();
+    if (!dialog) return;
+    CCtrlInfo* tile = dialog->tileFor(address);
+    if (const CWnd* control = dialog->itemFor(address)) {
+        if (operation == NEW_LIST) emptyControl(*control);
+        if (tile) tile->m_listItems.clear();
+    }
+    if (!tile) return;
+    if (operation == NEW_LIST) tile->m_listItems.clear();
+    dialog->m_listTile = tile;
+    tile->m_listIndex = index;
+    tile->m_mode = operation;
+}
+
+void addList(LispCall& call) {
+    call.retVoid();
+    WexDialog* dialog = currentDialog();
+    if (!dialog) return;
+    const HostValue* item = call.next();
+    if (item->type == HV_STRING) return addItem(*dialog, item->value.stringValue);
+    if (item->type != HV_LIST_BEGIN) return;
+    for (item = call.next(); item && item->type == HV_STRING; item = call.next())
+        addItem(*dialog, item->value.stringValue);
+}
+
+void endList(LispCall& call) {
+    const HostValue* flag = call.next();
+    const int number = call.shortNumber().value_or(-1);
+    WexDialog* dialog = currentDialog();
+    if (CCtrlInfo* tile = dialog ? dialog->m_listTile : nullptr) {
+        tile->m_endListFlag = flag && (flag->type == HV_TRUE || flag->type == HV_SHORT);
+        tile->m_endListIndex = number;
+    }
+    call.retNil();
+}
