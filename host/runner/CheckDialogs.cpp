@@ -14,6 +14,10 @@ constexpr int ICON_CAPTION_IDS[] = {114, 116};
 
 void print(const std::wstring& line) { host().console().print(line + L"\n"); }
 
+std::wstring counted(size_t count, const std::wstring& what) {
+    return std::to_wstring(count) + L' ' + what + (count == 1 ? L"" : L"s");
+}
+
 class DialogCheck {
   public:
     explicit DialogCheck(const std::vector<ResourceModule>& modules) : m_modules(modules) {
@@ -104,7 +108,7 @@ int checkDialogs(std::span<const std::wstring> paths) {
     }
     DialogCheck check(modules);
     for (const ResourceModule& module : modules) check.check(module);
-    print(std::to_wstring(check.dialogs()) + L" dialogs in " + std::to_wstring(modules.size()) +
-          L" modules, " + std::to_wstring(check.found()) + L" mismatches");
+    print(counted(check.dialogs(), L"dialog") + L" in " + counted(modules.size(), L"module") + L", " +
+          std::to_wstring(check.found()) + (check.found() == 1 ? L" mismatch" : L" mismatches"));
     return check.found() ? 1 : 0;
 }
