@@ -69,11 +69,15 @@ double hostMonitorDpiYScale(HMONITOR monitor) { return displayScale(monitor).y; 
 
 int hostMemFileCreate(const wchar_t* path, const wchar_t* text, bool overwrite, bool unicode) {
     const DWORD disposition = overwrite ? CREATE_ALWAYS : CREATE_NEW;
-    const File file(
-        CreateFileW(path, GENERIC_WRITE, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file.isOpen()) return static_cast<int>(GetLastError());
-    const bool written = (!unicode || file.write(BYTE_ORDER_MARK)) && file.write(utf8Text(text));
-    return written ? 0 : static_cast<int>(GetLastError());
+    {
+        const File file(
+            CreateFileW(path, GENERIC_WRITE, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+        if (!file.isOpen()) return static_cast<int>(GetLastError());
+        if ((!unicode || file.write(BYTE_ORDER_MARK)) && file.write(utf8Text(text))) return 0;
+    }
+    // A part of a program would load as if it were the whole.
+    DeleteFileW(path);
+    return ERROR_WRITE_FAULT;
 }
 
 int hostMemFileDelete(const wchar_t* path) {

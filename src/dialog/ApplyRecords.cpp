@@ -26,7 +26,8 @@ void WexDialog::applyRecords() {
         CCtrlInfo& tile = *m_tiles.at(at);
         const int id = tile.m_ctrlId >= 0 ? tile.m_ctrlId : idForKey(tile.m_key);
         if (id == -1) continue;
-        CWnd* control = tile.m_control ? tile.m_control : itemForId(id);
+        // A dialog that runs again has new windows, and what was never wrapped still names the old one.
+        CWnd* control = tile.m_control && tile.m_control->isLive() ? tile.m_control : itemForId(id);
         if (control) applyTile(*control, tile);
     }
 }

@@ -19,6 +19,7 @@ CCtrlInfo* TileRecords::forKey(std::wstring_view key) {
 }
 
 CCtrlInfo* TileRecords::forControl(const CWnd* control) const {
+    if (!control) return nullptr;
     for (const auto& record : m_records)
         if (record->m_control == control) return record.get();
     return nullptr;

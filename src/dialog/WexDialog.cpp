@@ -7,7 +7,9 @@
 
 IMPLEMENT_DYNAMIC(WexDialog, CSnapDlg)
 
-DialogRegistry<WexDialog> g_dialogs;
+// Never deleted: at the end of the process the statics go in an order of their own, and a dialog that is
+// deleted then would use what is gone.
+DialogRegistry<WexDialog>& g_dialogs = *new DialogRegistry<WexDialog>;
 CString g_dialogName;
 int32_t g_doneStatus = 0;
 
@@ -40,6 +42,7 @@ const MessageMap& WexDialog::messageMap() const {
     static const MessageMap map(CSnapDlg::messageMap(), {
                                                             on<WM_PAINT, &WexDialog::onPaint>(),
                                                             on<WM_SIZE, &WexDialog::onSize>(),
+                                                            on<WM_DESTROY, &WexDialog::onDestroy>(),
                                                             on<WM_HELP, &WexDialog::onHelp>(),
                                                         });
     return map;
@@ -71,6 +74,13 @@ void WexDialog::onSize(UINT /*type*/, int /*width*/, int /*height*/) {
     const RECT client = GetClientRect();
     setEventValuePoint(client.right, client.bottom);
     callLispAction(m_onSizeAction);
+}
+
+// The dialog may run again, and then starts like the first time.
+void WexDialog::onDestroy() {
+    Default();
+    m_discovered = false;
+    m_focusId = -1;
 }
 
 // F1 is the Help button's click, for a dialog that has one.

@@ -65,6 +65,7 @@ class WexDialog : public CSnapDlg {
   private:
     void onPaint();
     void onSize(UINT type, int width, int height);
+    void onDestroy();
     LRESULT onHelp(HELPINFO* help);
 
     void discover(CDataExchange& exchange, int id, HWND control);
@@ -79,7 +80,7 @@ class WexDialog : public CSnapDlg {
 };
 
 // All dialogs that were made and have not ended.
-extern DialogRegistry<WexDialog> g_dialogs;
+extern DialogRegistry<WexDialog>& g_dialogs;
 // The name given to the last wex_new_dialog, in the program's spelling.
 extern CString g_dialogName;
 // What the last wex_done_dialog said.

@@ -20,8 +20,7 @@ int idForNameIn(HMODULE module, const CString& name) {
 }
 
 std::vector<HMODULE> loadAddOns() {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(g_moduleInstance, path.data(), MAX_PATH));
+    const std::wstring path = modulePath(g_moduleInstance);
     const std::wstring folder = folderOf(path) + ADD_ON_FOLDER;
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW found;

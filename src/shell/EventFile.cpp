@@ -35,7 +35,8 @@ class TemporaryFile {
 
 CString eventFilePath(const CString& dialogName) {
     wchar_t folder[TEMP_PATH_CHARS];
-    if (!GetTempPathW(TEMP_PATH_CHARS, folder))
+    const DWORD length = GetTempPathW(TEMP_PATH_CHARS, folder);
+    if (length == 0 || length >= TEMP_PATH_CHARS)
         throw CFileException(CFileException::badPath, -1, "Failed to get system temp path.");
     return eventFilePathIn(folder, dialogName);
 }

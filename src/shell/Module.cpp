@@ -18,10 +18,9 @@ constexpr DWORD MODULE_PATH_CHARS = 4999;
 constexpr int NOT_LOADED = 3;
 
 HMODULE loadResourceModule() {
-    std::wstring path(MODULE_PATH_CHARS, L'\0');
     // Under another file name the plug-in isn't found, and the null handle means the host's executable.
-    path.resize(GetModuleFileNameW(GetModuleHandleW(PLUGIN_NAME), path.data(), MODULE_PATH_CHARS));
-    const std::wstring beside = folderOf(path).append(RESOURCE_MODULE_NAME);
+    const std::wstring beside =
+        folderOf(modulePath(GetModuleHandleW(PLUGIN_NAME))).append(RESOURCE_MODULE_NAME);
     if (const HMODULE module = LoadLibraryW(beside.c_str())) return module;
     return LoadLibraryW(RESOURCE_MODULE_NAME.data());
 }
@@ -39,6 +38,12 @@ void showLoadError(DWORD error) {
 }
 
 }  // namespace
+
+std::wstring modulePath(HMODULE module) {
+    std::wstring path(MODULE_PATH_CHARS, L'\0');
+    path.resize(GetModuleFileNameW(module, path.data(), MODULE_PATH_CHARS));
+    return path;
+}
 
 int attachModule(HMODULE instance) {
     g_moduleInstance = instance;

@@ -28,6 +28,9 @@ extern CString g_buttonCaptionB;
 extern CString g_buttonCaptionC;
 extern CString g_buttonCaptionD;
 
+// The full path of a loaded module's file; of the host's executable for null.
+std::wstring modulePath(HMODULE module);
+
 // Finds and loads the resource module and makes it a part of the resource search.
 // Gives 1, or 3 when the module could not be loaded, which has then been shown in a message box.
 int attachModule(HMODULE instance);

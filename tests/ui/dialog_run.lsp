@@ -108,6 +108,30 @@
     (want 6 (wex_start_dialog))
     (want nil second)))
 
+(test "A start from an event that comes while the dialog is taken down changes nothing"
+  '((setq late 'none)
+    (ui_session "ADD_REC" '((ui_click "OK")))
+    (wex_new_dialog "ADD_REC")
+    (wex_action_tile "OK" "(wex_done_dialog 1) (wex_mode_tile \"DESC\" 2)")
+    (wex_action_tile "DESC" "(setq late (wex_start_dialog))")
+    (want 1 (wex_start_dialog))
+    (want nil late)))
+
+(test "A dialog that runs again starts like the first time, on its new controls"
+  '((setq notes nil)
+    (defun note (what) (setq notes (append notes (list what))))
+    (ui_session "ADD_REC" '((ui_click "HELP") (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_setaction_oninit "(note 'init)")
+    (wex_setaction_onsize "(note 'size)")
+    (wex_action_tile "HELP" "(wex_new_dialog \"CONFIRM_DELREC\")")
+    (wex_start_dialog)
+    (want '(INIT) notes)
+    (wex_mode_tile "Cancel" 1)
+    (ui_session "ADD_REC" '((want nil (cdr (assoc "enabled" (ui_look "Cancel")))) (ui_size 600 500) (ui_click "OK")))
+    (want -1 (wex_start_dialog))
+    (want '(INIT INIT SIZE) notes)))
+
 (test "A point moves nothing, and a name of another type stands for the last one"
   '((want T (wex_new_dialog "CONFIRM_DELREC" (list 10.0 20.0)))
     (ui_session "CONFIRM_DELREC" '((ui_click "OK")))

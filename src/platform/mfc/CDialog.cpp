@@ -96,6 +96,11 @@ int CDialog::DoModal() {
     if (m_hWnd || isRunning()) return -1;
     const HWND owner = this->owner();
     DisabledOwner disabled(owner);
+    // Taking the window down may still run handlers, to which the dialog is running.
+    struct Running {
+        bool& flag;
+        ~Running() { flag = false; }
+    } const running{m_running = true};
     m_end.begin();
     m_wasActive = m_shown = m_toldIdle = false;
     try {

@@ -63,7 +63,8 @@ class CDialog : public CWnd {
     // has left; before the loop runs, the window never shows.
     void EndDialog(int result);
     // Whether DoModal is at work, from before the window is made until the loop has left.
-    bool isRunning() const { return m_end.isOpen(); }
+    // From the call of DoModal to its return, also while the window is being taken down.
+    bool isRunning() const { return m_running; }
 
     bool UpdateData(bool save);
     bool PreTranslateMessage(MSG& message) override;
@@ -95,6 +96,7 @@ class CDialog : public CWnd {
     UINT m_templateId;
     CWnd* m_parent;
     EndState m_end;
+    bool m_running = false;
     // The window was the active one when it was ended, and hidden.
     bool m_wasActive = false;
     bool m_shown = false;
