@@ -88,6 +88,23 @@
         (want "X" (strcase (ui_text "DESC")))
         (ui_click "Cancel")))))
 
+(test "The value of a list is an entry's number; one that doesn't exist leaves the selection"
+  '((ui_session "DISP_ASSYVALS"
+      '((wex_set_tile "LST" "99")
+        (want "1" (wex_get_tile "LST"))
+        (wex_set_tile "LST" "-1")
+        (want "1" (wex_get_tile "LST"))
+        (wex_set_tile "LST" 2)
+        (want "2" (wex_get_tile "LST"))
+        (wex_set_tile 112 "abc")
+        (want "0" (wex_get_tile "LST"))
+        (ui_click "Cancel")))
+    (wex_new_dialog "DISP_ASSYVALS")
+    (wex_start_list "LST")
+    (wex_add_list '("a" "b" "c"))
+    (wex_set_tile "LST" "1")
+    (wex_start_dialog)))
+
 (test "wex_enable_dialog and wex_settitlebar work on the window"
   '((in-dialog "ADD_REC" ""
       '((wex_settitlebar "Renamed")

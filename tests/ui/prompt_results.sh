@@ -1,0 +1,50 @@
+#!/bin/bash
+# At the prompt "no value" prints nothing where nil prints nil, so here the two can be told apart.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+
+# Each line: a call, and behind "=>" what the prompt prints for it.
+table='
+(wex_get_attr 1) =>
+(wex_load_dialog 1) => nil
+(wex_unload_dialog) => nil
+(wex_start_dialog) =>
+(wex_done_dialog 1) =>
+(wex_set_tile) => [alert]
+(wex_set_tile "A") => nil
+(wex_set_tile "A" "x") =>
+(wex_get_tile "A") =>
+(wex_mode_tile "A") => nil
+(wex_mode_tile "A" 1) =>
+(wex_action_tile "A") => nil
+(wex_action_tile "A" "x") =>
+(wex_setaction_oninit "x") =>
+(wex_setaction_onsize 5) =>
+(wex_dimx_tile "A") => 0
+(wex_dimy_tile "A") => 0
+(wex_enable_dialog) =>
+(wex_settitlebar "x") => nil
+(wex_start_list "A") =>
+(wex_add_list "A") =>
+(wex_end_list) => nil
+(wex_new_dialog) => [alert]
+(wex_new_dialog "CONFIRM_DELREC") => T
+(wex_set_tile "OK" "x") =>
+(wex_set_tile "OK") => nil
+(wex_get_tile "OK") => nil
+(wex_mode_tile "OK" 0) =>
+(wex_action_tile "OK") => nil
+(wex_action_tile "OK" 5) => T
+(wex_setaction_oninit 5) =>
+(wex_settitlebar "x") => nil
+(wex_done_dialog) => nil
+(wex_enable_dialog nil) =>
+(wex_new_dialog "NO_SUCH") => [alert] nil
+(wex_settitlebar) => [alert]
+'
+
+calls=$(sed -n 's/ =>.*//p' <<<"$table")
+wanted=$(sed -n 's/.* => *//p' <<<"$table" | tr ' ' '\n' | sed '/^$/d')
+# An alert counts by its mark alone: its words are the resource module's.
+printed=$(./wexhost --headless --timeout 60 -i <<<"$calls" 2>&1 | tr -d '\r' | sed 's/^\[alert\].*/[alert]/; /^$/d')
+diff -u <(echo "$wanted") <(echo "$printed")
