@@ -6,7 +6,6 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 root=$PWD
 logs=$root/build/test-logs
 bin=$root/build/windows/bin
-testbin=$root/build/windows/testbin
 
 tools/install-packages.sh
 . tools/wine-env.sh
@@ -35,12 +34,7 @@ fuzz() {
 }
 
 # Runs the host with nobody there.
-host() { wine64 "$bin/wexhost.exe" --headless --timeout 120 --shots "$logs/shots" "$@"; }
-
-# Sessions run beside an add-on of dialogs that only they need.
-session() {
-    wine64 "$testbin/wexhost.exe" --headless --timeout 120 --shots "$logs/shots" tests/support/check.lsp "$1" -e '(report-tests)'
-}
+host() { wine64 "$bin/wexhost.exe" --headless --timeout 300 --shots "$logs/shots" "$@"; }
 
 # An example is right when it prints what stands under its name in tests/ui/examples.
 example() {
@@ -52,20 +46,22 @@ example() {
 windows_tests() {
     local file name
     start_wine headless
-    wine_limit=300
+    wine_limit=330
     for file in $(cat build/windows/tests/programs.txt); do
         run "$(basename "$file" .exe)" wine64 "$file"
-    done
-    run "check-dialogs" wine64 "$bin/wexhost.exe" --check-dialogs
-    for file in tests/ui/*.lsp; do
-        run "$(basename "$file" .lsp)" session "$file"
     done
     for file in examples/*.lsp; do
         name=$(basename "$file" .lsp)
         run "example $name" example "$name"
     done
+    run "check-dialogs" wine64 "$bin/wexhost.exe" --check-dialogs
     for file in tests/ui/*.sh; do
         run "$(basename "$file" .sh)" "$file"
+    done
+    # Sessions run beside an add-on of odd dialogs that only they need.
+    bin=$root/build/windows/testbin
+    for file in tests/ui/*.lsp; do
+        run "$(basename "$file" .lsp)" host tests/support/check.lsp "$file" -e '(report-tests)'
     done
 }
 

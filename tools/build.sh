@@ -3,6 +3,9 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+# Checkouts in several folders share what was compiled.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
 quiet=(-- --quiet)
 [ ! -t 1 ] || quiet=()
 for preset in "$@"; do
