@@ -2,6 +2,9 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <initializer_list>
+
 #include "host/drive/IdleWatch.h"
 #include "host/runner/DrawingArea.h"
 #include "host/services/DisplayScale.h"
@@ -53,10 +56,14 @@ MainFrame::MainFrame()
     registerFrameClass(&windowProc);
     m_dpi = static_cast<int>(displayScale(nullptr).x * USER_DEFAULT_SCREEN_DPI);
     m_paper = CreateSolidBrush(PAPER);
+    RECT screen;
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+    const int width = std::min<int>(scaled(FRAME_SIZE.cx), screen.right - screen.left);
+    const int height = std::min<int>(scaled(FRAME_SIZE.cy), screen.bottom - screen.top);
     m_window = CreateWindowExW(0, CLASS_NAME, L"WexHost - Drawing1", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                               CW_USEDEFAULT, CW_USEDEFAULT, scaled(FRAME_SIZE.cx), scaled(FRAME_SIZE.cy),
-                               nullptr, nullptr, GetModuleHandleW(nullptr), this);
-    createFonts();
+                               CW_USEDEFAULT, CW_USEDEFAULT, width, height, nullptr, nullptr,
+                               GetModuleHandleW(nullptr), this);
+    createFont();
     createChildren();
     layOut();
     ShowWindow(m_window, SW_SHOW);
@@ -74,7 +81,8 @@ MainFrame::~MainFrame() {
     DeleteObject(m_paper);
 }
 
-void MainFrame::createFonts() {
+void MainFrame::createFont() {
+    DeleteObject(m_font);
     // Asked for with its pitch: another face may stand in for the one that is named.
     m_font = CreateFontW(-scaled(FONT_HEIGHT), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                          OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY, FIXED_PITCH | FF_MODERN,
@@ -94,6 +102,17 @@ void MainFrame::createChildren() {
     m_label = child(0, L"STATIC", LABEL, SS_CENTERIMAGE);
     m_commandLine = child(WS_EX_CLIENTEDGE, L"EDIT", L"", ES_AUTOHSCROLL);
     SetWindowSubclass(m_commandLine, &commandLineProc, 0, reinterpret_cast<DWORD_PTR>(this));
+}
+
+void MainFrame::rescale(int dpi, const RECT& place) {
+    m_dpi = dpi;
+    createFont();
+    for (const HWND child : {m_output, m_label, m_commandLine}) {
+        SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(m_font), TRUE);
+    }
+    SetWindowPos(m_window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    layOut();
 }
 
 void MainFrame::layOut() {
@@ -210,6 +229,9 @@ LRESULT CALLBACK MainFrame::windowProc(HWND window, UINT message, WPARAM w, LPAR
             return reinterpret_cast<LRESULT>(frame->m_paper);
         case WM_ENTERIDLE:
             if (w == MSGF_DIALOGBOX) IdleWatch::loopIsEmpty(reinterpret_cast<HWND>(l));
+            return 0;
+        case WM_DPICHANGED:
+            frame->rescale(LOWORD(w), *reinterpret_cast<const RECT*>(l));
             return 0;
         case WM_CLOSE:
             PostQuitMessage(0);

@@ -25,7 +25,9 @@ class MainFrame {
                                             DWORD_PTR frame) noexcept;
 
     void createChildren();
-    void createFonts();
+    void createFont();
+    // Moves to `place`, on a display of another scale.
+    void rescale(int dpi, const RECT& place);
     void layOut();
     void paint();
     void append(std::wstring_view text);
