@@ -4,6 +4,7 @@
 
 #include "src/dialog/DialogFunctions.h"
 #include "src/platform/host/HostServices.h"
+#include "src/tiles/EditFunctions.h"
 #include "src/tiles/ListFunctions.h"
 #include "src/tiles/ValueFunctions.h"
 #include "src/tiles/WindowFunctions.h"
@@ -87,8 +88,8 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_tree_getcount", notBuiltYet},
     {L"wex_tree_expanditem", notBuiltYet},
     {L"wex_tree_setupimagelist", notBuiltYet},
-    {L"wex_edit_setasnumeric", notBuiltYet},
-    {L"wex_edit_setasangular", notBuiltYet},
+    {L"wex_edit_setasnumeric", withArguments<editSetAsNumeric>},
+    {L"wex_edit_setasangular", withArguments<editSetAsAngular>},
     {L"wex_grid_sortcolbytext", notBuiltYet},
     {L"wex_movecontrol", notBuiltYet},
     {L"wex_start_controlmove", notBuiltYet},
@@ -96,7 +97,7 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_enable_dialog", withAnyArguments<enableDialog>},
     {L"wex_grid_getcolumncount", notBuiltYet},
     {L"wex_grid_setrow", notBuiltYet},
-    {L"wex_edit_seteditlimit", notBuiltYet},
+    {L"wex_edit_seteditlimit", withArguments<editSetEditLimit>},
     {L"wex_grid_addrow", notBuiltYet},
     {L"wex_grid_getrowcount", notBuiltYet},
     {L"wex_grid_setjustification", notBuiltYet},

@@ -4,6 +4,7 @@
 #include "host/runner/HostFiles.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
+#include "host/units/UnitFunctions.h"
 
 namespace {
 
@@ -52,5 +53,6 @@ void defineHostFunctions(lisp::Interpreter& lisp) {
     lisp.defineNative(u"host_unload_plugin", &unloadPlugin, nullptr, 0, 0);
     lisp.defineNative(u"host_resources", &resources, nullptr, 0, 0);
     lisp.defineNative(u"exit", &exitProgram, nullptr, 0, 1);
+    defineUnitFunctions(lisp);
     lisp.evalText(START_UP, u"start-up");
 }

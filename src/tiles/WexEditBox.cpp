@@ -3,19 +3,77 @@
 #include <utility>
 
 #include "src/dialog/EventBridge.h"
+#include "src/platform/host/HostUnits.h"
+#include "src/tiles/EndOfEdit.h"
 
 IMPLEMENT_DYNAMIC(WexEditBox, CEdit)
+
+namespace {
+
+constexpr int FORMAT_CHARS = 256;
+constexpr UINT PLAIN_BEEP = static_cast<UINT>(-1);
+
+UnitConverters converters(EditMode mode, int unit, int precision) {
+    const bool angular = mode == EditMode::angular;
+    return {[=](const CString& text) -> std::optional<double> {
+                double value = 0;
+                const int status = (angular ? hostAngToF : hostDisToF)(text.c_str(), unit, &value);
+                return status == HOST_NORMAL ? std::optional(value) : std::nullopt;
+            },
+            [=](double value) -> std::optional<CString> {
+                wchar_t text[FORMAT_CHARS];
+                const int status =
+                    (angular ? hostAngToS : hostRToS)(value, unit, precision, text, FORMAT_CHARS);
+                return status == HOST_NORMAL ? std::optional(CString(text)) : std::nullopt;
+            }};
+}
+
+}  // namespace
 
 const MessageMap& WexEditBox::messageMap() const {
     static const MessageMap map(CEdit::messageMap(), {
                                                          onReflected<EN_SETFOCUS, &WexEditBox::onSetFocus>(),
-                                                         onReflected<EN_KILLFOCUS, &WexEditBox::endOfEdit>(),
+                                                         onReflected<EN_KILLFOCUS, &WexEditBox::endEditing>(),
+                                                         on<WM_CHAR, &WexEditBox::onChar>(),
                                                      });
     return map;
 }
 
-void WexEditBox::onSetFocus() { m_focusPending = true; }
+void WexEditBox::setNotation(EditMode mode, int unit, int precision) {
+    m_mode = mode;
+    m_unit = unit;
+    m_precision = precision;
+    if (const auto valid = validChars(mode, unit)) m_validChars = *valid;
+}
 
-void WexEditBox::endOfEdit() {
-    if (std::exchange(m_focusPending, false)) publish(*this, GetWindowText(), REASON_EDITED, m_action);
+void WexEditBox::onSetFocus() {
+    m_lastGood = GetWindowText();
+    m_focusPending = true;
+}
+
+void WexEditBox::onChar(UINT typed, UINT /*flags*/) {
+    if (typed == VK_RETURN) endEditing();
+    if (!isLive()) return;
+    switch (filterChar(static_cast<wchar_t>(typed), m_validChars)) {
+        case TypedChar::pass:
+            Default();
+            break;
+        case TypedChar::restore:
+            SetWindowText(m_lastGood);
+            break;
+        case TypedChar::refuse:
+            MessageBeep(PLAIN_BEEP);
+            break;
+    }
+}
+
+// One focus period gives one end of editing. Lisp sees the text as it was typed, before it is rewritten.
+void WexEditBox::endEditing() {
+    if (!std::exchange(m_focusPending, false)) return;
+    const CString typed = GetWindowText();
+    publish(*this, typed, REASON_EDITED, m_action);
+    if (m_mode == EditMode::plain || !isLive()) return;
+    const EditedText edited = endOfEdit(typed, m_lastGood, converters(m_mode, m_unit, m_precision));
+    m_lastGood = edited.lastGood;
+    SetWindowText(edited.shown);
 }

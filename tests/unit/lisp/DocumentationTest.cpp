@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "host/lisp/Machine.h"
+#include "host/units/UnitFunctions.h"
 #include "tests/unit/lisp/Session.h"
 
 namespace {
@@ -65,6 +66,7 @@ TEST(Documentation, ExamplesGiveWhatTheySay) {
     for (bool collectAlways : {false, true}) {
         WorkingFolder folder;
         Session session({.stackBytes = 256 * 1024});
+        defineUnitFunctions(session.lisp);
         session.lisp.setCollectAlways(collectAlways);
         std::vector<Example> examples = examplesOf(documentation());
         EXPECT_GT(examples.size(), 150u);
@@ -74,6 +76,7 @@ TEST(Documentation, ExamplesGiveWhatTheySay) {
 
 TEST(Documentation, NamesEveryFunction) {
     Session session;
+    defineUnitFunctions(session.lisp);
     std::string text = documentation();
     for (const auto& [name, symbol] : session.lisp.machine().symbols) {
         if (!symbol->specialForm && !symbol->value.isFunction()) continue;

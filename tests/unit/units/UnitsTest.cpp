@@ -6,6 +6,7 @@
 
 #include "host/units/AngularUnits.h"
 #include "host/units/LinearUnits.h"
+#include "host/units/UnitFunctions.h"
 
 namespace units {
 namespace {
@@ -102,6 +103,19 @@ TEST(AngularUnits, ReadWithAndWithoutTheUnitsMark) {
     EXPECT_NEAR(*angleFromText(L"-1.5r", 4), -1.5, 1e-12);
     for (const auto* text : {L"45r", L"45d30", L"d", L"45'", L"45dd"})
         EXPECT_FALSE(angleFromText(text, 2)) << text;
+}
+
+TEST(UnitFunctions, ConvertBothWaysAndGiveNilForWhatIsRefused) {
+    lisp::Interpreter lisp;
+    defineUnitFunctions(lisp);
+    const auto shown = [&](const char16_t* form) { return lisp.print(lisp.evalText(form, u"test")); };
+    EXPECT_EQ(shown(u"(rtos 17.5 4 1)"), u"\"1'-5 1/2\\\"\"");
+    EXPECT_EQ(shown(u"(rtos 17.5)"), u"\"17.5000\"");
+    EXPECT_EQ(shown(u"(distof \"1'6\" 4)"), u"18.0");
+    EXPECT_EQ(shown(u"(distof \"x\")"), u"nil");
+    EXPECT_EQ(shown(u"(rtos 1 9)"), u"nil");
+    EXPECT_EQ(shown(u"(angtos 0 5)"), u"\"E\"");
+    EXPECT_EQ(shown(u"(angtof \"180\" 1)"), lisp.print(lisp::Value::real(PI)));
 }
 
 // Half a unit of the last place that a precision shows, in the value's own measure.

@@ -1,0 +1,64 @@
+#include <gtest/gtest.h>
+
+#include "src/tiles/EditFilter.h"
+#include "src/tiles/EndOfEdit.h"
+#include "src/tiles/SelectionText.h"
+
+namespace {
+
+TEST(EditFilter, EachNotationHasItsCharacters) {
+    EXPECT_EQ(validChars(EditMode::numeric, 1), L"Ee+0123456789.-");
+    EXPECT_EQ(validChars(EditMode::numeric, 2), L"0123456789.-");
+    EXPECT_EQ(validChars(EditMode::numeric, 4), L"0123456789./' \"-");
+    EXPECT_EQ(validChars(EditMode::numeric, 5), L"0123456789./-");
+    EXPECT_EQ(validChars(EditMode::angular, 1), L"0123456789.-");
+    EXPECT_EQ(validChars(EditMode::angular, 2), L"Dd0123456789.'\"-");
+    EXPECT_EQ(validChars(EditMode::angular, 5), L"DdNnSsEeWw 0123456789.'\"-");
+    EXPECT_FALSE(validChars(EditMode::numeric, 0));
+    EXPECT_FALSE(validChars(EditMode::angular, 6));
+    EXPECT_FALSE(validChars(EditMode::plain, 1));
+}
+
+TEST(EditFilter, OnlyBackspaceAndEscAreFree) {
+    const auto decimal = *validChars(EditMode::numeric, 2);
+    EXPECT_EQ(filterChar(L'7', decimal), TypedChar::pass);
+    EXPECT_EQ(filterChar(L'x', decimal), TypedChar::refuse);
+    EXPECT_EQ(filterChar(L'\r', decimal), TypedChar::refuse);
+    EXPECT_EQ(filterChar(3, decimal), TypedChar::refuse) << "Ctrl+C";
+    EXPECT_EQ(filterChar(8, decimal), TypedChar::pass);
+    EXPECT_EQ(filterChar(27, decimal), TypedChar::restore);
+    EXPECT_EQ(filterChar(L'x', L""), TypedChar::pass);
+    EXPECT_EQ(filterChar(27, L""), TypedChar::restore);
+}
+
+UnitConverters converters(std::optional<double> parsed, std::optional<CString> formatted,
+                          CString* seen = nullptr) {
+    return {[=](const CString& text) {
+                if (seen) *seen = text;
+                return parsed;
+            },
+            [=](double) { return formatted; }};
+}
+
+TEST(EndOfEdit, ShowsTheHostsFormOrTheLastGoodText) {
+    const EditedText good = endOfEdit(L"1.5", L"old", converters(1.5, L"1.5000"));
+    EXPECT_EQ(good.shown, L"1.5000");
+    EXPECT_EQ(good.lastGood, L"1.5000");
+    const EditedText bad = endOfEdit(L"1-2", L"12", converters(std::nullopt, L"x"));
+    EXPECT_EQ(bad.shown, L"12");
+    EXPECT_EQ(bad.lastGood, L"12");
+    const EditedText unformatted = endOfEdit(L"7", L"old", converters(7, std::nullopt));
+    EXPECT_EQ(unformatted.shown, L"7");
+    EXPECT_EQ(unformatted.lastGood, L"7");
+    CString seen;
+    EXPECT_EQ(endOfEdit(L"", L"old", converters(0, std::nullopt, &seen)).shown, L"0.0");
+    EXPECT_EQ(seen, L"0.0");
+}
+
+TEST(SelectionText, JoinsWithOneBlank) {
+    EXPECT_EQ(selectionText({}), L"");
+    const int several[] = {0, 12, 345};
+    EXPECT_EQ(selectionText(several), L"0 12 345");
+}
+
+}  // namespace
