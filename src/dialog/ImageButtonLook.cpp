@@ -1,6 +1,12 @@
 #include "src/dialog/ImageButtonLook.h"
 
+#include <cmath>
+
 namespace {
+
+constexpr double SIDE_AT_96_DPI = 16.0;
+// The pictures that an icon holds, from the smallest.
+constexpr int PICTURE_SIDES[] = {16, 20, 24, 32};
 
 bool contains(std::wstring_view text, std::wstring_view what) {
     return text.find(what) != std::wstring_view::npos;
@@ -42,4 +48,13 @@ std::optional<ImageButtonLook> imageButtonLook(std::wstring_view caption, const 
         return ImageButtonLook{caption, ICON_CAPTION_A};
     if (startsWith(caption, 6, c)) return ImageButtonLook{caption, ICON_CAPTION_C};
     return std::nullopt;
+}
+
+int iconSide(const ImageButtonLook& look, double scale) {
+    const int side = static_cast<int>(std::lround(scale * SIDE_AT_96_DPI));
+    if (look.scaledIcon) return side;
+    int fitting = PICTURE_SIDES[0];
+    for (const int picture : PICTURE_SIDES)
+        if (picture <= side) fitting = picture;
+    return fitting;
 }

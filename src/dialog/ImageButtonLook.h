@@ -24,7 +24,8 @@ enum ImageButtonIcon {
 struct ImageButtonLook {
     CString text;
     int icon = 0;
-    // The icon is 16 by 16 pixels of 96 dots per inch, scaled to the monitor; otherwise it has its own size.
+    // The icon is 16 by 16 pixels of 96 dots per inch, scaled to the monitor; otherwise the picture of it
+    // that suits the monitor has its own size.
     bool scaledIcon = false;
 };
 
@@ -33,3 +34,6 @@ bool isImageButtonCaption(std::wstring_view caption, const ButtonCaptions& capti
 
 // The look that a caption gives; nothing where no rule fits, and the button keeps its text and has no icon.
 std::optional<ImageButtonLook> imageButtonLook(std::wstring_view caption, const ButtonCaptions& captions);
+
+// The side in pixels of an icon on a monitor of that scale (1.0: 96 dots per inch).
+int iconSide(const ImageButtonLook& look, double scale);

@@ -1,7 +1,5 @@
 #include "src/tiles/WexButtonSt.h"
 
-#include <cmath>
-
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/WexDialog.h"
 #include "src/platform/host/HostServices.h"
@@ -11,14 +9,10 @@ IMPLEMENT_DYNAMIC(WexButtonSt, CXPStyleButtonST)
 
 namespace {
 
-// The side of a scaled icon, in pixels at 96 dots per inch.
-constexpr double ICON_SIDE = 16.0;
-
 HICON loadButtonIcon(HWND button, const ImageButtonLook& look) {
-    if (!look.scaledIcon) return loadIcon(look.icon);
     const HMONITOR monitor = MonitorFromWindow(button, MONITOR_DEFAULTTONEAREST);
-    return loadIcon(look.icon, static_cast<int>(std::lround(hostMonitorDpiXScale(monitor) * ICON_SIDE)),
-                    static_cast<int>(std::lround(hostMonitorDpiYScale(monitor) * ICON_SIDE)));
+    return loadIcon(look.icon, iconSide(look, hostMonitorDpiXScale(monitor)),
+                    iconSide(look, hostMonitorDpiYScale(monitor)));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 const ButtonCaptions captions{L"Pick", L"Pick", L"Browse", L"Search"};
@@ -68,6 +70,20 @@ TEST(ImageButton, EachCaptionGivesItsTextAndIcon) {
         EXPECT_EQ(look->scaledIcon, row.icon > 1000) << row.caption;
     }
     EXPECT_FALSE(imageButtonLook(L"Searching", captions)) << "caption D counts whole only";
+}
+
+TEST(ImageButton, IconsGrowWithTheMonitor) {
+    const ImageButtonLook stretched{L"", ICON_UP, true}, pictured{L"", ICON_ARROWS_LEFT};
+    for (const auto& [scale, scaledSide, pictureSide] : {std::tuple{1.0, 16, 16},
+                                                         {1.25, 20, 20},
+                                                         {1.5, 24, 24},
+                                                         {1.75, 28, 24},
+                                                         {2.0, 32, 32},
+                                                         {3.0, 48, 32},
+                                                         {0.9, 14, 16}}) {
+        EXPECT_EQ(iconSide(stretched, scale), scaledSide) << scale;
+        EXPECT_EQ(iconSide(pictured, scale), pictureSide) << scale;
+    }
 }
 
 }  // namespace

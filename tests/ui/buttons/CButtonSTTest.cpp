@@ -1,0 +1,147 @@
+// How an image button looks and what it tells the dialog manager, on a window of its own.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "src/buttons/CXPStyleButtonST.h"
+
+namespace {
+
+constexpr int WIDTH = 60, HEIGHT = 40, ICON_SIDE = 16;
+
+using Pixels = std::vector<uint32_t>;
+
+BITMAPINFO picture(int width, int height) {
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    return info;
+}
+
+HICON redIcon() {
+    const BITMAPINFO info = picture(ICON_SIDE, ICON_SIDE);
+    void* bits = nullptr;
+    const UniqueBitmap color(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    std::fill_n(static_cast<uint32_t*>(bits), ICON_SIDE * ICON_SIDE, 0xFFFF0000);
+    const UniqueBitmap mask(
+        CreateBitmap(ICON_SIDE, ICON_SIDE, 1, 1, Pixels(ICON_SIDE * ICON_SIDE / 32).data()));
+    ICONINFO icon = {TRUE, 0, 0, mask.get(), color.get()};
+    return CreateIconIndirect(&icon);
+}
+
+class ImageButton : public testing::Test {
+  protected:
+    ImageButton() {
+        parent.CreateEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, RECT{0, 0, 200, 100}, nullptr, 0);
+        window = CreateWindowW(L"Button", L"", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, 0, 0, WIDTH, HEIGHT,
+                               parent.m_hWnd, nullptr, nullptr, nullptr);
+        button.SubclassWindow(window);
+        button.SetIcon(redIcon());
+    }
+
+    Pixels shown() {
+        UpdateWindow(window);
+        const BITMAPINFO info = picture(WIDTH, HEIGHT);
+        void* bits = nullptr;
+        const ClientDC from(window);
+        const UniqueBitmap bitmap(CreateDIBSection(from, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        const HDC to = CreateCompatibleDC(from);
+        {
+            const SelectedObject selected(to, bitmap.get());
+            BitBlt(to, 0, 0, WIDTH, HEIGHT, from, 0, 0, SRCCOPY);
+            GdiFlush();
+        }
+        DeleteDC(to);
+        Pixels pixels(static_cast<uint32_t*>(bits), static_cast<uint32_t*>(bits) + WIDTH * HEIGHT);
+        for (uint32_t& pixel : pixels) pixel &= 0xFFFFFF;
+        return pixels;
+    }
+
+    // Where the icon's color is; empty where nowhere.
+    RECT redArea() {
+        const Pixels pixels = shown();
+        RECT area = {};
+        for (int y = 0; y < HEIGHT; ++y)
+            for (int x = 0; x < WIDTH; ++x)
+                if (const RECT pixel{x, y, x + 1, y + 1}; pixels[y * WIDTH + x] == 0xFF0000)
+                    UnionRect(&area, &area, &pixel);
+        return area;
+    }
+
+    bool showsRed() {
+        const RECT area = redArea();
+        return !IsRectEmpty(&area);
+    }
+
+    LRESULT dialogCode() const { return button.SendMessage(WM_GETDLGCODE); }
+
+    CWnd parent;
+    HWND window = nullptr;
+    CXPStyleButtonST button;
+};
+
+TEST_F(ImageButton, showsTheIconAloneInTheMiddle) {
+    const RECT area = redArea();
+    EXPECT_EQ(area.right - area.left, ICON_SIDE);
+    EXPECT_EQ(area.bottom - area.top, ICON_SIDE);
+    EXPECT_EQ(area.left + area.right, WIDTH);
+    EXPECT_EQ(area.top + area.bottom, HEIGHT);
+}
+
+TEST_F(ImageButton, putsTheTextBesideTheIcon) {
+    const RECT alone = redArea();
+    button.SetWindowText(L"ab");
+    const RECT beside = redArea();
+    EXPECT_LT(beside.left, alone.left);
+    EXPECT_EQ(beside.right - beside.left, ICON_SIDE);
+}
+
+TEST_F(ImageButton, isGreyWhileDisabled) {
+    button.EnableWindow(false);
+    const Pixels grey = shown();
+    EXPECT_TRUE(std::all_of(grey.begin(), grey.end(), [](uint32_t pixel) {
+        return (pixel >> 16 & 0xFF) == (pixel & 0xFF) && (pixel >> 8 & 0xFF) == (pixel & 0xFF);
+    }));
+    EXPECT_NE(grey[HEIGHT / 2 * WIDTH + WIDTH / 2], grey[HEIGHT / 2 * WIDTH + WIDTH / 4])
+        << "no icon is left";
+    button.EnableWindow(true);
+    EXPECT_TRUE(showsRed());
+}
+
+TEST_F(ImageButton, movesItsContentWhilePressed) {
+    const RECT up = redArea();
+    const Pixels before = shown();
+    button.SendMessage(BM_SETSTATE, TRUE);
+    const RECT down = redArea();
+    EXPECT_EQ(down.left, up.left + 1);
+    EXPECT_EQ(down.top, up.top + 1);
+    EXPECT_TRUE(button.state().pressed);
+    button.SendMessage(BM_SETSTATE, FALSE);
+    EXPECT_EQ(shown(), before);
+}
+
+TEST_F(ImageButton, knowsWhenThePointerIsOverIt) {
+    button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_TRUE(button.state().hover);
+    button.SendMessage(WM_MOUSELEAVE);
+    EXPECT_FALSE(button.state().hover);
+}
+
+TEST_F(ImageButton, takesTheDefaultLookAndStillDrawsItself) {
+    const Pixels plain = shown();
+    EXPECT_TRUE(dialogCode() & DLGC_UNDEFPUSHBUTTON);
+    button.SendMessage(BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+    EXPECT_TRUE(dialogCode() & DLGC_DEFPUSHBUTTON);
+    EXPECT_EQ(button.GetStyle() & BS_TYPEMASK, DWORD{BS_OWNERDRAW});
+    EXPECT_TRUE(showsRed());
+    EXPECT_NE(shown(), plain);
+    button.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+    EXPECT_EQ(shown(), plain);
+}
+
+TEST_F(ImageButton, isWithoutIconOnceItIsTakenAway) {
+    button.SetIcon(nullptr);
+    EXPECT_FALSE(showsRed());
+}
+
+}  // namespace
