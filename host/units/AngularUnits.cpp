@@ -161,7 +161,7 @@ std::optional<double> angleFromText(std::wstring_view text, int unit) {
     scanner.skipBlanks();
     const auto radians = signedFrom(scanner, unit);
     scanner.skipBlanks();
-    return scanner.atEnd() ? radians : std::nullopt;
+    return radians && std::isfinite(*radians) && scanner.atEnd() ? radians : std::nullopt;
 }
 
 }  // namespace units

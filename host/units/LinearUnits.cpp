@@ -102,7 +102,9 @@ std::optional<std::wstring> distanceText(double value, int unit, int precision) 
     if (precision == -1) precision = 4;
     if (precision < 0 || precision > 8 || !std::isfinite(value)) return std::nullopt;
     const double magnitude = std::fabs(value);
-    const auto parts = [&] { return std::round(std::ldexp(magnitude, precision)); };
+    // Beyond this a double has no fraction left to show.
+    const int power = magnitude < 1e15 ? precision : 0;
+    const auto parts = [&] { return std::round(std::ldexp(magnitude, power)); };
     switch (unit) {
         case SCIENTIFIC:
             return withSign(value, formatted("%.*E", precision, magnitude));
@@ -111,9 +113,9 @@ std::optional<std::wstring> distanceText(double value, int unit, int precision) 
         case ENGINEERING:
             return withSign(value, engineering(magnitude, precision));
         case ARCHITECTURAL:
-            return withSign(value, architectural(parts(), precision));
+            return withSign(value, architectural(parts(), power));
         case FRACTIONAL:
-            return withSign(value, fractional(parts(), precision, false));
+            return withSign(value, fractional(parts(), power, false));
         default:
             return std::nullopt;
     }
@@ -125,7 +127,8 @@ std::optional<double> distanceFromText(std::wstring_view text, int unit) {
     const double sign = scanner.sign();
     const auto magnitude = magnitudeFrom(scanner, unit);
     scanner.skipBlanks();
-    return magnitude && scanner.atEnd() ? std::optional(sign * *magnitude) : std::nullopt;
+    return magnitude && std::isfinite(*magnitude) && scanner.atEnd() ? std::optional(sign * *magnitude)
+                                                                     : std::nullopt;
 }
 
 }  // namespace units

@@ -195,9 +195,12 @@ TEST_F(ModalTest, OwnerIsFoundWhenTheRunBegins) {
 
 TEST_F(ModalTest, IdlenessIsToldOnceInAPeriod) {
     TestDialog dialog(&owner);
-    dialog.init = [&] { SetTimer(dialog.m_hWnd, 1, 30, nullptr); };
+    // From the first idle moment on nothing happens until the timer rings.
+    owner.steps = {[&] {
+        owner.waits = true;
+        SetTimer(dialog.m_hWnd, 1, 30, nullptr);
+    }};
     dialog.timer = [&] { dialog.EndDialog(0); };
-    owner.waits = true;
     EXPECT_EQ(dialog.DoModal(), 0);
     EXPECT_GT(owner.idles, 0);
     EXPECT_LT(owner.idles, 20) << "a few, as the platform's own messages count, but not over and over";

@@ -60,6 +60,8 @@ TEST(LinearUnits, RefuseWhatIsNoDistance) {
     EXPECT_FALSE(distanceText(1, 2, 9));
     EXPECT_FALSE(distanceText(1, 2, -2));
     EXPECT_FALSE(distanceText(INFINITY, 2, 2));
+    EXPECT_TRUE(distanceText(1e308, 4, 8));
+    EXPECT_FALSE(distanceFromText(std::wstring(308, L'9') + L"'", 4));
     EXPECT_FALSE(angleText(NAN, 1, 2));
 }
 
