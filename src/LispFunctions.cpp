@@ -6,6 +6,7 @@
 #include "src/platform/host/HostServices.h"
 #include "src/tiles/EditFunctions.h"
 #include "src/tiles/ListFunctions.h"
+#include "src/tiles/ResizeFunctions.h"
 #include "src/tiles/ValueFunctions.h"
 #include "src/tiles/WindowFunctions.h"
 
@@ -58,9 +59,9 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_listctrl_keephighlight", notBuiltYet},
     {L"wex_listctrl_setitemcount", notBuiltYet},
     {L"wex_loadpicturefile", notBuiltYet},
-    {L"wex_setresizing", notBuiltYet},
-    {L"wex_setminresizing", notBuiltYet},
-    {L"wex_setmaxresizing", notBuiltYet},
+    {L"wex_setresizing", withArguments<setResizing>},
+    {L"wex_setminresizing", withArguments<setMinResizing>},
+    {L"wex_setmaxresizing", withArguments<setMaxResizing>},
     {L"wex_settitlebar", withArguments<setTitleBar>},
     {L"wex_grid_setrowcolumns", notBuiltYet},
     {L"wex_grid_setcell", notBuiltYet},
@@ -91,9 +92,9 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_edit_setasnumeric", withArguments<editSetAsNumeric>},
     {L"wex_edit_setasangular", withArguments<editSetAsAngular>},
     {L"wex_grid_sortcolbytext", notBuiltYet},
-    {L"wex_movecontrol", notBuiltYet},
-    {L"wex_start_controlmove", notBuiltYet},
-    {L"wex_end_controlmove", notBuiltYet},
+    {L"wex_movecontrol", withArguments<moveControl>},
+    {L"wex_start_controlmove", withArguments<startControlMove>},
+    {L"wex_end_controlmove", withAnyArguments<endControlMove>},
     {L"wex_enable_dialog", withAnyArguments<enableDialog>},
     {L"wex_grid_getcolumncount", notBuiltYet},
     {L"wex_grid_setrow", notBuiltYet},

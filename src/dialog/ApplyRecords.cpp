@@ -17,6 +17,7 @@ bool WexDialog::OnInitDialog() {
     m_initialClientRect = GetClientRect();
     callLispAction(m_onInitAction);
     applyRecords();
+    placeAtStart();
     return true;
 }
 
@@ -28,7 +29,9 @@ void WexDialog::applyRecords() {
         if (id == -1) continue;
         // A dialog that runs again has new windows, and what was never wrapped still names the old one.
         CWnd* control = tile.m_control && tile.m_control->isLive() ? tile.m_control : itemForId(id);
-        if (control) applyTile(*control, tile);
+        if (!control) continue;
+        computeAnchors(*control, tile);
+        applyTile(*control, tile);
     }
 }
 

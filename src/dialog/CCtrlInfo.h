@@ -1,11 +1,12 @@
 // The record of one tile of one dialog, kept from the tile's first mention to the dialog's end. Portable.
 #pragma once
 
-#include <array>
 #include <cstdint>
 
+#include "src/dialog/Anchors.h"
 #include "src/platform/base/CObject.h"
 #include "src/platform/base/CString.h"
+#include "src/platform/base/PixelRect.h"
 
 class CWnd;
 
@@ -21,16 +22,6 @@ enum TileMode : int32_t {
 };
 
 struct CCtrlInfo : CObject {
-    struct Rect {
-        int32_t left = 0, top = 0, right = 0, bottom = 0;
-    };
-    // Distances to the dialog's right and bottom edges, in client pixels.
-    struct AnchorOffsets {
-        int32_t left = UNANCHORED, top = UNANCHORED, right = UNANCHORED, bottom = UNANCHORED;
-        int32_t horizontalCentre = UNANCHORED, verticalCentre = UNANCHORED;
-    };
-    static constexpr int32_t UNANCHORED = -10000;
-
     CString m_key;    // lower case
     CString m_value;  // the last value set
     CStringArray m_listItems;
@@ -43,7 +34,7 @@ struct CCtrlInfo : CObject {
     CWnd* m_control = nullptr;    // the dialog's
     CString m_slideFile;
     CString m_auxText;  // the slide's name within its file, or a list control's column text
-    Rect m_slideRect;
+    PixelRect m_slideRect;
     bool m_endListFlag = false;
     int32_t m_endListIndex = -1;
     CString m_controlType;  // the type word that discovery gave

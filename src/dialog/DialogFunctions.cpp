@@ -6,6 +6,7 @@
 #include "src/dialog/WexDialog.h"
 #include "src/shell/EventFile.h"
 #include "src/shell/EventText.h"
+#include "src/shell/HostNumber.h"
 
 namespace {
 
@@ -13,11 +14,6 @@ namespace {
 // and its profile alone. kept: programs give the position.
 int32_t g_dialogPosX = -1;
 int32_t g_dialogPosY = -1;
-
-int32_t truncated(double number) {
-    constexpr double beyond = 2147483648.0;
-    return number > -beyond - 1 && number < beyond ? static_cast<int32_t>(number) : INT32_MIN;
-}
 
 // Defines the function of an action in the event file, and gives its name.
 CString defineAction(const WexDialog& dialog, const CString& key, const CString& lispText) {

@@ -24,6 +24,9 @@ class TileControl {
     // Takes over what the wrapper keeps of the record. The base copies the action's name.
     virtual void applyRecord(CCtrlInfo& tile);
 
+    // The dialog has been laid out anew. True: the control has to be redrawn.
+    virtual bool laidOut() { return false; }
+
     // Name of the Lisp function behind the tile, empty for none.
     CString m_action;
 };

@@ -65,11 +65,12 @@ void WexDialog::onPaint() {
     const int32_t focusId = std::exchange(m_focusId, -1);
     if (focusId >= 0)
         if (const CWnd* control = itemForId(focusId)) control->SetFocus();
-    if (isLive()) Default();
+    if (isLive()) CSnapDlg::onPaint();
 }
 
-void WexDialog::onSize(UINT /*type*/, int /*width*/, int /*height*/) {
-    Default();
+void WexDialog::onSize(UINT type, int width, int height) {
+    CSnapDlg::onSize(type, width, height);
+    layoutControls(width, height);
     if (!m_discovered || m_onSizeAction.IsEmpty()) return;
     const RECT client = GetClientRect();
     setEventValuePoint(client.right, client.bottom);
@@ -78,7 +79,7 @@ void WexDialog::onSize(UINT /*type*/, int /*width*/, int /*height*/) {
 
 // The dialog may run again, and then starts like the first time.
 void WexDialog::onDestroy() {
-    Default();
+    CSnapDlg::onDestroy();
     m_discovered = false;
     m_focusId = -1;
 }

@@ -37,6 +37,14 @@ class WexDialog : public CSnapDlg {
     void setValueByKey(const CString& key, const CString& value);
     void setValueById(int id, const CString& value);
 
+    // --- layout (Layout.cpp)
+
+    // Puts the anchored controls where they belong in a client area of that size, in pixels, unless that is
+    // the size of the last layout.
+    void layoutControls(int width, int height);
+    // Fits the labels, and redraws what was moved and needs it. Stops at the first control that is gone.
+    void redrawMoved();
+
     // --- events
 
     bool PreTranslateMessage(MSG& message) override;
@@ -51,6 +59,7 @@ class WexDialog : public CSnapDlg {
     CCtrlInfo* m_listTile = nullptr;   // of the open wex_start_list
     CCtrlInfo* m_imageTile = nullptr;  // of the open wex_start_image
     CString m_name;                    // lower case
+    HDWP m_deferPos = nullptr;         // the open wex_start_controlmove
     CString m_title;                   // set before the window exists
     bool m_inAction = false;           // a button's click is being served
     int32_t m_focusId = -1;            // the control that gets the focus at the first paint
@@ -70,6 +79,8 @@ class WexDialog : public CSnapDlg {
 
     void discover(CDataExchange& exchange, int id, HWND control);
     void applyRecords();
+    void computeAnchors(const CWnd& control, CCtrlInfo& tile);
+    void placeAtStart();
     void applyTile(CWnd& control, CCtrlInfo& tile);
     void applyMode(CWnd& control, CCtrlInfo& tile);
     void setControlValue(CWnd* control, const CString& value, bool byKey);

@@ -9,4 +9,5 @@ class WexGrid : public CWnd, public TileControl {
 
   public:
     CWnd& wnd() override { return *this; }
+    bool laidOut() override { return true; }
 };

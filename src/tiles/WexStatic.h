@@ -1,4 +1,4 @@
-// A label.
+// A label, whose height follows its text when the dialog is laid out.
 #pragma once
 
 #include "src/dialog/TileControl.h"
@@ -9,4 +9,13 @@ class WexStatic : public CStatic, public TileControl {
 
   public:
     CWnd& wnd() override { return *this; }
+    bool laidOut() override { return fitHeight(); }
+
+  protected:
+    const MessageMap& messageMap() const override;
+
+  private:
+    // Makes the label as high as its wrapped text. True where that changed it.
+    bool fitHeight();
+    void onSizing(UINT edge, RECT* proposed);
 };
