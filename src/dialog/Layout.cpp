@@ -34,6 +34,9 @@ void WexDialog::layoutControls(int width, int height) {
     m_lastClientRect = client;
     EndDeferWindowPos(batch);
     redrawMoved();
+    // A control that was moved with its picture counts as painted, and would be erased with the dialog's
+    // background.
+    RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void WexDialog::redrawMoved() {

@@ -54,7 +54,7 @@
   '((in-growing '(progn (wex_setresizing "MSG" 25)
                         (wex_set_tile "MSG" "one two three four five six seven eight nine ten eleven twelve thirteen fourteen fifteen sixteen"))
       '((setq wide (cadddr (rect "MSG")))
-        (ui_size 300 460)
+        (ui_size 220 460)
         (want T (> (cadddr (rect "MSG")) wide))
         (ui_size 520 460)
         (want wide (cadddr (rect "MSG")))
