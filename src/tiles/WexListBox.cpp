@@ -39,9 +39,14 @@ bool WexListBox::hasSelection() const {
     return count >= 1 || (count == LB_ERR && SendMessage(LB_GETCURSEL) >= 0);
 }
 
+// OK is looked at first, while the selection of the first click stands.
 void WexListBox::onDoubleClick(UINT /*keys*/, POINT /*at*/) {
-    Default();
-    const CWnd* parent = m_dblClickEnabled ? GetParent() : nullptr;
+    if (m_dblClickEnabled) pressOk();
+    if (isLive()) Default();
+}
+
+void WexListBox::pressOk() {
+    const CWnd* parent = GetParent();
     CWnd* ok = parent ? parent->GetDlgItem(IDOK) : nullptr;
     if (!ok) return;
     // kept: without a selection OK is disabled until Lisp enables it.

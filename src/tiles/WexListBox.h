@@ -17,6 +17,7 @@ class WexListBox : public CListBox, public TileControl {
   private:
     void onSelectionChanged();
     void onDoubleClick(UINT keys, POINT at);
+    void pressOk();
     bool hasSelection() const;
 
     bool m_dblClickEnabled = true;
