@@ -66,6 +66,7 @@ windows_tests() {
 }
 
 native_tests &
+native_job=$!
 windows_tests
-wait $!
+wait $native_job
 report_totals
