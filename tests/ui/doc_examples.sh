@@ -5,7 +5,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-documents=(docs/lisp-functions.md docs/sessions.md docs/dialogs.md)
+documents=(README.md docs/lisp-functions.md docs/sessions.md docs/dialogs.md)
 awk -v folder="$work" '
     /^```lisp$/ { inside = 1; file = sprintf("%s/%02d.lsp", folder, ++count); printf "; %s, line %d\n", FILENAME, FNR > file; next }
     /^```$/     { inside = 0 }
