@@ -13,7 +13,6 @@ class CString : public std::wstring {
     CString(std::wstring_view text) : std::wstring(text) {}
 
     bool IsEmpty() const { return empty(); }
-    int CompareNoCase(const wchar_t* other) const { return toLower(*this).compare(toLower(other)); }
 };
 
 using CStringArray = std::vector<CString>;

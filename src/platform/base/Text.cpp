@@ -52,11 +52,6 @@ std::wstring trimBlanksRight(std::wstring_view text) {
     return std::wstring(last == std::wstring_view::npos ? std::wstring_view{} : text.substr(0, last + 1));
 }
 
-std::wstring trimBlanks(std::wstring_view text) {
-    const size_t first = text.find_first_not_of(L' ');
-    return first == std::wstring_view::npos ? std::wstring() : trimBlanksRight(text.substr(first));
-}
-
 std::wstring without(std::wstring_view text, std::wstring_view what) {
     std::wstring kept;
     size_t from = 0;

@@ -16,8 +16,5 @@ int decimalNumber(std::wstring_view text);
 // `text` without blanks (the space character only) at its right end.
 std::wstring trimBlanksRight(std::wstring_view text);
 
-// `text` without blanks (the space character only) at both ends.
-std::wstring trimBlanks(std::wstring_view text);
-
 // `text` with every occurrence of `what` taken out, searched once from left to right.
 std::wstring without(std::wstring_view text, std::wstring_view what);

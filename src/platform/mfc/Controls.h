@@ -45,9 +45,5 @@ class CScrollBar : public CWnd {
     void GetScrollRange(int& minimum, int& maximum) const {
         ::GetScrollRange(m_hWnd, SB_CTL, &minimum, &maximum);
     }
-    void SetScrollRange(int minimum, int maximum) const {
-        ::SetScrollRange(m_hWnd, SB_CTL, minimum, maximum, TRUE);
-    }
-    int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
     void SetScrollPos(int position) const { ::SetScrollPos(m_hWnd, SB_CTL, position, TRUE); }
 };

@@ -21,9 +21,6 @@ using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, Delete>;
 
 }  // namespace drawing
 
-using UniqueFont = drawing::Unique<HFONT, drawing::DeleteGdiObject>;
-using UniqueBrush = drawing::Unique<HBRUSH, drawing::DeleteGdiObject>;
-using UniquePen = drawing::Unique<HPEN, drawing::DeleteGdiObject>;
 using UniqueBitmap = drawing::Unique<HBITMAP, drawing::DeleteGdiObject>;
 // Never for an icon that was loaded with LR_SHARED.
 using UniqueIcon = drawing::Unique<HICON, drawing::DeleteIcon>;

@@ -19,8 +19,6 @@ TEST(Text, DecimalNumberReadsWhatTheRunTimeReads) {
 
 TEST(Text, BlanksAndCase) {
     EXPECT_EQ(trimBlanksRight(L" a \t "), L" a \t");
-    EXPECT_EQ(trimBlanks(L"  a  "), L"a");
-    EXPECT_EQ(trimBlanks(L"   "), L"");
     EXPECT_EQ(without(L"a<< b<<", L"<< "), L"ab<<");
     EXPECT_TRUE(equalIgnoringCase(L"Add_Rec", L"ADD_rec"));
     EXPECT_FALSE(equalIgnoringCase(L"a", L"ab"));
