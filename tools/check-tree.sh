@@ -13,6 +13,8 @@ files() {
     done
 }
 
+[ -n "$(files '*.cpp')" ] || { echo "git tells of no files here"; exit 1; }
+
 # Each line that is read becomes a finding, with the words of $1.
 tell() { sed "s|\$|: $1|" >>"$findings"; }
 
