@@ -27,6 +27,7 @@ Tile::Tile(lisp::Call& call, size_t index) : m_dialog(runningDialog()) {
 void Tile::mustBeWorkable() const {
     if (!IsWindowVisible(m_window)) fail(L"it is not visible");
     if (!IsWindowEnabled(m_window)) fail(L"it is disabled");
+    if (!IsWindowEnabled(GetAncestor(m_window, GA_ROOT))) fail(L"its dialog is disabled");
 }
 
 void Tile::fail(const std::wstring& why) const {

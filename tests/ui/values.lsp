@@ -111,8 +111,13 @@
         (want "Renamed" (ui_title))
         (wex_settitlebar 5)
         (want "" (ui_title))
+        (foreach call '((wex_enable_dialog 0) (wex_enable_dialog nil))
+          (eval call)
+          (want T (stringp (catch-error (ui_click "KEEP"))))
+          (wex_enable_dialog))
         (wex_enable_dialog 0)
-        (wex_enable_dialog)
+        (wex_enable_dialog "any other flag")
+        (want nil (stringp (catch-error (ui_click "KEEP"))))
         (ui_click "Cancel")))))
 
 (test "wex_alert shows its text over the dialog and gives nil"
