@@ -1,4 +1,5 @@
 // Setting a tile's value: in its control, by the control's class, and in its record.
+#include "src/dialog/RowSelection.h"
 #include "src/dialog/TileValue.h"
 #include "src/dialog/WexDialog.h"
 
@@ -17,24 +18,13 @@ void select(const CWnd& control, const CString& value, UINT countMessage, UINT s
     if (index >= 0 && index < control.SendMessage(countMessage)) control.SendMessage(selectMessage, index);
 }
 
-void setRowState(const CWnd& list, int row, UINT state) {
-    LVITEMW item = {};
-    item.mask = LVIF_STATE;
-    item.iItem = row;
-    item.state = state;
-    item.stateMask = LVIS_SELECTED;
-    list.SendMessage(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-}
-
 // kept: only the key path clears the selection by a negative row.
-void selectRow(const CWnd& list, const CString& value, bool byKey) {
+void setListControl(const CWnd& list, const CString& value, bool byKey) {
     const int row = decimalNumber(value);
-    const int count = static_cast<int>(list.SendMessage(LVM_GETITEMCOUNT));
-    if (row < 0 && byKey)
-        for (int at = 0; at < count; ++at) setRowState(list, at, 0);
-    if (row < 0 || row >= count) return;
-    setRowState(list, row, LVIS_SELECTED);
-    list.SendMessage(LVM_ENSUREVISIBLE, row, TRUE);
+    if (row >= 0)
+        selectRow(list, row);
+    else if (byKey)
+        clearSelection(list);
 }
 
 }  // namespace
@@ -45,7 +35,7 @@ void WexDialog::setControlValue(CWnd* control, const CString& value, bool byKey)
         case ValueMeaning::buttonState:
             return setButton(*control, value);
         case ValueMeaning::listControlRow:
-            return selectRow(*control, value, byKey);
+            return setListControl(*control, value, byKey);
         case ValueMeaning::tab:
             return select(*control, value, TCM_GETITEMCOUNT, TCM_SETCURSEL);
         case ValueMeaning::listBoxEntry:

@@ -24,6 +24,9 @@ class TileControl {
     // Takes over what the wrapper keeps of the record. The base copies the action's name.
     virtual void applyRecord(CCtrlInfo& tile);
 
+    // A list control that shows rows of a source, and so has no items of its own.
+    virtual bool showsSourceRows() const { return false; }
+
     // The dialog has been laid out anew. True: the control has to be redrawn.
     virtual bool laidOut() { return false; }
 

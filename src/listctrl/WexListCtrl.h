@@ -1,13 +1,33 @@
-// A list control, which selects whole rows and shows them selected without the focus.
+// A list control: a table with a header, which selects whole rows and shows them selected without the focus.
 #pragma once
 
 #include "src/dialog/TileControl.h"
+#include "src/listctrl/RowSource.h"
 #include "src/platform/mfc/Controls.h"
 
 class WexListCtrl : public CListCtrl, public TileControl {
     DECLARE_DYNAMIC(WexListCtrl)
 
   public:
+    CString m_columnRef;      // the last column text that was given
+    int32_t m_sortState = 0;  // column + 1 after sorting up, -(column + 1) after sorting down
+    int32_t m_lastRow = -1;   // clicked or selected last
+    bool m_allowSorting = false;
+    bool m_enableDblClk = true;
+    bool m_keepHighlight = true;
+    RowSource* m_dataSource = nullptr;  // shown instead of items; not owned
+
     CWnd& wnd() override { return *this; }
     void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
+    void applyRecord(CCtrlInfo& tile) override;
+    bool showsSourceRows() const override { return m_dataSource != nullptr; }
+
+    // Shows the rows of the source, of a list that has none of its own by its style.
+    void bindTo(RowSource& source);
+
+  protected:
+    const MessageMap& messageMap() const override;
+
+  private:
+    void onGetDispInfo(NMHDR* header);
 };
