@@ -35,11 +35,6 @@
     (want nil (wex_new_dialog ""))
     (want 1 (length (ui_alerts)))))
 
-(test "A dialog with a key list and no template is made, and its start gives -1"
-  '((want T (wex_new_dialog "LOOKUP_FP"))
-    (want -1 (wex_start_dialog))
-    (want nil (wex_start_dialog))))
-
 (test "An action with unbalanced parentheses takes all actions of the dialog with it, and the dialog runs"
   '((ui_session "CONFIRM_DELREC" '((ui_click "LABEL0") (ui_click "OK") (ui_close)))
     (wex_new_dialog "CONFIRM_DELREC")

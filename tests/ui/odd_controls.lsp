@@ -124,4 +124,5 @@
   '((want T (wex_new_dialog "ODD_NO_TEMPLATE"))
     (wex_set_tile "X" "1")
     (want -1 (wex_start_dialog))
+    (want nil (wex_start_dialog))
     (want nil (wex_get_tile "X"))))
