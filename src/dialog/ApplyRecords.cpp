@@ -54,10 +54,10 @@ void WexDialog::applyTile(CWnd& control, CCtrlInfo& tile) {
 }
 
 void WexDialog::applyMode(CWnd& control, CCtrlInfo& tile) {
-    switch (tile.m_mode) {
+    switch (tile.mode()) {
         case MODE_ENABLE:
         case MODE_DISABLE:
-            enable(control, tile.m_mode == MODE_ENABLE);
+            enable(control, tile.mode() == MODE_ENABLE);
             break;
         case MODE_FOCUS:
             if (tile.m_ctrlId < 0) tile.m_ctrlId = control.GetDlgCtrlID();
@@ -69,7 +69,7 @@ void WexDialog::applyMode(CWnd& control, CCtrlInfo& tile) {
             break;
         case MODE_SHOW:
         case MODE_HIDE:
-            control.ShowWindow(tile.m_mode == MODE_SHOW ? SW_SHOW : SW_HIDE);
+            control.ShowWindow(tile.mode() == MODE_SHOW ? SW_SHOW : SW_HIDE);
             break;
         default:
             break;

@@ -10,7 +10,7 @@
 
 class CWnd;
 
-// What mode a tile is in; wex_start_list keeps its operation in the same place.
+// What mode a tile is in.
 enum TileMode : int32_t {
     MODE_ENABLE = 0,
     MODE_DISABLE = 1,
@@ -21,7 +21,23 @@ enum TileMode : int32_t {
     MODE_HIDE = 6,
 };
 
+// What wex_start_list opened a list for.
+enum ListOperation : int32_t {
+    LIST_CHANGE_ROW = -1,
+    LIST_CHANGE = 1,
+    LIST_APPEND = 2,
+    LIST_NEW = 3,
+};
+
 struct CCtrlInfo : CObject {
+    // kept: mode and list operation are one number, and the last writer wins. A list that was opened before
+    // the dialog runs starts in the mode of that number; a mode that is set later changes how items are
+    // added.
+    int32_t mode() const { return m_mode; }
+    void setMode(int32_t mode) { m_mode = mode; }
+    int32_t listOperation() const { return m_mode; }
+    void setListOperation(int32_t operation) { m_mode = operation; }
+
     CString m_key;    // lower case
     CString m_value;  // the last value set
     CStringArray m_listItems;

@@ -82,6 +82,6 @@ void WexDialog::discover(CDataExchange& exchange, int id, HWND control) {
     } else {
         tile = tileForId(id);
     }
-    if (tile->m_mode == MODE_AS_CONTROL)
-        tile->m_mode = IsWindowEnabled(::GetDlgItem(m_hWnd, id)) ? MODE_ENABLE : MODE_DISABLE;
+    if (tile->mode() == MODE_AS_CONTROL)
+        tile->setMode(IsWindowEnabled(::GetDlgItem(m_hWnd, id)) ? MODE_ENABLE : MODE_DISABLE);
 }

@@ -6,8 +6,6 @@
 
 namespace {
 
-enum ListOperation { CHANGE_ROW = -1, CHANGE = 1, APPEND = 2, NEW_LIST = 3 };
-
 // The messages of a class whose entries are single texts.
 struct EntryMessages {
     const wchar_t* className;
@@ -36,7 +34,7 @@ void emptyControl(const CWnd& control) {
 void addEntry(const CWnd& control, const EntryMessages& messages, const CString& text, int operation) {
     const auto entry = reinterpret_cast<LPARAM>(text.c_str());
     holdRedraw(control.m_hWnd);
-    if (operation != CHANGE) {
+    if (operation != LIST_CHANGE) {
         control.SendMessage(messages.add, 0, entry);
         return;
     }
@@ -51,7 +49,7 @@ void addItem(WexDialog& dialog, const CString& text) {
     if (!tile) return alertText(TEXT_NO_LIST_OPEN);
     if (!tile->m_control) return tile->m_listItems.push_back(text);
     const CWnd& control = *tile->m_control;
-    const int operation = dialog.tileForControl(&control)->m_mode;
+    const int operation = dialog.tileForControl(&control)->listOperation();
     if (const EntryMessages* messages = messagesOf(control))
         addEntry(control, *messages, text, operation);
     else if (control.className() == L"SysListView32")
@@ -62,21 +60,21 @@ void addItem(WexDialog& dialog, const CString& text) {
 
 void startList(LispCall& call) {
     const TileAddress address = call.tile();
-    const int operation = call.shortNumber().value_or(NEW_LIST);
+    const int operation = call.shortNumber().value_or(LIST_NEW);
     const int index = call.shortNumber().value_or(-1);
     call.retVoid();
     WexDialog* dialog = currentDialog();
     if (!dialog) return;
     CCtrlInfo* tile = dialog->tileFor(address);
     if (const CWnd* control = dialog->itemFor(address)) {
-        if (operation == NEW_LIST) emptyControl(*control);
+        if (operation == LIST_NEW) emptyControl(*control);
         if (tile) tile->m_listItems.clear();
     }
     if (!tile) return;
-    if (operation == NEW_LIST) tile->m_listItems.clear();
+    if (operation == LIST_NEW) tile->m_listItems.clear();
     dialog->m_listTile = tile;
     tile->m_listIndex = index;
-    tile->m_mode = operation;
+    tile->setListOperation(operation);
 }
 
 void addList(LispCall& call) {

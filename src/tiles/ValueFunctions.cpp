@@ -120,7 +120,7 @@ void modeTile(LispCall& call) {
     if (dialog && code->type == HV_SHORT) {
         const int mode = code->value.shortValue;
         CCtrlInfo* record = dialog->tileFor(tile);
-        if (record) record->m_mode = mode;
+        if (record) record->setMode(mode);
         const CCtrlInfo unrecorded;
         if (const CWnd* control = dialog->itemFor(tile))
             applyLiveMode(*control, *dialog, tile, mode, (record ? *record : unrecorded).m_editLimit);
