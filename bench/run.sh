@@ -1,6 +1,7 @@
 #!/bin/bash
 # Usage: bench/run.sh     measures the product beside the bare platform, and the Lisp beside another interpreter
-# Lines are   key  min X  med Y ms  n=N   and, at the end,   ratio  ours / theirs  R   of the medians.
+# A line is    key  min X  med Y ms  n=N
+# or           key  min X  med Y ms  bare min X  med Y ms  ratio min R  med R  n=N    ours and the bare platform's in turns
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 "$root/tools/install-packages.sh" lua5.4 >&2
@@ -15,22 +16,20 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
 {
     lua5.4 "$root/bench/lisp/peer.lua"
     wine64 "$built/bench/lisp/lisp_bench.exe"
-    # 1933 is the dialog of 31 controls that product.lsp opens.
+    # 1933 is the dialog of 31 controls that dialogs.lsp opens.
     wine64 "$built/bench/dialog/dialog_bench.exe" "$built/bin/WexDialogsRes.dll" 1933
-    wine64 "$built/bin/wexhost.exe" --headless --timeout 300 \
-        -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" "$root/bench/product/product.lsp"
+    cd "$root/bench/product"
+    wine64 "$built/testbin/wexhost.exe" --headless --timeout 300 \
+        -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \
+        -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" rows.lsp dialogs.lsp lists.lsp layout.lsp
 } | tr -d '\r' | tee "$rows"
 
-# ratio OURS THEIRS
+# ratio OURS THEIRS: of the medians
 ratio() {
     awk -v ours="$1" -v theirs="$2" '
         { for (i = 1; i < NF; i++) if ($i == "med") median[$1] = $(i + 1) }
         END { printf "ratio  %s / %s  %.2f\n", ours, theirs, median[ours] / median[theirs] }' "$rows"
 }
-ratio product.dialog_open_close dialog_open_close_bare
-ratio dialog_open_close_library dialog_open_close_bare
-ratio product.look_up_last platform.look_up_last
-ratio product.set_10000_live platform.set_10000_live
 ratio lisp.fib27 lua.fib27
 ratio lisp.million_native_calls lua.million_native_calls
 ratio lisp.million_actions_prepared lua.million_actions_prepared

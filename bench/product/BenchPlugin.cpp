@@ -1,23 +1,20 @@
-// A plug-in that measures for product.lsp: a clock, clicks without a hand, and the same work on the bare
-// platform.
+// A plug-in that measures for the programs beside it: a clock, work without a hand, and the same work on the
+// bare platform. Every function that works gives the milliseconds that it took.
 #include <windows.h>
 
 #include <cstdio>
 #include <cwchar>
 #include <iterator>
 
+#include "bench/dialog/Measure.h"
+#include "bench/product/BareDialog.h"
+#include "bench/product/BareLists.h"
 #include "src/platform/host/HostLisp.h"
 #include "src/platform/host/HostPlugin.h"
 #include "src/platform/host/HostServices.h"
+#include "src/platform/host/HostUnits.h"
 
 namespace {
-
-double now() {
-    LARGE_INTEGER ticks, frequency;
-    QueryPerformanceCounter(&ticks);
-    QueryPerformanceFrequency(&frequency);
-    return static_cast<double>(ticks.QuadPart) * 1000.0 / static_cast<double>(frequency.QuadPart);
-}
 
 int32_t giveReal(double number) {
     HostValue* node = hostBuildList(HV_REAL, number, HV_NONE);
@@ -26,48 +23,178 @@ int32_t giveReal(double number) {
     return RESULT_SET;
 }
 
-int argument(int position) {
+const HostValue* argumentNode(int position) {
     const HostValue* node = hostGetArgs();
     for (; node && position > 0; --position) node = node->next;
-    return node ? node->value.shortValue : 0;
+    return node;
 }
 
+int argument(int position) {
+    const HostValue* node = argumentNode(position);
+    if (!node) return 0;
+    return node->type == HV_LONG ? node->value.longValue : node->value.shortValue;
+}
+
+const wchar_t* textArgument(int position) { return argumentNode(position)->value.stringValue; }
+
 HWND runningDialog() { return GetLastActivePopup(hostGetMainFrame()); }
+
+template <class Work>
+int32_t timed(Work work) {
+    const double begun = now();
+    work();
+    return giveReal(now() - begun);
+}
 
 // (bench_now) -> milliseconds since some moment
 int32_t clock() { return giveReal(now()); }
 
-// (bench_click id n) -> milliseconds for n clicks of a button of the running dialog
+// (bench_click id n): clicks of a button of the running dialog
 int32_t click() {
     const HWND dialog = runningDialog();
-    const int id = argument(0);
+    const int id = argument(0), n = argument(1);
     const auto button = reinterpret_cast<LPARAM>(GetDlgItem(dialog, id));
-    const double begun = now();
-    for (int i = argument(1); i > 0; --i)
-        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), button);
-    return giveReal(now() - begun);
+    return timed([=] {
+        for (int i = 0; i < n; ++i) SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), button);
+    });
 }
 
-// (bench_bare_set id n) -> milliseconds for n texts that the platform sets into a box of the running dialog
-int32_t bareSet() {
-    const HWND edit = GetDlgItem(runningDialog(), argument(0));
-    wchar_t text[16];
-    const double begun = now();
-    for (int i = argument(1); i > 0; --i) {
-        std::swprintf(text, std::size(text), L"%d", i);
-        SetWindowTextW(edit, text);
-    }
-    return giveReal(now() - begun);
-}
-
-// (bench_bare_lookup id) -> milliseconds for loading all strings of the plug-in from 1500 up to that id
+// (bench_bare_lookup id): loading all strings of the plug-in from 1500 up to that id
 int32_t bareLookup() {
     const HMODULE plugin = GetModuleHandleW(L"WexDialogs.pgx");
-    wchar_t text[1500];
-    const double begun = now();
-    for (int id = 1500; id <= argument(0); ++id)
-        LoadStringW(plugin, static_cast<UINT>(id), text, std::size(text));
-    return giveReal(now() - begun);
+    const auto last = static_cast<UINT>(argument(0));
+    return timed([=] {
+        wchar_t text[1500];
+        for (UINT id = 1500; id <= last; ++id) LoadStringW(plugin, id, text, std::size(text));
+    });
+}
+
+// (bench_bare_open_close "module" id): a dialog from there
+int32_t openCloseBare() {
+    const HMODULE module = LoadLibraryExW(textArgument(0), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    const double spent = bareOpenAndClose(module, argument(1));
+    FreeLibrary(module);
+    return giveReal(spent);
+}
+
+// (bench_bare_dialog id): opens the dialog beside the running one, and puts both where they don't overlap
+int32_t openBare() {
+    const int id = argument(0);
+    return timed([=] { BareDialog::open(id, runningDialog()); });
+}
+
+int32_t closeBare() { return timed(&BareDialog::close); }
+
+// (bench_bare_set id n): that many texts set into a box
+int32_t setBare() {
+    const HWND box = BareDialog::item(argument(0));
+    const int n = argument(1);
+    return timed([=] {
+        wchar_t text[16];
+        for (int i = 0; i < n; ++i) {
+            std::swprintf(text, std::size(text), L"%d", i);
+            SetWindowTextW(box, text);
+        }
+    });
+}
+
+// (bench_bare_fill id list-of-texts)
+int32_t fillBare() {
+    std::vector<std::wstring> texts;
+    for (const HostValue* node = argumentNode(2); node && node->type == HV_STRING; node = node->next)
+        texts.emplace_back(node->value.stringValue);
+    const HWND list = BareDialog::item(argument(0));
+    return timed([&] { bareFill(list, texts); });
+}
+
+// (bench_bare_empty id)
+int32_t emptyBare() {
+    const HWND list = BareDialog::item(argument(0));
+    return timed([=] { bareEmpty(list); });
+}
+
+// (bench_bare_size width height): of the window, in pixels
+int32_t sizeBare() {
+    const int width = argument(0), height = argument(1);
+    return timed([=] { BareDialog::resize(width, height); });
+}
+
+constexpr wchar_t TYPED[] = L"1'6-1/2";
+constexpr int ARCHITECTURAL = 4;
+
+// (bench_edit id n): that many times a distance is put into a box of the running dialog, and editing begins
+// and ends
+int32_t edit() {
+    const HWND dialog = runningDialog(), box = GetDlgItem(dialog, argument(0));
+    const int id = argument(0), n = argument(1);
+    const auto notify = [=](UINT code) {
+        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(box));
+    };
+    return timed([=] {
+        for (int i = 0; i < n; ++i) {
+            SetWindowTextW(box, TYPED);
+            notify(EN_SETFOCUS);
+            notify(EN_KILLFOCUS);
+        }
+    });
+}
+
+// (bench_bare_edit id n): the same by hand: what stood there is read, then what was typed, which is written
+// anew
+int32_t editBare() {
+    const HWND box = BareDialog::item(argument(0));
+    const int n = argument(1);
+    return timed([=] {
+        wchar_t text[256];
+        for (int i = 0; i < n; ++i) {
+            SetWindowTextW(box, TYPED);
+            GetWindowTextW(box, text, std::size(text));
+            double value = 0;
+            GetWindowTextW(box, text, std::size(text));
+            hostDisToF(text, ARCHITECTURAL, &value);
+            hostRToS(value, ARCHITECTURAL, 4, text, std::size(text));
+            SetWindowTextW(box, text);
+        }
+    });
+}
+
+// (bench_distof unit "text" n)
+int32_t distof() {
+    const int unit = argument(0), n = argument(2);
+    const wchar_t* text = textArgument(1);
+    return timed([=] {
+        double value;
+        for (int i = 0; i < n; ++i) hostDisToF(text, unit, &value);
+    });
+}
+
+// (bench_bare_distof "text" n): by the C library
+int32_t distofBare() {
+    const int n = argument(1);
+    const wchar_t* text = textArgument(0);
+    return timed([=] {
+        volatile double value;
+        for (int i = 0; i < n; ++i) value = std::wcstod(text, nullptr);
+        (void)value;
+    });
+}
+
+// (bench_rtos unit n): 18.5 with four decimals
+int32_t rtos() {
+    const int unit = argument(0), n = argument(1);
+    return timed([=] {
+        wchar_t text[64];
+        for (int i = 0; i < n; ++i) hostRToS(18.5, unit, 4, text, std::size(text));
+    });
+}
+
+// (bench_bare_rtos n): by the C library
+int32_t rtosBare() {
+    const int n = argument(0);
+    return timed([=] {
+        wchar_t text[64];
+        for (int i = 0; i < n; ++i) std::swprintf(text, std::size(text), L"%.*f", 4, 18.5);
+    });
 }
 
 constexpr struct {
@@ -76,8 +203,20 @@ constexpr struct {
 } FUNCTIONS[] = {
     {L"bench_now", &clock},
     {L"bench_click", &click},
-    {L"bench_bare_set", &bareSet},
     {L"bench_bare_lookup", &bareLookup},
+    {L"bench_bare_open_close", &openCloseBare},
+    {L"bench_bare_dialog", &openBare},
+    {L"bench_bare_end", &closeBare},
+    {L"bench_bare_set", &setBare},
+    {L"bench_bare_fill", &fillBare},
+    {L"bench_bare_empty", &emptyBare},
+    {L"bench_bare_size", &sizeBare},
+    {L"bench_edit", &edit},
+    {L"bench_bare_edit", &editBare},
+    {L"bench_distof", &distof},
+    {L"bench_bare_distof", &distofBare},
+    {L"bench_rtos", &rtos},
+    {L"bench_bare_rtos", &rtosBare},
 };
 
 }  // namespace

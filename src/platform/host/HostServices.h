@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <cstdint>
+
 #include "src/platform/host/HostApi.h"
 
 // The word that pluginGetApiVersion reports.

@@ -1,0 +1,56 @@
+#include "bench/product/BareLists.h"
+
+#include <commctrl.h>
+
+namespace {
+
+bool isOf(HWND list, const wchar_t* name) {
+    wchar_t found[32];
+    GetClassNameW(list, found, 32);
+    return lstrcmpiW(found, name) == 0;
+}
+
+void addEntries(HWND list, UINT message, const std::vector<std::wstring>& texts) {
+    for (const std::wstring& text : texts)
+        SendMessageW(list, message, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void addRow(HWND list, int row, std::wstring text) {
+    LVITEMW item{};
+    item.iItem = row;
+    item.mask = LVIF_TEXT;
+    size_t start = 0;
+    for (;; ++item.iSubItem) {
+        const size_t tab = text.find(L'\t', start);
+        if (tab != std::wstring::npos) text[tab] = L'\0';
+        item.pszText = text.data() + start;
+        SendMessageW(list, item.iSubItem ? LVM_SETITEMW : LVM_INSERTITEMW, 0,
+                     reinterpret_cast<LPARAM>(&item));
+        if (tab == std::wstring::npos) return;
+        start = tab + 1;
+    }
+}
+
+void addRows(HWND list, const std::vector<std::wstring>& texts) {
+    int row = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+    for (const std::wstring& text : texts) addRow(list, row++, text);
+}
+
+}  // namespace
+
+void bareFill(HWND list, const std::vector<std::wstring>& texts) {
+    SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+    if (isOf(list, L"ListBox"))
+        addEntries(list, LB_ADDSTRING, texts);
+    else if (isOf(list, L"ComboBox"))
+        addEntries(list, CB_ADDSTRING, texts);
+    else
+        addRows(list, texts);
+    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list, nullptr, TRUE);
+}
+
+void bareEmpty(HWND list) {
+    const bool isListBox = isOf(list, L"ListBox"), isComboBox = isOf(list, L"ComboBox");
+    SendMessageW(list, isListBox ? LB_RESETCONTENT : isComboBox ? CB_RESETCONTENT : LVM_DELETEALLITEMS, 0, 0);
+}
