@@ -22,6 +22,7 @@ constexpr uint32_t CENTER_IMAGE = 0x200;
 constexpr uint32_t MULTI_LINE_BUTTON = 0x2000;
 constexpr uint32_t PICTURE_BUTTON = 0xC0;
 constexpr uint32_t EXTENDED_STATIC_EDGE = 0x20000;
+constexpr uint32_t FRAME_STYLE = 0x54000007;
 
 // What surrounds a button's text, in dialog units.
 constexpr int PUSH_BUTTON_BORDER = 4;
@@ -151,6 +152,22 @@ std::optional<TextRoom> roomOfButton(const DialogTemplateControl& control) {
     }
 }
 
+bool overlap(const DialogTemplateControl& a, const DialogTemplateControl& b) {
+    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height;
+}
+
+// Frames and tab controls go to the bottom one after the other, in the order of their ids.
+void checkPages(const DialogTemplate& dialog, Words& found) {
+    for (const DialogTemplateControl& tab : dialog.controls) {
+        if (tab.className != L"SysTabControl32") continue;
+        for (const DialogTemplateControl& frame : dialog.controls)
+            if (frame.className == L"Button" && frame.style == FRAME_STYLE && frame.id > tab.id &&
+                overlap(frame, tab))
+                found.push_back(nameOf(frame.id) + L" is a frame that the tab " + nameOf(tab.id) +
+                                L" covers: give it a lower id than the tab control");
+    }
+}
+
 // Nothing for controls that show no text of the template, or scroll it.
 std::optional<TextRoom> roomFor(const DialogTemplateControl& control) {
     if (control.className == L"Static") return roomOfStatic(control);
@@ -178,6 +195,7 @@ Words findMismatches(const KeyListText& keys, const DialogTemplate& dialog, cons
     checkKeys(keys, dialog, found);
     checkIds(keys, dialog, found);
     checkMnemonics(dialog, found);
+    checkPages(dialog, found);
     checkTexts(dialog, iconCaptions, fits, found);
     return found;
 }

@@ -82,6 +82,20 @@ TEST(DialogFindings, oneMnemonicForTwoControls) {
         {L"control 111 has the mnemonic \"f\" of control 110"});
 }
 
+TEST(DialogFindings, framesThatTheirTabControlCovers) {
+    constexpr uint32_t frameStyle = 0x54000007;
+    const auto at = [](DialogTemplateControl moved, int x) {
+        moved.x = x;
+        return moved;
+    };
+    expectFindings(
+        findings(L"A,A1,TAB,A3,A4,A5",
+                 {control(110, L"Button", L"", frameStyle), control(111, L"SysTabControl32"),
+                  at(control(112, L"Button", L"", frameStyle), 39), control(113, L"Button", L"", 0x50000007),
+                  at(control(114, L"Button", L"", frameStyle), 40)}),
+        {L"control 112 is a frame that the tab control 111 covers: give it a lower id"});
+}
+
 TEST(DialogFindings, textIsMeasuredWhereItIsShownWhole) {
     std::vector<std::wstring> measured;
     const auto tooLong = [&](const std::wstring& text, const TextRoom& room) {
