@@ -1,0 +1,110 @@
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+#include "host/units/LinearUnits.h"
+#include "src/listctrl/CellKind.h"
+#include "src/listctrl/CellOrder.h"
+#include "tests/unit/listctrl/PlainSort.h"
+#include "tests/unit/listctrl/RandomCells.h"
+
+namespace {
+
+// Rows of one column in memory; the data of a row is its number at the start.
+class MemoryRows : public PlainRows {
+  public:
+    explicit MemoryRows(const std::vector<CString>& cells) : m_cells(cells), m_numbers(cells.size()) {
+        std::iota(m_numbers.begin(), m_numbers.end(), 0);
+    }
+
+    int rowCount() const override { return static_cast<int>(m_cells.size()); }
+    int columnCount() const override { return 1; }
+    PlainCell cell(int row, int) const override { return {m_cells[row], 0}; }
+    void setCell(int row, int, const PlainCell& cell) override { m_cells[row] = cell.text; }
+    PlainRowData rowData(int row) const override { return {0, 0, m_numbers[row]}; }
+    void setRowData(int row, const PlainRowData& data) override {
+        m_numbers[row] = static_cast<int>(data.data);
+    }
+
+    const std::vector<int>& order() const { return m_numbers; }
+
+  private:
+    std::vector<CString> m_cells;
+    std::vector<int> m_numbers;
+};
+
+std::optional<double> parse(const std::wstring& text, int unit) {
+    return units::distanceFromText(text, unit);
+}
+
+std::vector<int> plainOrder(const std::vector<CString>& cells, bool ascending) {
+    MemoryRows rows(cells);
+    PlainSort(rows, 0, ascending, parse).run();
+    return rows.order();
+}
+
+std::vector<CString> sorted(const std::vector<CString>& cells, bool ascending) {
+    std::vector<CString> result;
+    for (const int row : sortedOrder(cells, ascending, parse)) result.push_back(cells[row]);
+    return result;
+}
+
+using Cells = std::vector<CString>;
+
+TEST(CellKind, IsThatOfTheLastCharacterUnlessAnyIsForeign) {
+    EXPECT_EQ(cellKindOf(L""), CellKind::text);
+    EXPECT_EQ(cellKindOf(L"' \""), CellKind::text) << "no digit";
+    EXPECT_EQ(cellKindOf(L"12A"), CellKind::text);
+    EXPECT_EQ(cellKindOf(L"A12"), CellKind::text);
+    EXPECT_EQ(cellKindOf(L"-"), CellKind::digits);
+    EXPECT_EQ(cellKindOf(L"1/2"), CellKind::digits);
+    EXPECT_EQ(cellKindOf(L"1.5E+3"), CellKind::digits);
+    EXPECT_EQ(cellKindOf(L"1'-6\""), CellKind::feet);
+    EXPECT_EQ(cellKindOf(L"12 "), CellKind::feet);
+    EXPECT_EQ(cellKindOf(L"3/"), CellKind::slash);
+    EXPECT_EQ(cellKindOf(L"2e"), CellKind::exponent);
+    EXPECT_EQ(cellKindOf(L"1+"), CellKind::exponent);
+    EXPECT_EQ(linearUnitOf(CellKind::digits), 2);
+    EXPECT_EQ(linearUnitOf(CellKind::feet), 3);
+    EXPECT_EQ(linearUnitOf(CellKind::slash), 1);
+    EXPECT_EQ(linearUnitOf(CellKind::exponent), 5);
+}
+
+TEST(CellOrder, DistancesAreComparedByValueAndTextsByCodeUnits) {
+    EXPECT_EQ(sorted({L"10", L"9", L"100"}, true), Cells({L"9", L"10", L"100"}));
+    EXPECT_EQ(sorted({L"10", L"9", L"100"}, false), Cells({L"100", L"10", L"9"}));
+    EXPECT_EQ(sorted({L"b", L"B", L"a", L""}, true), Cells({L"", L"B", L"a", L"b"}));
+    EXPECT_EQ(sorted({L"20", L"1'-6\"", L"2'", L"17.5"}, true), Cells({L"17.5", L"1'-6\"", L"20", L"2'"}));
+    EXPECT_EQ(sorted({L"10", L"9", L""}, true), Cells({L"", L"9", L"10"}));
+}
+
+TEST(CellOrder, EqualTextsStayWhereTheyAre) {
+    EXPECT_EQ(sortedOrder(Cells{L"x", L"x", L"x"}, true, parse), std::vector({0, 1, 2}));
+    EXPECT_EQ(sortedOrder(Cells{L"7", L"7.0", L"7"}, false, parse), plainOrder({L"7", L"7.0", L"7"}, false));
+    EXPECT_TRUE(sortedOrder(Cells{}, true, parse).empty());
+}
+
+TEST(CellOrder, ComesOutAsThePlainProcedureForAnyTable) {
+    RandomCells random(1);
+    for (int table = 0; table < 6000; ++table) {
+        const int mix = random.below(5);
+        Cells cells(random.below(table % 50 ? 25 : 400));
+        for (CString& cell : cells) cell = random.cell(mix);
+        const bool ascending = random.below(2);
+        ASSERT_EQ(sortedOrder(cells, ascending, parse), plainOrder(cells, ascending)) << "table " << table;
+    }
+}
+
+// A comparison that agrees with nothing nests the ranges as deep as there are rows.
+TEST(CellOrder, AnyComparisonComesToAnEnd) {
+    const Cells cells(3000, L"1");
+    int calls = 0;
+    const auto rising = [&](const CString&, int) { return std::optional<double>(++calls); };
+    EXPECT_EQ(sortedOrder(cells, true, rising).size(), cells.size());
+    EXPECT_EQ(calls, 3000) << "each text is parsed once";
+    Cells alternating;
+    for (int row = 0; row < 3000; ++row) alternating.push_back(row % 2 ? L"5" : L"a" + std::to_wstring(row));
+    EXPECT_EQ(sortedOrder(alternating, false, parse).size(), alternating.size());
+}
+
+}  // namespace
