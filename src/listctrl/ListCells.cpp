@@ -1,0 +1,31 @@
+#include "src/listctrl/ListCells.h"
+
+HWND headerOf(const CWnd& list) { return reinterpret_cast<HWND>(list.SendMessage(LVM_GETHEADER)); }
+
+int columnCount(const CWnd& list) {
+    const HWND header = headerOf(list);
+    return header ? static_cast<int>(::SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
+}
+
+int rowCount(const CWnd& list) { return static_cast<int>(list.SendMessage(LVM_GETITEMCOUNT)); }
+
+CString CellReader::read(LVITEMW& item) {
+    item.mask |= LVIF_TEXT;
+    for (;;) {
+        item.pszText = m_buffer.data();
+        item.cchTextMax = static_cast<int>(m_buffer.size());
+        m_buffer[0] = L'\0';
+        m_list.SendMessage(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        // The list may give the text in a place of its own.
+        CString text = item.pszText ? CString(item.pszText) : CString();
+        if (text.size() + 1 < m_buffer.size()) return text;
+        m_buffer.resize(2 * m_buffer.size());
+    }
+}
+
+CString CellReader::text(int row, int column) {
+    LVITEMW item{};
+    item.iItem = row;
+    item.iSubItem = column;
+    return read(item);
+}

@@ -1,0 +1,220 @@
+// The sort of a real list control beside the plain procedure, cell by cell with messages, on a second one.
+#include "src/listctrl/ListSort.h"
+
+#include <gtest/gtest.h>
+
+#include "host/units/LinearUnits.h"
+#include "src/platform/mfc/Controls.h"
+#include "src/platform/mfc/RedrawHold.h"
+#include "tests/unit/listctrl/PlainSort.h"
+#include "tests/unit/listctrl/RandomCells.h"
+
+namespace {
+
+constexpr UINT STATES = 0xFF0F;
+
+std::optional<double> parse(const std::wstring& text, int unit) {
+    return units::distanceFromText(text, unit);
+}
+
+class Owner : public CWnd {
+  public:
+    Owner() {
+        CreateEx(0, L"Static", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, RECT{0, 0, 400, 300}, nullptr, 0);
+    }
+};
+
+class List : public CListCtrl {
+  public:
+    explicit List(const Owner& owner, DWORD style = 0, int columns = 3) {
+        CreateEx(0, L"SysListView32", L"", WS_CHILD | LVS_REPORT | style, RECT{0, 0, 300, 200}, owner.m_hWnd,
+                 1);
+        for (int column = 0; column < columns; ++column) addColumn(column);
+    }
+
+    void addColumn(int column) {
+        LVCOLUMNW head{};
+        head.mask = LVCF_TEXT | LVCF_WIDTH;
+        head.pszText = const_cast<wchar_t*>(L"Head");
+        head.cx = 80;
+        SendMessage(LVM_INSERTCOLUMNW, column, reinterpret_cast<LPARAM>(&head));
+    }
+    void append(const LVITEMW& like) {
+        LVITEMW item = like;
+        item.iItem = static_cast<int>(SendMessage(LVM_GETITEMCOUNT));
+        SendMessage(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    }
+    void set(LVITEMW item) { SendMessage(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item)); }
+};
+
+// The rows as messages to the control tell them.
+class ControlRows : public PlainRows {
+  public:
+    explicit ControlRows(const CWnd& list) : m_list(list) {}
+
+    int rowCount() const override { return static_cast<int>(m_list.SendMessage(LVM_GETITEMCOUNT)); }
+    int columnCount() const override {
+        const auto header = reinterpret_cast<HWND>(m_list.SendMessage(LVM_GETHEADER));
+        return static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
+    }
+    PlainCell cell(int row, int column) const override {
+        wchar_t text[1000] = {};
+        LVITEMW item = itemAt(row, column);
+        item.mask = LVIF_TEXT | LVIF_IMAGE;
+        item.pszText = text;
+        item.cchTextMax = 1000;
+        m_list.SendMessage(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        return {item.pszText, item.iImage};
+    }
+    void setCell(int row, int column, const PlainCell& cell) override {
+        LVITEMW item = itemAt(row, column);
+        item.mask = column > 0 ? LVIF_TEXT | LVIF_IMAGE : LVIF_TEXT;
+        item.pszText = const_cast<wchar_t*>(cell.text.c_str());
+        item.iImage = cell.image;
+        m_list.SendMessage(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    }
+    PlainRowData rowData(int row) const override {
+        LVITEMW item = itemAt(row, 0);
+        m_list.SendMessage(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        return {item.iImage, item.state, item.lParam};
+    }
+    void setRowData(int row, const PlainRowData& data) override {
+        LVITEMW item = itemAt(row, 0);
+        item.iImage = data.image;
+        item.state = data.state;
+        item.lParam = data.data;
+        m_list.SendMessage(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    }
+
+  private:
+    static LVITEMW itemAt(int row, int column) {
+        LVITEMW item{};
+        item.mask = LVIF_IMAGE | LVIF_STATE | LVIF_PARAM;
+        item.iItem = row;
+        item.iSubItem = column;
+        item.stateMask = STATES;
+        return item;
+    }
+
+    const CWnd& m_list;
+};
+
+// All that a program can see of the list's rows.
+std::wstring contentOf(const CWnd& list) {
+    const ControlRows rows(list);
+    std::wstring content;
+    for (int row = 0; row < rows.rowCount(); ++row) {
+        const PlainRowData data = rows.rowData(row);
+        for (const auto number : {intptr_t(data.image), intptr_t(data.state), data.data})
+            content += std::to_wstring(number) + L' ';
+        for (int column = 0; column < rows.columnCount(); ++column) {
+            const PlainCell cell = rows.cell(row, column);
+            content += L'[' + cell.text + L' ' + std::to_wstring(cell.image) + L']';
+        }
+        content += L'\n';
+    }
+    for (const UINT relation : {LVNI_FOCUSED, LVNI_SELECTED})
+        content +=
+            std::to_wstring(list.SendMessage(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), relation)) + L' ';
+    return content + std::to_wstring(list.SendMessage(LVM_GETSELECTEDCOUNT));
+}
+
+// Rows with images, item data and states of every kind, as Lisp adds them and as other code might.
+void fill(List& list, RandomCells& random, int rows) {
+    const int mix = random.below(5);
+    const bool plain = random.below(2);
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < 3; ++column) {
+            if (column == 2 && random.below(3) == 0) continue;  // no cell was ever set
+            const std::wstring text = random.cell(mix);
+            LVITEMW item{};
+            item.iItem = row;
+            item.iSubItem = column;
+            item.mask = LVIF_TEXT;
+            item.pszText = const_cast<wchar_t*>(text.c_str());
+            if (column == 0) item.mask |= LVIF_IMAGE | LVIF_PARAM | LVIF_STATE;
+            if (column > 0 && !plain) item.mask |= LVIF_IMAGE;
+            item.iImage = plain ? I_IMAGECALLBACK : random.below(3);
+            item.lParam = plain ? 0 : row;
+            item.stateMask = STATES;
+            item.state = random.below(3) ? 0 : LVIS_SELECTED;
+            if (random.below(8) == 0) item.state |= LVIS_FOCUSED;
+            if (!plain && random.below(4) == 0)
+                item.state |= LVIS_CUT | INDEXTOOVERLAYMASK(2) | INDEXTOSTATEIMAGEMASK(3);
+            if (column == 0)
+                list.append(item);
+            else
+                list.set(item);
+        }
+    }
+}
+
+TEST(ListSort, LeavesTheControlAsTheExchangeOfRowsWould) {
+    const Owner owner;
+    for (unsigned seed = 1; seed <= 150; ++seed) {
+        RandomCells shape(seed);
+        const DWORD style = shape.below(4) ? 0 : LVS_SINGLESEL;
+        const int rows = shape.below(seed % 25 ? 12 : 80);
+        const int column = shape.below(4);  // the last of them isn't there
+        const bool ascending = shape.below(2);
+        List ours(owner, style);
+        List plain(owner, style);
+        for (List* list : {&ours, &plain}) {
+            RandomCells random(seed);
+            fill(*list, random, rows);
+        }
+        ASSERT_EQ(contentOf(ours), contentOf(plain)) << "before, seed " << seed;
+        ControlRows plainRows(plain);
+        for (const bool direction : {ascending, !ascending}) {
+            sortRows(ours, column, direction, parse);
+            PlainSort(plainRows, column, direction, parse).run();
+            ASSERT_EQ(contentOf(ours), contentOf(plain)) << "seed " << seed;
+        }
+        releaseRedraw();
+    }
+}
+
+TEST(ListSort, CarriesTextsOfAnyLength) {
+    const Owner owner;
+    List list(owner, 0, 1);
+    const std::wstring texts[] = {std::wstring(255, L'b'), std::wstring(256, L'a') + L'2',
+                                  std::wstring(5000, L'a') + L'1'};
+    LVITEMW item{};
+    item.mask = LVIF_TEXT;
+    for (const std::wstring& text : texts) {
+        item.pszText = const_cast<wchar_t*>(text.c_str());
+        list.append(item);
+    }
+    sortRows(list, 0, true, parse);
+    std::wstring buffer(6000, L'\0');
+    for (const int row : {0, 1, 2}) {
+        item.iSubItem = 0;
+        item.pszText = buffer.data();
+        item.cchTextMax = 6000;
+        list.SendMessage(LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
+        EXPECT_EQ(std::wstring(item.pszText), texts[row == 0 ? 1 : row == 1 ? 2 : 0]);
+    }
+    releaseRedraw();
+}
+
+TEST(ListSort, OneHeadShowsTheDirectionAndKeepsItsTitle) {
+    const Owner owner;
+    const List list(owner);
+    const auto format = [&](int column) {
+        HDITEMW head{};
+        head.mask = HDI_FORMAT;
+        const auto header = reinterpret_cast<HWND>(list.SendMessage(LVM_GETHEADER));
+        SendMessageW(header, HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&head));
+        return head.fmt;
+    };
+    const int plain = format(0);
+    showSortDirection(list, 1, true);
+    EXPECT_EQ(format(1), plain | HDF_SORTUP);
+    showSortDirection(list, 1, false);
+    EXPECT_EQ(format(1), plain | HDF_SORTDOWN);
+    showSortDirection(list, 2, true);
+    EXPECT_EQ(format(1), plain);
+    EXPECT_EQ(format(2), plain | HDF_SORTUP);
+}
+
+}  // namespace
