@@ -3,6 +3,7 @@
 #include <array>
 
 #include "src/dialog/DialogFunctions.h"
+#include "src/listctrl/SelectionFunctions.h"
 #include "src/platform/host/HostServices.h"
 #include "src/tiles/EditFunctions.h"
 #include "src/tiles/ListFunctions.h"
@@ -53,10 +54,10 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_listctrl_deletecolumn", notBuiltYet},
     {L"wex_listctrl_renamecolumn", notBuiltYet},
     {L"wex_listctrl_getcolcount", notBuiltYet},
-    {L"wex_listctrl_allowsorting", notBuiltYet},
-    {L"wex_listctrl_getselectednths", notBuiltYet},
-    {L"wex_listctrl_enabledbclk", notBuiltYet},
-    {L"wex_listctrl_keephighlight", notBuiltYet},
+    {L"wex_listctrl_allowsorting", withArguments<listAllowSorting>},
+    {L"wex_listctrl_getselectednths", withArguments<listGetSelectedNths>},
+    {L"wex_listctrl_enabledbclk", withArguments<listEnableDblClick>},
+    {L"wex_listctrl_keephighlight", withArguments<listKeepHighlight>},
     {L"wex_listctrl_setitemcount", notBuiltYet},
     {L"wex_loadpicturefile", notBuiltYet},
     {L"wex_setresizing", withArguments<setResizing>},

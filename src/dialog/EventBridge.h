@@ -10,6 +10,8 @@ enum EventReason : int16_t {
     REASON_EDITED = 2,
     REASON_SCROLLED = 3,
     REASON_SELECTED = 4,
+    REASON_ROWS = 5,  // of a list control: pressed, or a key released
+    REASON_DOUBLE_CLICKED = 10,
 };
 
 void setEventKey(const CString& key);

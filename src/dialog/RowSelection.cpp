@@ -22,7 +22,21 @@ void setRowState(const CWnd& list, int row, UINT state, UINT mask) {
         list.SendMessage(LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(&item));
 }
 
+int nextSelectedRow(const CWnd& list, int from) {
+    return static_cast<int>(list.SendMessage(LVM_GETNEXTITEM, from, LVNI_SELECTED));
+}
+
 }  // namespace
+
+int firstSelectedRow(const CWnd& list) { return nextSelectedRow(list, -1); }
+
+std::vector<int> selectedRows(const CWnd& list) {
+    // The count comes at once, where looking for one more among a million rows takes its time.
+    std::vector<int> rows(list.SendMessage(LVM_GETSELECTEDCOUNT));
+    int at = -1;
+    for (int& row : rows) row = at = nextSelectedRow(list, at);
+    return rows;
+}
 
 void selectRow(const CWnd& list, int row) {
     if (row < 0 || row >= list.SendMessage(LVM_GETITEMCOUNT)) return;
@@ -32,8 +46,5 @@ void selectRow(const CWnd& list, int row) {
 }
 
 void clearSelection(const CWnd& list) {
-    const auto next = [&](int from) {
-        return static_cast<int>(list.SendMessage(LVM_GETNEXTITEM, from, LVNI_SELECTED));
-    };
-    for (int row = next(-1); row >= 0; row = next(row)) setRowState(list, row, 0, LVIS_SELECTED);
+    for (const int row : selectedRows(list)) setRowState(list, row, 0, LVIS_SELECTED);
 }

@@ -1,5 +1,7 @@
 #include "src/listctrl/ListCells.h"
 
+#include <iterator>
+
 HWND headerOf(const CWnd& list) { return reinterpret_cast<HWND>(list.SendMessage(LVM_GETHEADER)); }
 
 int columnCount(const CWnd& list) {
@@ -8,6 +10,16 @@ int columnCount(const CWnd& list) {
 }
 
 int rowCount(const CWnd& list) { return static_cast<int>(list.SendMessage(LVM_GETITEMCOUNT)); }
+
+CString columnTitle(const CWnd& list, int column) {
+    wchar_t title[256] = {};
+    HDITEMW head{};
+    head.mask = HDI_TEXT;
+    head.pszText = title;
+    head.cchTextMax = static_cast<int>(std::size(title));
+    ::SendMessageW(headerOf(list), HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&head));
+    return title;
+}
 
 CString CellReader::read(LVITEMW& item) {
     item.mask |= LVIF_TEXT;

@@ -8,6 +8,8 @@
 HWND headerOf(const CWnd& list);
 int columnCount(const CWnd& list);
 int rowCount(const CWnd& list);
+// At most 255 characters.
+CString columnTitle(const CWnd& list, int column);
 
 // Reads cells one after the other, of any length.
 class CellReader {

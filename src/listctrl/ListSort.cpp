@@ -78,13 +78,14 @@ class Table {
 
 }  // namespace
 
-void sortRows(const CWnd& list, int column, bool ascending, const DistanceParser& parse) {
-    if (column >= columnCount(list) || (list.GetStyle() & LVS_OWNERDATA)) return;
+bool sortRows(const CWnd& list, int column, bool ascending, const DistanceParser& parse) {
+    if (column >= columnCount(list) || (list.GetStyle() & LVS_OWNERDATA)) return false;
     holdRedraw(list.m_hWnd);
     const Table table(list);
     const std::vector<int> order = sortedOrder(table.texts(column), ascending, parse);
     for (int row = 0; row < static_cast<int>(order.size()); ++row)
         if (order[row] != row) table.write(row, order[row]);
+    return true;
 }
 
 void showSortDirection(const CWnd& list, int column, bool ascending) {

@@ -5,9 +5,9 @@
 #include "src/platform/mfc/CWnd.h"
 
 // Puts the rows in sortedOrder. Texts, images, item data and states, the selection too, go with their row.
-// Redraw is held. A column that isn't there and rows that aren't the list's own (LVS_OWNERDATA) change
-// nothing.
-void sortRows(const CWnd& list, int column, bool ascending, const DistanceParser& parse);
+// Redraw is held. False where the column isn't there or the rows aren't the list's own (LVS_OWNERDATA):
+// nothing has changed then.
+bool sortRows(const CWnd& list, int column, bool ascending, const DistanceParser& parse);
 
 // The column's head shows the direction in the platform's way, and no other column's does.
 void showSortDirection(const CWnd& list, int column, bool ascending);

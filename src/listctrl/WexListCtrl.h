@@ -24,10 +24,27 @@ class WexListCtrl : public CListCtrl, public TileControl {
 
     // Shows the rows of the source, of a list that has none of its own by its style.
     void bindTo(RowSource& source);
+    // What a click on a column's head does where sorting is allowed: up at first, and down if the column was
+    // sorted up last.
+    void sortBy(int column);
+
+    bool PreTranslateMessage(MSG& message) override;
 
   protected:
     const MessageMap& messageMap() const override;
 
   private:
     void onGetDispInfo(NMHDR* header);
+
+    // --- mouse and keys (ListEvents.cpp)
+
+    void onLeftDown(UINT keys, POINT at);
+    void onRightDown(UINT keys, POINT at);
+    void onLeftDoubleClick(UINT keys, POINT at);
+    void onDoubleClick(NMHDR* header);
+    void onColumnClick(NMHDR* header);
+    void onKeyDown(UINT key, UINT flags);
+    void onKillFocus(CWnd* to);
+    void noteArrow(WPARAM key);
+    void pressOk();
 };

@@ -3,6 +3,8 @@
 #include <cassert>
 #include <exception>
 
+#include "src/shell/LispInvoke.h"
+
 LispCall::~LispCall() { assert(m_results == 1 || std::uncaught_exceptions() > 0); }
 
 const HostValue* LispCall::next() {
@@ -49,6 +51,18 @@ void LispCall::retT() {
 void LispCall::ret(int number) {
     setsResult();
     hostRetInt(number);
+}
+
+void LispCall::ret(std::span<const int> numbers) {
+    if (numbers.empty()) return retNil();
+    setsResult();
+    OwnedChain chain;
+    for (size_t at = numbers.size(); at-- > 0;) {
+        HostValue* rest = chain.release();
+        chain.reset(hostBuildList(numbers[at] > INT16_MAX ? HV_LONG : HV_SHORT, numbers[at], 0));
+        chain->next = rest;
+    }
+    hostRetList(chain.get());
 }
 
 void LispCall::ret(const CString& text) {

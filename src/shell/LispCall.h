@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include "src/platform/base/CString.h"
 #include "src/platform/host/HostLisp.h"
@@ -43,6 +44,8 @@ class LispCall {
     void retT();
     void ret(int number);
     void ret(const CString& text);
+    // A list; nil for none.
+    void ret(std::span<const int> numbers);
 
   private:
     void setsResult() { ++m_results; }

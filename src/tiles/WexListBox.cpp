@@ -4,7 +4,7 @@
 
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/Pressable.h"
-#include "src/tiles/SelectionText.h"
+#include "src/dialog/SelectionText.h"
 
 IMPLEMENT_DYNAMIC(WexListBox, CListBox)
 

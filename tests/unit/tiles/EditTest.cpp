@@ -2,7 +2,7 @@
 
 #include "src/tiles/EditFilter.h"
 #include "src/tiles/EndOfEdit.h"
-#include "src/tiles/SelectionText.h"
+#include "src/dialog/SelectionText.h"
 
 namespace {
 

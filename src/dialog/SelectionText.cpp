@@ -1,4 +1,4 @@
-#include "src/tiles/SelectionText.h"
+#include "src/dialog/SelectionText.h"
 
 CString selectionText(std::span<const int> indexes) {
     CString text;
