@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "src/dialog/SelectionText.h"
 #include "src/tiles/EditFilter.h"
 #include "src/tiles/EndOfEdit.h"
-#include "src/dialog/SelectionText.h"
 
 namespace {
 
