@@ -98,13 +98,22 @@ int32_t setBare() {
     });
 }
 
-// (bench_bare_fill id list-of-texts)
+std::vector<std::wstring> g_texts;
+
+// (bench_bare_texts list): keeps the texts for the fillings
+int32_t keepTexts() {
+    const HostValue* node = argumentNode(1);
+    return timed([=] {
+        g_texts.clear();
+        for (const HostValue* at = node; at && at->type == HV_STRING; at = at->next)
+            g_texts.emplace_back(at->value.stringValue);
+    });
+}
+
+// (bench_bare_fill id)
 int32_t fillBare() {
-    std::vector<std::wstring> texts;
-    for (const HostValue* node = argumentNode(2); node && node->type == HV_STRING; node = node->next)
-        texts.emplace_back(node->value.stringValue);
     const HWND list = BareDialog::item(argument(0));
-    return timed([&] { bareFill(list, texts); });
+    return timed([=] { bareFill(list, g_texts); });
 }
 
 // (bench_bare_empty id)
@@ -208,6 +217,7 @@ constexpr struct {
     {L"bench_bare_dialog", &openBare},
     {L"bench_bare_end", &closeBare},
     {L"bench_bare_set", &setBare},
+    {L"bench_bare_texts", &keepTexts},
     {L"bench_bare_fill", &fillBare},
     {L"bench_bare_empty", &emptyBare},
     {L"bench_bare_size", &sizeBare},

@@ -5,13 +5,14 @@
   (repeat n (setq list (cons (strcat "Entry number " (itoa (setq i (1- i)))) list)))
   list)
 (setq entries (texts 10000))
+(bench_bare_texts entries)
 
 (defun refill-by-one-call (key) (wex_start_list key 2) (wex_add_list entries))
 (defun refill-by-many-calls (key) (wex_start_list key 2) (foreach entry entries (wex_add_list entry)))
 
 (defun list-row (name key id fill)
   (session-row name (list 'wex_start_list key 3) (list fill key)
-               (list 'bench_bare_empty id) (list 'bench_bare_fill id 'entries) 15))
+               (list 'bench_bare_empty id) (list 'bench_bare_fill id) 15))
 
 (wex_new_dialog "BENCH_LISTS")
 (in-dialog "BENCH_LISTS" 3001
