@@ -35,8 +35,8 @@ bool CallFrame::isRunning(const Plugin* plugin) {
 }
 
 HostValue* CallFrame::arguments() {
-    if (!m_chain) m_chain.reset(chainOf(m_arguments));
-    return m_chain.get();
+    if (!m_chain) m_chain = chainOf(m_arguments, &m_memory);
+    return m_chain;
 }
 
 lisp::Value CallFrame::result(int32_t status) const {

@@ -1,6 +1,8 @@
 // One call of a plug-in's Lisp function: which function, its arguments, its result. Frames nest as calls do.
 #pragma once
 
+#include <cstddef>
+#include <memory_resource>
 #include <span>
 #include <string>
 
@@ -51,7 +53,10 @@ class CallFrame {
     const LispFunction& m_function;
     std::span<const lisp::Value> m_arguments;
     CallFrame* m_outer;
-    OwnedChain m_chain;
+    // The nodes and texts of most calls lie here, those of the others in a few blocks.
+    std::byte m_nodes[512];
+    std::pmr::monotonic_buffer_resource m_memory{m_nodes, sizeof m_nodes};
+    HostValue* m_chain = nullptr;
     lisp::Root m_result;
     bool m_hasResult = false;
 };

@@ -45,13 +45,13 @@ void appendValue(ChainBuilder& chain, lisp::Value value, int depth) {
     } else if (value.isReal()) {
         chain.append(HV_REAL).value.realValue = value.asReal();
     } else if (value.isString()) {
-        chain.appendText(wideText(value.asString()));
+        chain.appendText(std::u16string_view(value.asString()));
     } else if (value.isTruth()) {
         chain.append(HV_TRUE);
     } else if (value.isCons()) {
         appendList(chain, value, depth);
     } else if (value.isSymbol()) {
-        chain.appendText(wideText(value.symbolName()));
+        chain.appendText(value.symbolName());
     } else {
         chain.append(HV_NIL);
     }
@@ -96,8 +96,8 @@ void appendElements(lisp::Interpreter& lisp, lisp::ListBuilder& list, const Host
 
 }  // namespace
 
-HostValue* chainOf(std::span<const lisp::Value> values) {
-    ChainBuilder chain;
+HostValue* chainOf(std::span<const lisp::Value> values, std::pmr::memory_resource* memory) {
+    ChainBuilder chain(memory);
     for (const lisp::Value value : values) appendValue(chain, value, 0);
     return chain.take();
 }

@@ -11,8 +11,8 @@
 #include "host/lisp/Interpreter.h"
 #include "host/services/ValueChain.h"
 
-// The values one behind the other; null for none. The caller releases it.
-HostValue* chainOf(std::span<const lisp::Value> values);
+// The values one behind the other; null for none. The caller releases it; with `memory` it goes with that.
+HostValue* chainOf(std::span<const lisp::Value> values, std::pmr::memory_resource* memory = nullptr);
 
 // The elements of the chain as a list; nil for null.
 lisp::Value listOfChain(lisp::Interpreter& lisp, const HostValue* chain);

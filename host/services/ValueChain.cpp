@@ -35,19 +35,11 @@ void releaseChain(HostValue* chain) {
 }
 
 HostValue& ChainBuilder::append(int type) {
-    HostValue* node = newNode(type);
-    if (m_tail) {
-        m_tail->next = node;
-    } else {
-        m_head.reset(node);
-    }
+    auto* node = new (allocate(sizeof(HostValue))) HostValue{};
+    node->type = static_cast<int16_t>(type);
+    (m_tail ? m_tail->next : m_head) = node;
     m_tail = node;
     return *node;
-}
-
-void ChainBuilder::appendText(std::wstring_view text) {
-    wchar_t* copy = newNodeText(text);
-    append(HV_STRING).value.stringValue = copy;
 }
 
 HostValue* buildChain(int type, va_list rest) {
@@ -56,7 +48,7 @@ HostValue* buildChain(int type, va_list rest) {
         switch (type) {
             case HV_STRING: {
                 const auto* text = va_arg(rest, const wchar_t*);
-                chain.appendText(text ? text : L"");
+                chain.appendText(std::wstring_view(text ? text : L""));
                 break;
             }
             case HV_SHORT:

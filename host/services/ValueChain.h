@@ -1,10 +1,13 @@
 // Chains of HostValue nodes: made, copied and freed in the host's memory. Portable.
 #pragma once
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstddef>
 #include <memory>
+#include <memory_resource>
 #include <string_view>
+#include <utility>
 
 #include "src/platform/host/HostValue.h"
 
@@ -32,12 +35,28 @@ using OwnedChain = std::unique_ptr<HostValue, ChainRelease>;
 // Builds a chain from its head to its tail and owns it until it is taken.
 class ChainBuilder {
   public:
+    // With `memory` the chain lives as long as that and is never released.
+    explicit ChainBuilder(std::pmr::memory_resource* memory = nullptr) : m_memory(memory) {}
+    ~ChainBuilder() {
+        if (!m_memory) releaseChain(m_head);
+    }
+    ChainBuilder(const ChainBuilder&) = delete;
+    ChainBuilder& operator=(const ChainBuilder&) = delete;
+
     // The new last node.
     HostValue& append(int type);
-    void appendText(std::wstring_view text);
-    HostValue* take() { return m_head.release(); }
+    template <class Char>
+    void appendText(std::basic_string_view<Char> text) {
+        auto* copy = static_cast<wchar_t*>(allocate((text.size() + 1) * sizeof(wchar_t)));
+        *std::copy(text.begin(), text.end(), copy) = L'\0';
+        append(HV_STRING).value.stringValue = copy;
+    }
+    HostValue* take() { return std::exchange(m_head, nullptr); }
 
   private:
-    OwnedChain m_head;
+    void* allocate(size_t bytes) { return m_memory ? m_memory->allocate(bytes) : newNodeMemory(bytes); }
+
+    std::pmr::memory_resource* m_memory;
+    HostValue* m_head = nullptr;
     HostValue* m_tail = nullptr;
 };
