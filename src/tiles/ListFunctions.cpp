@@ -18,7 +18,7 @@ constexpr EntryMessages entryMessages[] = {
 };
 
 const EntryMessages* messagesOf(const CWnd& control) {
-    const CString className = control.className();
+    const CString& className = control.className();
     for (const EntryMessages& messages : entryMessages)
         if (className == messages.className) return &messages;
     return nullptr;
@@ -31,8 +31,8 @@ void emptyControl(const CWnd& control) {
         control.SendMessage(LVM_DELETEALLITEMS);
 }
 
-void addEntry(const CWnd& control, const EntryMessages& messages, const CString& text, int operation) {
-    const auto entry = reinterpret_cast<LPARAM>(text.c_str());
+void addEntry(const CWnd& control, const EntryMessages& messages, const wchar_t* text, int operation) {
+    const auto entry = reinterpret_cast<LPARAM>(text);
     holdRedraw(control.m_hWnd);
     if (operation != LIST_CHANGE) {
         control.SendMessage(messages.add, 0, entry);
@@ -44,7 +44,7 @@ void addEntry(const CWnd& control, const EntryMessages& messages, const CString&
     control.SendMessage(messages.insert, selected, entry);
 }
 
-void addItem(WexDialog& dialog, const CString& text) {
+void addItem(WexDialog& dialog, const wchar_t* text) {
     CCtrlInfo* tile = dialog.m_listTile;
     if (!tile) return alertText(TEXT_NO_LIST_OPEN);
     if (!tile->m_control) return tile->m_listItems.push_back(text);

@@ -31,7 +31,7 @@ LRESULT CALLBACK CWnd::procedure(HWND window, UINT message, WPARAM w, LPARAM l) 
     try {
         CWnd* wrapper = WindowTable::permanent(window);
         result = wrapper ? wrapper->WindowProc(message, w, l)
-                         : CallWindowProcW(WindowTable::ownProcedure(window), window, message, w, l);
+                         : WindowTable::callOwnProcedure(window, message, w, l);
     } catch (...) {
         keepException();
         // A paint that never ends would come again for ever.
@@ -93,9 +93,13 @@ bool CWnd::DestroyWindow() {
 
 CWnd* CWnd::GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
 
-CString CWnd::className() const {
-    wchar_t name[256];
-    return CString(name, GetClassNameW(m_hWnd, name, static_cast<int>(std::size(name))));
+const CString& CWnd::className() const {
+    if (m_classOf != m_hWnd) {
+        wchar_t name[256];
+        m_className.assign(name, GetClassNameW(m_hWnd, name, static_cast<int>(std::size(name))));
+        m_classOf = m_hWnd;
+    }
+    return m_className;
 }
 
 CString CWnd::GetWindowText() const {
@@ -143,12 +147,11 @@ const MessageMap& CWnd::messageMap() const {
 
 LRESULT CWnd::Default() {
     const HandledMessage& handled = *g_handledMessage;
-    return CallWindowProcW(WindowTable::ownProcedure(handled.window), handled.window, handled.message,
-                           handled.w, handled.l);
+    return WindowTable::callOwnProcedure(handled.window, handled.message, handled.w, handled.l);
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM w, LPARAM l) {
-    return CallWindowProcW(WindowTable::ownProcedure(m_hWnd), m_hWnd, message, w, l);
+    return WindowTable::callOwnProcedure(m_hWnd, message, w, l);
 }
 
 // Gives a notification to the control that it came from. False where the control doesn't take it.

@@ -55,8 +55,8 @@ class CWnd : public CObject {
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     DWORD GetStyle() const { return static_cast<DWORD>(GetWindowLongPtrW(m_hWnd, GWL_STYLE)); }
     DWORD GetExStyle() const { return static_cast<DWORD>(GetWindowLongPtrW(m_hWnd, GWL_EXSTYLE)); }
-    // At most 255 characters.
-    CString className() const;
+    // At most 255 characters; empty without a window.
+    const CString& className() const;
     CString GetWindowText() const;
     RECT GetClientRect() const;
     RECT GetWindowRect() const;
@@ -110,6 +110,9 @@ class CWnd : public CObject {
 
     // The window was created by this object and goes with it.
     bool m_created = false;
+    // Kept, since asking costs as much as adding an entry to a list, and a window's class never changes.
+    mutable CString m_className;
+    mutable HWND m_classOf = nullptr;
     // The on-demand wrappers of windows below this one, kept even when their windows are gone.
     std::vector<std::unique_ptr<CWnd>> m_kept;
 };

@@ -11,16 +11,49 @@ namespace {
 struct Attachment {
     CWnd* wrapper = nullptr;  // null: let go of, while somebody else's procedure still leads to ours
     WNDPROC ownProcedure = nullptr;
+    // It can be called as it is, which costs a fraction of the platform's call of it.
+    bool isCode = false;
 };
 
 struct Table {
     std::unordered_map<HWND, Attachment> attached;
     std::unordered_map<HWND, CWnd*> onDemand;
+    // What was asked for last, since several questions follow each other for every message.
+    HWND lastAsked = nullptr;
+    Attachment* lastFound = nullptr;
 };
 
 Table& table() {
     static auto* made = new Table;  // outlives all statics that hold windows
     return *made;
+}
+
+Attachment* attachmentOf(HWND window) {
+    Table& all = table();
+    if (window != all.lastAsked) {
+        const auto at = all.attached.find(window);
+        all.lastFound = at == all.attached.end() ? nullptr : &at->second;
+        all.lastAsked = window;
+    }
+    return all.lastFound;
+}
+
+Attachment& addAttachment(HWND window) {
+    table().lastAsked = nullptr, table().lastFound = nullptr;
+    return table().attached[window];
+}
+
+void removeAttachment(HWND window) {
+    table().lastAsked = nullptr, table().lastFound = nullptr;
+    table().attached.erase(window);
+}
+
+// What stands for a procedure may be a handle that only the platform can call.
+bool isCode(WNDPROC procedure) {
+    HMODULE module;
+    return GetModuleHandleExW(
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        reinterpret_cast<const wchar_t*>(procedure), &module);
 }
 
 WNDPROC procedureOf(HWND window) {
@@ -42,8 +75,8 @@ CWnd* keeperOf(HWND window) {
 }  // namespace
 
 CWnd* WindowTable::permanent(HWND window) {
-    const auto at = table().attached.find(window);
-    return at == table().attached.end() ? nullptr : at->second.wrapper;
+    const Attachment* attachment = attachmentOf(window);
+    return attachment ? attachment->wrapper : nullptr;
 }
 
 CWnd* WindowTable::onDemand(HWND window) {
@@ -63,11 +96,14 @@ CWnd* WindowTable::makeOnDemand(HWND window) {
 }
 
 bool WindowTable::attach(HWND window, CWnd& wrapper) {
-    Attachment& attachment = table().attached[window];
+    Attachment& attachment = addAttachment(window);
     if (attachment.wrapper) return false;
-    if (!attachment.ownProcedure) attachment.ownProcedure = setProcedure(window, &CWnd::procedure);
     if (!attachment.ownProcedure) {
-        table().attached.erase(window);
+        attachment.ownProcedure = setProcedure(window, &CWnd::procedure);
+        attachment.isCode = isCode(attachment.ownProcedure);
+    }
+    if (!attachment.ownProcedure) {
+        removeAttachment(window);
         return false;
     }
     if (CWnd* other = onDemand(window)) retire(*other);
@@ -78,14 +114,14 @@ bool WindowTable::attach(HWND window, CWnd& wrapper) {
 
 void WindowTable::detach(CWnd& wrapper) {
     const HWND window = std::exchange(wrapper.m_hWnd, nullptr);
-    const auto at = table().attached.find(window);
-    if (at == table().attached.end() || at->second.wrapper != &wrapper) return;
+    Attachment* attachment = attachmentOf(window);
+    if (!attachment || attachment->wrapper != &wrapper) return;
     if (procedureOf(window) == &CWnd::procedure) {
-        setProcedure(window, at->second.ownProcedure);
-        table().attached.erase(at);
+        setProcedure(window, attachment->ownProcedure);
+        removeAttachment(window);
     } else {
         // Whoever put a procedure over ours goes on calling ours; it only leads on from now.
-        at->second.wrapper = nullptr;
+        attachment->wrapper = nullptr;
     }
 }
 
@@ -100,10 +136,12 @@ void WindowTable::gone(HWND window) {
         wrapper->m_created = false;
         detach(*wrapper);
     }
-    table().attached.erase(window);
+    removeAttachment(window);
 }
 
-WNDPROC WindowTable::ownProcedure(HWND window) {
-    const auto at = table().attached.find(window);
-    return at == table().attached.end() ? &::DefWindowProcW : at->second.ownProcedure;
+LRESULT WindowTable::callOwnProcedure(HWND window, UINT message, WPARAM w, LPARAM l) {
+    const Attachment* attachment = attachmentOf(window);
+    if (!attachment) return ::DefWindowProcW(window, message, w, l);
+    if (attachment->isCode) return attachment->ownProcedure(window, message, w, l);
+    return CallWindowProcW(attachment->ownProcedure, window, message, w, l);
 }

@@ -28,6 +28,7 @@ class WindowTable {
     // The window is being destroyed, and those below it are: all their wrappers let go.
     static void gone(HWND window);
 
-    // The procedure that the window had before it was attached, or else the platform's default one.
-    static WNDPROC ownProcedure(HWND window);
+    // Has the message done by the procedure that the window had before it was attached, or else by the
+    // platform's default one.
+    static LRESULT callOwnProcedure(HWND window, UINT message, WPARAM w, LPARAM l);
 };

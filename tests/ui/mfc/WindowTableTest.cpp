@@ -1,5 +1,6 @@
 // One wrapper for each window: who has it, and how long it lives.
 #include <memory>
+#include <string>
 
 #include "src/platform/mfc/Controls.h"
 #include "src/platform/mfc/WindowClass.h"
@@ -17,6 +18,14 @@ WNDPROC g_below = nullptr;
 LRESULT CALLBACK stranger(HWND window, UINT message, WPARAM w, LPARAM l) {
     if (message == WM_USER) g_reached = window;
     return CallWindowProcW(g_below, window, message, w, l);
+}
+
+// The procedure of a window of the narrow kind, to which texts come as bytes.
+std::string g_narrowText;
+
+LRESULT CALLBACK narrow(HWND window, UINT message, WPARAM w, LPARAM l) {
+    if (message == WM_SETTEXT) g_narrowText = reinterpret_cast<const char*>(l);
+    return DefWindowProcA(window, message, w, l);
 }
 
 struct WindowTableTest : MfcTest {
@@ -63,6 +72,20 @@ TEST_F(WindowTableTest, PermanentWrapperTakesOverFromAnOnDemandOne) {
     EXPECT_EQ(edit.m_hWnd, item(dialog, 110));
     dialog.DestroyWindow();
     EXPECT_EQ(edit.m_hWnd, nullptr);
+}
+
+TEST_F(WindowTableTest, WindowOfTheNarrowKindGetsItsTextsAsBefore) {
+    WNDCLASSA request{};
+    request.lpfnWndProc = &narrow;
+    request.lpszClassName = "Narrow";
+    RegisterClassA(&request);
+    const HWND window =
+        CreateWindowExA(0, "Narrow", "", WS_CHILD, 0, 0, 9, 9, owner.m_hWnd, nullptr, nullptr, nullptr);
+    CWnd wrapper;
+    ASSERT_TRUE(wrapper.SubclassWindow(window));
+    wrapper.SetWindowText(L"text");
+    EXPECT_EQ(g_narrowText, "text");
+    EXPECT_EQ(wrapper.className(), L"Narrow");
 }
 
 TEST_F(WindowTableTest, UnsubclassedWindowWorksOnWithItsOwnProcedure) {
