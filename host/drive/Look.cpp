@@ -22,14 +22,44 @@ bool hasFocus(HWND window) {
     return focus == window || (focus && IsChild(window, focus));
 }
 
-lisp::Value rectOf(lisp::Interpreter& lisp, const Tile& tile) {
+lisp::Value number(LONG value) { return lisp::Value::integer(value); }
+
+// In the client pixels of `in`, or of the screen with null.
+lisp::Value rectOf(lisp::Interpreter& lisp, HWND window, HWND in) {
     RECT rect;
-    GetWindowRect(tile.window(), &rect);
-    MapWindowPoints(nullptr, tile.dialog(), reinterpret_cast<POINT*>(&rect), 2);
-    const auto number = [](LONG value) { return lisp::Value::integer(value); };
+    GetWindowRect(window, &rect);
+    MapWindowPoints(nullptr, in, reinterpret_cast<POINT*>(&rect), 2);
     return lisp.list({number(rect.left), number(rect.top), number(rect.right - rect.left),
                       number(rect.bottom - rect.top)});
 }
+
+lisp::Value clientOf(lisp::Interpreter& lisp, HWND window) {
+    RECT client;
+    GetClientRect(window, &client);
+    return lisp.list({number(client.right), number(client.bottom)});
+}
+
+lisp::Value controlsOf(lisp::Interpreter& lisp, HWND dialog) {
+    lisp::ListBuilder list(lisp);
+    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        list.add(number(GetDlgCtrlID(child)));
+    return list.list();
+}
+
+// An association list that grows pair by pair.
+class Pairs {
+  public:
+    explicit Pairs(lisp::Interpreter& lisp) : m_lisp(lisp), m_pairs(lisp) {}
+
+    void add(std::u16string_view name, lisp::Value value) {
+        m_pairs.add(m_lisp.cons(m_lisp.string(name), value));
+    }
+    lisp::Value list() { return m_pairs.list(); }
+
+  private:
+    lisp::Interpreter& m_lisp;
+    lisp::ListBuilder m_pairs;
+};
 
 lisp::Value selectedOf(lisp::Interpreter& lisp, HWND window) {
     lisp::ListBuilder list(lisp);
@@ -43,16 +73,37 @@ lisp::Value selectedOf(lisp::Interpreter& lisp, HWND window) {
 
 lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
     const HWND window = tile.window();
-    lisp::ListBuilder look(lisp);
-    const auto add = [&](std::u16string_view name, lisp::Value value) {
-        look.add(lisp.cons(lisp.string(name), value));
+    Pairs look(lisp);
+    look.add(u"class", lisp.string(lispText(classOf(window))));
+    look.add(u"enabled", lisp::Value::truth(IsWindowEnabled(window)));
+    look.add(u"visible", lisp::Value::truth(IsWindowVisible(window)));
+    look.add(u"focus", lisp::Value::truth(hasFocus(window)));
+    look.add(u"checked", lisp::Value::truth(isChecked(window)));
+    look.add(u"rect", rectOf(lisp, window, tile.dialog()));
+    look.add(u"selected", selectedOf(lisp, window));
+    return look.list();
+}
+
+lisp::Value lookOf(lisp::Interpreter& lisp, HWND dialog) {
+    const HWND owner = GetWindow(dialog, GW_OWNER);
+    Pairs look(lisp);
+    look.add(u"class", lisp.string(lispText(classOf(dialog))));
+    look.add(u"title", lisp.string(lispText(textOf(dialog))));
+    look.add(u"owner", owner ? lisp.string(lispText(textOf(owner))) : lisp::Value());
+    look.add(u"enabled", lisp::Value::truth(IsWindowEnabled(dialog)));
+    look.add(u"rect", rectOf(lisp, dialog, nullptr));
+    look.add(u"client", clientOf(lisp, dialog));
+    look.add(u"controls", controlsOf(lisp, dialog));
+    return look.list();
+}
+
+lisp::Value lookOf(lisp::Interpreter& lisp, const BoxLook& box) {
+    const auto text = [&](const std::wstring& text) {
+        return text.empty() ? lisp::Value() : lisp.string(lispText(text));
     };
-    add(u"class", lisp.string(lispText(classOf(window))));
-    add(u"enabled", lisp::Value::truth(IsWindowEnabled(window)));
-    add(u"visible", lisp::Value::truth(IsWindowVisible(window)));
-    add(u"focus", lisp::Value::truth(hasFocus(window)));
-    add(u"checked", lisp::Value::truth(isChecked(window)));
-    add(u"rect", rectOf(lisp, tile));
-    add(u"selected", selectedOf(lisp, window));
+    Pairs look(lisp);
+    look.add(u"title", text(box.title));
+    look.add(u"icon", text(box.icon));
+    look.add(u"owner", text(box.owner));
     return look.list();
 }

@@ -1,6 +1,7 @@
-// What a person sees of a tile.
+// What a person sees of a tile and of a dialog.
 #pragma once
 
+#include "host/drive/MessageBoxes.h"
 #include "host/drive/Tile.h"
 #include "host/lisp/Interpreter.h"
 
@@ -8,3 +9,11 @@
 // control that can't be), "rect" as (left top width height) in the dialog's client pixels, "selected" as a
 // list.
 lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile);
+
+// The same of a dialog: "class", "title", "owner" (the title of the window that it belongs to; nil without
+// one), "enabled", "rect" in pixels of the screen, "client" as (width height), "controls" as the ids of the
+// controls, the topmost first.
+lisp::Value lookOf(lisp::Interpreter& lisp, HWND dialog);
+
+// The same of a message box: "title", "icon" and "owner"; nil for what it doesn't have.
+lisp::Value lookOf(lisp::Interpreter& lisp, const BoxLook& box);

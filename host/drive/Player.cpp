@@ -135,6 +135,7 @@ void Player::answer(HWND box) {
     if (std::find(m_answered.begin(), m_answered.end(), box) != m_answered.end()) return;
     m_answered.push_back(box);
     host().alerts().record(boxText(box));
+    m_lastBox = boxLook(box);
     answerBox(box);
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/drive/IdleWatch.h"
+#include "host/drive/MessageBoxes.h"
 #include "host/drive/Progress.h"
 #include "host/drive/Sessions.h"
 
@@ -29,6 +30,9 @@ class Player : public DialogObserver {
     void repeatForm() { m_repeat = true; }
     // Done at the next idle moment, before anything else.
     void atNextIdle(std::function<void()> work) { m_nextIdle = std::move(work); }
+
+    // How the last message box looked that was answered.
+    const BoxLook& lastBox() const { return m_lastBox; }
 
     Progress& progress() { return m_progress; }
 
@@ -60,6 +64,7 @@ class Player : public DialogObserver {
     std::vector<Run> m_runs;
     std::vector<HWND> m_evaluating;
     std::vector<HWND> m_answered;
+    BoxLook m_lastBox;
     std::function<void()> m_nextIdle;
     std::optional<IdleWatch> m_watch;
     Progress m_progress;

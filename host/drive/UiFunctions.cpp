@@ -13,6 +13,7 @@
 #include "host/drive/Tile.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
+#include "src/platform/base/Text.h"
 
 namespace {
 
@@ -25,14 +26,17 @@ std::wstring wideArgument(Call& call, size_t index) { return wideText(call.text(
 
 Value text(Call& call, const std::wstring& text) { return call.lisp.string(lispText(text)); }
 
-// Where to click for "tile [item [column]]": the entry, or the middle of the tile where none is named.
-Spot spotOf(Call& call, const Tile& tile) {
-    if (!call.has(1)) return middleOf(tile.window());
+Spot entrySpot(Call& call, const Tile& tile, Value item) {
     const auto items = itemsOf(tile.window());
     if (!items) tile.fail(L"it is no list");
-    const int index = items->find(call[1]);
-    if (index < 0) tile.fail(L"it has no item " + wideText(call.lisp.print(call[1])));
+    const int index = items->find(item);
+    if (index < 0) tile.fail(L"it has no item " + wideText(call.lisp.print(item)));
     return items->show(index, call.integerOr(2, 0));
+}
+
+// Where to click for "tile [item [column]]": the entry, or the middle of the tile where none is named.
+Spot spotOf(Call& call, const Tile& tile) {
+    return call.has(1) ? entrySpot(call, tile, call[1]) : middleOf(tile.window());
 }
 
 template <void (*Press)(const Spot&)>
@@ -40,6 +44,19 @@ Value press(Call& call) {
     const Tile tile(call, 0);
     tile.mustBeWorkable();
     Press(spotOf(call, tile));
+    return Value::none();
+}
+
+// (ui_pick tile item [column]); a list of items is picked with Ctrl held from the second one on.
+Value pick(Call& call) {
+    if (!call[1].isCons()) return press<&click>(call);
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    auto clickNext = &click;
+    for (const Value item : lisp::Elements(call[1])) {
+        clickNext(entrySpot(call, tile, item));
+        clickNext = &controlClick;
+    }
     return Value::none();
 }
 
@@ -84,22 +101,35 @@ Value type(Call& call) {
     return Value::none();
 }
 
+// The window that gets what comes from the keyboard: that of the tile of argument `index`, which takes the
+// focus as by the Tab key (a button becomes the default one, the text of an edit box is selected); without
+// one, where the focus is.
+HWND keyboardWindow(Call& call, size_t index) {
+    const HWND dialog = runningDialog();
+    if (!call.has(index)) {
+        const HWND focus = GetFocus();
+        return focus && IsChild(dialog, focus) ? focus : dialog;
+    }
+    const Tile tile(call, index);
+    tile.mustBeWorkable();
+    const HWND window = typingWindow(tile);
+    if (GetFocus() != window) SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
+    return window;
+}
+
 // (ui_key "ENTER" [tile])
 Value key(Call& call) {
     const std::optional<KeyStroke> stroke = parseKeyStroke(wideArgument(call, 0));
     if (!stroke) call.expected(0, "the name of a key");
-    HWND window = GetFocus();
-    const HWND dialog = runningDialog();
-    if (call.has(1)) {
-        const Tile tile(call, 1);
-        tile.mustBeWorkable();
-        window = typingWindow(tile);
-        // As the Tab key does it: a button becomes the default one, the text of an edit box is selected.
-        if (GetFocus() != window)
-            SendMessageW(runningDialog(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
-    }
-    pressKey(window && IsChild(dialog, window) ? window : dialog, *stroke);
+    pressKey(keyboardWindow(call, 1), *stroke);
     player().atNextIdle(&releaseHeldKeys);
+    return Value::none();
+}
+
+// (ui_char "text" [tile])
+Value character(Call& call) {
+    const std::wstring characters = wideArgument(call, 0);
+    typeText(keyboardWindow(call, 1), characters);
     return Value::none();
 }
 
@@ -114,6 +144,44 @@ Value size(Call& call) {
     const int width = call.integer(0);
     const int height = call.integer(1);
     SetWindowPos(runningDialog(), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return Value::none();
+}
+
+// Where a person takes hold of a dialog to size it: how far across and down its window.
+struct Border {
+    std::wstring_view name;
+    int right;  // in halves
+    int down;
+};
+
+constexpr Border BORDERS[] = {
+    {L"left", 0, 1}, {L"top", 1, 0}, {L"right", 2, 1}, {L"bottom", 1, 2}, {L"grip", 2, 2},
+};
+
+// In pixels of the screen. The grip stands in the client area.
+POINT holdOf(HWND dialog, const Border& border) {
+    constexpr int WITHIN_BORDER = 1, WITHIN_GRIP = 4;
+    RECT rect;
+    if (border.name == L"grip") {
+        GetClientRect(dialog, &rect);
+        MapWindowPoints(dialog, nullptr, reinterpret_cast<POINT*>(&rect), 2);
+        return {rect.right - WITHIN_GRIP, rect.bottom - WITHIN_GRIP};
+    }
+    GetWindowRect(dialog, &rect);
+    InflateRect(&rect, -WITHIN_BORDER, -WITHIN_BORDER);
+    return {rect.left + (rect.right - rect.left) * border.right / 2,
+            rect.top + (rect.bottom - rect.top) * border.down / 2};
+}
+
+// (ui_drag "GRIP" right down)
+Value drag(Call& call) {
+    const std::wstring name = toLower(wideArgument(call, 0));
+    const auto border = std::find_if(std::begin(BORDERS), std::end(BORDERS),
+                                     [&](const Border& each) { return each.name == name; });
+    if (border == std::end(BORDERS)) call.expected(0, "LEFT, TOP, RIGHT, BOTTOM or GRIP");
+    const HWND dialog = runningDialog();
+    if (!dragBorder(dialog, holdOf(dialog, *border), {call.integer(1), call.integer(2)}))
+        throw lisp::Error(lispText(L"dialog \"" + textOf(dialog) + L"\" can't be sized there"));
     return Value::none();
 }
 
@@ -136,8 +204,13 @@ Value items(Call& call) {
     return list.list();
 }
 
-// (ui_look tile)
-Value look(Call& call) { return lookOf(call.lisp, Tile(call, 0)); }
+// (ui_look [tile])
+Value look(Call& call) {
+    return call.has(0) ? lookOf(call.lisp, Tile(call, 0)) : lookOf(call.lisp, runningDialog());
+}
+
+// (ui_box)
+Value box(Call& call) { return lookOf(call.lisp, player().lastBox()); }
 
 // (ui_title)
 Value title(Call& call) { return text(call, textOf(runningDialog())); }
@@ -193,16 +266,19 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_click", &press<&click>, 1, 1},
     {u"ui_dblclick", &press<&doubleClick>, 1, 3},
     {u"ui_rclick", &press<&rightClick>, 1, 3},
-    {u"ui_pick", &press<&click>, 2, 3},
+    {u"ui_pick", &pick, 2, 3},
     {u"ui_header", &header, 2, 2},
     {u"ui_type", &type, 2, 2},
     {u"ui_key", &key, 1, 2},
+    {u"ui_char", &character, 1, 2},
     {u"ui_close", &close, 0, 0},
     {u"ui_size", &size, 2, 2},
+    {u"ui_drag", &drag, 3, 3},
     {u"ui_wait", &wait, 1, 1},
     {u"ui_text", &textOfTile, 1, 1},
     {u"ui_items", &items, 1, 1},
-    {u"ui_look", &look, 1, 1},
+    {u"ui_look", &look, 0, 1},
+    {u"ui_box", &box, 0, 0},
     {u"ui_title", &title, 0, 0},
     {u"ui_dialogs", &dialogs, 0, 0},
     {u"ui_alerts", &alerts, 0, 0},

@@ -71,7 +71,8 @@ TEST(Session, WaitingFormsAreTriedAgain) {
 TEST(Session, WhatAPersonCannotDoIsRefused) {
     const HostRun run =
         play(R"((ui_click "disabled") (ui_click "hidden") (ui_click "nobody") (ui_pick "edit" 1)
-                                (ui_pick "list" 99) (ui_key "QQ") (ui_header "edit" 1) (ui_click "ok"))");
+                                (ui_pick "list" 99) (ui_key "QQ") (ui_header "edit" 1) (ui_drag "MIDDLE" 1 1)
+                                (ui_drag "GRIP" 1 1) (ui_click "ok"))");
     EXPECT_EQ(run.status, 1U);
     for (const char* why :
          {"step 1: (UI_CLICK \"disabled\")\n", "tile \"disabled\" of dialog \"Everything\": it is disabled\n",
@@ -80,7 +81,9 @@ TEST(Session, WhatAPersonCannotDoIsRefused) {
           "tile \"edit\" of dialog \"Everything\": it is no list\n",
           "tile \"list\" of dialog \"Everything\": it has no item 99\n",
           "expected the name of a key, got \"QQ\"\n",
-          "tile \"edit\" of dialog \"Everything\": it has no header of column 1\n"}) {
+          "tile \"edit\" of dialog \"Everything\": it has no header of column 1\n",
+          "expected LEFT, TOP, RIGHT, BOTTOM or GRIP, got \"MIDDLE\"\n",
+          "dialog \"Everything\" can't be sized there\n"}) {
         EXPECT_NE(run.errors.find(why), std::string::npos) << why << " in " << run.errors;
     }
 }
