@@ -6,20 +6,30 @@
 
 namespace {
 
-std::vector<HWND> g_held;
+struct Held {
+    HWND control;
+    bool hidden;
+};
+
+std::vector<Held> g_held;
+
+bool isHidden(HWND control) { return !(GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE); }
 
 }  // namespace
 
 void holdRedraw(HWND control) {
-    if (std::find(g_held.begin(), g_held.end(), control) != g_held.end()) return;
+    const auto isControl = [control](const Held& held) { return held.control == control; };
+    if (std::any_of(g_held.begin(), g_held.end(), isControl)) return;
+    g_held.push_back({control, isHidden(control)});
     SendMessageW(control, WM_SETREDRAW, FALSE, 0);
-    g_held.push_back(control);
 }
 
 void releaseRedraw() {
-    for (const HWND control : std::exchange(g_held, {})) {
+    for (const auto& [control, hidden] : std::exchange(g_held, {})) {
         if (!IsWindow(control)) continue;
         SendMessageW(control, WM_SETREDRAW, TRUE, 0);
+        // The platform's default for the message shows a window.
+        if (hidden) ShowWindow(control, SW_HIDE);
         InvalidateRect(control, nullptr, TRUE);
     }
 }

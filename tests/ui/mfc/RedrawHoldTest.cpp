@@ -1,0 +1,39 @@
+// Bulk work on a control shows at once, when the redraw is released.
+#include "src/platform/mfc/RedrawHold.h"
+
+#include "tests/ui/mfc/Support.h"
+
+namespace {
+
+struct RedrawHoldTest : MfcTest {
+    HWND make(DWORD style) const {
+        return CreateWindowW(L"Static", L"", WS_CHILD | style, 0, 0, 50, 20, owner.m_hWnd, nullptr, nullptr,
+                             nullptr);
+    }
+    static bool needsPaint(HWND window) { return GetUpdateRect(window, nullptr, FALSE); }
+};
+
+TEST_F(RedrawHoldTest, AHeldControlPaintsAnewWhenItIsReleased) {
+    const HWND control = make(WS_VISIBLE);
+    UpdateWindow(control);
+    holdRedraw(control);
+    holdRedraw(control);
+    InvalidateRect(control, nullptr, TRUE);
+    EXPECT_FALSE(needsPaint(control));
+    releaseRedraw();
+    EXPECT_TRUE(needsPaint(control));
+    ValidateRect(control, nullptr);
+    releaseRedraw();
+    EXPECT_FALSE(needsPaint(control)) << "released once";
+}
+
+TEST_F(RedrawHoldTest, AHiddenControlStaysHiddenAndOneThatIsGoneIsPassedOver) {
+    const HWND hidden = make(0), gone = make(WS_VISIBLE);
+    holdRedraw(hidden);
+    holdRedraw(gone);
+    DestroyWindow(gone);
+    releaseRedraw();
+    EXPECT_FALSE(IsWindowVisible(hidden));
+}
+
+}  // namespace
