@@ -24,7 +24,8 @@ class CWnd;
 // The wrapper of a window that a message names; null for none.
 CWnd* windowOf(WPARAM handle);
 
-// How the parameters of a message come to its handler. Points are in the coordinates of the message.
+// How the parameters of a message come to its handler. Points are in the coordinates of the message. The
+// position of a scroll message is a number with a sign, in the guise of one without.
 template <UINT Message>
 struct Unpack {
     static auto from(WPARAM, LPARAM) { return std::tuple<>(); }
@@ -59,8 +60,8 @@ WEX_UNPACK(WM_SETCURSOR, windowOf(w), static_cast<UINT>(LOWORD(l)), static_cast<
 WEX_UNPACK(WM_SETFOCUS, windowOf(w))
 WEX_UNPACK(WM_KILLFOCUS, windowOf(w))
 WEX_UNPACK(WM_ENABLE, w != 0)
-WEX_UNPACK(WM_HSCROLL, static_cast<UINT>(LOWORD(w)), static_cast<UINT>(HIWORD(w)))
-WEX_UNPACK(WM_VSCROLL, static_cast<UINT>(LOWORD(w)), static_cast<UINT>(HIWORD(w)))
+WEX_UNPACK(WM_HSCROLL, static_cast<UINT>(LOWORD(w)), static_cast<UINT>(static_cast<short>(HIWORD(w))))
+WEX_UNPACK(WM_VSCROLL, static_cast<UINT>(LOWORD(w)), static_cast<UINT>(static_cast<short>(HIWORD(w))))
 WEX_UNPACK(WM_TIMER, static_cast<UINT_PTR>(w))
 WEX_UNPACK(WM_ERASEBKGND, reinterpret_cast<HDC>(w))
 WEX_UNPACK(WM_CTLCOLORSTATIC, reinterpret_cast<HDC>(w), windowOf(static_cast<WPARAM>(l)))
