@@ -79,3 +79,122 @@
     (want nil (wex_edit_seteditlimit "DESC"))
     (want nil (wex_edit_seteditlimit "DESC" 5))
     (wex_start_dialog)))
+
+(defun focused (tile) (cdr (assoc "focus" (ui_look tile))))
+
+(test "The Esc character brings the last good text back; the box keeps the focus, and still has its end to tell"
+  '((with-box "wex_edit_setasnumeric" 2 2
+      '((wex_set_tile "DESC" "12")
+        (ui_click "DESC")
+        (ui_char "3\e")
+        (want "12" (ui_text "DESC"))
+        (want T (focused "DESC"))
+        (want nil notes)
+        (ui_click "ASMB")
+        (want "12.00" (ui_text "DESC"))
+        (ui_type "ASMB" "plain")
+        (ui_char "\e")
+        (want "" (ui_text "ASMB"))
+        (ui_click "Cancel")))
+    (want '("12") notes)))
+
+(test "The Enter character ends the editing at once; what comes later in the same visit isn't told"
+  '((with-box "wex_edit_setasnumeric" 2 2
+      '((ui_type "DESC" "2.5")
+        (ui_char "\r")
+        (want "2.50" (ui_text "DESC"))
+        (want '("2.5") notes)
+        (want T (focused "DESC"))
+        (ui_type "DESC" "7")
+        (ui_char "\r")
+        (ui_click "ASMB")
+        (want "7" (ui_text "DESC"))
+        (ui_click "Cancel")))
+    (want '("2.5") notes)))
+
+(test "A box that wants Enter takes it as a new line, unless it takes numbers alone; Esc there only restores"
+  '((setq notes nil)
+    (ui_session "ODD_KINDS"
+      '((ui_type "LINES" "12")
+        (ui_char "\r")
+        (want "12\r\n" (ui_text "LINES"))
+        (want '("12") notes)
+        (ui_char "\e")
+        (want "" (ui_text "LINES"))
+        (wex_edit_setasnumeric "LINES" 2 1)
+        (ui_type "LINES" "5")
+        (ui_char "\r")
+        (want "5" (ui_text "LINES"))
+        (ui_click "Cancel")))
+    (wex_new_dialog "ODD_KINDS")
+    (wex_action_tile "LINES" "(note $value)")
+    (wex_start_dialog)))
+
+(test "A filtered box refuses characters of the keyboard's Ctrl, and lets backspace through"
+  '((with-box "wex_edit_setasnumeric" 2 2
+      '((ui_type "DESC" "123")
+        (ui_char (strcat "\t" (chr 3) (chr 22) (chr 24) (chr 8)))
+        (want "12" (ui_text "DESC"))
+        (ui_click "Cancel")))))
+
+(test "A second notation takes the place of the first; a code without characters leaves those that hold"
+  '((with-box "wex_edit_setasnumeric" 2 2
+      '((wex_edit_setasangular "DESC" 4 3)
+        (ui_type "DESC" "1.5r")
+        (ui_click "ASMB")
+        (want "1.500r" (ui_text "DESC"))
+        (wex_edit_setasnumeric 122 "x" nil)
+        (ui_type "DESC" "2e1r")
+        (want "21r" (ui_text "DESC"))
+        (ui_click "ASMB")
+        (want "1.500r" (ui_text "DESC"))
+        (ui_click "Cancel")))))
+
+(test "What the action puts into its own box stays in a plain one, and gives way to what was read in others"
+  '((setq put "(wex_set_tile \"DESC\" \"put\")")
+    (ui_session "ADD_REC"
+      '((ui_type "DESC" "1") (ui_click "ASMB") (want "put" (ui_text "DESC"))
+        (wex_edit_setasnumeric "DESC" 2 1)
+        (ui_type "DESC" "2") (ui_click "ASMB") (want "2.0" (ui_text "DESC"))
+        (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_action_tile "DESC" put)
+    (wex_start_dialog)))
+
+; The action of DESC runs while the focus is on its way to ASMB.
+(defun leaving (action session)
+  (setq notes nil)
+  (ui_session "ADD_REC" session)
+  (wex_new_dialog "ADD_REC")
+  (wex_setaction_oninit "(wex_edit_setasnumeric \"DESC\" 2 2)")
+  (wex_action_tile "DESC" action)
+  (wex_start_dialog))
+
+(test "The action of a box that is left may run a dialog of its own, and the box is rewritten afterwards"
+  '((ui_session "CONFIRM_DELREC" '((want 2 (length (ui_dialogs))) (ui_click "OK")))
+    (want -1 (leaving "(wex_new_dialog \"CONFIRM_DELREC\") (note (wex_start_dialog)) (note $key)"
+      '((ui_type "DESC" "3") (ui_click "ASMB") (want "3.00" (ui_text "DESC")) (ui_click "Cancel"))))
+    (want '(-1 "desc") notes)))
+
+(test "The action of a box that is left may end the dialog"
+  '((want 5 (leaving "(note $value) (wex_done_dialog 5)" '((ui_type "DESC" "3") (ui_click "ASMB"))))
+    (want '("3") notes)))
+
+(test "The action of a box that is left may move the focus again, and a message box may come up"
+  '((leaving "(wex_alert $value) (wex_mode_tile \"CAT\" 2)"
+      '((ui_type "DESC" "3") (ui_click "ASMB") (want "3.00" (ui_text "DESC")) (ui_click "Cancel")))
+    (want '("3") (ui_alerts))))
+
+(test "The limit of a live box doesn't reach its record, and a tile that is no edit box has none"
+  '((ui_session "ADD_REC"
+      '((want nil (wex_edit_seteditlimit "DESC" 3))
+        (ui_type "DESC" "12345")
+        (want "123" (ui_text "DESC"))
+        (wex_set_tile "DESC" "123456")
+        (wex_mode_tile "DESC" 3)
+        (ui_char "x")
+        (want "x" (ui_text "DESC"))
+        (want nil (wex_edit_seteditlimit "KEEP" 1))
+        (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_start_dialog)))

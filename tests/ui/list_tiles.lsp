@@ -56,6 +56,54 @@
     (in-lists '(progn (wex_start_list "LST" 2) (wex_add_list "x"))
       '((want T (cdr (assoc "focus" (ui_look "LST")))) (ui_click "Cancel")))))
 
+(test "Operation -1 leaves the mode to the control, and what is added later follows from that"
+  '((in-lists '(progn (wex_start_list "LST" -1) (wex_add_list '("one" "two")))
+      '((want T (cdr (assoc "enabled" (ui_look "LST"))))
+        (want "0" (wex_get_tile "LST"))
+        (wex_add_list "three")
+        (want '("one" "two" "three") (ui_items "LST"))
+        (wex_start_list "LST" -1)
+        (wex_add_list "four")
+        (want '("one" "two" "three" "four") (ui_items "LST"))
+        (ui_click "Cancel")))))
+
+(test "A mode that is set between the start of a list and its rows changes how they are added"
+  '((in-lists '(fill "LST" '("one" "two"))
+      '((wex_start_list "LST" 2)
+        (wex_mode_tile "LST" 1)
+        (wex_add_list "ONE")
+        (want '("ONE" "two") (ui_items "LST"))
+        (wex_mode_tile "LST" 0)
+        (wex_add_list "three")
+        (want '("ONE" "two" "three") (ui_items "LST"))
+        (ui_click "Cancel")))
+    ; Operation 3 is the mode that selects text, which a list doesn't know.
+    (in-lists '(progn (wex_mode_tile "LST" 1) (fill "LST" '("one")))
+      '((want T (cdr (assoc "enabled" (ui_look "LST")))) (ui_click "Cancel")))))
+
+(test "A tile that can't be found leaves the open list open, and rows of an unknown key never show"
+  '((in-lists '(progn (wex_start_list "LST") (wex_add_list "a") (wex_start_list nil) (wex_add_list "b"))
+      '((want '("a" "b") (ui_items "LST"))
+        (wex_start_list "nobody")
+        (wex_add_list "c")
+        (want '("a" "b") (ui_items "LST"))
+        (ui_click "Cancel")))
+    (want nil (ui_alerts))))
+
+(test "The record holds the rows of the start alone, until a list is started on the live tile"
+  '((wex_new_dialog "DISP_ASSYVALS")
+    ; The nested dialog, made and never started, goes in the place of this one, which so runs again.
+    (wex_action_tile "B_BOM" "(wex_new_dialog \"CONFIRM_DELREC\")")
+    (fill "LST" '("one" "two"))
+    (ui_session "DISP_ASSYVALS"
+      '((wex_add_list "three") (want '("one" "two" "three") (ui_items "LST")) (ui_click "B_BOM") (ui_click "Cancel")))
+    (wex_start_dialog)
+    (ui_session "DISP_ASSYVALS"
+      '((want '("one" "two") (ui_items "LST")) (wex_start_list "LST" 2) (ui_click "B_BOM") (ui_click "Cancel")))
+    (wex_start_dialog)
+    (ui_session "DISP_ASSYVALS" '((want nil (ui_items "LST")) (ui_click "Cancel")))
+    (wex_start_dialog)))
+
 (test "A row without a list shows an alert; without a dialog nothing happens"
   '((want nil (wex_add_list "x"))
     (want nil (wex_start_list "LST"))
@@ -70,6 +118,53 @@
                       (wex_action_tile "LST" "(note (list $key $value $reason))"))
       '((ui_pick "LST" 1) (ui_pick "LST" "three") (ui_click "Cancel")))
     (want '(("lst" "1" 4) ("lst" "2" 4)) notes)))
+
+(test "With multiple selection all selected rows are told, and none of them too"
+  '((setq notes nil)
+    (ui_session "DISP_LOCS_ON_DWG_MULT"
+      '((want nil (cdr (assoc "selected" (ui_look "LST"))))
+        (ui_pick "LST" '(5 0 2))
+        (want '(0 2 5) (cdr (assoc "selected" (ui_look "LST"))))
+        (ui_pick "LST" '(3 3))
+        (ui_click "Cancel")))
+    (wex_new_dialog "DISP_LOCS_ON_DWG_MULT")
+    (fill "LST" '("a" "b" "c" "d" "e" "f"))
+    (wex_action_tile "LST" "(note (list $key $value $reason))")
+    (wex_start_dialog)
+    (want '(("lst" "5" 4) ("lst" "0 5" 4) ("lst" "0 2 5" 4) ("lst" "3" 4) ("lst" "" 4)) notes)))
+
+(test "A double click presses OK in a list of multiple selection too"
+  '((setq notes nil)
+    (ui_session "DISP_LOCS_ON_DWG_MULT" '((ui_dblclick "LST" 1)))
+    (wex_new_dialog "DISP_LOCS_ON_DWG_MULT")
+    (fill "LST" '("a" "b"))
+    (wex_action_tile "LST" "(note $value)")
+    (wex_action_tile "OK" "(wex_done_dialog 3)")
+    (want 3 (wex_start_dialog))
+    (want '("1") notes)))
+
+(test "A double click with nothing selected disables OK, until Lisp enables it"
+  '((in-lists nil
+      '((ui_dblclick "LST")
+        (want nil (cdr (assoc "enabled" (ui_look "OK"))))
+        (fill "LST" '("one"))
+        (ui_pick "LST" 0)
+        (want nil (cdr (assoc "enabled" (ui_look "OK"))))
+        (wex_mode_tile "OK" 0)
+        (want T (cdr (assoc "enabled" (ui_look "OK"))))
+        (ui_click "Cancel")))))
+
+(test "A double click presses an OK button that is disabled too, and not while an action runs"
+  '((setq notes nil)
+    (in-lists '(progn (fill "LST" '("one"))
+                      (wex_action_tile "OK" "(note 'ok) (wex_done_dialog 1)")
+                      (wex_action_tile "B_BOM" "(wex_alert \"wait\") (note 'bom)"))
+      '((wex_mode_tile "OK" 1)
+        ; The box pumps messages, and so takes the double click in the middle of the action.
+        (progn (ui_click "B_BOM") (ui_dblclick "LST" 0))
+        (want '(bom) notes)
+        (ui_dblclick "LST" 0)))
+    (want '(bom ok) notes)))
 
 (test "A double click presses OK where something is selected"
   '((setq notes nil)
@@ -99,6 +194,41 @@
     (wex_action_tile "TYPE" "(note (list $key $value $reason))")
     (wex_start_dialog)
     (want '(("type" "0" 4)) notes)))
+
+(test "Rows that the start action puts in keep the value that was stored before, and a negative one clears"
+  '((ui_session "ADD_REC"
+      '((want "b" (wex_get_tile "TYPE")) (want "" (wex_get_tile "MFG")) (want "two" (wex_get_tile "DESC"))
+        (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_set_tile "TYPE" "1")
+    (fill "MFG" '("one" "two"))
+    (wex_set_tile "MFG" "1")
+    (wex_setaction_oninit
+      "(fill \"TYPE\" '(\"a\" \"b\" \"c\")) (wex_set_tile \"DESC\" \"two\") (wex_set_tile \"MFG\" \"-1\")")
+    (wex_start_dialog)))
+
+(test "On a live combo box operation 1 changes the selected entry, and appends where none is"
+  '((ui_session "ADD_REC"
+      '((wex_set_tile "TYPE" "1")
+        (wex_start_list "TYPE" 1)
+        (wex_add_list "B")
+        (want '("a" "B" "c") (ui_items "TYPE"))
+        (want "" (wex_get_tile "TYPE"))
+        (wex_add_list "d")
+        (want '("a" "B" "c" "d") (ui_items "TYPE"))
+        (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (fill "TYPE" '("a" "b" "c"))
+    (wex_start_dialog)))
+
+(test "A list that is hidden stays hidden when rows are added"
+  '((in-lists '(fill "LST" '("one"))
+      '((wex_mode_tile "LST" 6)
+        (wex_add_list '("two" "three"))
+        (want nil (cdr (assoc "visible" (ui_look "LST"))))
+        (wex_mode_tile "LST" 5)
+        (want '("one" "two" "three") (ui_items "LST"))
+        (ui_click "Cancel")))))
 
 (test "Ten thousand entries added to a list that shows"
   '((in-lists nil
