@@ -34,12 +34,16 @@ void WexDialog::layoutControls(int width, int height) {
     m_lastClientRect = client;
     EndDeferWindowPos(batch);
     redrawMoved();
-    // A control that was moved with its picture counts as painted, and would be erased with the dialog's
-    // background.
-    RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void WexDialog::redrawMoved() {
+    fitMoved();
+    // A control that was moved with its picture counts as painted: it would be erased with the dialog's
+    // background, or keep the picture of one that stood there before.
+    RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void WexDialog::fitMoved() {
     for (size_t at = 0; at < m_tiles.size(); ++at) {
         CWnd* control = m_tiles.at(at)->m_control;
         if (!control) continue;

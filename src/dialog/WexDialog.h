@@ -42,7 +42,7 @@ class WexDialog : public CSnapDlg {
     // Puts the anchored controls where they belong in a client area of that size, in pixels, unless that is
     // the size of the last layout.
     void layoutControls(int width, int height);
-    // Fits the labels, and redraws what was moved and needs it. Stops at the first control that is gone.
+    // Fits the labels, and draws the dialog anew where controls were moved.
     void redrawMoved();
 
     // --- events
@@ -81,6 +81,8 @@ class WexDialog : public CSnapDlg {
     void applyRecords();
     void computeAnchors(const CWnd& control, CCtrlInfo& tile);
     void placeAtStart();
+    // Stops at the first control that is gone.
+    void fitMoved();
     void applyTile(CWnd& control, CCtrlInfo& tile);
     void applyMode(CWnd& control, CCtrlInfo& tile);
     void setControlValue(CWnd* control, const CString& value, bool byKey);

@@ -1,0 +1,54 @@
+#!/bin/bash
+# A dialog of 77 tiles that was sized to and fro looks as one that starts in that size, and where Lisp moved tiles it looks as
+# when all is drawn anew: nothing is left behind or missing. Usage: tests/ui/resized_pictures.sh [KIND]    another kind of start_wine, as headless-classic
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+. tools/wine-env.sh
+start_wine "${1:-headless}"
+work=$(mktemp -d)
+trap 'rm -rf "$work"; stop_wine' EXIT
+
+cat >"$work/resize.lsp" <<'LISP'
+; Boxes, lists, the frame and one label grow; buttons follow the right edge or the corner.
+(defun many (session / id)
+  (ui_session "ODD_MANY" (cons '(ui_click 114) session))
+  (wex_new_dialog "ODD_MANY")
+  (setq id 113)
+  (repeat 14
+    (wex_setresizing (+ id 1) 25)
+    (foreach follower (range (+ id 2) (+ id 5)) (wex_setresizing follower 35))
+    (setq id (+ id 5)))
+  (foreach anchor '((113 25) (114 35) (183 38) (112 63) (184 25) (185 73) (186 73) (1 75) (2 75))
+    (wex_setresizing (car anchor) (cadr anchor)))
+  (wex_set_tile 113 "A label of many words, on as many lines as its width asks for")
+  (wex_start_dialog))
+
+(many '((ui_size 720 900) (ui_close)))
+(many '((ui_shot "start.png") (ui_size 1140 960) (ui_size 600 720) (ui_size 720 900) (ui_shot "resized.png")
+        (ui_size 900 960) (ui_close)))
+(many '((ui_shot "start-large.png") (ui_size 720 900) (progn (ui_size 600 800) (ui_size 900 960))
+        (ui_shot "resized-large.png") (ui_close)))
+
+; The list moves to where the frame was, which moves away.
+(ui_session "ODD_MANY"
+  '((ui_click 114)
+    (ui_size 900 960)
+    (setq frame (cdr (assoc "rect" (ui_look 112))))
+    (progn
+      (wex_start_controlmove 3)
+      (wex_movecontrol 112 700 100 180 120)
+      (wex_movecontrol 183 (car frame) (+ (cadr frame) (cadddr frame) -20) 100 80)
+      (wex_movecontrol 184 710 130 160 20)
+      (wex_end_controlmove))
+    (ui_shot "moved.png")
+    (ui_size 901 960)
+    (ui_size 900 960)
+    (ui_shot "drawn-anew.png")
+    (ui_close)))
+(wex_new_dialog "ODD_MANY")
+(wex_start_dialog)
+LISP
+wine64 build/windows/testbin/wexhost.exe --headless --timeout 60 --shots "$work" "$work/resize.lsp"
+cmp "$work/start.png" "$work/resized.png"
+cmp "$work/start-large.png" "$work/resized-large.png"
+cmp "$work/moved.png" "$work/drawn-anew.png"
