@@ -28,6 +28,10 @@
         (want "" (wex_get_tile "FRAME"))
         (ui_click "Cancel")))))
 
+(test "Frames and tab controls lie under the controls that they surround"
+  '((in-dialog "ODD_BUTTONS" "" '((want 114 (last (cdr (assoc "controls" (ui_look))))) (ui_click "Cancel")))
+    (in-dialog "ODD_KINDS" "" '((want 118 (last (cdr (assoc "controls" (ui_look))))) (ui_click "Cancel")))))
+
 (test "Only an image tile tells its size"
   '((in-dialog "ODD_BUTTONS" ""
       '((want (caddr (look "SLIDE" "rect")) (wex_dimx_tile "SLIDE"))

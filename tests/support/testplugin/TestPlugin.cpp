@@ -144,6 +144,39 @@ int32_t command() {
     return RESULT_SET;
 }
 
+// Sends a message to the module of that name as the host does; gives its answer.
+int32_t send() {
+    const HostValue* module = hostGetArgs();
+    const auto entry = reinterpret_cast<int32_t (*)(int32_t, void*)>(
+        GetProcAddress(GetModuleHandleW(module->value.stringValue), PLUGIN_ENTRY_POINT));
+    hostRetInt(entry(module->next->value.shortValue, nullptr));
+    return RESULT_SET;
+}
+
+// Passes on to the main frame that the loop of a dialog that it owns is idle, as dialogs do.
+LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM w, LPARAM l) noexcept {
+    if (message == WM_ENTERIDLE) return SendMessageW(hostGetMainFrame(), message, w, l);
+    return DefWindowProcW(window, message, w, l);
+}
+
+// Opens a window of that class and title, and makes it the active one; without arguments it goes again.
+int32_t window() {
+    static HWND open = nullptr;
+    const HostValue* className = hostGetArgs();
+    if (open) DestroyWindow(open);
+    open = nullptr;
+    hostRetVoid();
+    if (!className) return RESULT_SET;
+    WNDCLASSW kind = {};
+    kind.lpfnWndProc = &windowProcedure;
+    kind.lpszClassName = className->value.stringValue;
+    RegisterClassW(&kind);
+    open = CreateWindowW(kind.lpszClassName, className->next->value.stringValue, WS_POPUP | WS_VISIBLE, 0, 0,
+                         9, 9, hostGetMainFrame(), nullptr, nullptr, nullptr);
+    SetActiveWindow(open);
+    return RESULT_SET;
+}
+
 struct Row {
     const wchar_t* name;
     HostLispFunction handler;
@@ -160,6 +193,7 @@ constexpr Row ROWS[] = {
     {L"t_ask", &ask},           {L"t_say", &say},
     {L"t_print", &print},       {L"t_leak", &leakBrush},
     {L"t_messages", &messages}, {L"t_command", &command},
+    {L"t_send", &send},         {L"t_window", &window},
 };
 constexpr int COUNT = ARRAYSIZE(ROWS);
 
