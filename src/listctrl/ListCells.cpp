@@ -27,7 +27,7 @@ CString CellReader::read(LVITEMW& item) {
         item.pszText = m_buffer.data();
         item.cchTextMax = static_cast<int>(m_buffer.size());
         m_buffer[0] = L'\0';
-        m_list.SendMessage(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        m_list.getItem(item);
         // The list may give the text in a place of its own.
         CString text = item.pszText ? CString(item.pszText) : CString();
         if (text.size() + 1 < m_buffer.size()) return text;

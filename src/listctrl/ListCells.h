@@ -2,7 +2,7 @@
 #pragma once
 
 #include "src/platform/base/CString.h"
-#include "src/platform/mfc/CWnd.h"
+#include "src/platform/mfc/Controls.h"
 
 // The header of a list control; null for a list that has none.
 HWND headerOf(const CWnd& list);
@@ -14,13 +14,13 @@ CString columnTitle(const CWnd& list, int column);
 // Reads cells one after the other, of any length.
 class CellReader {
   public:
-    explicit CellReader(const CWnd& list) : m_list(list), m_buffer(256, L'\0') {}
+    explicit CellReader(CListCtrl& list) : m_list(list), m_buffer(256, L'\0') {}
 
     // Fills `item` as LVM_GETITEM does by its mask, row and column, and gives the text.
     CString read(LVITEMW& item);
     CString text(int row, int column);
 
   private:
-    const CWnd& m_list;
+    CListCtrl& m_list;
     CString m_buffer;
 };

@@ -29,7 +29,7 @@ void putOnClipboard(HWND owner, const CString& text) {
 
 }  // namespace
 
-void copySelectedRows(const CWnd& list) {
+void copySelectedRows(CListCtrl& list) {
     const std::vector<int> selected = selectedRows(list);
     const int columns = columnCount(list);
     if (selected.empty() || columns == 0) return;

@@ -17,8 +17,7 @@ struct Column {
 // All that goes with the rows, read once; column 0 has the images of the rows.
 class Table {
   public:
-    explicit Table(const CWnd& list)
-        : m_list(list), m_columns(columnCount(list)), m_rowCount(rowCount(list)) {
+    explicit Table(CListCtrl& list) : m_list(list), m_columns(columnCount(list)), m_rowCount(rowCount(list)) {
         CellReader reader(list);
         m_states.reserve(m_rowCount);
         m_data.reserve(m_rowCount);
@@ -41,7 +40,7 @@ class Table {
             item.iImage = cells.images[from];
             item.state = m_states[from];
             item.lParam = m_data[from];
-            m_list.SendMessage(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+            m_list.setItem(item);
         }
     }
 
@@ -69,7 +68,7 @@ class Table {
         }
     }
 
-    const CWnd& m_list;
+    CListCtrl& m_list;
     std::vector<Column> m_columns;
     std::vector<UINT> m_states;
     std::vector<LPARAM> m_data;
@@ -78,7 +77,7 @@ class Table {
 
 }  // namespace
 
-bool sortRows(const CWnd& list, int column, bool ascending, const DistanceParser& parse) {
+bool sortRows(CListCtrl& list, int column, bool ascending, const DistanceParser& parse) {
     if (column >= columnCount(list) || (list.GetStyle() & LVS_OWNERDATA)) return false;
     holdRedraw(list.m_hWnd);
     const Table table(list);
