@@ -40,6 +40,8 @@ const MessageMap& WexListCtrl::messageMap() const {
                                     on<WM_KILLFOCUS, &WexListCtrl::onKillFocus>(),
                                     onReflectedNotify<NM_DBLCLK, &WexListCtrl::onDoubleClick>(),
                                     onReflectedNotify<LVN_COLUMNCLICK, &WexListCtrl::onColumnClick>(),
+                                    onReflectedNotify<LVN_ITEMCHANGING, &WexListCtrl::onItemChange>(),
+                                    onReflectedNotify<LVN_ITEMCHANGED, &WexListCtrl::onItemChange>(),
                                     onReflectedNotify<LVN_GETDISPINFOW, &WexListCtrl::onGetDispInfo>(),
                                 });
     return map;

@@ -12,7 +12,7 @@ WexListCtrl* wrapperOf(CWnd* list) { return dynamic_cast<WexListCtrl*>(list); }
 
 }  // namespace
 
-void listAllowSorting(LispCall& call) {
+void listCtrlAllowSorting(LispCall& call) {
     CWnd* list = listControlOf(call.tile());
     const HostValue* flag = call.next();
     if (!list || !flag) return call.retNil();
@@ -21,12 +21,12 @@ void listAllowSorting(LispCall& call) {
     if (WexListCtrl* wrapper = wrapperOf(list)) wrapper->m_allowSorting = true;
 }
 
-void listGetSelectedNths(LispCall& call) {
+void listCtrlGetSelectedNths(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     call.ret(list ? selectedRows(*list) : std::vector<int>());
 }
 
-void listEnableDblClick(LispCall& call) {
+void listCtrlEnableDblClick(LispCall& call) {
     const TileAddress address = call.tile();
     const HostValue* flag = call.next();
     if (!flag) return call.retNil();
@@ -41,7 +41,7 @@ void listEnableDblClick(LispCall& call) {
     if (WexListCtrl* wrapper = wrapperOf(control)) wrapper->m_enableDblClk = enable;
 }
 
-void listKeepHighlight(LispCall& call) {
+void listCtrlKeepHighlight(LispCall& call) {
     CWnd* list = listControlOf(call.tile());
     const HostValue* flag = call.next();
     if (!list || !flag) return call.retNil();

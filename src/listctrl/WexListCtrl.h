@@ -42,6 +42,9 @@ class WexListCtrl : public CListCtrl, public TileControl {
     void onRightDown(UINT keys, POINT at);
     void onLeftDoubleClick(UINT keys, POINT at);
     void onDoubleClick(NMHDR* header);
+    // Filling and sorting send these in numbers, and the dialog would spend longer on them than the list
+    // does.
+    void onItemChange(NMHDR* /*header*/) {}
     void onColumnClick(NMHDR* header);
     void onKeyDown(UINT key, UINT flags);
     void onKillFocus(CWnd* to);

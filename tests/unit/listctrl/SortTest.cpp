@@ -1,55 +1,19 @@
 #include <gtest/gtest.h>
 
-#include <numeric>
-
-#include "host/units/LinearUnits.h"
 #include "src/listctrl/CellKind.h"
 #include "src/listctrl/CellOrder.h"
-#include "tests/unit/listctrl/PlainSort.h"
+#include "tests/unit/listctrl/MemoryRows.h"
 #include "tests/unit/listctrl/RandomCells.h"
 
 namespace {
 
-// Rows of one column in memory; the data of a row is its number at the start.
-class MemoryRows : public PlainRows {
-  public:
-    explicit MemoryRows(const std::vector<CString>& cells) : m_cells(cells), m_numbers(cells.size()) {
-        std::iota(m_numbers.begin(), m_numbers.end(), 0);
-    }
-
-    int rowCount() const override { return static_cast<int>(m_cells.size()); }
-    int columnCount() const override { return 1; }
-    PlainCell cell(int row, int) const override { return {m_cells[row], 0}; }
-    void setCell(int row, int, const PlainCell& cell) override { m_cells[row] = cell.text; }
-    PlainRowData rowData(int row) const override { return {0, 0, m_numbers[row]}; }
-    void setRowData(int row, const PlainRowData& data) override {
-        m_numbers[row] = static_cast<int>(data.data);
-    }
-
-    const std::vector<int>& order() const { return m_numbers; }
-
-  private:
-    std::vector<CString> m_cells;
-    std::vector<int> m_numbers;
-};
-
-std::optional<double> parse(const std::wstring& text, int unit) {
-    return units::distanceFromText(text, unit);
-}
-
-std::vector<int> plainOrder(const std::vector<CString>& cells, bool ascending) {
-    MemoryRows rows(cells);
-    PlainSort(rows, 0, ascending, parse).run();
-    return rows.order();
-}
+using Cells = std::vector<CString>;
 
 std::vector<CString> sorted(const std::vector<CString>& cells, bool ascending) {
     std::vector<CString> result;
-    for (const int row : sortedOrder(cells, ascending, parse)) result.push_back(cells[row]);
+    for (const int row : sortedOrder(cells, ascending, parseDistance)) result.push_back(cells[row]);
     return result;
 }
-
-using Cells = std::vector<CString>;
 
 TEST(CellKind, IsThatOfTheLastCharacterUnlessAnyIsForeign) {
     EXPECT_EQ(cellKindOf(L""), CellKind::text);
@@ -79,9 +43,10 @@ TEST(CellOrder, DistancesAreComparedByValueAndTextsByCodeUnits) {
 }
 
 TEST(CellOrder, EqualTextsStayWhereTheyAre) {
-    EXPECT_EQ(sortedOrder(Cells{L"x", L"x", L"x"}, true, parse), std::vector({0, 1, 2}));
-    EXPECT_EQ(sortedOrder(Cells{L"7", L"7.0", L"7"}, false, parse), plainOrder({L"7", L"7.0", L"7"}, false));
-    EXPECT_TRUE(sortedOrder(Cells{}, true, parse).empty());
+    EXPECT_EQ(sortedOrder(Cells{L"x", L"x", L"x"}, true, parseDistance), std::vector({0, 1, 2}));
+    EXPECT_EQ(sortedOrder(Cells{L"7", L"7.0", L"7"}, false, parseDistance),
+              plainOrder({L"7", L"7.0", L"7"}, false));
+    EXPECT_TRUE(sortedOrder(Cells{}, true, parseDistance).empty());
 }
 
 TEST(CellOrder, ComesOutAsThePlainProcedureForAnyTable) {
@@ -91,7 +56,8 @@ TEST(CellOrder, ComesOutAsThePlainProcedureForAnyTable) {
         Cells cells(random.below(table % 50 ? 25 : 400));
         for (CString& cell : cells) cell = random.cell(mix);
         const bool ascending = random.below(2);
-        ASSERT_EQ(sortedOrder(cells, ascending, parse), plainOrder(cells, ascending)) << "table " << table;
+        ASSERT_EQ(sortedOrder(cells, ascending, parseDistance), plainOrder(cells, ascending))
+            << "table " << table;
     }
 }
 
@@ -104,7 +70,7 @@ TEST(CellOrder, AnyComparisonComesToAnEnd) {
     EXPECT_EQ(calls, 3000) << "each text is parsed once";
     Cells alternating;
     for (int row = 0; row < 3000; ++row) alternating.push_back(row % 2 ? L"5" : L"a" + std::to_wstring(row));
-    EXPECT_EQ(sortedOrder(alternating, false, parse).size(), alternating.size());
+    EXPECT_EQ(sortedOrder(alternating, false, parseDistance).size(), alternating.size());
 }
 
 }  // namespace
