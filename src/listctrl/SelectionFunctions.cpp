@@ -12,7 +12,7 @@ WexListCtrl* wrapperOf(CWnd* list) { return dynamic_cast<WexListCtrl*>(list); }
 
 }  // namespace
 
-void listCtrlAllowSorting(LispCall& call) {
+void listAllowSorting(LispCall& call) {
     CWnd* list = listControlOf(call.tile());
     const HostValue* flag = call.next();
     if (!list || !flag) return call.retNil();
@@ -21,12 +21,12 @@ void listCtrlAllowSorting(LispCall& call) {
     if (WexListCtrl* wrapper = wrapperOf(list)) wrapper->m_allowSorting = true;
 }
 
-void listCtrlGetSelectedNths(LispCall& call) {
+void listGetSelectedNths(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     call.ret(list ? selectedRows(*list) : std::vector<int>());
 }
 
-void listCtrlEnableDblClick(LispCall& call) {
+void listEnableDblClick(LispCall& call) {
     const TileAddress address = call.tile();
     const HostValue* flag = call.next();
     if (!flag) return call.retNil();
@@ -41,7 +41,7 @@ void listCtrlEnableDblClick(LispCall& call) {
     if (WexListCtrl* wrapper = wrapperOf(control)) wrapper->m_enableDblClk = enable;
 }
 
-void listCtrlKeepHighlight(LispCall& call) {
+void listKeepHighlight(LispCall& call) {
     CWnd* list = listControlOf(call.tile());
     const HostValue* flag = call.next();
     if (!list || !flag) return call.retNil();
