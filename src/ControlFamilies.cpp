@@ -1,6 +1,7 @@
 // The control families of the product: which wrapper and which type word a kind of control gets.
 #include "src/dialog/TileControl.h"
 #include "src/grid/WexGrid.h"
+#include "src/listctrl/ListRows.h"
 #include "src/listctrl/WexListCtrl.h"
 #include "src/slides/WexSlideImage.h"
 #include "src/tabs/WexTabCtrl.h"
@@ -42,7 +43,7 @@ constexpr ControlFamily families[] = {
     {ControlKind::staticText, L"Static", make<WexStatic>, nullptr},
     {ControlKind::listBox, L"ListBox", make<WexListBox>, applyListBox},
     {ControlKind::comboBox, L"ComboBox", make<WexComboBox>, applyComboBox},
-    {ControlKind::listControl, L"SysListView32", make<WexListCtrl>, nullptr},
+    {ControlKind::listControl, L"SysListView32", make<WexListCtrl>, applyListControl},
     {ControlKind::unknown, L"", nullptr, nullptr},
 };
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "src/dialog/DialogFunctions.h"
+#include "src/listctrl/ListCtrlFunctions.h"
 #include "src/listctrl/SelectionFunctions.h"
 #include "src/platform/host/HostServices.h"
 #include "src/tiles/EditFunctions.h"
@@ -43,22 +44,22 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_end_list", withAnyArguments<endList>},
     {L"wex_setaction_oninit", withArguments<setActionOnInit>},
     {L"wex_setaction_onsize", withArguments<setActionOnSize>},
-    {L"wex_listctrl_addcolumn", notBuiltYet},
-    {L"wex_listctrl_additem", notBuiltYet},
-    {L"wex_listctrl_setitem", notBuiltYet},
-    {L"wex_listctrl_setcolumnwidth", notBuiltYet},
-    {L"wex_listctrl_getcolumnwidth", notBuiltYet},
-    {L"wex_listctrl_showgridlines", notBuiltYet},
-    {L"wex_listctrl_setcolumns", notBuiltYet},
-    {L"wex_listctrl_setcolumnreference", notBuiltYet},
-    {L"wex_listctrl_deletecolumn", notBuiltYet},
-    {L"wex_listctrl_renamecolumn", notBuiltYet},
-    {L"wex_listctrl_getcolcount", notBuiltYet},
+    {L"wex_listctrl_addcolumn", withArguments<listCtrlAddColumn>},
+    {L"wex_listctrl_additem", withArguments<listCtrlAddItem>},
+    {L"wex_listctrl_setitem", withArguments<listCtrlAddItem>},
+    {L"wex_listctrl_setcolumnwidth", withArguments<listCtrlSetColumnWidth>},
+    {L"wex_listctrl_getcolumnwidth", withArguments<listCtrlGetColumnWidth>},
+    {L"wex_listctrl_showgridlines", withArguments<listCtrlShowGridLines>},
+    {L"wex_listctrl_setcolumns", withArguments<listCtrlSetColumns>},
+    {L"wex_listctrl_setcolumnreference", withArguments<listCtrlSetColumnReference>},
+    {L"wex_listctrl_deletecolumn", withArguments<listCtrlDeleteColumn>},
+    {L"wex_listctrl_renamecolumn", withArguments<listCtrlRenameColumn>},
+    {L"wex_listctrl_getcolcount", withArguments<listCtrlGetColCount>},
     {L"wex_listctrl_allowsorting", withArguments<listAllowSorting>},
     {L"wex_listctrl_getselectednths", withArguments<listGetSelectedNths>},
     {L"wex_listctrl_enabledbclk", withArguments<listEnableDblClick>},
     {L"wex_listctrl_keephighlight", withArguments<listKeepHighlight>},
-    {L"wex_listctrl_setitemcount", notBuiltYet},
+    {L"wex_listctrl_setitemcount", withArguments<listCtrlSetItemCount>},
     {L"wex_loadpicturefile", notBuiltYet},
     {L"wex_setresizing", withArguments<setResizing>},
     {L"wex_setminresizing", withArguments<setMinResizing>},

@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "src/dialog/WexDialog.h"
+#include "src/listctrl/ListColumns.h"
 
 IMPLEMENT_DYNAMIC(WexListCtrl, CListCtrl)
 
@@ -12,6 +13,9 @@ namespace {
 
 // The field of a source that each column shows. kept: the second field isn't shown.
 constexpr int sourceFields[] = {0, 2, 3};
+
+// The dialog whose list shows the source.
+constexpr UINT SOURCE_DIALOG = 1898;
 
 }  // namespace
 
@@ -24,6 +28,11 @@ void WexListCtrl::discovered(WexDialog&, CCtrlInfo&) {
 void WexListCtrl::applyRecord(CCtrlInfo& tile) {
     TileControl::applyRecord(tile);
     m_enableDblClk = tile.m_dblClickEnabled;
+    if (!tile.m_auxText.IsEmpty()) {
+        m_columnRef = tile.m_auxText;
+        applyColumnText(*this, m_columnRef);
+    }
+    if (g_rowSource && showsRecords(*this)) bindTo(*g_rowSource);
 }
 
 void WexListCtrl::bindTo(RowSource& source) {
@@ -38,4 +47,9 @@ void WexListCtrl::onGetDispInfo(NMHDR* header) {
     if (column >= std::size(sourceFields)) return;
     const CString text = m_dataSource->field(item.iItem, sourceFields[column]);
     lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
+}
+
+bool showsRecords(const CWnd& list) {
+    const auto* dialog = dynamic_cast<const WexDialog*>(list.GetParent());
+    return dialog && dialog->m_templateId == SOURCE_DIALOG;
 }

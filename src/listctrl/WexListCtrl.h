@@ -51,3 +51,6 @@ class WexListCtrl : public CListCtrl, public TileControl {
     void noteArrow(WPARAM key);
     void pressOk();
 };
+
+// Whether that list stands in the dialog whose list shows the rows of g_rowSource.
+bool showsRecords(const CWnd& list);

@@ -1,7 +1,7 @@
 #include "src/tiles/ListFunctions.h"
 
 #include "src/dialog/WexDialog.h"
-#include "src/platform/host/HostServices.h"
+#include "src/listctrl/ListRows.h"
 #include "src/platform/mfc/RedrawHold.h"
 
 namespace {
@@ -44,7 +44,23 @@ void addEntry(const CWnd& control, const EntryMessages& messages, const wchar_t*
     control.SendMessage(messages.insert, selected, entry);
 }
 
+<<<<<<< HEAD
 void addItem(WexDialog& dialog, const wchar_t* text) {
+=======
+int selectedRow(const CWnd& list) {
+    return static_cast<int>(list.SendMessage(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+void addRow(const CWnd& list, const CString& text, int operation) {
+    const int replaced = operation == CHANGE_ROW ? selectedRow(list) : -1;
+    if (replaced >= 0)
+        replaceRow(list, replaced, text);
+    else
+        appendRow(list, text);
+}
+
+void addItem(WexDialog& dialog, const CString& text) {
+>>>>>>> 9af99a6 (List controls take columns and rows)
     CCtrlInfo* tile = dialog.m_listTile;
     if (!tile) return alertText(TEXT_NO_LIST_OPEN);
     if (!tile->m_control) return tile->m_listItems.push_back(text);
@@ -53,7 +69,7 @@ void addItem(WexDialog& dialog, const wchar_t* text) {
     if (const EntryMessages* messages = messagesOf(control))
         addEntry(control, *messages, text, operation);
     else if (control.className() == L"SysListView32")
-        hostPrintf(L"wex_add_list on a list control: not built yet\n");
+        addRow(control, text, operation);
 }
 
 }  // namespace

@@ -1,0 +1,46 @@
+#include "src/listctrl/ListColumns.h"
+
+#include "src/listctrl/ColumnText.h"
+
+const CWnd* headerOf(const CWnd& list) {
+    return CWnd::FromHandle(reinterpret_cast<HWND>(list.SendMessage(LVM_GETHEADER)));
+}
+
+int columnCount(const CWnd& list) {
+    const CWnd* header = headerOf(list);
+    return header ? static_cast<int>(header->SendMessage(HDM_GETITEMCOUNT)) : 0;
+}
+
+void insertColumn(const CWnd& list, int index, const CString& title, int width) {
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT | LVCF_FMT | LVCF_WIDTH;
+    column.fmt = LVCFMT_LEFT;
+    column.cx = width;
+    column.pszText = const_cast<wchar_t*>(title.c_str());
+    list.SendMessage(LVM_INSERTCOLUMNW, index, reinterpret_cast<LPARAM>(&column));
+}
+
+void applyColumnText(const CWnd& list, const CString& text) {
+    if (columnCount(list) > 0) return;
+    const auto widthOf = [&](const CString& title) {
+        return static_cast<int>(
+            list.SendMessage(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title.c_str())));
+    };
+    int index = 0;
+    for (const ListColumn& column : columnsFromText(text, widthOf))
+        insertColumn(list, index++, column.title, column.width);
+}
+
+bool renameColumn(const CWnd& list, int column, const CString& title) {
+    const CWnd* header = headerOf(list);
+    wchar_t text[256] = {};
+    HDITEMW item = {};
+    item.mask = HDI_TEXT | HDI_IMAGE;
+    item.pszText = text;
+    item.cchTextMax = static_cast<int>(std::size(text));
+    const auto parameter = reinterpret_cast<LPARAM>(&item);
+    if (!header || !header->SendMessage(HDM_GETITEMW, column, parameter)) return false;
+    item.pszText = text;
+    lstrcpynW(text, title.c_str(), static_cast<int>(std::size(text)));
+    return header->SendMessage(HDM_SETITEMW, column, parameter);
+}

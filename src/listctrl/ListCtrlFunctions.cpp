@@ -1,0 +1,157 @@
+#include "src/listctrl/ListCtrlFunctions.h"
+
+#include <cmath>
+
+#include "src/dialog/WexDialog.h"
+#include "src/listctrl/ItemCall.h"
+#include "src/listctrl/ListCheck.h"
+#include "src/listctrl/ListColumns.h"
+#include "src/listctrl/ListRows.h"
+#include "src/listctrl/WexListCtrl.h"
+#include "src/platform/host/HostServices.h"
+
+namespace {
+
+constexpr int DEFAULT_WIDTH = 75;  // pixels at 96 dots per inch
+
+double displayScale() { return hostMonitorDpiXScale(nullptr); }
+
+// -1 where there is none, and that names no column.
+int columnArgument(LispCall& call) { return call.shortNumber().value_or(-1); }
+
+CString textOf(const HostValue& node) {
+    return node.type == HV_STRING ? CString(node.value.stringValue) : CString();
+}
+
+// The width as the message takes it. kept: -1 and -2 are crossed with those of the platform.
+constexpr LPARAM widthParameter(int width) {
+    constexpr LPARAM fitHeader = LPARAM{static_cast<uint16_t>(LVSCW_AUTOSIZE_USEHEADER)};
+    constexpr LPARAM fitContents = LPARAM{static_cast<uint16_t>(LVSCW_AUTOSIZE)};
+    if (width == -1) return fitHeader;
+    if (width == -2) return fitContents;
+    return static_cast<uint16_t>(width);
+}
+
+void keepColumnText(CWnd& list, const CString& text) {
+    if (auto* wrapper = dynamic_cast<WexListCtrl*>(&list)) wrapper->m_columnRef = text;
+}
+
+// The check of the functions that say of another tile that they can't use it.
+bool isUsableListControl(const CWnd* control) {
+    if (!control || isListControl(control)) return control;
+    alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
+    return false;
+}
+
+}  // namespace
+
+void listCtrlAddColumn(LispCall& call) {
+    const CWnd* list = listControlOf(call.tile());
+    const std::optional<CString> title = call.text();
+    if (!list || !title) return call.retNil();
+    const int given = call.shortNumber().value_or(-1);
+    const double width = (given == -1 ? DEFAULT_WIDTH : given) * displayScale();
+    insertColumn(*list, columnCount(*list), *title, static_cast<int>(std::lround(width)));
+    call.retVoid();
+}
+
+void listCtrlAddItem(LispCall& call) {
+    const CWnd* list = listControlOf(call.tile());
+    const std::optional<ItemCall> item = itemCallFrom(call.next());
+    if (!list || !item) return call.retNil();
+    if (item->setsCell(static_cast<int>(list->SendMessage(LVM_GETITEMCOUNT))))
+        setCell(*list, item->row, item->column, item->text);
+    else
+        appendRow(*list, item->text);
+    call.retVoid();
+}
+
+void listCtrlSetColumnWidth(LispCall& call) {
+    const CWnd* list = listControlOf(call.tile());
+    const int column = columnArgument(call);
+    if (!list || column == -1) return call.retNil();
+    list->SendMessage(LVM_SETCOLUMNWIDTH, column, widthParameter(call.shortNumber().value_or(-1)));
+    call.retVoid();
+}
+
+void listCtrlGetColumnWidth(LispCall& call) {
+    const CWnd* list = listControlOf(call.tile());
+    const int column = columnArgument(call);
+    if (!list || column == -1) return call.retNil();
+    const auto pixels = static_cast<int>(list->SendMessage(LVM_GETCOLUMNWIDTH, column));
+    call.ret(static_cast<int>(std::lround(pixels / displayScale())));
+}
+
+void listCtrlShowGridLines(LispCall& call) {
+    const CWnd* list = listControlOf(call.tile());
+    const HostValue* flag = call.next();
+    if (!list || !flag) return call.retNil();
+    call.retVoid();
+    if (flag->type != HV_TRUE) return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
+    list->SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, LVS_EX_GRIDLINES);
+}
+
+void listCtrlSetColumns(LispCall& call) {
+    const TileAddress tile = call.tile();
+    const HostValue* columns = call.next();
+    if (!columns) return call.retNil();
+    call.retVoid();
+    WexDialog* dialog = currentDialog();
+    if (!dialog) return;
+    const CString text = textOf(*columns);
+    if (CWnd* control = dialog->itemFor(tile)) {
+        if (!isUsableListControl(control)) return;
+        keepColumnText(*control, text);
+        applyColumnText(*control, text);
+    } else if (CCtrlInfo* record = dialog->tileFor(tile)) {
+        record->m_auxText = text;
+    }
+}
+
+void listCtrlSetColumnReference(LispCall& call) {
+    CWnd* control = controlOf(call.tile());
+    const HostValue* columns = call.next();
+    if (!columns) return call.retNil();
+    call.retVoid();
+    const CString text = textOf(*columns);
+    if (text.IsEmpty() || !isUsableListControl(control)) return;
+    keepColumnText(*control, text);
+    const CCtrlInfo* record = currentDialog()->tileForControl(control);
+    if (record && !record->m_listItems.empty()) reloadWaitingRows(*control, *record);
+}
+
+void listCtrlDeleteColumn(LispCall& call) {
+    const CWnd* list = listControlOf(call.tile());
+    const int column = columnArgument(call);
+    if (!list || column == -1) return call.retNil();
+    list->SendMessage(LVM_DELETECOLUMN, column);
+    call.retVoid();
+}
+
+void listCtrlRenameColumn(LispCall& call) {
+    const CWnd* list = listControlOf(call.tile());
+    const int column = columnArgument(call);
+    const std::optional<CString> title = call.text();
+    if (!list || column == -1 || !title) return call.retNil();
+    renameColumn(*list, column, *title);
+    call.retVoid();
+}
+
+void listCtrlGetColCount(LispCall& call) {
+    const CWnd* control = controlOf(call.tile());
+    if (!isUsableListControl(control)) return call.retNil();
+    call.ret(columnCount(*control));
+}
+
+void listCtrlSetItemCount(LispCall& call) {
+    const TileAddress tile = call.tile();
+    const HostValue* count = call.next();
+    const CWnd* list = count ? listControlOf(tile) : nullptr;
+    if (!list) return call.retNil();
+    call.retVoid();
+    int number = -1;
+    if (count->type == HV_SHORT) number = count->value.shortValue;
+    if (count->type == HV_LONG) number = count->value.longValue;
+    // A list that the dialog didn't look at isn't known to be one.
+    if (number != -1 && list->IsKindOf(RUNTIME_CLASS(CListCtrl))) list->SendMessage(LVM_SETITEMCOUNT, number);
+}
