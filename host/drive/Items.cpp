@@ -12,6 +12,8 @@ namespace {
 // Longer texts of rows, tabs and tree items are cut.
 constexpr int MOST_TEXT_CHARS = 4096;
 
+HWND headerOf(HWND listView) { return reinterpret_cast<HWND>(SendMessageW(listView, LVM_GETHEADER, 0, 0)); }
+
 class Control : public Items {
   public:
     explicit Control(HWND window) : m_window(window) {}
@@ -94,7 +96,7 @@ class ListViewItems : public Control {
 
     int count() const override { return static_cast<int>(send(LVM_GETITEMCOUNT)); }
     std::wstring text(int index) const override {
-        const auto header = reinterpret_cast<HWND>(send(LVM_GETHEADER));
+        const HWND header = headerOf(m_window);
         const auto columns = static_cast<int>(header ? SendMessageW(header, HDM_GETITEMCOUNT, 0, 0) : 1);
         std::wstring row = cell(index, 0);
         for (int column = 1; column < columns; ++column) row += L"\t" + cell(index, column);
@@ -230,8 +232,24 @@ std::unique_ptr<Items> itemsOf(HWND control) {
     return nullptr;
 }
 
+std::vector<ColumnHead> columnHeads(HWND control) {
+    std::vector<ColumnHead> heads;
+    const HWND header = headerOf(control);
+    const auto count = header ? static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
+    for (int column = 0; column < count; ++column) {
+        std::wstring title(MOST_TEXT_CHARS, L'\0');
+        HDITEMW item{};
+        item.mask = HDI_TEXT | HDI_WIDTH;
+        item.pszText = title.data();
+        item.cchTextMax = MOST_TEXT_CHARS;
+        SendMessageW(header, HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&item));
+        heads.push_back({item.pszText, item.cxy});
+    }
+    return heads;
+}
+
 std::optional<Spot> headerSpot(HWND control, int column) {
-    const auto header = reinterpret_cast<HWND>(SendMessageW(control, LVM_GETHEADER, 0, 0));
+    const HWND header = headerOf(control);
     RECT rect;
     if (!header || !SendMessageW(header, HDM_GETITEMRECT, column, reinterpret_cast<LPARAM>(&rect)))
         return std::nullopt;

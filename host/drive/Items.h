@@ -32,5 +32,13 @@ class Items {
 // Null for a control that is no list.
 std::unique_ptr<Items> itemsOf(HWND control);
 
-// The head of a column of a list view, nothing for another control or column.
+struct ColumnHead {
+    std::wstring title;
+    int width;  // device pixels
+};
+
+// The columns of a list view from left to right, none for another control.
+std::vector<ColumnHead> columnHeads(HWND control);
+
+// Where to click the head of a column of a list view, nothing for another control or column.
 std::optional<Spot> headerSpot(HWND control, int column);

@@ -1,5 +1,7 @@
 #include "host/drive/Look.h"
 
+#include <commctrl.h>
+
 #include "host/drive/Items.h"
 #include "host/services/Texts.h"
 
@@ -14,6 +16,11 @@ std::wstring classOf(HWND window) {
 bool isChecked(HWND window) {
     const bool isButton = SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON;
     return isButton && SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+bool hasGridLines(HWND window) {
+    const bool isListView = lstrcmpiW(classOf(window).c_str(), WC_LISTVIEWW) == 0;
+    return isListView && SendMessageW(window, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_GRIDLINES;
 }
 
 // A combo box has the focus while its edit box has it.
@@ -81,6 +88,7 @@ lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
     look.add(u"checked", lisp::Value::truth(isChecked(window)));
     look.add(u"rect", rectOf(lisp, window, tile.dialog()));
     look.add(u"selected", selectedOf(lisp, window));
+    look.add(u"gridlines", lisp::Value::truth(hasGridLines(window)));
     return look.list();
 }
 

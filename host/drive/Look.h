@@ -7,7 +7,7 @@
 
 // An association list of strings to values: "class", "enabled", "visible", "focus", "checked" (nil for a
 // control that can't be), "rect" as (left top width height) in the dialog's client pixels, "selected" as a
-// list.
+// list, "gridlines" (of a list view).
 lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile);
 
 // The same of a dialog: "class", "title", "owner" (the title of the window that it belongs to; nil without

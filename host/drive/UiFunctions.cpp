@@ -212,6 +212,14 @@ Value look(Call& call) {
 // (ui_box)
 Value box(Call& call) { return lookOf(call.lisp, player().lastBox()); }
 
+// (ui_columns tile): title and width of each.
+Value columns(Call& call) {
+    lisp::ListBuilder list(call.lisp);
+    for (const ColumnHead& head : columnHeads(Tile(call, 0).window()))
+        list.add(call.lisp.list({text(call, head.title), Value::integer(head.width)}));
+    return list.list();
+}
+
 // (ui_title)
 Value title(Call& call) { return text(call, textOf(runningDialog())); }
 
@@ -279,6 +287,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_items", &items, 1, 1},
     {u"ui_look", &look, 0, 1},
     {u"ui_box", &box, 0, 0},
+    {u"ui_columns", &columns, 1, 1},
     {u"ui_title", &title, 0, 0},
     {u"ui_dialogs", &dialogs, 0, 0},
     {u"ui_alerts", &alerts, 0, 0},

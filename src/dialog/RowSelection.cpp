@@ -1,6 +1,7 @@
 #include "src/dialog/RowSelection.h"
 
 #include "src/dialog/TileControl.h"
+#include "src/platform/mfc/RedrawHold.h"
 
 namespace {
 
@@ -42,6 +43,7 @@ void selectRow(const CWnd& list, int row) {
     if (row < 0 || row >= list.SendMessage(LVM_GETITEMCOUNT)) return;
     const UINT state = hasItems(list) ? LVIS_SELECTED : LVIS_SELECTED | LVIS_FOCUSED;
     setRowState(list, row, state, state);
+    releaseRedraw();  // a list whose redraw is held doesn't scroll
     list.SendMessage(LVM_ENSUREVISIBLE, row, TRUE);
 }
 

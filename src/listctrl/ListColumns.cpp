@@ -1,15 +1,9 @@
 #include "src/listctrl/ListColumns.h"
 
+#include <iterator>
+
 #include "src/listctrl/ColumnText.h"
-
-const CWnd* headerOf(const CWnd& list) {
-    return CWnd::FromHandle(reinterpret_cast<HWND>(list.SendMessage(LVM_GETHEADER)));
-}
-
-int columnCount(const CWnd& list) {
-    const CWnd* header = headerOf(list);
-    return header ? static_cast<int>(header->SendMessage(HDM_GETITEMCOUNT)) : 0;
-}
+#include "src/listctrl/ListCells.h"
 
 void insertColumn(const CWnd& list, int index, const CString& title, int width) {
     LVCOLUMNW column = {};
@@ -31,16 +25,16 @@ void applyColumnText(const CWnd& list, const CString& text) {
         insertColumn(list, index++, column.title, column.width);
 }
 
-bool renameColumn(const CWnd& list, int column, const CString& title) {
-    const CWnd* header = headerOf(list);
+void renameColumn(const CWnd& list, int column, const CString& title) {
+    const HWND header = headerOf(list);
     wchar_t text[256] = {};
     HDITEMW item = {};
     item.mask = HDI_TEXT | HDI_IMAGE;
     item.pszText = text;
     item.cchTextMax = static_cast<int>(std::size(text));
     const auto parameter = reinterpret_cast<LPARAM>(&item);
-    if (!header || !header->SendMessage(HDM_GETITEMW, column, parameter)) return false;
+    if (!SendMessageW(header, HDM_GETITEMW, column, parameter)) return;
     item.pszText = text;
     lstrcpynW(text, title.c_str(), static_cast<int>(std::size(text)));
-    return header->SendMessage(HDM_SETITEMW, column, parameter);
+    SendMessageW(header, HDM_SETITEMW, column, parameter);
 }

@@ -4,6 +4,7 @@
 
 #include "src/dialog/WexDialog.h"
 #include "src/listctrl/ItemCall.h"
+#include "src/listctrl/ListCells.h"
 #include "src/listctrl/ListCheck.h"
 #include "src/listctrl/ListColumns.h"
 #include "src/listctrl/ListRows.h"
@@ -45,7 +46,7 @@ bool isUsableListControl(const CWnd* control) {
 
 }  // namespace
 
-void listCtrlAddColumn(LispCall& call) {
+void listAddColumn(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const std::optional<CString> title = call.text();
     if (!list || !title) return call.retNil();
@@ -55,18 +56,18 @@ void listCtrlAddColumn(LispCall& call) {
     call.retVoid();
 }
 
-void listCtrlAddItem(LispCall& call) {
+void listAddItem(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const std::optional<ItemCall> item = itemCallFrom(call.next());
     if (!list || !item) return call.retNil();
-    if (item->setsCell(static_cast<int>(list->SendMessage(LVM_GETITEMCOUNT))))
+    if (item->setsCell(rowCount(*list)))
         setCell(*list, item->row, item->column, item->text);
     else
         appendRow(*list, item->text);
     call.retVoid();
 }
 
-void listCtrlSetColumnWidth(LispCall& call) {
+void listSetColumnWidth(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const int column = columnArgument(call);
     if (!list || column == -1) return call.retNil();
@@ -74,7 +75,7 @@ void listCtrlSetColumnWidth(LispCall& call) {
     call.retVoid();
 }
 
-void listCtrlGetColumnWidth(LispCall& call) {
+void listGetColumnWidth(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const int column = columnArgument(call);
     if (!list || column == -1) return call.retNil();
@@ -82,7 +83,7 @@ void listCtrlGetColumnWidth(LispCall& call) {
     call.ret(static_cast<int>(std::lround(pixels / displayScale())));
 }
 
-void listCtrlShowGridLines(LispCall& call) {
+void listShowGridLines(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const HostValue* flag = call.next();
     if (!list || !flag) return call.retNil();
@@ -91,7 +92,7 @@ void listCtrlShowGridLines(LispCall& call) {
     list->SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, LVS_EX_GRIDLINES);
 }
 
-void listCtrlSetColumns(LispCall& call) {
+void listSetColumns(LispCall& call) {
     const TileAddress tile = call.tile();
     const HostValue* columns = call.next();
     if (!columns) return call.retNil();
@@ -108,7 +109,7 @@ void listCtrlSetColumns(LispCall& call) {
     }
 }
 
-void listCtrlSetColumnReference(LispCall& call) {
+void listSetColumnReference(LispCall& call) {
     CWnd* control = controlOf(call.tile());
     const HostValue* columns = call.next();
     if (!columns) return call.retNil();
@@ -120,7 +121,7 @@ void listCtrlSetColumnReference(LispCall& call) {
     if (record && !record->m_listItems.empty()) reloadWaitingRows(*control, *record);
 }
 
-void listCtrlDeleteColumn(LispCall& call) {
+void listDeleteColumn(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const int column = columnArgument(call);
     if (!list || column == -1) return call.retNil();
@@ -128,7 +129,7 @@ void listCtrlDeleteColumn(LispCall& call) {
     call.retVoid();
 }
 
-void listCtrlRenameColumn(LispCall& call) {
+void listRenameColumn(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const int column = columnArgument(call);
     const std::optional<CString> title = call.text();
@@ -137,13 +138,13 @@ void listCtrlRenameColumn(LispCall& call) {
     call.retVoid();
 }
 
-void listCtrlGetColCount(LispCall& call) {
+void listGetColCount(LispCall& call) {
     const CWnd* control = controlOf(call.tile());
     if (!isUsableListControl(control)) return call.retNil();
     call.ret(columnCount(*control));
 }
 
-void listCtrlSetItemCount(LispCall& call) {
+void listSetItemCount(LispCall& call) {
     const TileAddress tile = call.tile();
     const HostValue* count = call.next();
     const CWnd* list = count ? listControlOf(tile) : nullptr;

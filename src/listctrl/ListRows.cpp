@@ -1,6 +1,7 @@
 #include "src/listctrl/ListRows.h"
 
 #include "src/dialog/RowSelection.h"
+#include "src/listctrl/ListCells.h"
 #include "src/listctrl/RowText.h"
 #include "src/listctrl/WexListCtrl.h"
 #include "src/platform/mfc/RedrawHold.h"
@@ -47,7 +48,7 @@ void insertAtTop(const CWnd& list, const CStringArray& rows) {
 
 void appendRow(const CWnd& list, const CString& text) {
     holdRedraw(list.m_hWnd);
-    const auto row = static_cast<int>(list.SendMessage(LVM_GETITEMCOUNT));
+    const int row = rowCount(list);
     CStringArray cells = splitAtTabs(text);
     insertItem(list, row, cells[0]);
     setTexts(list, row, cells, 1);

@@ -44,23 +44,19 @@ void addEntry(const CWnd& control, const EntryMessages& messages, const wchar_t*
     control.SendMessage(messages.insert, selected, entry);
 }
 
-<<<<<<< HEAD
-void addItem(WexDialog& dialog, const wchar_t* text) {
-=======
 int selectedRow(const CWnd& list) {
     return static_cast<int>(list.SendMessage(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
-void addRow(const CWnd& list, const CString& text, int operation) {
-    const int replaced = operation == CHANGE_ROW ? selectedRow(list) : -1;
+void addRow(const CWnd& list, const wchar_t* text, int operation) {
+    const int replaced = operation == LIST_CHANGE_ROW ? selectedRow(list) : -1;
     if (replaced >= 0)
         replaceRow(list, replaced, text);
     else
         appendRow(list, text);
 }
 
-void addItem(WexDialog& dialog, const CString& text) {
->>>>>>> 9af99a6 (List controls take columns and rows)
+void addItem(WexDialog& dialog, const wchar_t* text) {
     CCtrlInfo* tile = dialog.m_listTile;
     if (!tile) return alertText(TEXT_NO_LIST_OPEN);
     if (!tile->m_control) return tile->m_listItems.push_back(text);
