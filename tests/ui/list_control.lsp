@@ -1,0 +1,268 @@
+; Columns and rows of list controls: before the run, live, and what the functions refuse.
+
+(defun fill (tile items)
+  (wex_start_list tile)
+  (wex_add_list items)
+  (wex_end_list))
+
+; Opens the dialog of list controls. `before` runs without a window, `init` as its start action.
+(defun in-tables (before init session)
+  (ui_session "ODD_TABLES" (append session '((ui_click "Cancel"))))
+  (wex_new_dialog "ODD_TABLES")
+  (wex_setaction_oninit init)
+  (eval before)
+  (wex_start_dialog))
+
+(defun titles (tile) (mapcar 'car (ui_columns tile)))
+(defun widths (tile) (mapcar 'cadr (ui_columns tile)))
+(defun alerts () (length (ui_alerts)))
+
+(setq three-columns "(wex_listctrl_setcolumns \"TABLE\" \"x\tName\tSize\tMaker\")")
+
+(test "A column text makes columns before the run and live, and never replaces any"
+  '((in-tables '(progn (wex_listctrl_setcolumns "TABLE" "x\tName\tSize") (wex_listctrl_setcolumns 113 "Name")) ""
+      '((want '("Name" "Size") (titles "TABLE"))
+        (want 2 (wex_listctrl_getcolcount "TABLE"))
+        (want nil (ui_columns "SORTED"))
+        (want 0 (wex_listctrl_getcolcount "SORTED"))
+        (wex_listctrl_setcolumns "TABLE" "x\tOther")
+        (want '("Name" "Size") (titles "TABLE"))
+        (wex_listctrl_setcolumns "SORTED" "\tA\t\tB\t\t")
+        (want '("A" "" "B") (titles "SORTED"))))
+    (in-tables '(wex_listctrl_setcolumns "TABLE" "x\tWaiting") three-columns
+      '((want '("Name" "Size" "Maker") (titles "TABLE"))))))
+
+(test "Blanks at the end of a title widen its column by six pixels each"
+  '((in-tables '(wex_listctrl_setcolumns "TABLE" "x\tName\tName   \tName") ""
+      '((want '("Name" "Name" "Name") (titles "TABLE"))
+        (want (+ 18 (car (widths "TABLE"))) (cadr (widths "TABLE")))
+        (want (car (widths "TABLE")) (caddr (widths "TABLE")))))))
+
+(test "Rows that waited show in the order of the calls, above those that the start action added"
+  '((in-tables '(progn (wex_listctrl_setcolumns "TABLE" "x\tName\tSize\tMaker")
+                       (fill "TABLE" '("one\tA" "two" "three\tC\tc\ttoo many\tcells")))
+      "(wex_listctrl_additem \"TABLE\" \"early\")"
+      '((want '("one\tA\t" "two\t\t" "three\tC\tc") (butlast (ui_items "TABLE")))
+        (want "early\t\t" (last (ui_items "TABLE")))))))
+
+(test "Waiting rows lose the blanks at the ends of their cells unless they have one cell; live rows keep them"
+  '((in-tables '(fill "TABLE" '(" a \tb  \t " "alone  ")) three-columns
+      '((want '(" a\tb\t" "alone  \t\t") (ui_items "TABLE"))
+        (wex_add_list '(" a \tb  \t " "alone  " "a\tb\t"))
+        (want '(" a \tb  \t " "alone  \t\t" "a\tb\t") (cddr (ui_items "TABLE")))))))
+
+(test "Equal rows of a list that sorts itself stand as the platform puts them when the last comes first"
+  ; Wine puts an equal row above those that are there.
+  '((in-tables '(progn (wex_listctrl_setcolumns "SORTED" "x\tName\tSize") (fill "SORTED" '("b\t1" "a\t1" "b\t2" "a\t2"))) ""
+      '((want '("a\t1" "a\t2" "b\t1" "b\t2") (ui_items "SORTED"))))))
+
+(test "A value selects the row that it names at the start, and none that isn't there"
+  '((foreach row '(("1" "1") ("0" "0") ("3" "-1") ("-1" "-1") ("two" "0") ("" "-1"))
+      (setq value (car row) selected (cadr row))
+      (in-tables '(progn (wex_set_tile "TABLE" value) (fill "TABLE" '("one" "two" "three"))) three-columns
+        '((want selected (wex_get_tile "TABLE")))))))
+
+(test "wex_set_tile adds to the selection; by key alone a negative row clears it"
+  '((in-tables '(fill "TABLE" '("one" "two" "three")) three-columns
+      '((wex_set_tile "TABLE" "2")
+        (wex_set_tile 112 1)
+        (wex_set_tile "TABLE" "3")
+        (want '(1 2) (cdr (assoc "selected" (ui_look "TABLE"))))
+        (wex_set_tile 112 -1)
+        (want '(1 2) (cdr (assoc "selected" (ui_look "TABLE"))))
+        (wex_set_tile "TABLE" -1)
+        (want nil (cdr (assoc "selected" (ui_look "TABLE"))))))))
+
+(test "On a live list control operation 3 empties, 1 and 2 append, -1 replaces the first selected row"
+  '((in-tables '(fill "TABLE" '("one\tA\ta" "two\tB\tb" "three\tC\tc")) three-columns
+      '((wex_start_list "TABLE" -1)
+        (wex_add_list "four")
+        (want "four\t\t" (last (ui_items "TABLE")))
+        (wex_set_tile "TABLE" "2")
+        (wex_set_tile "TABLE" "1")
+        (wex_add_list "TWO\t B ")
+        (want '("one\tA\ta" "TWO\t B \tb" "three\tC\tc" "four\t\t") (ui_items "TABLE"))
+        (wex_add_list "")
+        (want "\t B \tb" (cadr (ui_items "TABLE")))
+        (want '(1 2) (cdr (assoc "selected" (ui_look "TABLE"))))
+        (wex_start_list "TABLE" 1)
+        (wex_add_list "five")
+        (wex_start_list 112 2)
+        (wex_add_list "six")
+        (want '("five\t\t" "six\t\t") (cdr (member "four\t\t" (ui_items "TABLE"))))
+        (fill 112 '("new"))
+        (want '("new\t\t") (ui_items "TABLE"))))))
+
+(test "wex_listctrl_additem adds a row or sets one cell, and is also called wex_listctrl_setitem"
+  '((foreach name '(wex_listctrl_additem wex_listctrl_setitem)
+      (in-tables '(fill "TABLE" '("one\tA" "two\tB" "three\tC")) three-columns
+        '((apply name '("TABLE" "four\tD\t"))
+          (apply name '("TABLE" 1 2 "a\tb"))
+          (apply name '(112 0 0 "ONE"))
+          (want '("ONE\tA\t" "two\tB\ta\tb" "three\tC\t" "four\tD\t") (ui_items "TABLE"))
+          (apply name '("TABLE" 4 1 "new\tE"))
+          (apply name '("TABLE" -1 1 "newer"))
+          (want '("new\tE\t" "newer\t\t") (cdr (member "four\tD\t" (ui_items "TABLE"))))
+          (apply name '("TABLE" 2 1 nil))
+          (want "three\t\t" (caddr (ui_items "TABLE")))
+          ; Cells and rows that aren't there, and chains that end early.
+          (foreach arguments '((-5 0 "x") (0 "x") (0 3 "x") (0 -1 "x") (0) (0 1) ())
+            (apply name (cons "TABLE" arguments)))
+          (want "ONE\tA\t" (car (ui_items "TABLE")))
+          (want 6 (length (ui_items "TABLE")))
+          (apply name '("TABLE" nil))
+          (want "\t\t" (last (ui_items "TABLE"))))))))
+
+(test "Columns are added, renamed, counted and deleted; the cells behind a deleted column move up"
+  '((in-tables '(fill "TABLE" '("one\tA\ta")) three-columns
+      '((wex_listctrl_addcolumn "TABLE" "Last  ")
+        (wex_listctrl_renamecolumn "TABLE" 0 "First")
+        (wex_listctrl_renamecolumn 112 2 "")
+        (wex_listctrl_renamecolumn "TABLE" 9 "None")
+        (want '("First" "Size" "" "Last  ") (titles "TABLE"))
+        (want 4 (wex_listctrl_getcolcount 112))
+        (wex_listctrl_deletecolumn "TABLE" 1)
+        (wex_listctrl_deletecolumn "TABLE" 9)
+        (want '("First" "" "Last  ") (titles "TABLE"))
+        (want '("one\ta\t") (ui_items "TABLE"))))))
+
+(test "Widths are at 96 dots per inch when a column is added and asked for, and device pixels when set"
+  ; A column of the default width tells the display's scale.
+  '((in-tables nil ""
+      '((foreach width '(nil -1 100 0 33)
+          (if width (wex_listctrl_addcolumn "TABLE" "C" width) (wex_listctrl_addcolumn "TABLE" "C")))
+        (setq scale (/ (caddr (widths "TABLE")) 100.0))
+        (want (mapcar '(lambda (width) (fix (+ 0.5 (* scale width)))) '(75 75 100 0 33)) (widths "TABLE"))
+        (want '(75 75 100 0 33) (mapcar '(lambda (at) (wex_listctrl_getcolumnwidth "TABLE" at)) '(0 1 2 3 4)))
+        (wex_listctrl_setcolumnwidth "TABLE" 2 100)
+        (want 100 (caddr (widths "TABLE")))
+        (want (fix (+ 0.5 (/ 100 scale))) (wex_listctrl_getcolumnwidth "TABLE" 2))
+        (want 0 (wex_listctrl_getcolumnwidth "TABLE" 5))))))
+
+(test "Width -2 fits the contents, -1 and none fit the header too"
+  '((in-tables '(fill "TABLE" '("i" "a rather long cell")) "(wex_listctrl_setcolumns \"TABLE\" \"x\tA title longer than any cell of its column\")"
+      '((wex_listctrl_setcolumnwidth "TABLE" 0 -2)
+        (setq contents (car (widths "TABLE")))
+        (wex_listctrl_setcolumnwidth "TABLE" 0 -1)
+        (setq header (car (widths "TABLE")))
+        (want T (< 20 contents header))
+        (wex_listctrl_setcolumnwidth "TABLE" 0 7)
+        (wex_listctrl_setcolumnwidth "TABLE" 0)
+        (want header (car (widths "TABLE")))))))
+
+(test "Grid lines come with T and stay"
+  '((in-tables nil three-columns
+      '((want nil (cdr (assoc "gridlines" (ui_look "TABLE"))))
+        (wex_listctrl_showgridlines "TABLE" nil)
+        (want 1 (alerts))
+        (want nil (wex_listctrl_showgridlines "TABLE"))
+        (want nil (cdr (assoc "gridlines" (ui_look "TABLE"))))
+        (wex_listctrl_showgridlines "TABLE" T)
+        (want 0 (alerts))
+        (wex_listctrl_showgridlines "TABLE" 1)
+        (want 1 (alerts))
+        (want T (cdr (assoc "gridlines" (ui_look "TABLE"))))))))
+
+(test "wex_listctrl_setcolumnreference loads the rows that waited anew, as long as they wait"
+  '((in-tables '(fill "TABLE" '("one\tA  " "two\tB")) three-columns
+      '((wex_listctrl_additem "TABLE" "three")
+        (wex_listctrl_setcolumnreference "TABLE" "")
+        (wex_listctrl_setcolumnreference "TABLE" 5)
+        (want 3 (length (ui_items "TABLE")))
+        (wex_listctrl_setcolumnreference "TABLE" "x\tOther")
+        (want '("one\tA\t" "two\tB\t") (ui_items "TABLE"))
+        (want '("Name" "Size" "Maker") (titles "TABLE"))
+        (wex_start_list "TABLE" 2)
+        (wex_add_list "three")
+        (wex_listctrl_setcolumnreference "TABLE" "x\tOther")
+        (want 3 (length (ui_items "TABLE")))))))
+
+(test "The count of a list without items of its own"
+  '((in-tables nil "(wex_listctrl_addcolumn \"VIRTUAL\" \"Name\")"
+      '((foreach row '((5 5) (-1 5) ("7" 5) (nil 5) (40000 40000) (0 0))
+          (wex_listctrl_setitemcount "VIRTUAL" (car row))
+          (want (cadr row) (length (ui_items "VIRTUAL"))))
+        (wex_listctrl_setitemcount "VIRTUAL" 2)
+        (want '("" "") (ui_items "VIRTUAL"))))))
+
+(test "A list control that isn't looked at takes columns and rows all the same"
+  '((in-tables nil ""
+      '((wex_listctrl_setcolumns 401 "x\tName\tSize")
+        (wex_listctrl_additem 401 "one\tA")
+        (wex_listctrl_setcolumnreference 401 "x\tName")
+        (wex_listctrl_setitemcount 401 3)
+        (want '("one\tA") (ui_items 401))
+        (want 0 (alerts))))))
+
+; Every function with arguments that would do, and how many alerts it gives on a tile of another class.
+(setq calls '((wex_listctrl_addcolumn ("Title") 1) (wex_listctrl_additem ("row") 1) (wex_listctrl_setitem ("row") 1)
+              (wex_listctrl_setcolumnwidth (0 50) 1) (wex_listctrl_getcolumnwidth (0) 1)
+              (wex_listctrl_showgridlines (T) 1) (wex_listctrl_setcolumns ("x\tA") 2)
+              (wex_listctrl_setcolumnreference ("x\tA") 2) (wex_listctrl_deletecolumn (0) 1)
+              (wex_listctrl_renamecolumn (0 "Title") 1) (wex_listctrl_getcolcount () 2)
+              (wex_listctrl_setitemcount (5) 1)))
+
+(test "Without arguments one alert; without a dialog, a window or such a tile none"
+  '((foreach call calls
+      (want nil (apply (car call) nil))
+      (want 1 (alerts))
+      (want nil (apply (car call) (cons "TABLE" (cadr call)))))
+    (want 0 (alerts))
+    (in-tables '(foreach call calls (want nil (apply (car call) (cons "TABLE" (cadr call))))) ""
+      '((want '("A") (titles "TABLE"))
+        (want nil (ui_items "TABLE"))
+        (foreach call calls (want nil (apply (car call) (cons "NOBODY" (cadr call)))))
+        (want 0 (alerts))))))
+
+(test "On a tile of another class each function gives its alerts and changes nothing"
+  '((in-tables nil ""
+      '((foreach call calls
+          (want nil (apply (car call) (cons "BUTTON" (cadr call))))
+          (want (list (car call) (caddr call)) (list (car call) (alerts))))
+        (want "&Button" (ui_text "BUTTON"))
+        (wex_listctrl_setcolumnreference "BUTTON" "")
+        (want nil (wex_listctrl_setcolumnreference "BUTTON"))
+        (want nil (wex_listctrl_setitemcount "BUTTON"))
+        (want 0 (alerts))))))
+
+(test "Arguments that are missing or of another type change nothing and give no alert"
+  '((in-tables '(fill "TABLE" '("one\tA\ta")) three-columns
+      '((foreach call '((wex_listctrl_addcolumn "TABLE") (wex_listctrl_addcolumn "TABLE" 5) (wex_listctrl_additem "TABLE")
+                        (wex_listctrl_setcolumnwidth "TABLE") (wex_listctrl_setcolumnwidth "TABLE" "0" 50)
+                        (wex_listctrl_setcolumnwidth "TABLE" -1 50) (wex_listctrl_getcolumnwidth "TABLE")
+                        (wex_listctrl_getcolumnwidth "TABLE" 40000) (wex_listctrl_getcolumnwidth "TABLE" -1)
+                        (wex_listctrl_setcolumns "TABLE") (wex_listctrl_deletecolumn "TABLE")
+                        (wex_listctrl_deletecolumn "TABLE" -1) (wex_listctrl_renamecolumn "TABLE" 0)
+                        (wex_listctrl_renamecolumn "TABLE" "0" "X") (wex_listctrl_renamecolumn "TABLE" 0 5)
+                        (wex_listctrl_renamecolumn "TABLE" -1 "X") (wex_listctrl_setitemcount "TABLE"))
+          (setq before (ui_columns "TABLE"))
+          (want nil (eval call))
+          (want (list call before) (list call (ui_columns "TABLE"))))
+        (want '("one\tA\ta") (ui_items "TABLE"))
+        (want 0 (alerts))))))
+
+(test "The list of footprints stays empty without its records, whatever waits for it"
+  '((ui_session "LOOKUP_FP"
+      '((want nil (ui_items "DLST"))
+        (want "-1" (wex_get_tile "DLST"))
+        (want '("Catalog" "Name") (titles "DLST"))
+        (ui_click "Cancel")))
+    (wex_new_dialog "LOOKUP_FP")
+    (wex_listctrl_setcolumns "DLST" "x\tCatalog\tName")
+    (fill "DLST" '("one" "two"))
+    (wex_set_tile "DLST" "1")
+    (wex_start_dialog)))
+
+(test "Ten thousand rows of three cells added to a list that shows, by one call and by many"
+  '((in-tables nil three-columns
+      '((setq many nil)
+        (repeat 10000 (setq many (cons "a\tb\tc" many)))
+        (fill "TABLE" many)
+        (want 10000 (length (ui_items "TABLE")))
+        (wex_start_list "TABLE")
+        (foreach row many (wex_add_list row))
+        (wex_listctrl_additem "TABLE" "the\tlast\tone")
+        (wex_set_tile "TABLE" "10000")
+        (want 10001 (length (ui_items "TABLE")))
+        (want "10000" (wex_get_tile "TABLE"))
+        (want "the\tlast\tone" (last (ui_items "TABLE")))))))
