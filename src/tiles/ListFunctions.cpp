@@ -1,5 +1,6 @@
 #include "src/tiles/ListFunctions.h"
 
+#include "src/dialog/RowSelection.h"
 #include "src/dialog/WexDialog.h"
 #include "src/listctrl/ListRows.h"
 #include "src/platform/mfc/RedrawHold.h"
@@ -44,12 +45,8 @@ void addEntry(const CWnd& control, const EntryMessages& messages, const wchar_t*
     control.SendMessage(messages.insert, selected, entry);
 }
 
-int selectedRow(const CWnd& list) {
-    return static_cast<int>(list.SendMessage(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
-}
-
 void addRow(const CWnd& list, const wchar_t* text, int operation) {
-    const int replaced = operation == LIST_CHANGE_ROW ? selectedRow(list) : -1;
+    const int replaced = operation == LIST_CHANGE_ROW ? firstSelectedRow(list) : -1;
     if (replaced >= 0)
         replaceRow(list, replaced, text);
     else
