@@ -9,6 +9,9 @@
 (wex_setresizing 1 35)
 (wex_setresizing 2 35)
 (setq size 600)
+(defun size-row (how key)
+  (session-row how key '(setq size (- 1220 size)) '(ui_size size 800) nil '(bench_bare_size size 800) 20))
+
 (in-dialog "BENCH_LAYOUT" 3002
   (append '((ui_size size 800) (bench_bare_size size 800))
-          (session-row "size_step_77" '(setq size (- 1220 size)) '(ui_size size 800) nil '(bench_bare_size size 800) 20)))
+          (size-row 'called "size_step_77_layout") (size-row 'painted "size_step_77_painted")))

@@ -11,7 +11,7 @@
 (defun refill-by-many-calls (key) (wex_start_list key 2) (foreach entry entries (wex_add_list entry)))
 
 (defun list-row (name key id fill)
-  (session-row name (list 'wex_start_list key 3) (list fill key)
+  (session-row 'painted name (list 'wex_start_list key 3) (list fill key)
                (list 'bench_bare_empty id) (list 'bench_bare_fill id) 15))
 
 (wex_new_dialog "BENCH_LISTS")

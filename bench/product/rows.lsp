@@ -23,13 +23,8 @@
                  "  med " (decimals (/ (median ours) (median bare)) 2) "  n=" (itoa (length ours)) "\n"))
   (princ))
 
-; The milliseconds that a form takes, n times over.
-(defun timed (form n / times begun)
-  (repeat n
-    (setq begun (bench_now))
-    (eval form)
-    (setq times (cons (- (bench_now) begun) times)))
-  times)
+; The milliseconds that a form takes.
+(defun ms (form / begun) (setq begun (bench_now)) (eval form) (- (bench_now) begun))
 
 ; What a form gives, n times over.
 (defun given (form n / values)
@@ -42,18 +37,21 @@
     (setq our-times (cons (eval ours) our-times) bare-times (cons (eval bare) bare-times)))
   (versus key our-times bare-times))
 
-; Forms of a session that make a row of two forms, each timed until everything is painted and the dialog is idle.
-; Before each, a form that isn't timed.
-(defun session-row (key before-ours ours before-bare bare n / forms)
+; Forms of a session that make a row of two forms, each with a form before it that isn't timed. `how` is painted or
+; called: timed until all is painted and the dialog is idle, or the call alone.
+(defun session-row (how key before-ours ours before-bare bare n / forms)
   (setq forms (list (list 'versus key 'our-times 'bare-times)))
   (repeat n
-    (setq forms (append (timed-forms before-ours ours 'our-times) (timed-forms before-bare bare 'bare-times) forms)))
+    (setq forms (append (apply how (list before-ours ours 'our-times)) (apply how (list before-bare bare 'bare-times)) forms)))
   (cons '(setq our-times nil bare-times nil) forms))
 
-(defun timed-forms (before form times)
+(defun painted (before form times)
   (list before
         (list 'progn '(setq begun (bench_now)) form)
         (list 'setq times (list 'cons '(- (bench_now) begun) times))))
+
+(defun called (before form times)
+  (list before (list 'setq times (list 'cons (list 'ms (list 'quote form)) times))))
 
 ; Runs a dialog for the forms of a session, beside the same one by the bare platform.
 (defun in-dialog (name id forms)

@@ -1,5 +1,30 @@
 // The layout of a dialog that is resized: anchored controls follow its edges, and labels fit their height.
 #include "src/dialog/WexDialog.h"
+#include "src/platform/mfc/Drawing.h"
+
+namespace {
+
+// The places that controls left and took.
+class MovedArea {
+  public:
+    void add(const PixelRect& rect) {
+        const UniqueRegion part(CreateRectRgn(rect.left, rect.top, rect.right, rect.bottom));
+        CombineRgn(m_region.get(), m_region.get(), part.get(), RGN_OR);
+    }
+    HRGN region() const { return m_region.get(); }
+
+  private:
+    UniqueRegion m_region{CreateRectRgn(0, 0, 0, 0)};
+};
+
+// Draws the dialog and its controls anew, there or everywhere. A control that was moved with its picture
+// counts as painted: it would be erased with the dialog's background, or keep the picture of one that stood
+// there before.
+void redraw(HWND dialog, HRGN where = nullptr) {
+    RedrawWindow(dialog, nullptr, where, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+}  // namespace
 
 void WexDialog::computeAnchors(const CWnd& control, CCtrlInfo& tile) {
     if (tile.m_resizeCode == -1) return;
@@ -23,33 +48,41 @@ void WexDialog::layoutControls(int width, int height) {
     for (size_t at = 0; at < m_tiles.size(); ++at)
         if (const CWnd* control = m_tiles.at(at)->m_control; control && !control->isLive()) return;
     HDWP batch = BeginDeferWindowPos(static_cast<int>(m_tiles.size()));
+    MovedArea moved;
     for (size_t at = 0; at < m_tiles.size(); ++at) {
         const CCtrlInfo& tile = *m_tiles.at(at);
-        if (!tile.m_control) continue;
-        PixelRect rect = pixelRect(tile.m_control->rectInParent());
-        if (tile.m_resizeCode != -1) rect = anchored(rect, tile.m_anchorOffsets, width, height);
+        if (!tile.m_control || tile.m_resizeCode == -1) continue;
+        const PixelRect former = pixelRect(tile.m_control->rectInParent());
+        const PixelRect rect = anchored(former, tile.m_anchorOffsets, width, height);
+        if (rect == former) continue;
+        moved.add(former);
+        moved.add(rect);
         batch = DeferWindowPos(batch, tile.m_control->m_hWnd, nullptr, rect.left, rect.top, rect.width(),
-                               rect.height(), SWP_NOZORDER);
+                               rect.height(), SWP_NOZORDER | SWP_NOREDRAW);
     }
     m_lastClientRect = client;
     EndDeferWindowPos(batch);
-    redrawMoved();
+    if (fitMoved())
+        redraw(m_hWnd);
+    else
+        redraw(m_hWnd, moved.region());
 }
 
 void WexDialog::redrawMoved() {
     fitMoved();
-    // A control that was moved with its picture counts as painted: it would be erased with the dialog's
-    // background, or keep the picture of one that stood there before.
-    RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    redraw(m_hWnd);
 }
 
-void WexDialog::fitMoved() {
+bool WexDialog::fitMoved() {
+    bool fitted = false;
     for (size_t at = 0; at < m_tiles.size(); ++at) {
         CWnd* control = m_tiles.at(at)->m_control;
         if (!control) continue;
-        if (!control->isLive()) return;
+        if (!control->isLive()) return fitted;
         auto* wrapper = dynamic_cast<TileControl*>(control);
-        if (wrapper && wrapper->laidOut())
-            RedrawWindow(control->m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        if (!wrapper || !wrapper->laidOut()) continue;
+        RedrawWindow(control->m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        fitted = true;
     }
+    return fitted;
 }

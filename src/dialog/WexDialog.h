@@ -81,8 +81,8 @@ class WexDialog : public CSnapDlg {
     void applyRecords();
     void computeAnchors(const CWnd& control, CCtrlInfo& tile);
     void placeAtStart();
-    // Stops at the first control that is gone.
-    void fitMoved();
+    // Whether a control changed its size. Stops at the first one that is gone.
+    bool fitMoved();
     void applyTile(CWnd& control, CCtrlInfo& tile);
     void applyMode(CWnd& control, CCtrlInfo& tile);
     void setControlValue(CWnd* control, const CString& value, bool byKey);
