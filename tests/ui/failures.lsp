@@ -3,11 +3,13 @@
 (test "Functions without arguments show one alert and give no value"
   '((ui_alerts)
     (foreach name '(wex_new_dialog wex_action_tile wex_set_tile wex_get_tile wex_mode_tile wex_dimx_tile
-                        wex_dimy_tile wex_alert wex_settitlebar wex_setaction_oninit wex_setaction_onsize)
+                        wex_dimy_tile wex_alert wex_settitlebar wex_setaction_oninit wex_setaction_onsize
+                        wex_start_list wex_add_list wex_edit_setasnumeric wex_edit_setasangular wex_edit_seteditlimit
+                        wex_setresizing wex_setminresizing wex_setmaxresizing wex_start_controlmove wex_movecontrol)
       (want nil (apply name nil))
       (want 1 (length (ui_alerts))))
     (foreach name '(wex_start_dialog wex_done_dialog wex_enable_dialog wex_get_attr wex_load_dialog
-                        wex_unload_dialog)
+                        wex_unload_dialog wex_end_list wex_end_controlmove)
       (want nil (apply name nil))
       (want nil (ui_alerts)))))
 
