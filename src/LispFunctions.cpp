@@ -6,6 +6,7 @@
 #include "src/listctrl/ListCtrlFunctions.h"
 #include "src/listctrl/SelectionFunctions.h"
 #include "src/platform/host/HostServices.h"
+#include "src/tabs/TabFunctions.h"
 #include "src/tiles/EditFunctions.h"
 #include "src/tiles/ListFunctions.h"
 #include "src/tiles/ResizeFunctions.h"
@@ -69,7 +70,7 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_grid_setcell", notBuiltYet},
     {L"wex_grid_getcell", notBuiltYet},
     {L"wex_grid_clearcells", notBuiltYet},
-    {L"wex_tab_add", notBuiltYet},
+    {L"wex_tab_add", withArguments<tabAdd>},
     {L"wex_grid_setrowheight", notBuiltYet},
     {L"wex_grid_setcolumnwidth", notBuiltYet},
     {L"wex_tree_insertparent", notBuiltYet},

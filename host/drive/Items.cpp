@@ -154,10 +154,32 @@ class TabItems : public Control {
         const auto index = static_cast<int>(send(TCM_GETCURSEL));
         return index < 0 ? std::vector<int>() : std::vector{index};
     }
+    // Tabs that have no room are reached by the arrows at the end of the row, one with each step.
     Spot show(int index, int) const override {
+        const HWND arrows = FindWindowExW(m_window, nullptr, UPDOWN_CLASSW, nullptr);
+        const int room = arrows && IsWindowVisible(arrows) ? rectIn(arrows).left : rectIn(m_window).right;
+        Spot spot = middle(itemRect(index));
+        for (int steps = count(); steps > 0 && (spot.point.x < 0 || spot.point.x >= room); --steps) {
+            const auto first = static_cast<int>(SendMessageW(arrows, UDM_GETPOS32, 0, 0));
+            const int next = first + (spot.point.x < 0 ? -1 : 1);
+            send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, next), reinterpret_cast<LPARAM>(arrows));
+            spot = middle(itemRect(index));
+        }
+        return spot;
+    }
+
+  private:
+    RECT itemRect(int index) const {
         RECT rect{};
         send(TCM_GETITEMRECT, index, &rect);
-        return middle(rect);
+        return rect;
+    }
+    // Of a window, in the control's client pixels.
+    RECT rectIn(HWND window) const {
+        RECT rect;
+        GetWindowRect(window, &rect);
+        MapWindowPoints(nullptr, m_window, reinterpret_cast<POINT*>(&rect), 2);
+        return rect;
     }
 };
 

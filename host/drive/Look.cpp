@@ -115,3 +115,18 @@ lisp::Value lookOf(lisp::Interpreter& lisp, const BoxLook& box) {
     look.add(u"owner", text(box.owner));
     return look.list();
 }
+
+lisp::Value pixelOf(const Tile& tile, int x, int y) {
+    const HWND dialog = tile.dialog();
+    RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    RECT rect;
+    GetWindowRect(tile.window(), &rect);
+    POINT at = {rect.left + x, rect.top + y};
+    ScreenToClient(dialog, &at);
+    // The dialog's surface shows its controls too.
+    const HDC dc = GetDC(dialog);
+    const COLORREF color = GetPixel(dc, at.x, at.y);
+    ReleaseDC(dialog, dc);
+    if (color == CLR_INVALID) tile.fail(L"the dialog doesn't show that point");
+    return lisp::Value::integer(GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color));
+}

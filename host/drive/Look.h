@@ -10,6 +10,10 @@
 // list, "gridlines" (of a list view).
 lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile);
 
+// The color of a point of the tile, counted in pixels from its left upper corner, as 0xRRGGBB. Throws
+// lisp::Error for a point that the dialog's client area doesn't have.
+lisp::Value pixelOf(const Tile& tile, int x, int y);
+
 // The same of a dialog: "class", "title", "owner" (the title of the window that it belongs to; nil without
 // one), "enabled", "rect" in pixels of the screen, "client" as (width height), "controls" as the ids of the
 // controls, the topmost first.

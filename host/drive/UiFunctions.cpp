@@ -209,6 +209,9 @@ Value look(Call& call) {
     return call.has(0) ? lookOf(call.lisp, Tile(call, 0)) : lookOf(call.lisp, runningDialog());
 }
 
+// (ui_pixel tile x y)
+Value pixel(Call& call) { return pixelOf(Tile(call, 0), call.integer(1), call.integer(2)); }
+
 // (ui_box)
 Value box(Call& call) { return lookOf(call.lisp, player().lastBox()); }
 
@@ -286,6 +289,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_text", &textOfTile, 1, 1},
     {u"ui_items", &items, 1, 1},
     {u"ui_look", &look, 0, 1},
+    {u"ui_pixel", &pixel, 3, 3},
     {u"ui_box", &box, 0, 0},
     {u"ui_columns", &columns, 1, 1},
     {u"ui_title", &title, 0, 0},

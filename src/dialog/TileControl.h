@@ -30,6 +30,18 @@ class TileControl {
     // The dialog has been laid out anew. True: the control has to be redrawn.
     virtual bool laidOut() { return false; }
 
+    // Turns pages, so many on or back, where the control has any. With `focus` only where that window stands
+    // on one of them. False: it has none.
+    virtual bool turnPage(int /*step*/, HWND /*focus*/) { return false; }
+
+    // --- for what stands on the control, as on a page
+
+    // The brush that continues the control's own background in `dc`, which is that of `other`; null where
+    // `other` doesn't stand on it or has a background of its own. The control's.
+    virtual HBRUSH brushUnder(HDC /*dc*/, const CWnd& /*other*/) { return nullptr; }
+    // Paints the background into the dialog's, for controls that let the dialog shine through.
+    virtual void paintUnder(HDC /*dc*/, const CWnd& /*dialog*/) {}
+
     // Name of the Lisp function behind the tile, empty for none.
     CString m_action;
 };

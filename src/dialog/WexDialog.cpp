@@ -13,6 +13,18 @@ DialogRegistry<WexDialog>& g_dialogs = *new DialogRegistry<WexDialog>;
 CString g_dialogName;
 int32_t g_doneStatus = 0;
 
+namespace {
+
+// How many pages a key goes on: Ctrl+Tab and Ctrl+PageDown one, with Shift and Ctrl+PageUp one back.
+int pageStep(const MSG& message) {
+    const auto held = [](int key) { return GetKeyState(key) < 0; };
+    if (message.message != WM_KEYDOWN || !held(VK_CONTROL)) return 0;
+    if (message.wParam == VK_TAB) return held(VK_SHIFT) ? -1 : 1;
+    return message.wParam == VK_NEXT ? 1 : message.wParam == VK_PRIOR ? -1 : 0;
+}
+
+}  // namespace
+
 WexDialog::WexDialog(const DialogSource& source, CWnd* parent)
     : CSnapDlg(static_cast<UINT>(source.id), parent), m_templateId(static_cast<UINT>(source.id)) {
     m_templateModule = source.templates;
@@ -39,22 +51,34 @@ CCtrlInfo* WexDialog::tileFor(const TileAddress& tile) {
 }
 
 const MessageMap& WexDialog::messageMap() const {
-    static const MessageMap map(CSnapDlg::messageMap(), {
-                                                            on<WM_PAINT, &WexDialog::onPaint>(),
-                                                            on<WM_SIZE, &WexDialog::onSize>(),
-                                                            on<WM_DESTROY, &WexDialog::onDestroy>(),
-                                                            on<WM_HELP, &WexDialog::onHelp>(),
-                                                        });
+    static const MessageMap map(CSnapDlg::messageMap(),
+                                {
+                                    on<WM_PAINT, &WexDialog::onPaint>(),
+                                    on<WM_SIZE, &WexDialog::onSize>(),
+                                    on<WM_DESTROY, &WexDialog::onDestroy>(),
+                                    on<WM_HELP, &WexDialog::onHelp>(),
+                                    on<WM_CTLCOLORSTATIC, &WexDialog::onColorStatic>(),
+                                    on<WM_ERASEBKGND, &WexDialog::onEraseBackground>(),
+                                });
     return map;
 }
 
-// Esc closes the dialog wherever the focus is.
+// Esc closes the dialog wherever the focus is, and Ctrl+Tab turns a page.
 bool WexDialog::PreTranslateMessage(MSG& message) {
     if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
         PostMessage(WM_CLOSE);
         return true;
     }
+    if (const int step = pageStep(message); step && turnPage(step)) return true;
     return CSnapDlg::PreTranslateMessage(message);
+}
+
+// The page under the focus is turned, or else the first that can be.
+bool WexDialog::turnPage(int step) {
+    for (const HWND focus : {::GetFocus(), HWND()})
+        for (const auto& control : m_controls)
+            if (control->turnPage(step, focus)) return true;
+    return false;
 }
 
 // All ways to cancel end like OK, and the status then tells that no action ended the dialog.
@@ -82,6 +106,18 @@ void WexDialog::onDestroy() {
     CSnapDlg::onDestroy();
     m_discovered = false;
     m_focusId = -1;
+}
+
+LRESULT WexDialog::onColorStatic(HDC dc, CWnd* control) {
+    for (const auto& under : m_controls)
+        if (const HBRUSH brush = under->brushUnder(dc, *control)) return reinterpret_cast<LRESULT>(brush);
+    return Default();
+}
+
+LRESULT WexDialog::onEraseBackground(HDC dc) {
+    Default();
+    for (const auto& under : m_controls) under->paintUnder(dc, *this);
+    return TRUE;
 }
 
 // F1 is the Help button's click, for a dialog that has one.

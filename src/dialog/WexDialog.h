@@ -75,8 +75,11 @@ class WexDialog : public CSnapDlg {
     void onPaint();
     void onSize(UINT type, int width, int height);
     void onDestroy();
+    LRESULT onColorStatic(HDC dc, CWnd* control);
+    LRESULT onEraseBackground(HDC dc);
     LRESULT onHelp(HELPINFO* help);
 
+    bool turnPage(int step);
     void discover(CDataExchange& exchange, int id, HWND control);
     void applyRecords();
     void computeAnchors(const CWnd& control, CCtrlInfo& tile);

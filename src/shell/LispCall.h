@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 
+#include "src/platform/base/CInvalidArgException.h"
 #include "src/platform/base/CString.h"
 #include "src/platform/host/HostLisp.h"
 #include "src/shell/ResourceScope.h"
@@ -54,15 +55,20 @@ class LispCall {
     int m_results = 0;
 };
 
-// The entry function around an implementation: without arguments it shows the alert and gives no value.
+// The entry function around an implementation: without arguments it shows the alert and gives no value. A
+// call that ends with CInvalidArgException gives no value either.
 template <void (*Body)(LispCall&)>
 int32_t withArguments() {
     const ResourceScope scope;
     LispCall call;
-    if (call.hasArguments()) {
-        Body(call);
-    } else {
+    if (!call.hasArguments()) {
         alertText(TEXT_NO_ARGUMENTS);
+        call.retVoid();
+        return RESULT_SET;
+    }
+    try {
+        Body(call);
+    } catch (const CInvalidArgException&) {
         call.retVoid();
     }
     return RESULT_SET;

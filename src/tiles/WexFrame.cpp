@@ -22,6 +22,8 @@ void registerFrameClass() {
 const MessageMap& WexFrame::messageMap() const {
     static const MessageMap map(CWnd::messageMap(), {
                                                         on<WM_SIZE, &WexFrame::onSize>(),
+                                                        on<WM_ERASEBKGND, &WexFrame::onEraseBackground>(),
+                                                        on<WM_CTLCOLORSTATIC, &WexFrame::onColorStatic>(),
                                                         onRaw<WM_SETTEXT, &WexFrame::onSetText>(),
                                                     });
     return map;
@@ -50,6 +52,18 @@ void WexFrame::onSize(UINT /*type*/, int width, int height) {
     if (!m_groupBox.isLive()) return;
     m_groupBox.MoveWindow({0, 0, width, height});
     m_groupBox.Invalidate();
+}
+
+LRESULT WexFrame::onEraseBackground(HDC dc) {
+    const RECT client = GetClientRect();
+    FillRect(dc, &client, reinterpret_cast<HBRUSH>(onColorStatic(dc, this)));
+    return TRUE;
+}
+
+// The background is what the dialog has there.
+LRESULT WexFrame::onColorStatic(HDC dc, CWnd* control) {
+    return GetParent()->SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
+                                    reinterpret_cast<LPARAM>(control->m_hWnd));
 }
 
 // The frame's own caption stays empty, and the group box keeps its own.

@@ -18,6 +18,8 @@ class WexFrame : public CWnd, public TileControl {
   private:
     void createGroupBox(const CString& caption, HFONT font);
     void onSize(UINT type, int width, int height);
+    LRESULT onEraseBackground(HDC dc);
+    LRESULT onColorStatic(HDC dc, CWnd* control);
     LRESULT onSetText(WPARAM w, LPARAM l);
 
     CButton m_groupBox;

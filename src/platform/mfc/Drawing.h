@@ -22,6 +22,7 @@ using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, Delete>;
 }  // namespace drawing
 
 using UniqueBitmap = drawing::Unique<HBITMAP, drawing::DeleteGdiObject>;
+using UniqueBrush = drawing::Unique<HBRUSH, drawing::DeleteGdiObject>;
 using UniqueRegion = drawing::Unique<HRGN, drawing::DeleteGdiObject>;
 // Never for an icon that was loaded with LR_SHARED.
 using UniqueIcon = drawing::Unique<HICON, drawing::DeleteIcon>;

@@ -1,6 +1,8 @@
 // A plug-in for tests of the host: functions that do one thing with the interface each, some of them wrong.
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <stdexcept>
 #include <string>
 
@@ -177,6 +179,16 @@ int32_t window() {
     return RESULT_SET;
 }
 
+// Adds a tab to the tab control of that id in the dialog in front.
+int32_t addBareTab() {
+    const HWND dialog = GetLastActivePopup(hostGetMainFrame());
+    TCITEMW item = {};
+    SendDlgItemMessageW(dialog, hostGetArgs()->value.shortValue, TCM_INSERTITEMW, 0,
+                        reinterpret_cast<LPARAM>(&item));
+    hostRetVoid();
+    return RESULT_SET;
+}
+
 struct Row {
     const wchar_t* name;
     HostLispFunction handler;
@@ -194,6 +206,7 @@ constexpr Row ROWS[] = {
     {L"t_print", &print},       {L"t_leak", &leakBrush},
     {L"t_messages", &messages}, {L"t_command", &command},
     {L"t_send", &send},         {L"t_window", &window},
+    {L"t_tab", &addBareTab},
 };
 constexpr int COUNT = ARRAYSIZE(ROWS);
 
