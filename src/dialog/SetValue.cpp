@@ -36,6 +36,7 @@ void WexDialog::setControlValue(CWnd* control, const CString& value, bool byKey)
             return setButton(*control, value);
         case ValueMeaning::listControlRow:
             return setListControl(*control, value, byKey);
+        // kept: the controls of the page that was shown stay.
         case ValueMeaning::tab:
             return select(*control, value, TCM_GETITEMCOUNT, TCM_SETCURSEL);
         case ValueMeaning::listBoxEntry:

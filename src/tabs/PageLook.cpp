@@ -2,7 +2,7 @@
 
 namespace {
 
-// No theme tells the color of its pages, so the control is asked for a picture.
+// How a page looks is the control's own affair, so it is asked for a picture.
 COLORREF drawnColor(const CWnd& tab, POINT at) {
     const RECT area = tab.GetClientRect();
     const ClientDC screen(tab.m_hWnd);
