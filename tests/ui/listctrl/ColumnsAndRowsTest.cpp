@@ -1,0 +1,84 @@
+// Columns and rows on a list control of its own, beside what the control itself measures.
+#include <gtest/gtest.h>
+
+#include "src/dialog/RowSelection.h"
+#include "src/listctrl/ListCells.h"
+#include "src/listctrl/ListColumns.h"
+#include "src/listctrl/ListRows.h"
+#include "src/platform/mfc/Controls.h"
+#include "src/platform/mfc/RedrawHold.h"
+
+namespace {
+
+class ColumnsAndRows : public testing::Test {
+  protected:
+    ColumnsAndRows() {
+        parent.CreateEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, RECT{0, 0, 300, 200}, nullptr, 0);
+        list.CreateEx(0, L"SysListView32", L"", WS_CHILD | WS_VISIBLE | LVS_REPORT, RECT{0, 0, 300, 200},
+                      parent.m_hWnd, 1);
+    }
+    ~ColumnsAndRows() override { releaseRedraw(); }
+
+    int columnWidth(int column) { return static_cast<int>(list.SendMessage(LVM_GETCOLUMNWIDTH, column)); }
+    int textWidth(const wchar_t* text) {
+        return static_cast<int>(list.SendMessage(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text)));
+    }
+    HDITEMW head(int column) {
+        HDITEMW item{};
+        item.mask = HDI_FORMAT | HDI_LPARAM;
+        SendMessageW(headerOf(list), HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&item));
+        return item;
+    }
+
+    CWnd parent;
+    CListCtrl list;
+};
+
+TEST_F(ColumnsAndRows, AColumnIsHalfAsWideAgainAsItsTitle) {
+    applyColumnText(list, L"\tName\tManufacturer\tA  ");
+    EXPECT_EQ(columnWidth(0), static_cast<int>(textWidth(L"Name") * 1.5 + 10));
+    EXPECT_EQ(columnWidth(1), static_cast<int>(textWidth(L"Manufacturer") * 1.5 + 10));
+    EXPECT_EQ(columnWidth(2), static_cast<int>(textWidth(L"A") * 1.5 + 10) + 12);
+    EXPECT_EQ(head(1).fmt & HDF_JUSTIFYMASK, HDF_LEFT);
+}
+
+TEST_F(ColumnsAndRows, ARenamedColumnKeepsItsArrow) {
+    insertColumn(list, 0, L"Name", 50);
+    HDITEMW item = head(0);
+    item.mask = HDI_FORMAT;
+    item.fmt |= HDF_SORTUP;
+    SendMessageW(headerOf(list), HDM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    renameColumn(list, 0, std::wstring(300, L'x'));
+    EXPECT_TRUE(head(0).fmt & HDF_SORTUP);
+    EXPECT_EQ(columnTitle(list, 0), std::wstring(255, L'x'));
+    EXPECT_EQ(columnWidth(0), 50);
+}
+
+TEST_F(ColumnsAndRows, ARowSelectedWhileRedrawIsHeldIsScrolledTo) {
+    insertColumn(list, 0, L"Name", 50);
+    for (int row = 0; row < 100; ++row) appendRow(list, std::to_wstring(row));
+    selectRow(list, 90);
+    EXPECT_TRUE(list.SendMessage(LVM_ISITEMVISIBLE, 90));
+}
+
+TEST_F(ColumnsAndRows, LongCellsStayWhole) {
+    const CString cell(3000, L'x');
+    insertColumn(list, 0, L"Name", 50);
+    insertColumn(list, 1, L"Size", 50);
+    appendRow(list, cell + L"\t" + cell);
+    EXPECT_EQ(CellReader(list).text(0, 0), cell);
+    EXPECT_EQ(CellReader(list).text(0, 1), cell);
+}
+
+TEST_F(ColumnsAndRows, RowsDrawAtTheNextTurnOfTheLoop) {
+    insertColumn(list, 0, L"Name", 50);
+    UpdateWindow(list.m_hWnd);
+    RECT area;
+    appendRow(list, L"one");
+    setCell(list, 0, 0, L"ONE");
+    EXPECT_FALSE(GetUpdateRect(list.m_hWnd, &area, FALSE));
+    releaseRedraw();
+    EXPECT_TRUE(GetUpdateRect(list.m_hWnd, &area, FALSE));
+}
+
+}  // namespace

@@ -1,0 +1,146 @@
+// A list control that shows rows it doesn't have, of a source of a million.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "src/dialog/RowSelection.h"
+#include "src/dialog/WexDialog.h"
+#include "src/listctrl/ListCells.h"
+#include "src/listctrl/WexListCtrl.h"
+#include "src/platform/mfc/RedrawHold.h"
+
+namespace {
+
+constexpr int MILLION = 1'000'000;
+constexpr int TABLE = 110;
+constexpr int DIALOG_OF_ROWS = 1898, OTHER_DIALOG = 1899;
+
+// Field f of row r is "r.f"; rows with odd numbers end before the fourth field.
+class Rows : public RowSource {
+  public:
+    int counted = 0;
+    int asked = 0;
+    std::set<int> askedRows;
+
+    int rowCount() override {
+        ++counted;
+        return MILLION;
+    }
+    CString field(int row, int field) override {
+        ++asked;
+        askedRows.insert(row);
+        if (row % 2 && field == 3) return {};
+        return std::to_wstring(row) + L"." + std::to_wstring(field);
+    }
+};
+
+// The dialog with its list of four columns, up on the screen, painted.
+class Shown {
+  public:
+    explicit Shown(int id, const std::function<void(WexDialog&)>& before = {})
+        : dialog({id, GetModuleHandleW(nullptr), GetModuleHandleW(nullptr)}, nullptr) {
+        dialog.tileForId(TABLE)->m_auxText = L"x\tFirst\tSecond\tThird\tFourth";
+        if (before) before(dialog);
+        EXPECT_TRUE(dialog.Create());
+        releaseRedraw();
+        dialog.ShowWindow(SW_SHOW);
+        UpdateWindow(list().m_hWnd);
+    }
+
+    WexListCtrl& list() { return dynamic_cast<WexListCtrl&>(*dialog.GetDlgItem(TABLE)); }
+    CString cell(int row, int column) { return CellReader(list()).text(row, column); }
+    std::vector<int> selected() { return selectedRows(list()); }
+    // Asked for itself, LVM_ISITEMVISIBLE is wrong under Wine for rows that far down.
+    bool isInSight(int row) {
+        const LRESULT top = list().SendMessage(LVM_GETTOPINDEX);
+        return row >= top && row < top + list().SendMessage(LVM_GETCOUNTPERPAGE);
+    }
+
+    WexDialog dialog;
+};
+
+class SourceRows : public testing::Test {
+  protected:
+    SourceRows() { g_rowSource = &rows; }
+    ~SourceRows() override { g_rowSource = nullptr; }
+
+    Rows rows;
+};
+
+TEST_F(SourceRows, AreAskedForWhereTheyAreInSight) {
+    Shown shown(DIALOG_OF_ROWS);
+    EXPECT_EQ(rowCount(shown.list()), MILLION);
+    EXPECT_EQ(rows.counted, 1);
+    const auto page = static_cast<int>(shown.list().SendMessage(LVM_GETCOUNTPERPAGE));
+    EXPECT_GE(static_cast<int>(rows.askedRows.size()), page);
+    EXPECT_LE(static_cast<int>(rows.askedRows.size()), page + 2);
+
+    rows.askedRows.clear();
+    shown.list().SendMessage(LVM_ENSUREVISIBLE, MILLION - 1, FALSE);
+    UpdateWindow(shown.list().m_hWnd);
+    EXPECT_TRUE(rows.askedRows.contains(MILLION - 1));
+    EXPECT_LE(static_cast<int>(rows.askedRows.size()), 2 * (page + 2));
+}
+
+TEST_F(SourceRows, ShowTheirFirstThirdAndFourthField) {
+    Shown shown(DIALOG_OF_ROWS);
+    EXPECT_EQ(shown.cell(777'776, 0), L"777776.0");
+    EXPECT_EQ(shown.cell(777'776, 1), L"777776.2");
+    EXPECT_EQ(shown.cell(777'776, 2), L"777776.3");
+    EXPECT_EQ(shown.cell(777'776, 3), L"");
+    EXPECT_EQ(shown.cell(777'777, 2), L"") << "the row has no such field";
+}
+
+TEST_F(SourceRows, AreCutWhereTheListHasNoRoom) {
+    Shown shown(DIALOG_OF_ROWS);
+    wchar_t room[4] = {};
+    LVITEMW item{};
+    item.pszText = room;
+    item.cchTextMax = 4;
+    shown.list().SendMessage(LVM_GETITEMTEXTW, 12, reinterpret_cast<LPARAM>(&item));
+    EXPECT_STREQ(item.pszText, L"12.");
+}
+
+TEST_F(SourceRows, TakeThePlaceOfWaitingRows) {
+    const auto waiting = [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_listItems = {L"one", L"two"}; };
+    Shown shown(DIALOG_OF_ROWS, waiting);
+    EXPECT_EQ(rowCount(shown.list()), MILLION);
+    EXPECT_EQ(shown.cell(0, 0), L"0.0");
+    EXPECT_EQ(shown.list().m_columnRef, L"x\tFirst\tSecond\tThird\tFourth");
+}
+
+TEST_F(SourceRows, AreSelectedByTheirState) {
+    Shown shown(DIALOG_OF_ROWS, [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_value = L"500000"; });
+    EXPECT_EQ(shown.selected(), std::vector{500'000});
+    EXPECT_TRUE(shown.isInSight(500'000));
+    const LRESULT state = shown.list().SendMessage(LVM_GETITEMSTATE, 500'000, LVIS_FOCUSED);
+    EXPECT_EQ(state, LVIS_FOCUSED);
+
+    shown.dialog.setValueById(TABLE, L"999999");
+    EXPECT_EQ(shown.selected(), (std::vector{500'000, MILLION - 1}));
+    EXPECT_TRUE(shown.isInSight(MILLION - 1));
+    shown.dialog.setValueById(TABLE, L"1000000");
+    shown.dialog.setValueById(TABLE, L"-1");
+    EXPECT_EQ(shown.selected().size(), 2u);
+    shown.dialog.setValueByKey(L"table", L"-1");
+    EXPECT_EQ(shown.selected(), std::vector<int>());
+}
+
+TEST_F(SourceRows, AreNotAskedForByOtherListsOrWithoutASource) {
+    const auto counted = [](Shown& shown) {
+        shown.list().SendMessage(LVM_SETITEMCOUNT, 5);
+        UpdateWindow(shown.list().m_hWnd);
+        return shown.cell(2, 0);
+    };
+    Shown other(OTHER_DIALOG, [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_value = L"0"; });
+    EXPECT_EQ(rowCount(other.list()), 0);
+    EXPECT_EQ(counted(other), L"");
+    EXPECT_EQ(rows.counted + rows.asked, 0);
+
+    g_rowSource = nullptr;
+    Shown shown(DIALOG_OF_ROWS);
+    EXPECT_EQ(rowCount(shown.list()), 0);
+    EXPECT_EQ(counted(shown), L"");
+}
+
+}  // namespace
