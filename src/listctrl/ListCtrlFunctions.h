@@ -14,7 +14,7 @@ void listAddColumn(LispCall& call);
 void listAddItem(LispCall& call);
 
 // (wex_listctrl_setcolumnwidth tile column [width]) -> no value; nil without a list control or a column.
-// Device pixels; -2 fits the contents, -1 and none the header too.
+// Device pixels; -2 fits the contents, -1 and none the title.
 void listSetColumnWidth(LispCall& call);
 
 // (wex_listctrl_getcolumnwidth tile column) -> the width in pixels at 96 dots per inch, 0 where there is no

@@ -139,7 +139,7 @@
         (want (fix (+ 0.5 (/ 100 scale))) (wex_listctrl_getcolumnwidth "TABLE" 2))
         (want 0 (wex_listctrl_getcolumnwidth "TABLE" 5))))))
 
-(test "Width -2 fits the contents, -1 and none fit the header too"
+(test "Width -2 fits the contents, -1 and none fit the title"
   '((in-tables '(fill "TABLE" '("i" "a rather long cell")) "(wex_listctrl_setcolumns \"TABLE\" \"x\tA title longer than any cell of its column\")"
       '((wex_listctrl_setcolumnwidth "TABLE" 0 -2)
         (setq contents (car (widths "TABLE")))
