@@ -53,12 +53,15 @@ void addRow(const CWnd& list, const wchar_t* text, int operation) {
         appendRow(list, text);
 }
 
-void addItem(WexDialog& dialog, const wchar_t* text) {
-    CCtrlInfo* tile = dialog.m_listTile;
+// The dialog is asked for with each item: an alert for the one before lets others run.
+void addItem(const wchar_t* text) {
+    const WexDialog* dialog = currentDialog();
+    if (!dialog) return;
+    CCtrlInfo* tile = dialog->m_listTile;
     if (!tile) return alertText(TEXT_NO_LIST_OPEN);
     if (!tile->m_control) return tile->m_listItems.push_back(text);
     const CWnd& control = *tile->m_control;
-    const int operation = dialog.tileForControl(&control)->listOperation();
+    const int operation = dialog->tileForControl(&control)->listOperation();
     if (const EntryMessages* messages = messagesOf(control))
         addEntry(control, *messages, text, operation);
     else if (control.className() == L"SysListView32")
@@ -88,13 +91,11 @@ void startList(LispCall& call) {
 
 void addList(LispCall& call) {
     call.retVoid();
-    WexDialog* dialog = currentDialog();
-    if (!dialog) return;
     const HostValue* item = call.next();
-    if (item->type == HV_STRING) return addItem(*dialog, item->value.stringValue);
+    if (item->type == HV_STRING) return addItem(item->value.stringValue);
     if (item->type != HV_LIST_BEGIN) return;
     for (item = call.next(); item && item->type == HV_STRING; item = call.next())
-        addItem(*dialog, item->value.stringValue);
+        addItem(item->value.stringValue);
 }
 
 void endList(LispCall& call) {

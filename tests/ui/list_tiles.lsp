@@ -109,7 +109,8 @@
     (want nil (wex_start_list "LST"))
     (want nil (wex_end_list))
     (want nil (ui_alerts))
-    (in-lists '(progn (wex_add_list "x") (want 1 (length (ui_alerts))))
+    (in-lists '(progn (wex_add_list "x") (want 1 (length (ui_alerts)))
+                      (wex_add_list '("x" "y" 5 "z")) (want 2 (length (ui_alerts))))
       '((ui_click "Cancel")))))
 
 (test "Selecting an entry tells its index"
