@@ -65,7 +65,17 @@
         (wex_start_list "LST" -1)
         (wex_add_list "four")
         (want '("one" "two" "three" "four") (ui_items "LST"))
-        (ui_click "Cancel")))))
+        (ui_click "Cancel")))
+    ; Here the template disables the list, and 1 changes the selected row.
+    (ui_session "ODD_KINDS"
+      '((want nil (cdr (assoc "enabled" (ui_look "OFF"))))
+        (wex_add_list "ONE")
+        (want '("ONE" "two") (ui_items "OFF"))
+        (ui_click "Cancel")))
+    (wex_new_dialog "ODD_KINDS")
+    (wex_start_list "OFF" -1)
+    (wex_add_list '("one" "two"))
+    (wex_start_dialog)))
 
 (test "A mode that is set between the start of a list and its rows changes how they are added"
   '((in-lists '(fill "LST" '("one" "two"))
@@ -166,6 +176,17 @@
         (want '(bom) notes)
         (ui_dblclick "LST" 0)))
     (want '(bom ok) notes)))
+
+(test "A double click does nothing in a list box whose record says so before the run"
+  '((in-lists '(progn (fill "LST" '("one"))
+                      (wex_listctrl_enabledbclk "LST" nil)
+                      (wex_action_tile "OK" "(wex_done_dialog 1)"))
+      '((ui_dblclick "LST" 0)
+        (fill "LST" nil)
+        (ui_dblclick "LST")
+        (want T (cdr (assoc "enabled" (ui_look "OK"))))
+        (ui_click "Cancel")))
+    (want nil (ui_alerts))))
 
 (test "A double click presses OK where something is selected"
   '((setq notes nil)
