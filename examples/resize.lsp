@@ -33,7 +33,7 @@
   '((ui_size 420 320)
     (ui_shot "resize-small.png")
     (setq tiles '("MFG" "CAT" "B_BROWSE" "DESC" "OK") before (mapcar 'place tiles))
-    (ui_size 720 480)
+    (ui_drag "GRIP" 300 160)
     (ui_click "B_BROWSE")
     (ui_shot "resize-large.png")
     (print (ui_title))

@@ -34,6 +34,8 @@ wants "(600 500 200 100)" "$(starts 150 80 750 580)" "a window is not smaller th
 wants "(100 50 1280 1024)" "$(starts 4000 3000 4100 3050)" "nor larger than the screen"
 wants "(490 400 300 200)" "$(starts 300 200 9000 600)" "a window off the screen is centred across"
 wants "(600 412 300 200)" "$(starts 300 200 900 9000)" "or down"
+wants "(490 400 300 200)" "$(starts 300 200 -100 600)" "on the other side too"
+wants "(600 412 300 200)" "$(starts 300 200 900 -40)" "and above"
 wants "(-100 400 300 200)" "$(starts 300 200 200 600)" "a window that reaches out to the left and is seen stays"
 
 # The place of a window whose position values are 0 is the template's, its size the stored one; and 0 stays.

@@ -24,7 +24,8 @@ cat >"$work/resize.lsp" <<'LISP'
   (wex_start_dialog))
 
 (many '((ui_size 720 900) (ui_close)))
-(many '((ui_shot "start.png") (ui_size 1140 960) (ui_size 600 720) (ui_size 720 900) (ui_shot "resized.png")
+(many '((ui_shot "start.png") (ui_size 1140 960) (ui_size 600 720) (ui_size 720 900)
+        (ui_drag "GRIP" 90 30) (ui_drag "GRIP" -90 -30) (ui_shot "resized.png")
         (ui_size 900 960) (ui_close)))
 (many '((ui_shot "start-large.png") (ui_size 720 900) (progn (ui_size 600 800) (ui_size 900 960))
         (ui_shot "resized-large.png") (ui_close)))
