@@ -29,14 +29,16 @@ const MessageMap& WexFrame::messageMap() const {
     return map;
 }
 
-void WexFrame::attach(WexDialog& dialog, CDataExchange&, int id) {
-    CWnd* groupBox = dialog.GetDlgItem(id);
+void WexFrame::attach(WexDialog& dialog, CDataExchange&, int id) { replace(dialog, id); }
+
+void WexFrame::replace(const CWnd& parent, int id) {
+    CWnd* groupBox = parent.GetDlgItem(id);
     const CString caption = groupBox->GetWindowText();
     const RECT rect = groupBox->rectInParent();
-    const HFONT font = dialog.GetFont();
+    const HFONT font = parent.GetFont();
     groupBox->DestroyWindow();
     registerFrameClass();
-    if (!CreateEx(0, FRAME_CLASS, L"", FRAME_WINDOW_STYLE, rect, dialog.m_hWnd, static_cast<UINT>(id)))
+    if (!CreateEx(0, FRAME_CLASS, L"", FRAME_WINDOW_STYLE, rect, parent.m_hWnd, static_cast<UINT>(id)))
         return;
     createGroupBox(caption, font);
     lower();

@@ -9,8 +9,9 @@ class WexFrame : public CWnd, public TileControl {
 
   public:
     CWnd& wnd() override { return *this; }
-    // Puts the frame in the place of the template's group box.
     void attach(WexDialog& dialog, CDataExchange& exchange, int id) override;
+    // Puts the frame in the place of the group box of that id.
+    void replace(const CWnd& parent, int id);
 
   protected:
     const MessageMap& messageMap() const override;

@@ -176,6 +176,12 @@
       '((ui_type "DESC" "3") (ui_click "ASMB") (want "3.00" (ui_text "DESC")) (ui_click "Cancel"))))
     (want '(-1 "desc") notes)))
 
+(test "A box tells the key that it has in its own dialog, also when another one is current"
+  '((leaving "(note $key)"
+      '((ui_type "DESC" "3") (wex_new_dialog "CONFIRM_DELREC") (ui_click "ASMB") (want '("desc") notes)
+        (progn (ui_session "CONFIRM_DELREC" '((ui_click "OK"))) (wex_start_dialog))
+        (ui_click "Cancel")))))
+
 (test "The action of a box that is left may end the dialog"
   '((want 5 (leaving "(note $value) (wex_done_dialog 5)" '((ui_type "DESC" "3") (ui_click "ASMB"))))
     (want '("3") notes)))

@@ -21,13 +21,18 @@
   '((want (list frame "Add Catalog Record")
           (owners-of '(open-dialog "ADD_REC"
                         '(progn (wex_new_dialog "EDIT_REC")
+                                (t_window "other_window" "In front")
                                 (want "Add Catalog Record" (box-owner))
+                                (t_window)
                                 (open-dialog "CONFIRM_DELREC" nil)
                                 ; EDIT_REC is current again, and runs now.
                                 (ui_session "EDIT_REC" '((ui_click "Cancel")))
                                 (wex_start_dialog)))))
     ; With nothing else to belong to, it is the active window.
     (wex_new_dialog "ADD_REC")
+    (t_window "other_window" "In front")
+    (want "In front" (box-owner))
+    (t_window)
     (want (list frame) (owners-of '(open-dialog "CONFIRM_DELREC" nil)))
     (ui_session "ADD_REC" '((ui_click "Cancel")))
     (wex_start_dialog)))

@@ -19,12 +19,10 @@ std::vector<Event> g_events;
 
 }  // namespace
 
-// In place of the product's, which tell a dialog and Lisp.
+// In place of the product's, which tells Lisp.
 void publish(const CWnd&, const CString& value, EventReason reason, const CString& action) {
     g_events.push_back({value, reason, action});
 }
-void TileControl::attach(WexDialog&, CDataExchange&, int) {}
-void TileControl::applyRecord(CCtrlInfo&) {}
 
 namespace {
 
