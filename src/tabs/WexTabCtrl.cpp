@@ -101,7 +101,7 @@ void WexTabCtrl::redraw(const PageChange& change) const {
     for (const CWnd* member : change.show)
         if (member->isLive())
             RedrawWindow(member->m_hWnd, nullptr, nullptr,
-                         RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+                         RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
 // --- keys

@@ -210,6 +210,15 @@
         (foreach y (mapcar '(lambda (part) (/ (* part (height "TAB")) 10)) '(2 3 4 5 6 7 8 9))
           (want (list y page) (cons y (colors "TAB" left right y))))))))
 
+(test "A list control shows with its header where labels and boxes were"
+  '((ui_session "SETUP_COMPONENT_XREF"
+      '((ui_pick "TABS" 1)
+        (want 1 (length (colors "TYPES" 3 (- (width "TYPES") 3) (/ (height "TYPES") 12))))
+        (ui_click "Cancel")))
+    (wex_new_dialog "SETUP_COMPONENT_XREF")
+    (wex_setaction_oninit "(wex_tab_add \"TABS\" \"Format\" \"LABEL0\" \"SAME_FMT\") (wex_tab_add \"TABS\" \"Types\" \"TYPES\")")
+    (wex_start_dialog)))
+
 (test "A frame whose id is higher than the tab control's lies below it"
   '((in-tabs "(wex_tab_add \"TAB\" \"First\" \"HIGH_FRAME\")"
       '((want '("HIGH_FRAME") (shown '("HIGH_FRAME")))
