@@ -8,8 +8,11 @@ namespace {
 
 constexpr UINT BACKGROUND_ID = 6000;
 
-// Dialogs see group boxes and labels as such that leave free what lies behind them.
-bool isSeeThrough(const CWnd& control) { return control.SendMessage(WM_GETDLGCODE) & DLGC_STATIC; }
+// Whether what lies behind the control may show in it: in group boxes and labels, and in such as leave parts
+// to children, as a list control does, whose header may fill nothing but its columns.
+bool isSeeThrough(const CWnd& control) {
+    return GetWindow(control.m_hWnd, GW_CHILD) || control.SendMessage(WM_GETDLGCODE) & DLGC_STATIC;
+}
 
 // Edit boxes have a background of their own, also such that can't be edited.
 bool hasOwnBackground(const CWnd& control) { return control.SendMessage(WM_GETDLGCODE) & DLGC_HASSETSEL; }

@@ -216,7 +216,7 @@
         (want 1 (length (colors "TYPES" 3 (- (width "TYPES") 3) (/ (height "TYPES") 12))))
         (ui_click "Cancel")))
     (wex_new_dialog "SETUP_COMPONENT_XREF")
-    (wex_setaction_oninit "(wex_tab_add \"TABS\" \"Format\" \"LABEL0\" \"SAME_FMT\") (wex_tab_add \"TABS\" \"Types\" \"TYPES\")")
+    (wex_setaction_oninit "(wex_tab_add \"TABS\" \"Format\" \"MODE\" \"TEXT\" \"FORMATS\" \"LABEL0\" \"SAME_FMT\") (wex_tab_add \"TABS\" \"Types\" \"TYPES\")")
     (wex_start_dialog)))
 
 (test "A frame whose id is higher than the tab control's lies below it"
