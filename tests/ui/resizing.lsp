@@ -88,6 +88,17 @@
     (wex_new_dialog "ADD_REC")
     (wex_start_dialog)))
 
+; The colors of a tile's lower edge.
+(defun lower-edge (tile / size)
+  (setq size (cddr (rect tile)))
+  (mapcar '(lambda (x) (ui_pixel tile x (1- (cadr size)))) (range (car size))))
+
+(test "The grip leaves a button as it is whose corner stands in its place"
+  '((in-growing '(wex_setresizing "HELP" 75)
+      '((wex_mode_tile "MSG" 6)
+        (want (lower-edge "Cancel") (lower-edge "HELP"))
+        (ui_click "Cancel")))))
+
 (test "Whichever border is dragged too far in, right and bottom give way"
   '((ui_session "DISP_LOCS_ON_DWG"
       '((ui_size 500 400)

@@ -52,10 +52,11 @@ class CDC {
     HDC m_hDC;
 };
 
-// The client area of a window, or with null the whole screen.
+// The client area of a window without its children, or with null the whole screen.
 class ClientDC : public CDC {
   public:
-    explicit ClientDC(HWND window) : CDC(::GetDC(window)), m_window(window) {}
+    explicit ClientDC(HWND window)
+        : CDC(::GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPCHILDREN)), m_window(window) {}
     ~ClientDC() { ::ReleaseDC(m_window, m_hDC); }
 
   private:
