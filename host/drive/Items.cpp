@@ -261,11 +261,12 @@ std::vector<ColumnHead> columnHeads(HWND control) {
     for (int column = 0; column < count; ++column) {
         std::wstring title(MOST_TEXT_CHARS, L'\0');
         HDITEMW item{};
-        item.mask = HDI_TEXT | HDI_WIDTH;
+        item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
         item.pszText = title.data();
         item.cchTextMax = MOST_TEXT_CHARS;
         SendMessageW(header, HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&item));
-        heads.push_back({item.pszText, item.cxy});
+        const int direction = item.fmt & HDF_SORTUP ? 1 : item.fmt & HDF_SORTDOWN ? -1 : 0;
+        heads.push_back({item.pszText, item.cxy, direction});
     }
     return heads;
 }

@@ -34,7 +34,8 @@ std::unique_ptr<Items> itemsOf(HWND control);
 
 struct ColumnHead {
     std::wstring title;
-    int width;  // device pixels
+    int width;      // device pixels
+    int direction;  // 1 where its arrow points up, -1 down, 0 without an arrow
 };
 
 // The columns of a list view from left to right, none for another control.

@@ -215,11 +215,12 @@ Value pixel(Call& call) { return pixelOf(Tile(call, 0), call.integer(1), call.in
 // (ui_box)
 Value box(Call& call) { return lookOf(call.lisp, player().lastBox()); }
 
-// (ui_columns tile): title and width of each.
+// (ui_columns tile): title, width and direction of each.
 Value columns(Call& call) {
     lisp::ListBuilder list(call.lisp);
     for (const ColumnHead& head : columnHeads(Tile(call, 0).window()))
-        list.add(call.lisp.list({text(call, head.title), Value::integer(head.width)}));
+        list.add(call.lisp.list(
+            {text(call, head.title), Value::integer(head.width), Value::integer(head.direction)}));
     return list.list();
 }
 

@@ -47,26 +47,29 @@ const MessageMap& WexListCtrl::messageMap() const {
     return map;
 }
 
-// kept: a press beside the rows is lost. It neither clears the selection nor moves the focus here.
-void WexListCtrl::onLeftDown(UINT /*keys*/, POINT at) {
+// What the platform does at a press on a row. False where there was no row, or the list is gone. kept: a
+// press beside the rows is lost. It neither clears the selection nor moves the focus here.
+bool WexListCtrl::pressRow(POINT at) {
     const int row = rowAt(*this, at);
-    if (row < 0) return;
-    Default();
-    if (!isLive()) return;
-    m_lastRow = row;
+    if (row < 0) return false;
+    // A list that hasn't learned that it lost the focus doesn't take it back by itself.
+    if (::GetFocus() != m_hWnd) SetFocus();
+    if (isLive()) Default();
+    if (isLive()) m_lastRow = row;
+    return isLive();
+}
+
+void WexListCtrl::onLeftDown(UINT /*keys*/, POINT at) {
+    if (!pressRow(at)) return;
     std::vector<int> rows = selectedRows(*this);
-    if (rows.empty()) rows.push_back(row);
+    if (rows.empty()) rows.push_back(m_lastRow);
     publish(*this, selectionText(rows), REASON_ROWS, m_action);
 }
 
 void WexListCtrl::onRightDown(UINT /*keys*/, POINT at) {
-    const int row = rowAt(*this, at);
-    if (row < 0) return;
     // kept: where nothing was selected, the row that the press selects isn't told.
     const bool hadSelection = firstSelectedRow(*this) >= 0;
-    Default();
-    if (!isLive()) return;
-    m_lastRow = row;
+    if (!pressRow(at)) return;
     publish(*this, hadSelection ? selectionText(selectedRows(*this)) : CString(), REASON_ROWS, m_action);
 }
 

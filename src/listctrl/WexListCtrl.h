@@ -38,6 +38,7 @@ class WexListCtrl : public CListCtrl, public TileControl {
 
     // --- mouse and keys (ListEvents.cpp)
 
+    bool pressRow(POINT at);
     void onLeftDown(UINT keys, POINT at);
     void onRightDown(UINT keys, POINT at);
     void onLeftDoubleClick(UINT keys, POINT at);

@@ -1,0 +1,245 @@
+; What a person does to a list control with mouse and keys, and what Lisp is told of it.
+
+(defun note (what) (setq notes (append notes (list what))))
+
+(defun fill (tile)
+  (wex_listctrl_setcolumns tile "x\tName\tSize")
+  (wex_start_list tile)
+  (wex_add_list '("alpha\t10" "beta\t9" "gamma\t100"))
+  (wex_end_list))
+
+; A session on a list of three rows in which several can be selected, and then Cancel.
+(defun in-list (init session)
+  (setq notes nil)
+  (ui_session "PICK_DWGS" (append session '((ui_click "Cancel"))))
+  (wex_new_dialog "PICK_DWGS")
+  (fill "LST1")
+  (wex_action_tile "LST1" "(note (list $key $value $reason))")
+  (eval init)
+  (wex_start_dialog))
+
+; One that ends by itself, on a list that has room for one selected row. Gives the status.
+(defun in-single-list (init session)
+  (setq notes nil)
+  (ui_session "CAT_PICK_LST" session)
+  (wex_new_dialog "CAT_PICK_LST")
+  (fill "LST")
+  (wex_action_tile "LST" "(note (list $value $reason))")
+  (eval init)
+  (wex_start_dialog))
+
+(defun selected () (cdr (assoc "selected" (ui_look "LST1"))))
+(defun has-focus (tile) (cdr (assoc "focus" (ui_look tile))))
+
+; The notes since the last call.
+(defun told (/ was) (setq was notes notes nil) was)
+
+(test "A press of the left button tells all selected rows"
+  '((in-list nil
+      '((ui_pick "LST1" 1)
+        (want '(("lst1" "1" 5)) (told))
+        (ui_pick "LST1" '(2 0))
+        (want '(("lst1" "2" 5) ("lst1" "0 2" 5)) (told))
+        (want '(0 2) (wex_listctrl_getselectednths "LST1"))))))
+
+(test "A press that leaves no row selected tells the row under the mouse"
+  '((in-list nil
+      '((ui_pick "LST1" '(1 1))
+        (want nil (selected))
+        (want '(("lst1" "1" 5) ("lst1" "1" 5)) (told))))))
+
+(test "A press of the right button tells the rows selected then; without a selection before, none"
+  '((in-list nil
+      '((ui_rclick "LST1" 2)
+        (want '(("lst1" "" 5)) (told))
+        (want '(2) (selected))
+        (ui_rclick "LST1" 0)
+        (want '(("lst1" "0" 5)) (told))
+        (want '(0) (selected))))))
+
+(test "A press beside the rows does nothing at all"
+  '((in-list nil
+      '((ui_pick "LST1" 1)
+        (wex_mode_tile "UNSELECT" 2)
+        (told)
+        (ui_click "LST1")
+        (ui_rclick "LST1")
+        (want '(1) (selected))
+        (want nil (has-focus "LST1"))
+        (want nil (told))
+        (ui_pick "LST1" 2)
+        (want T (has-focus "LST1"))
+        (wex_mode_tile "UNSELECT" 2)
+        (ui_rclick "LST1" 2)
+        (want T (has-focus "LST1"))))))
+
+(test "Each key that is released tells the selected rows, once"
+  '((in-list nil
+      '((ui_key "F2" "LST1")
+        (want '(("lst1" "" 5)) (told))
+        (ui_pick "LST1" 0)
+        (told)
+        (ui_key "DOWN")
+        (want '(("lst1" "1" 5)) (told))
+        (ui_key "SHIFT+DOWN")
+        (want '(("lst1" "1 2" 5)) (told))
+        (ui_key "HOME")
+        (want '(("lst1" "0" 5)) (told))
+        (ui_key "TAB")
+        (want '(("lst1" "0" 5)) (told))
+        (want nil (has-focus "LST1"))))))
+
+(test "Typing a name goes to its row"
+  '((in-list nil
+      '((ui_pick "LST1" 0)
+        (told)
+        (ui_char "g" "LST1")
+        (want '(2) (selected))
+        (want nil (told))))))
+
+(test "Enter presses the default button, and Esc cancels"
+  '((setq pressed nil)
+    (in-single-list '(wex_action_tile "OK" "(setq pressed T) (wex_done_dialog 5)")
+      '((ui_pick "LST" 1) (ui_key "ENTER")))
+    (want T pressed)
+    (want -1 (in-single-list nil '((ui_pick "LST" 1) (ui_key "ESC"))))))
+
+(test "A double click tells the press, then the row, and then presses OK"
+  '((want 7 (in-single-list
+              '(wex_action_tile "OK" "(note (list $key $value $reason)) (wex_done_dialog 7)")
+              '((ui_dblclick "LST" 1))))
+    (want '(("1" 5) ("1" 10) ("ok" "0" 1)) notes)))
+
+(test "OK without an action is pressed also where the action has ended the dialog already"
+  '((want -1 (in-single-list '(wex_action_tile "LST" "(if (= $reason 10) (wex_done_dialog 4))")
+               '((ui_dblclick "LST" 2))))
+    (want 4 (in-single-list '(progn (wex_action_tile "LST" "(if (= $reason 10) (wex_done_dialog 4))")
+                                    (wex_action_tile "OK" "(note \"ok\")"))
+              '((ui_dblclick "LST" 2))))
+    (want '("ok") notes)))
+
+(test "A double click presses OK also where it is disabled"
+  '((want 7 (in-single-list '(progn (wex_action_tile "OK" "(wex_done_dialog 7)") (wex_mode_tile "OK" 1))
+              '((ui_dblclick "LST" 0))))))
+
+; The second press of a double click beside the rows is the only one that the control gets. This platform
+; keeps a selection there, so it is Lisp that clears it.
+(test "A double click beside the rows brings back the row touched last"
+  '((in-list '(wex_action_tile "OK" "(note \"ok\")")
+      '((ui_pick "LST1" 1)
+        (wex_set_tile "LST1" "-1")
+        (want nil (selected))
+        (told)
+        (ui_dblclick "LST1")
+        (want '(1) (selected))
+        (want nil (told))
+        (ui_rclick "LST1" 2)
+        (wex_set_tile "LST1" "-1")
+        (ui_dblclick "LST1")
+        (want '(2) (selected))
+        (wex_start_list "LST1")
+        (wex_add_list '("only\t1"))
+        (ui_dblclick "LST1")
+        (want nil (selected))))))
+
+(test "Beside the rows a double click with a selection, or before any row was touched, does nothing"
+  '((in-list nil
+      '((ui_dblclick "LST1")
+        (want nil (selected))
+        (wex_set_tile "LST1" "0")
+        (told)
+        (ui_dblclick "LST1")
+        (want '(0) (selected))
+        (want nil (told))))))
+
+(defun restored ()
+  (wex_set_tile "LST1" "-1")
+  (ui_dblclick "LST1"))
+
+(test "The arrow keys count as touching the row that they go to"
+  '((in-list nil
+      '((ui_pick "LST1" 1) (ui_key "DOWN") (restored) (want '(2) (selected))))
+    (in-list nil
+      '((ui_pick "LST1" 1) (ui_key "UP") (restored) (want '(0) (selected))))
+    (in-list nil
+      '((ui_pick "LST1" 0) (ui_key "UP") (restored) (want '(0) (selected))))
+    (in-list nil
+      '((ui_pick "LST1" 2) (ui_key "DOWN") (restored) (want nil (selected))))
+    (in-list nil
+      '((ui_pick "LST1" 1) (ui_key "HOME") (restored) (want '(1) (selected))))))
+
+(test "Without double clicks the second press is no press at all"
+  '((setq rows '((ui_dblclick "LST" 1) (want '(("1" 5)) (told))
+                 (wex_set_tile "LST" "-1") (ui_dblclick "LST") (want nil (wex_listctrl_getselectednths "LST"))
+                 (wex_listctrl_enabledbclk "LST" T) (ui_dblclick "LST" 2)))
+    (foreach off '((wex_listctrl_enabledbclk "LST" nil) (wex_listctrl_enabledbclk 114 7))
+      (want -1 (in-single-list off rows))
+      (want '(("2" 5) ("2" 10)) notes))
+    (in-single-list nil
+      '((wex_listctrl_enabledbclk "lst" nil) (ui_dblclick "LST" 1) (want '(("1" 5)) (told)) (ui_key "ESC")))))
+
+(test "A list box takes the setting before it has a window only"
+  '((ui_session "DISP_ASSYVALS"
+      '((ui_dblclick "LST" 1)
+        (want "1" (wex_get_tile "LST"))
+        (want nil (wex_listctrl_enabledbclk "LST" T))
+        (want 2 (length (ui_alerts)))
+        (ui_dblclick "LST" 1)
+        (ui_click "Cancel")))
+    (wex_new_dialog "DISP_ASSYVALS")
+    (wex_listctrl_enabledbclk "LST" nil)
+    (wex_start_list "LST")
+    (wex_add_list '("one" "two"))
+    (wex_action_tile "OK" "(want nil \"OK\")")
+    (wex_start_dialog)))
+
+; LINES takes what is on the clipboard.
+(defun in-kinds (session)
+  (setq notes nil)
+  (ui_session "ODD_KINDS" (append session '((ui_click "Cancel"))))
+  (wex_new_dialog "ODD_KINDS")
+  (fill "LISTVIEW")
+  (wex_action_tile "LISTVIEW" "(note $value)")
+  (wex_start_dialog))
+
+(defun paste () (wex_set_tile "LINES" "") (ui_key "CTRL+V" "LINES"))
+
+(test "Copying puts titles and selected rows on the clipboard; the keys are told as ever"
+  '((in-kinds
+      '((ui_pick "LISTVIEW" '(0 2))
+        (told)
+        (ui_key "CTRL+C")
+        (want '("0 2") (told))
+        (paste)
+        (want "Name\tSize\r\nalpha\t10\r\ngamma\t100\r\n" (wex_get_tile "LINES"))
+        (ui_pick "LISTVIEW" 1)
+        (ui_key "CTRL+INSERT")
+        (paste)
+        (want "Name\tSize\r\nbeta\t9\r\n" (wex_get_tile "LINES"))
+        (wex_set_tile "LISTVIEW" "-1")
+        (ui_key "CTRL+C" "LISTVIEW")
+        (ui_key "C" "LISTVIEW")
+        (paste)
+        (want "Name\tSize\r\nbeta\t9\r\n" (wex_get_tile "LINES"))))))
+
+(test "What the functions give for other tiles and arguments"
+  '((setq calls '(wex_listctrl_allowsorting wex_listctrl_getselectednths wex_listctrl_enabledbclk
+                      wex_listctrl_keephighlight))
+    (foreach call calls
+      (want nil (apply call nil))
+      (want 1 (length (ui_alerts))))
+    (foreach call calls (want nil (apply call '("LST1" T))))
+    (in-list nil
+      '((foreach row '((wex_listctrl_allowsorting 1) (wex_listctrl_getselectednths 1)
+                       (wex_listctrl_enabledbclk 2) (wex_listctrl_keephighlight 1))
+          (want nil (apply (car row) '("OK" T)))
+          (want (cadr row) (length (ui_alerts))))
+        (foreach call calls
+          (want nil (apply call '("LST1")))
+          (want nil (apply call '("NOWHERE" T)))
+          (want nil (ui_alerts)))
+        (want nil (wex_listctrl_allowsorting "LST1" nil))
+        (want 1 (length (ui_alerts)))
+        (wex_listctrl_enabledbclk "LST1" "T")
+        (wex_listctrl_keephighlight "LST1" 1)
+        (want nil (ui_alerts))))))
