@@ -50,7 +50,9 @@ const MessageMap& WexTabCtrl::messageMap() const {
     return map;
 }
 
-void WexTabCtrl::discovered(WexDialog&, CCtrlInfo&) {
+void WexTabCtrl::discovered(WexDialog&, CCtrlInfo&) { setUp(); }
+
+void WexTabCtrl::setUp() {
     m_background.CreateEx(0, L"Static", L"", WS_CHILD | WS_VISIBLE, RECT{}, m_hWnd, BACKGROUND_ID);
     placeBackground();
     lower();

@@ -16,6 +16,8 @@ class WexTabCtrl : public CTabCtrl, public TileControl {
 
     CWnd& wnd() override { return *this; }
     void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
+    // Makes the background, and puts the control under all of its siblings.
+    void setUp();
 
     // Adds a tab with a page of those controls. May run Lisp, as the focus leaves a control that is hidden.
     // Raises CInvalidArgException where the control has tabs that weren't added here.

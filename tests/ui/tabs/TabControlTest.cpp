@@ -1,0 +1,87 @@
+// What a tab control is made of, and what it does with the members of its pages, on windows of its own.
+#include <gtest/gtest.h>
+
+#include "src/tabs/WexTabCtrl.h"
+
+namespace {
+
+// Counts the notifications that nobody took.
+class Parent : public CWnd {
+  public:
+    int notifications = 0;
+    const MessageMap& messageMap() const override {
+        static const MessageMap map(CWnd::messageMap(), {onRaw<WM_NOTIFY, &Parent::onNotify>()});
+        return map;
+    }
+
+  private:
+    LRESULT onNotify(WPARAM, LPARAM header) {
+        if (reinterpret_cast<const NMHDR*>(header)->code == static_cast<UINT>(TCN_SELCHANGE)) ++notifications;
+        return 0;
+    }
+};
+
+class TabControl : public testing::Test {
+  protected:
+    TabControl() {
+        parent.CreateEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, RECT{0, 0, 400, 300}, nullptr, 0);
+        tab.CreateEx(0, L"SysTabControl32", L"", WS_CHILD | WS_VISIBLE, RECT{0, 0, 300, 200}, parent.m_hWnd,
+                     110);
+        for (CWnd* member : {&first, &second})
+            member->CreateEx(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, RECT{20, 50, 120, 70}, parent.m_hWnd, 0);
+        tab.setUp();
+    }
+
+    Parent parent;
+    WexTabCtrl tab;
+    CEdit first, second;
+};
+
+TEST_F(TabControl, LiesUnderItsSiblingsWithABlankBackgroundThatFollowsItsSize) {
+    EXPECT_EQ(GetWindow(first.m_hWnd, GW_HWNDLAST), tab.m_hWnd);
+    const HWND background = GetDlgItem(tab.m_hWnd, 6000);
+    ASSERT_EQ(background, tab.m_background.m_hWnd);
+    EXPECT_EQ(tab.m_background.className(), L"Static");
+    EXPECT_EQ(tab.m_background.GetWindowText(), L"");
+    EXPECT_EQ(tab.m_background.GetStyle(), DWORD{WS_CHILD | WS_VISIBLE});
+    for (const RECT size : {RECT{0, 0, 300, 200}, RECT{5, 5, 205, 405}}) {
+        tab.MoveWindow(size);
+        const RECT client = tab.GetClientRect();
+        const RECT rect = tab.m_background.rectInParent();
+        EXPECT_EQ(rect.left, 2);
+        EXPECT_EQ(rect.top, 4);
+        EXPECT_EQ(rect.right, client.right - 4);
+        EXPECT_EQ(rect.bottom, client.bottom - 4);
+    }
+}
+
+TEST_F(TabControl, AddsTabsWithoutPictureAndData) {
+    tab.addPage(L"First", {});
+    tab.addPage(L"Second", {});
+    wchar_t text[20];
+    TCITEMW item = {};
+    item.mask = TCIF_TEXT | TCIF_IMAGE | TCIF_PARAM;
+    item.iImage = 7;
+    item.lParam = 7;
+    item.pszText = text;
+    item.cchTextMax = 20;
+    ASSERT_TRUE(tab.SendMessage(TCM_GETITEMW, 1, reinterpret_cast<LPARAM>(&item)));
+    EXPECT_STREQ(item.pszText, L"Second");
+    EXPECT_EQ(item.iImage, -1);
+    EXPECT_EQ(item.lParam, 0);
+    EXPECT_EQ(tab.SendMessage(TCM_GETCURSEL), 0);
+}
+
+TEST_F(TabControl, TakesTheNotificationOfAChangeAndPassesOverMembersThatAreGone) {
+    tab.addPage(L"First", {&first});
+    tab.addPage(L"Second", {&second});
+    tab.SendMessage(TCM_SETCURFOCUS, 1);
+    EXPECT_FALSE(IsWindowVisible(first.m_hWnd));
+    EXPECT_TRUE(IsWindowVisible(second.m_hWnd));
+    first.DestroyWindow();
+    tab.SendMessage(TCM_SETCURFOCUS, 0);
+    EXPECT_FALSE(IsWindowVisible(second.m_hWnd));
+    EXPECT_EQ(parent.notifications, 0);
+}
+
+}  // namespace
