@@ -29,6 +29,10 @@
         (ui_click "Cancel")))
     (want '("1-2") notes)))
 
+(test "A fraction is typed with a dash and shown with a blank"
+  '((with-box "wex_edit_setasnumeric" 5 2
+      '((ui_type "DESC" "17 -1/2") (ui_click "ASMB") (want "17 1/2" (ui_text "DESC")) (ui_click "Cancel")))))
+
 (test "An empty box that is left shows zero; one that is only visited is rewritten too"
   '((with-box "wex_edit_setasnumeric" 2 4
       '((ui_click "DESC") (ui_click "ASMB") (want "0.0000" (ui_text "DESC"))
