@@ -122,12 +122,16 @@ void WexListCtrl::noteArrow(WPARAM key) {
     if (key == VK_UP && first >= 1) m_lastRow = first - 1;
 }
 
+bool WexListCtrl::hasClickableHeads() const {
+    return !(GetStyle() & (LVS_NOCOLUMNHEADER | LVS_NOSORTHEADER));
+}
+
 // Ctrl+C copies the selected rows; Ctrl+1 to Ctrl+9 are the clicks on the heads of the first nine columns.
 void WexListCtrl::onKeyDown(UINT key, UINT /*flags*/) {
     if (isControlAlone()) {
         const int column = static_cast<int>(key) - '1';
         if (key == 'C' || key == VK_INSERT) copySelectedRows(*this);
-        if (column >= 0 && column < 9 && column < columnCount(*this)) sortBy(column);
+        if (column >= 0 && column < 9 && column < columnCount(*this) && hasClickableHeads()) sortBy(column);
     }
     Default();
 }

@@ -47,6 +47,7 @@ class WexListCtrl : public CListCtrl, public TileControl {
     // does.
     void onItemChange(NMHDR* /*header*/) {}
     void onColumnClick(NMHDR* header);
+    bool hasClickableHeads() const;
     void onKeyDown(UINT key, UINT flags);
     void onKillFocus(CWnd* to);
     void noteArrow(WPARAM key);

@@ -118,9 +118,11 @@
               '((ui_dblclick "LST" 2))))
     (want '("ok") notes)))
 
-(test "A double click presses OK also where it is disabled"
-  '((want 7 (in-single-list '(progn (wex_action_tile "OK" "(wex_done_dialog 7)") (wex_mode_tile "OK" 1))
-              '((ui_dblclick "LST" 0))))))
+(test "A double click presses OK also where it is disabled, and leaves the focus on the list"
+  '((want 7 (in-single-list '(progn (wex_action_tile "OK" "(note (has-focus \"LST\")) (wex_done_dialog 7)")
+                                    (wex_mode_tile "OK" 1))
+              '((ui_dblclick "LST" 0))))
+    (want T (car (reverse notes)))))
 
 ; The second press of a double click beside the rows is the only one that the control gets. This platform
 ; keeps a selection there, so it is Lisp that clears it.
@@ -192,6 +194,27 @@
     (wex_add_list '("one" "two"))
     (wex_action_tile "OK" "(want nil \"OK\")")
     (wex_start_dialog)))
+
+; The color of the selected row at the right of its text.
+(defun row-color () (ui_pixel "LST1" 60 42))
+
+(test "The selection keeps its color when the focus leaves, until Lisp lets it fade"
+  '((in-list nil
+      '((ui_pick "LST1" 1)
+        (setq kept (row-color))
+        (want nil (= kept (ui_pixel "LST1" 60 26)))
+        (wex_mode_tile "UNSELECT" 2)
+        (want nil (has-focus "LST1"))
+        (want kept (row-color))
+        (wex_mode_tile "LST1" 2)
+        (wex_listctrl_keephighlight "LST1" nil)
+        (want kept (row-color))
+        (wex_mode_tile "UNSELECT" 2)
+        (want nil (= kept (row-color)))
+        (wex_listctrl_keephighlight "LST1" T)
+        (ui_pick "LST1" 1)
+        (wex_mode_tile "UNSELECT" 2)
+        (want kept (row-color))))))
 
 ; LINES takes what is on the clipboard.
 (defun in-kinds (session)
