@@ -1,6 +1,6 @@
 #!/bin/bash
-# A dialog of 77 tiles that was sized to and fro looks as one that starts in that size, and where Lisp moved tiles it looks as
-# when all is drawn anew: nothing is left behind or missing. Usage: tests/ui/resized_pictures.sh [KIND]    another kind of start_wine, as headless-classic
+# A dialog of 77 tiles that was sized to and fro looks as one that starts in that size, and so does a page, also one that was
+# hidden meanwhile; where Lisp moved tiles the dialog looks as when all is drawn anew: nothing is left behind or missing. Usage: tests/ui/resized_pictures.sh [KIND]    another kind of start_wine, as headless-classic
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . tools/wine-env.sh
@@ -48,8 +48,27 @@ cat >"$work/resize.lsp" <<'LISP'
     (ui_close)))
 (wex_new_dialog "ODD_MANY")
 (wex_start_dialog)
+
+(defun pages (session)
+  (ui_session "HELP_PROJ_SETTINGS" (append session '((ui_close))))
+  (wex_new_dialog "HELP_PROJ_SETTINGS")
+  (foreach anchor '((115 63) (112 25) (113 25) (114 63) (116 63) (117 25) (118 63) (119 39) (1 75) (2 75))
+    (wex_setresizing (car anchor) (cadr anchor)))
+  (wex_set_tile "TEXT" "Text in a frame")
+  (wex_setaction_oninit
+    "(wex_tab_add \"TABS\" \"Settings\" \"LABEL0\" \"TOPICS\" \"ABOUT\" \"TEXT\")
+     (wex_tab_add \"TABS\" \"Files\" \"LABEL1\" \"FILES\" \"B_OPEN\")
+     (wex_tab_add \"TABS\" \"Notes\" \"LABEL2\" \"NOTES\")")
+  (wex_start_dialog))
+
+(pages '((ui_size 800 660)))
+(pages '((ui_pick "TABS" 0) (ui_shot "page.png") (ui_size 1100 900) (ui_size 700 600)
+         (ui_drag "GRIP" 100 60) (ui_shot "page-resized.png")
+         (ui_pick "TABS" 1) (ui_size 900 800) (ui_pick "TABS" 0) (ui_size 800 660) (ui_shot "page-turned.png")))
 LISP
 wine64 build/windows/testbin/wexhost.exe --headless --timeout 60 --shots "$work" "$work/resize.lsp"
 cmp "$work/start.png" "$work/resized.png"
 cmp "$work/start-large.png" "$work/resized-large.png"
 cmp "$work/moved.png" "$work/drawn-anew.png"
+cmp "$work/page.png" "$work/page-resized.png"
+cmp "$work/page.png" "$work/page-turned.png"
