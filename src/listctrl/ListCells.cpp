@@ -9,7 +9,7 @@ int columnCount(const CWnd& list) {
     return header ? static_cast<int>(::SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
 }
 
-int rowCount(const CWnd& list) { return static_cast<int>(list.SendMessage(LVM_GETITEMCOUNT)); }
+int rowCount(const CWnd& list) { return static_cast<int>(list.sendStraight(LVM_GETITEMCOUNT)); }
 
 CString columnTitle(const CWnd& list, int column) {
     wchar_t title[256] = {};

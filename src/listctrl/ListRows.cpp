@@ -15,14 +15,14 @@ int insertItem(const CWnd& list, int index, CString& text) {
     item.iItem = index;
     item.pszText = text.data();
     item.iImage = -1;
-    return static_cast<int>(list.SendMessage(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+    return static_cast<int>(list.sendStraight(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
 }
 
 void setText(const CWnd& list, int row, int column, const CString& text) {
     LVITEMW item = {};
     item.iSubItem = column;
     item.pszText = const_cast<wchar_t*>(text.c_str());
-    list.SendMessage(LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
+    list.sendStraight(LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
 }
 
 void setTexts(const CWnd& list, int row, const CStringArray& cells, size_t firstColumn) {

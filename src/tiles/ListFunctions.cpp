@@ -36,13 +36,13 @@ void addEntry(const CWnd& control, const EntryMessages& messages, const wchar_t*
     const auto entry = reinterpret_cast<LPARAM>(text);
     holdRedraw(control.m_hWnd);
     if (operation != LIST_CHANGE) {
-        control.SendMessage(messages.add, 0, entry);
+        control.sendStraight(messages.add, 0, entry);
         return;
     }
     // With nothing selected the index is -1: the delete fails, and the insert appends.
-    const LRESULT selected = control.SendMessage(messages.selected);
-    control.SendMessage(messages.remove, selected);
-    control.SendMessage(messages.insert, selected, entry);
+    const LRESULT selected = control.sendStraight(messages.selected);
+    control.sendStraight(messages.remove, selected);
+    control.sendStraight(messages.insert, selected, entry);
 }
 
 void addRow(const CWnd& list, const wchar_t* text, int operation) {

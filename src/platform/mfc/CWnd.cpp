@@ -126,6 +126,11 @@ RECT CWnd::rectInParent() const {
     return rect;
 }
 
+LRESULT CWnd::sendStraight(UINT message, WPARAM w, LPARAM l) const {
+    return FromHandlePermanent(m_hWnd) ? WindowTable::callOwnProcedure(m_hWnd, message, w, l)
+                                       : SendMessage(message, w, l);
+}
+
 void CWnd::MoveWindow(const RECT& rect, bool repaint) const {
     ::MoveWindow(m_hWnd, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, repaint);
 }

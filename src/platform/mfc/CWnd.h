@@ -69,6 +69,10 @@ class CWnd : public CObject {
     LRESULT SendMessage(UINT message, WPARAM w = 0, LPARAM l = 0) const {
         return ::SendMessageW(m_hWnd, message, w, l);
     }
+    // The same for a message that no class handles, straight to what the window did before it was wrapped.
+    // For a message to each of many entries, to which the way through the platform would cost as much as the
+    // entry.
+    LRESULT sendStraight(UINT message, WPARAM w = 0, LPARAM l = 0) const;
     bool PostMessage(UINT message, WPARAM w = 0, LPARAM l = 0) const {
         return ::PostMessageW(m_hWnd, message, w, l);
     }

@@ -30,14 +30,12 @@ class CListCtrl : public CWnd {
     DECLARE_DYNAMIC(CListCtrl)
 
   public:
-    // LVM_GETITEM and LVM_SETITEM, past the message map: for walks over all cells of a list, where the way
-    // there would cost as much as the cell.
-    bool getItem(LVITEMW& item) { return sendItem(LVM_GETITEMW, item); }
-    bool setItem(LVITEMW& item) { return sendItem(LVM_SETITEMW, item); }
+    bool getItem(LVITEMW& item) const { return sendItem(LVM_GETITEMW, item); }
+    bool setItem(const LVITEMW& item) const { return sendItem(LVM_SETITEMW, item); }
 
   private:
-    bool sendItem(UINT message, LVITEMW& item) {
-        return DefWindowProc(message, 0, reinterpret_cast<LPARAM>(&item));
+    bool sendItem(UINT message, const LVITEMW& item) const {
+        return sendStraight(message, 0, reinterpret_cast<LPARAM>(&item));
     }
 };
 
