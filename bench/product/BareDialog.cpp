@@ -10,6 +10,8 @@ namespace {
 
 extern "C" IMAGE_DOS_HEADER __ImageBase;
 
+HMODULE ownModule() { return reinterpret_cast<HMODULE>(&__ImageBase); }
+
 WNDPROC g_ownProcedure;
 
 // The owner is told of the first idle moment. The platform's own loop tells of it before it has painted.
@@ -26,7 +28,8 @@ WNDPROC setProcedure(HWND window, WNDPROC procedure) {
         SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }
 
-INT_PTR CALLBACK modalProcedure(HWND dialog, UINT message, WPARAM w, LPARAM) {
+INT_PTR CALLBACK modalProcedure(HWND dialog, UINT message, WPARAM w, LPARAM prepare) {
+    if (message == WM_INITDIALOG && prepare) reinterpret_cast<void (*)(HWND)>(prepare)(dialog);
     if (message == WM_COMMAND && LOWORD(w) == IDCANCEL) EndDialog(dialog, IDCANCEL);
     return message == WM_INITDIALOG;
 }
@@ -82,21 +85,25 @@ void move(HWND window, int left) {
 
 }  // namespace
 
-double bareOpenAndClose(HMODULE templates, int id) {
+double bareOpenAndClose(HMODULE templates, int id, void (*prepare)(HWND dialog)) {
     const HWND frame = hostGetMainFrame();
     g_ownProcedure = setProcedure(frame, &endAtIdle);
     const double begun = now();
-    DialogBoxParamW(templates, MAKEINTRESOURCEW(id), frame, &modalProcedure, 0);
+    DialogBoxParamW(templates, MAKEINTRESOURCEW(id), frame, &modalProcedure,
+                    reinterpret_cast<LPARAM>(prepare));
     const double spent = now() - begun;
     setProcedure(frame, g_ownProcedure);
     return spent;
 }
 
+double bareOpenAndClose(int id, void (*prepare)(HWND dialog)) {
+    return bareOpenAndClose(ownModule(), id, prepare);
+}
+
 void BareDialog::open(int id, HWND neighbour) {
     close();
     move(neighbour, 0);
-    s_window = CreateDialogParamW(reinterpret_cast<HMODULE>(&__ImageBase), MAKEINTRESOURCEW(id), nullptr,
-                                  &modelessProcedure, 0);
+    s_window = CreateDialogParamW(ownModule(), MAKEINTRESOURCEW(id), nullptr, &modelessProcedure, 0);
     rememberTiles(s_window);
     move(s_window, GetSystemMetrics(SM_CXSCREEN) / 2);
     ShowWindow(s_window, SW_SHOWNOACTIVATE);

@@ -4,8 +4,10 @@
 #include <windows.h>
 
 // Milliseconds to make, show, paint and close a modal dialog that is owned by the host's main frame and ends
-// at its first idle moment.
-double bareOpenAndClose(HMODULE templates, int id);
+// at its first idle moment. `prepare` gets the dialog before it shows.
+double bareOpenAndClose(HMODULE templates, int id, void (*prepare)(HWND dialog));
+// Of a dialog of Bench.rc.
+double bareOpenAndClose(int id, void (*prepare)(HWND dialog));
 
 // The dialog that stands beside the product's and does the same things in turn; one at a time.
 class BareDialog {

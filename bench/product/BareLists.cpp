@@ -54,3 +54,14 @@ void bareEmpty(HWND list) {
     const bool isListBox = isOf(list, L"ListBox"), isComboBox = isOf(list, L"ComboBox");
     SendMessageW(list, isListBox ? LB_RESETCONTENT : isComboBox ? CB_RESETCONTENT : LVM_DELETEALLITEMS, 0, 0);
 }
+
+void bareColumns(HWND list) {
+    SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    for (const wchar_t* title : {L"Text", L"Number", L"Distance"}) {
+        LVCOLUMNW column{};
+        column.mask = LVCF_TEXT | LVCF_WIDTH;
+        column.cx = 100;
+        column.pszText = const_cast<wchar_t*>(title);
+        SendMessageW(list, LVM_INSERTCOLUMNW, 3, reinterpret_cast<LPARAM>(&column));
+    }
+}

@@ -9,3 +9,5 @@
 // Adds the texts to a list box, a combo box or, the columns separated by tabs, a list view in report view.
 void bareFill(HWND list, const std::vector<std::wstring>& texts);
 void bareEmpty(HWND list);
+// Three columns of a list view in report view.
+void bareColumns(HWND list);

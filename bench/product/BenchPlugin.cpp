@@ -2,6 +2,8 @@
 // bare platform. Every function that works gives the milliseconds that it took.
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <cstdio>
 #include <cwchar>
 #include <iterator>
@@ -72,7 +74,7 @@ int32_t bareLookup() {
 // (bench_bare_open_close "module" id): a dialog from there
 int32_t openCloseBare() {
     const HMODULE module = LoadLibraryExW(textArgument(0), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    const double spent = bareOpenAndClose(module, argument(1));
+    const double spent = bareOpenAndClose(module, argument(1), nullptr);
     FreeLibrary(module);
     return giveReal(spent);
 }
@@ -114,6 +116,34 @@ int32_t keepTexts() {
 int32_t fillBare() {
     const HWND list = BareDialog::item(argument(0));
     return timed([=] { bareFill(list, g_texts); });
+}
+
+// (bench_bare_columns id)
+int32_t columnsBare() {
+    const HWND list = BareDialog::item(argument(0));
+    return timed([=] { bareColumns(list); });
+}
+
+// (bench_bare_open_table id): a dialog whose table 112 is filled before it shows
+int32_t openTableBare() {
+    return giveReal(bareOpenAndClose(argument(0), [](HWND dialog) {
+        const HWND table = GetDlgItem(dialog, 112);
+        bareColumns(table);
+        bareFill(table, g_texts);
+    }));
+}
+
+// (bench_sort id column): the head of a column of the running dialog's list control is clicked
+int32_t sort() {
+    const HWND dialog = runningDialog();
+    NMLISTVIEW click{};
+    click.hdr.hwndFrom = GetDlgItem(dialog, argument(0));
+    click.hdr.idFrom = static_cast<UINT_PTR>(argument(0));
+    click.hdr.code = LVN_COLUMNCLICK;
+    click.iItem = -1;
+    click.iSubItem = argument(1);
+    return timed(
+        [&] { SendMessageW(dialog, WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click)); });
 }
 
 // (bench_bare_empty id)
@@ -219,6 +249,9 @@ constexpr struct {
     {L"bench_bare_set", &setBare},
     {L"bench_bare_texts", &keepTexts},
     {L"bench_bare_fill", &fillBare},
+    {L"bench_bare_columns", &columnsBare},
+    {L"bench_bare_open_table", &openTableBare},
+    {L"bench_sort", &sort},
     {L"bench_bare_empty", &emptyBare},
     {L"bench_bare_size", &sizeBare},
     {L"bench_edit", &edit},

@@ -1,0 +1,55 @@
+; Rows of three columns in a list control: filled before the start and while it stands on the screen, and sorted.
+
+; Text, number and distance of row i, in no order.
+(defun table-row (i / n)
+  (setq n (rem (* i 7919) 100003))
+  (strcat "Part " (itoa (rem (* n 31) 5003)) "\t" (itoa n) ".5\t" (rtos (/ n 16.0) 4 4)))
+(defun table-rows (n / list)
+  (repeat n (setq list (cons (table-row (setq n (1- n))) list)))
+  list)
+
+(defun use-rows (n) (setq rows (table-rows n)) (bench_bare_texts rows))
+(defun add-by-one-call () (wex_start_list "TABLE" 2) (wex_add_list rows))
+(defun add-by-many-calls () (wex_start_list "TABLE" 2) (foreach row rows (wex_add_list row)))
+
+(defun open-table (/ begun)
+  (setq begun (bench_now))
+  (ui_session "BENCH_TABLE" '((wex_done_dialog 0)))
+  (wex_new_dialog "BENCH_TABLE")
+  (wex_listctrl_setcolumns "TABLE" "\tText\tNumber\tDistance")
+  (wex_start_list "TABLE")
+  (wex_add_list rows)
+  (wex_start_dialog)
+  (- (bench_now) begun))
+
+(defun live-row (name fill n)
+  (session-row 'painted name '(wex_start_list "TABLE" 3) (list fill) '(bench_bare_empty 112) '(bench_bare_fill 112) n))
+
+(defun measure-filling (count before-start live / name)
+  (use-rows count)
+  (setq name (strcat "table_" (itoa count)))
+  (take-turns (strcat name "_before_start") '(open-table) '(bench_bare_open_table 3003) before-start)
+  (wex_new_dialog "BENCH_TABLE")
+  (wex_listctrl_setcolumns "TABLE" "\tText\tNumber\tDistance")
+  (in-dialog "BENCH_TABLE" 3003
+    (cons '(bench_bare_columns 112)
+          (append (live-row (strcat name "_by_one_call") 'add-by-one-call live)
+                  (live-row (strcat name "_by_many_calls") 'add-by-many-calls live)))))
+
+; The rows as they came are sorted, and then what was sorted is reversed.
+(defun sort-forms (column / forms)
+  (repeat 7
+    (setq forms (append (list '(progn (wex_start_list "TABLE" 3) (add-by-one-call) (wex_listctrl_allowsorting "TABLE" T))
+                              (list 'setq 'first (list 'cons (list 'bench_sort 112 column) 'first))
+                              (list 'setq 'reversed (list 'cons (list 'bench_sort 112 column) 'reversed)))
+                        forms)))
+  (append (list '(setq first nil reversed nil) (list 'bench_sort 112 (rem (1+ column) 3)))
+          forms
+          (list (list 'row (strcat "sort_10000_" (nth column '("text" "number" "distance"))) 'first)
+                (list 'row (strcat "sort_10000_" (nth column '("text" "number" "distance")) "_reversed") 'reversed))))
+
+(measure-filling 10000 9 9)
+(wex_new_dialog "BENCH_TABLE")
+(wex_listctrl_setcolumns "TABLE" "\tText\tNumber\tDistance")
+(in-dialog "BENCH_TABLE" 3003 (append (sort-forms 0) (sort-forms 1) (sort-forms 2)))
+(measure-filling 100000 3 3)
