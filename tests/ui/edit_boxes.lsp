@@ -41,11 +41,20 @@
         (ui_click "Cancel")))
     (want '("" "7") notes)))
 
-(test "Enter rewrites the text and reports it once"
-  '((with-box "wex_edit_setasnumeric" 2 2
-      '((wex_action_tile "OK" "(princ)")
-        (ui_type "DESC" "2.5") (ui_key "ENTER")))
-    (want '("2.5") notes)))
+(test "The Enter key presses OK, which takes the focus, so that the text is told and rewritten before"
+  '((setq notes nil)
+    (ui_session "ADD_REC"
+      '((ui_type "DESC" "2.5")
+        (ui_key "ENTER")
+        (want '("2.5" "2.50") notes)
+        (ui_click "ASMB")
+        (want '("2.5" "2.50") notes)
+        (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_setaction_oninit "(wex_edit_setasnumeric \"DESC\" 2 2)")
+    (wex_action_tile "DESC" "(note $value)")
+    (wex_action_tile "OK" "(note (wex_get_tile \"DESC\"))")
+    (wex_start_dialog)))
 
 (test "Angles: a bearing with blanks and letters of either case"
   '((with-box "wex_edit_setasangular" 5 4
@@ -77,7 +86,9 @@
         (wex_mode_tile "DESC" 3)
         (ui_key "X")
         (want "X67" (strcase (ui_text "DESC")))
-        (want nil (wex_edit_seteditlimit "DESC" "9"))
+        (want nil (wex_edit_seteditlimit "DESC" "3"))
+        (ui_type "DESC" "123456789")
+        (want "12345678" (ui_text "DESC"))
         (ui_click "Cancel")))
     (wex_new_dialog "ADD_REC")
     (want nil (wex_edit_seteditlimit "DESC"))
@@ -111,6 +122,10 @@
         (want T (focused "DESC"))
         (ui_type "DESC" "7")
         (ui_char "\r")
+        (want "7" (ui_text "DESC"))
+        (ui_char "\e")
+        (want "2.50" (ui_text "DESC"))
+        (ui_type "DESC" "7")
         (ui_click "ASMB")
         (want "7" (ui_text "DESC"))
         (ui_click "Cancel")))
@@ -179,6 +194,13 @@
     (want -1 (leaving "(wex_new_dialog \"CONFIRM_DELREC\") (note (wex_start_dialog)) (note $key)"
       '((ui_type "DESC" "3") (ui_click "ASMB") (want "3.00" (ui_text "DESC")) (ui_click "Cancel"))))
     (want '(-1 "desc") notes)))
+
+(test "The action of a plain box may make it take numbers, and what was typed is then read as one"
+  '((ui_session "ADD_REC"
+      '((ui_type "ASMB" "3") (ui_click "DESC") (want "3.00" (ui_text "ASMB")) (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_action_tile "ASMB" "(wex_edit_setasnumeric \"ASMB\" 2 2)")
+    (wex_start_dialog)))
 
 (test "A box tells the key that it has in its own dialog, also when another one is current"
   '((leaving "(note $key)"

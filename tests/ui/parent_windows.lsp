@@ -45,6 +45,19 @@
     (want frame (box-owner))
     (t_window)))
 
+(test "A dialog that is enabled comes to the front, and one that is disabled doesn't"
+  '((ui_session "ADD_REC"
+      '((wex_mode_tile "CAT" 2)
+        (t_window "other_window" "In front")
+        (wex_enable_dialog 0)
+        (want nil (cdr (assoc "focus" (ui_look "CAT"))))
+        (wex_enable_dialog 5)
+        (want T (cdr (assoc "focus" (ui_look "CAT"))))
+        (t_window)
+        (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_start_dialog)))
+
 (test "A message box shows the product's title and the icon of its code"
   '((foreach row '((1 "exclamation") (2 "information") (3 "question") (4 "stop") (0 nil) (5 nil) ("1" nil))
       (wex_alert "text" (car row))

@@ -99,6 +99,13 @@
         (want (lower-edge "Cancel") (lower-edge "HELP"))
         (ui_click "Cancel")))))
 
+(test "A code turns the grip on for the whole dialog, whichever tile it is for, also while the dialog runs"
+  '((ui_session "ADD_REC"
+      '((wex_setresizing "nobody" 1) (ui_size 520 460) (ui_drag "GRIP" 30 20) (want '(550 480) (window-size))
+        (ui_size 520 460) (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_start_dialog)))
+
 (test "Whichever border is dragged too far in, right and bottom give way"
   '((ui_session "DISP_LOCS_ON_DWG"
       '((ui_size 500 400)

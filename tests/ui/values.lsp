@@ -47,6 +47,8 @@
         (wex_set_tile "nobody" "x")
         (wex_set_tile "add_rec" "by name")
         (want "by name" (ui_title))
+        (wex_set_tile "ADD_REC" "the name is in lower case")
+        (want "by name" (ui_title))
         (ui_click "Cancel")))))
 
 (test "Modes before the run: disabled, hidden, focused"
@@ -87,6 +89,13 @@
         (ui_key "X")
         (want "X" (strcase (ui_text "DESC")))
         (ui_click "Cancel")))))
+
+(test "Mode 3 before the run selects the text that the template gives"
+  '((ui_session "ADD_REC"
+      '((wex_mode_tile "QTY" 2) (ui_char "7") (want "7" (ui_text "QTY")) (ui_click "Cancel")))
+    (wex_new_dialog "ADD_REC")
+    (wex_mode_tile "QTY" 3)
+    (wex_start_dialog)))
 
 (test "The value of a list is an entry's number; one that doesn't exist leaves the selection"
   '((ui_session "DISP_ASSYVALS"
