@@ -17,7 +17,3 @@ void click(const Spot& spot);
 void controlClick(const Spot& spot);
 void doubleClick(const Spot& spot);
 void rightClick(const Spot& spot);
-
-// Takes a window's border, or a corner by which it can be sized, at that point of the screen, and drags it by
-// that many pixels. Done when it returns. False where the window can't be sized there.
-bool dragBorder(HWND window, POINT from, SIZE by);

@@ -10,10 +10,10 @@
 #include "host/drive/Mouse.h"
 #include "host/drive/Player.h"
 #include "host/drive/Shot.h"
+#include "host/drive/Sizing.h"
 #include "host/drive/Tile.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
-#include "src/platform/base/Text.h"
 
 namespace {
 
@@ -147,40 +147,12 @@ Value size(Call& call) {
     return Value::none();
 }
 
-// Where a person takes hold of a dialog to size it: how far across and down its window.
-struct Border {
-    std::wstring_view name;
-    int right;  // in halves
-    int down;
-};
-
-constexpr Border BORDERS[] = {
-    {L"left", 0, 1}, {L"top", 1, 0}, {L"right", 2, 1}, {L"bottom", 1, 2}, {L"grip", 2, 2},
-};
-
-// In pixels of the screen. The grip stands in the client area.
-POINT holdOf(HWND dialog, const Border& border) {
-    constexpr int WITHIN_BORDER = 1, WITHIN_GRIP = 4;
-    RECT rect;
-    if (border.name == L"grip") {
-        GetClientRect(dialog, &rect);
-        MapWindowPoints(dialog, nullptr, reinterpret_cast<POINT*>(&rect), 2);
-        return {rect.right - WITHIN_GRIP, rect.bottom - WITHIN_GRIP};
-    }
-    GetWindowRect(dialog, &rect);
-    InflateRect(&rect, -WITHIN_BORDER, -WITHIN_BORDER);
-    return {rect.left + (rect.right - rect.left) * border.right / 2,
-            rect.top + (rect.bottom - rect.top) * border.down / 2};
-}
-
 // (ui_drag "GRIP" right down)
 Value drag(Call& call) {
-    const std::wstring name = toLower(wideArgument(call, 0));
-    const auto border = std::find_if(std::begin(BORDERS), std::end(BORDERS),
-                                     [&](const Border& each) { return each.name == name; });
-    if (border == std::end(BORDERS)) call.expected(0, "LEFT, TOP, RIGHT, BOTTOM or GRIP");
+    const Border* border = borderNamed(wideArgument(call, 0));
+    if (!border) call.expected(0, "LEFT, TOP, RIGHT, BOTTOM or GRIP");
     const HWND dialog = runningDialog();
-    if (!dragBorder(dialog, holdOf(dialog, *border), {call.integer(1), call.integer(2)}))
+    if (!dragBorder(dialog, *border, {call.integer(1), call.integer(2)}))
         throw lisp::Error(lispText(L"dialog \"" + textOf(dialog) + L"\" can't be sized there"));
     return Value::none();
 }
