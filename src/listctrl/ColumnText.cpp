@@ -14,11 +14,14 @@ std::wstring_view withoutTabsAtEnd(std::wstring_view text) {
 
 std::vector<ListColumn> columnsFromText(std::wstring_view text,
                                         const std::function<int(const CString&)>& widthOf) {
-    const CStringArray fields = splitAtTabs(withoutTabsAtEnd(text));
     std::vector<ListColumn> columns;
-    for (size_t at = 1; at < fields.size(); ++at) {
-        const CString title = trimBlanksRight(fields[at]);
-        const auto blanks = static_cast<int>(fields[at].size() - title.size());
+    RowCells fields;
+    fields.read(withoutTabsAtEnd(text));
+    fields.next();
+    while (const wchar_t* field = fields.next()) {
+        const CString given = field;
+        const CString title = trimBlanksRight(given);
+        const auto blanks = static_cast<int>(given.size() - title.size());
         const int width = static_cast<int>(widthOf(title) * 1.5 + 10) + blanks * PIXELS_FOR_A_BLANK;
         columns.push_back({title, width});
     }

@@ -9,70 +9,81 @@
 namespace {
 
 // Gives the row's index, which is another one where the list sorts its rows; -1 where it takes none.
-int insertItem(const CWnd& list, int index, CString& text) {
+int insertItem(const CWnd& list, int index, wchar_t* text) {
     LVITEMW item = {};
     item.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_INDENT;
     item.iItem = index;
-    item.pszText = text.data();
+    item.pszText = text;
     item.iImage = -1;
     return static_cast<int>(list.sendStraight(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
 }
 
-void setText(const CWnd& list, int row, int column, const CString& text) {
+void setText(const CWnd& list, int row, int column, const wchar_t* text) {
     LVITEMW item = {};
     item.iSubItem = column;
-    item.pszText = const_cast<wchar_t*>(text.c_str());
+    item.pszText = const_cast<wchar_t*>(text);
     list.sendStraight(LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
 }
 
-void setTexts(const CWnd& list, int row, const CStringArray& cells, size_t firstColumn) {
-    for (size_t column = firstColumn; column < cells.size(); ++column)
-        setText(list, row, static_cast<int>(column), cells[column]);
+void setTexts(const CWnd& list, int row, int column, RowCells& cells) {
+    while (const wchar_t* cell = cells.next()) setText(list, row, column++, cell);
 }
 
-void insertWaitingRow(const CWnd& list, int index, const CString& text) {
-    CStringArray cells = waitingRowCells(text);
-    setTexts(list, insertItem(list, index, cells[0]), cells, 1);
-}
+// The rows that waited, put into a list one by one.
+class WaitingRows {
+  public:
+    explicit WaitingRows(const CWnd& list) : m_list(list) { holdRedraw(list.m_hWnd); }
+
+    void insert(int index, const CString& text) {
+        m_cells.readWaiting(text);
+        setTexts(m_list, insertItem(m_list, index, m_cells.next()), 1, m_cells);
+    }
+
+  private:
+    const CWnd& m_list;
+    RowCells m_cells;
+};
 
 void insertAtTop(const CWnd& list, const CStringArray& rows) {
     const auto count = static_cast<int>(rows.size());
     // Each row goes to its own place, which gives what inserting at the top from the last to the first gives;
     // but a list that sorts its rows puts equal ones in the order in which they come.
     const bool sorts = list.GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING);
-    for (int at = 0; at < count; ++at)
-        insertWaitingRow(list, sorts ? 0 : at, rows[sorts ? count - 1 - at : at]);
+    WaitingRows waiting(list);
+    for (int at = 0; at < count; ++at) waiting.insert(sorts ? 0 : at, rows[sorts ? count - 1 - at : at]);
 }
 
 }  // namespace
 
-void appendRow(const CWnd& list, const CString& text) {
+void appendRow(const CWnd& list, std::wstring_view text) {
     holdRedraw(list.m_hWnd);
     const int row = rowCount(list);
-    CStringArray cells = splitAtTabs(text);
-    insertItem(list, row, cells[0]);
-    setTexts(list, row, cells, 1);
+    RowCells cells;
+    cells.read(text);
+    insertItem(list, row, cells.next());
+    setTexts(list, row, 1, cells);
 }
 
-void replaceRow(const CWnd& list, int row, const CString& text) {
+void replaceRow(const CWnd& list, int row, std::wstring_view text) {
     holdRedraw(list.m_hWnd);
-    setTexts(list, row, splitAtTabs(text), 0);
+    RowCells cells;
+    cells.read(text);
+    setTexts(list, row, 0, cells);
 }
 
 void setCell(const CWnd& list, int row, int column, const CString& text) {
     holdRedraw(list.m_hWnd);
-    setText(list, row, column, text);
+    setText(list, row, column, text.c_str());
 }
 
 void reloadWaitingRows(const CWnd& list, const CCtrlInfo& tile) {
-    holdRedraw(list.m_hWnd);
+    WaitingRows waiting(list);
     list.SendMessage(LVM_DELETEALLITEMS);
-    for (size_t at = 0; at < tile.m_listItems.size(); ++at)
-        insertWaitingRow(list, static_cast<int>(at), tile.m_listItems[at]);
+    int index = 0;
+    for (const CString& row : tile.m_listItems) waiting.insert(index++, row);
 }
 
 void applyListControl(const CWnd& list, const CCtrlInfo& tile) {
-    holdRedraw(list.m_hWnd);
     if (!showsRecords(list)) insertAtTop(list, tile.m_listItems);
     if (!tile.m_value.IsEmpty()) selectRow(list, decimalNumber(tile.m_value));
 }

@@ -6,9 +6,9 @@
 #include "src/platform/mfc/CWnd.h"
 
 // Adds a row below the others.
-void appendRow(const CWnd& list, const CString& text);
+void appendRow(const CWnd& list, std::wstring_view text);
 // Writes the cells of a row that is there; columns beyond the text's last cell keep theirs.
-void replaceRow(const CWnd& list, int row, const CString& text);
+void replaceRow(const CWnd& list, int row, std::wstring_view text);
 // A cell that isn't there is passed over.
 void setCell(const CWnd& list, int row, int column, const CString& text);
 

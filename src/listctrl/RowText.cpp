@@ -1,18 +1,25 @@
 #include "src/listctrl/RowText.h"
 
-CStringArray splitAtTabs(std::wstring_view text) {
-    CStringArray parts;
-    for (size_t start = 0; start <= text.size();) {
-        const size_t end = std::min(text.find(L'\t', start), text.size());
-        parts.emplace_back(text.substr(start, end - start));
-        start = end + 1;
-    }
-    return parts;
+#include <algorithm>
+
+void RowCells::read(std::wstring_view row) {
+    m_row = row;
+    m_at = 0;
+    m_cutsBlanks = false;
 }
 
-CStringArray waitingRowCells(std::wstring_view text) {
-    CStringArray cells = splitAtTabs(text);
-    if (cells.size() > 1)
-        for (CString& cell : cells) cell = trimBlanksRight(cell);
-    return cells;
+void RowCells::readWaiting(std::wstring_view row) {
+    read(row);
+    m_cutsBlanks = row.find(L'\t') != row.npos;
+}
+
+wchar_t* RowCells::next() {
+    if (m_at > m_row.size()) return nullptr;
+    const size_t start = m_at;
+    size_t end = std::min(m_row.find(L'\t', start), m_row.size());
+    m_at = end + 1;
+    if (m_cutsBlanks)
+        while (end > start && m_row[end - 1] == L' ') --end;
+    m_row[end] = L'\0';
+    return &m_row[start];
 }

@@ -5,9 +5,20 @@
 
 #include "src/platform/base/CString.h"
 
-// The parts between tabs, empty ones too: one more than there are tabs.
-CStringArray splitAtTabs(std::wstring_view text);
+// Walks over the cells of one row after the other, without making a text of each.
+class RowCells {
+  public:
+    // The cells between the tabs, empty ones too: one more than there are tabs.
+    void read(std::wstring_view row);
+    // The same for a row that waited for the dialog's start: its cells lose the blanks at their ends, unless
+    // there is only one. kept: a row that is added to a live list keeps them.
+    void readWaiting(std::wstring_view row);
 
-// The cells of a row that waited for the dialog's start: without blanks at their ends, unless there is only
-// one. kept: a row that is added to a live list keeps them.
-CStringArray waitingRowCells(std::wstring_view text);
+    // The next cell, null behind the last one. It lives until the next row is read.
+    wchar_t* next();
+
+  private:
+    CString m_row;
+    size_t m_at = 0;
+    bool m_cutsBlanks = false;
+};

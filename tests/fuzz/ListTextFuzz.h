@@ -1,4 +1,4 @@
-// Text for the targets that read a list control's texts: each byte a character, '|' a tab.
+// Text for the targets that read a list control's texts: each byte up to a NUL a character, '|' a tab.
 #pragma once
 
 #include <algorithm>
@@ -9,6 +9,7 @@
 
 inline std::wstring textWithTabs(const uint8_t* data, size_t size) {
     std::wstring text(data, data + size);
+    text.resize(std::min(text.find(L'\0'), text.size()));
     std::replace(text.begin(), text.end(), L'|', L'\t');
     return text;
 }

@@ -4,17 +4,18 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::wstring text = textWithTabs(data, size);
-    const CStringArray cells = splitAtTabs(text);
-    const CStringArray waiting = waitingRowCells(text);
-    require(!cells.empty() && waiting.size() == cells.size());
+    RowCells live, waiting;
+    live.read(text);
+    waiting.readWaiting(text);
+    const bool keepsBlanks = text.find(L'\t') == text.npos;
 
     std::wstring joined;
-    for (size_t at = 0; at < cells.size(); ++at) {
-        if (at > 0) joined += L'\t';
-        joined += cells[at];
-        const bool blanksStay = cells.size() == 1;
-        require(waiting[at] == (blanksStay ? cells[at] : CString(trimBlanksRight(cells[at]))));
+    while (const wchar_t* cell = live.next()) {
+        const wchar_t* same = waiting.next();
+        require(same && (keepsBlanks ? cell : trimBlanksRight(cell)) == same);
+        joined += cell + std::wstring(L"\t");
     }
-    require(joined == text);
+    require(!waiting.next());
+    require(joined == text + L"\t");
     return 0;
 }

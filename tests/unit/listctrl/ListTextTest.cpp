@@ -40,16 +40,43 @@ TEST(ColumnText, BlanksAtTheEndWidenTheColumn) {
     EXPECT_EQ(columns(L"\tName\t \t"), L"[Name]52[]16") << "a blank is no tab";
 }
 
+CStringArray cellsOf(RowCells& row) {
+    CStringArray cells;
+    while (const wchar_t* cell = row.next()) cells.emplace_back(cell);
+    return cells;
+}
+
+CStringArray liveCells(std::wstring_view text) {
+    RowCells row;
+    row.read(text);
+    return cellsOf(row);
+}
+
+CStringArray waitingCells(std::wstring_view text) {
+    RowCells row;
+    row.readWaiting(text);
+    return cellsOf(row);
+}
+
 TEST(RowText, ATabAtTheEndMakesAnEmptyCell) {
-    EXPECT_EQ(splitAtTabs(L"a\tb\t"), (CStringArray{L"a", L"b", L""}));
-    EXPECT_EQ(splitAtTabs(L" a \tb "), (CStringArray{L" a ", L"b "}));
-    EXPECT_EQ(splitAtTabs(L""), CStringArray{L""});
-    EXPECT_EQ(splitAtTabs(L"\t"), (CStringArray{L"", L""}));
+    EXPECT_EQ(liveCells(L"a\tb\t"), (CStringArray{L"a", L"b", L""}));
+    EXPECT_EQ(liveCells(L" a \tb "), (CStringArray{L" a ", L"b "}));
+    EXPECT_EQ(liveCells(L""), CStringArray{L""});
+    EXPECT_EQ(liveCells(L"\t"), (CStringArray{L"", L""}));
 }
 
 TEST(RowText, AWaitingRowLosesBlanksOnlyWhereItHasTabs) {
-    EXPECT_EQ(waitingRowCells(L" a \tb  \t "), (CStringArray{L" a", L"b", L""}));
-    EXPECT_EQ(waitingRowCells(L"a  "), CStringArray{L"a  "});
+    EXPECT_EQ(waitingCells(L" a \tb  \t "), (CStringArray{L" a", L"b", L""}));
+    EXPECT_EQ(waitingCells(L"a  "), CStringArray{L"a  "});
+}
+
+TEST(RowText, OneReaderReadsRowAfterRow) {
+    RowCells row;
+    row.readWaiting(L"a \tb");
+    row.next();
+    row.read(L"c \td");
+    EXPECT_EQ(cellsOf(row), (CStringArray{L"c ", L"d"}));
+    EXPECT_EQ(row.next(), nullptr);
 }
 
 // A chain of arguments: integers, texts, and nil for anything else.
