@@ -18,6 +18,12 @@ CCtrlInfo* TileRecords::forKey(std::wstring_view key) {
     return add(lower, keys.idForKey(lower));
 }
 
+CWnd* TileRecords::controlForId(int id) const {
+    for (const auto& record : m_records)
+        if (record->m_ctrlId == id && record->m_control) return record->m_control;
+    return nullptr;
+}
+
 CCtrlInfo* TileRecords::forControl(const CWnd* control) const {
     if (!control) return nullptr;
     for (const auto& record : m_records)

@@ -17,6 +17,8 @@ class TileRecords {
     CCtrlInfo* forId(int id);
     // The record of that key, made if there is none; null for an empty key. "accept" is "ok".
     CCtrlInfo* forKey(std::wstring_view key);
+    // The control of a record with that id; null where none has one.
+    CWnd* controlForId(int id) const;
     // The record whose control is that object; null where there is none.
     CCtrlInfo* forControl(const CWnd* control) const;
 

@@ -40,7 +40,14 @@ WexDialog::~WexDialog() {
 
 CWnd* WexDialog::itemForKey(const CString& key) const { return itemForId(idForKey(key)); }
 
-CWnd* WexDialog::itemForId(int id) const { return isLive() ? GetDlgItem(id) : nullptr; }
+// The platform takes longer to find a child than most functions then work on it, so a wrapper is found by its
+// record.
+CWnd* WexDialog::itemForId(int id) const {
+    if (!isLive()) return nullptr;
+    CWnd* wrapper = m_tiles.controlForId(id);
+    const bool isThere = wrapper && CWnd::FromHandlePermanent(wrapper->m_hWnd) == wrapper;
+    return isThere ? wrapper : GetDlgItem(id);
+}
 
 CWnd* WexDialog::itemFor(const TileAddress& tile) const {
     return tile.isById() ? itemForId(tile.controlId()) : itemForKey(tile.key);

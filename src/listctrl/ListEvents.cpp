@@ -42,6 +42,7 @@ const MessageMap& WexListCtrl::messageMap() const {
                                     onReflectedNotify<LVN_COLUMNCLICK, &WexListCtrl::onColumnClick>(),
                                     onReflectedNotify<LVN_ITEMCHANGING, &WexListCtrl::onItemChange>(),
                                     onReflectedNotify<LVN_ITEMCHANGED, &WexListCtrl::onItemChange>(),
+                                    onReflectedNotify<LVN_INSERTITEM, &WexListCtrl::onItemChange>(),
                                     onReflectedNotify<LVN_GETDISPINFOW, &WexListCtrl::onGetDispInfo>(),
                                 });
     return map;
