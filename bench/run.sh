@@ -18,10 +18,12 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
     wine64 "$built/bench/lisp/lisp_bench.exe"
     # 1933 is the dialog of 31 controls that dialogs.lsp opens.
     wine64 "$built/bench/dialog/dialog_bench.exe" "$built/bin/WexDialogsRes.dll" 1933
+    wine64 "$built/testbin/source_bench.exe"
     cd "$root/bench/product"
     wine64 "$built/testbin/wexhost.exe" --headless --timeout 300 \
         -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \
-        -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" rows.lsp dialogs.lsp lists.lsp layout.lsp
+        -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" \
+        rows.lsp dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp
 } | tr -d '\r' | tee "$rows"
 
 # ratio OURS THEIRS: of the medians

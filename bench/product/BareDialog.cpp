@@ -1,5 +1,9 @@
 #include "bench/product/BareDialog.h"
 
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <utility>
 #include <vector>
 
@@ -116,4 +120,15 @@ void BareDialog::close() {
 
 void BareDialog::resize(int width, int height) {
     SetWindowPos(s_window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void BareDialog::turn(int tab, int page, int first, int count) {
+    SendMessageW(item(tab), TCM_SETCURSEL, page, 0);
+    HDWP batch = BeginDeferWindowPos(2 * count);
+    for (int at = 0; at < 2 * count; ++at) {
+        const UINT show = at / count == page ? SWP_SHOWWINDOW : SWP_HIDEWINDOW;
+        batch = DeferWindowPos(batch, item(first + at), nullptr, 0, 0, 0, 0,
+                               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | show);
+    }
+    EndDeferWindowPos(batch);
 }

@@ -20,6 +20,9 @@ class BareDialog {
     static HWND item(int id) { return GetDlgItem(s_window, id); }
     // The whole window, in pixels.
     static void resize(int width, int height);
+    // A tab control turns to a page of two, of `count` controls each that follow each other from the id
+    // `first` on.
+    static void turn(int tab, int page, int first, int count);
 
   private:
     static inline HWND s_window = nullptr;

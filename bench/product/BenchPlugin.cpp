@@ -43,9 +43,7 @@ HWND runningDialog() { return GetLastActivePopup(hostGetMainFrame()); }
 
 template <class Work>
 int32_t timed(Work work) {
-    const double begun = now();
-    work();
-    return giveReal(now() - begun);
+    return giveReal(timeOf(work));
 }
 
 // (bench_now) -> milliseconds since some moment
@@ -144,6 +142,38 @@ int32_t sort() {
     click.iSubItem = argument(1);
     return timed(
         [&] { SendMessageW(dialog, WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click)); });
+}
+
+// (bench_turn id page): a tab control of the running dialog turns to that page, as a click does it
+int32_t turn() {
+    const HWND dialog = runningDialog();
+    const NMHDR change{GetDlgItem(dialog, argument(0)), static_cast<UINT_PTR>(argument(0)),
+                       static_cast<UINT>(TCN_SELCHANGE)};
+    const int page = argument(1);
+    return timed([=] {
+        SendMessageW(change.hwndFrom, TCM_SETCURSEL, page, 0);
+        SendMessageW(dialog, WM_NOTIFY, change.idFrom, reinterpret_cast<LPARAM>(&change));
+    });
+}
+
+// (bench_bare_tabs id): two tabs
+int32_t tabsBare() {
+    const HWND tab = BareDialog::item(argument(0));
+    return timed([=] {
+        TCITEMW item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = const_cast<wchar_t*>(L"Page");
+        for (int page = 0; page < 2; ++page)
+            SendMessageW(tab, TCM_INSERTITEMW, page, reinterpret_cast<LPARAM>(&item));
+        // Below what lies on it.
+        SetWindowPos(tab, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    });
+}
+
+// (bench_bare_turn id page first n): the same, for pages of n controls with ids from `first` on
+int32_t turnBare() {
+    const int id = argument(0), page = argument(1), first = argument(2), n = argument(3);
+    return timed([=] { BareDialog::turn(id, page, first, n); });
 }
 
 // (bench_bare_empty id)
@@ -252,6 +282,9 @@ constexpr struct {
     {L"bench_bare_columns", &columnsBare},
     {L"bench_bare_open_table", &openTableBare},
     {L"bench_sort", &sort},
+    {L"bench_turn", &turn},
+    {L"bench_bare_tabs", &tabsBare},
+    {L"bench_bare_turn", &turnBare},
     {L"bench_bare_empty", &emptyBare},
     {L"bench_bare_size", &sizeBare},
     {L"bench_edit", &edit},

@@ -1,9 +1,9 @@
 ; Lists that are filled while they stand on the screen.
 
-(defun texts (n / i list)
+(defun texts (n / i made)
   (setq i n)
-  (repeat n (setq list (cons (strcat "Entry number " (itoa (setq i (1- i)))) list)))
-  list)
+  (repeat n (setq made (cons (strcat "Entry number " (itoa (setq i (1- i)))) made)))
+  made)
 (setq entries (texts 10000))
 (bench_bare_texts entries)
 

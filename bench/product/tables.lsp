@@ -4,9 +4,9 @@
 (defun table-row (i / n)
   (setq n (rem (* i 7919) 100003))
   (strcat "Part " (itoa (rem (* n 31) 5003)) "\t" (itoa n) ".5\t" (rtos (/ n 16.0) 4 4)))
-(defun table-rows (n / list)
-  (repeat n (setq list (cons (table-row (setq n (1- n))) list)))
-  list)
+(defun table-rows (n / made)
+  (repeat n (setq made (cons (table-row (setq n (1- n))) made)))
+  made)
 
 (defun use-rows (n) (setq rows (table-rows n)) (bench_bare_texts rows))
 (defun add-by-one-call () (wex_start_list "TABLE" 2) (wex_add_list rows))
