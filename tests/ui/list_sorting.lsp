@@ -107,8 +107,11 @@
         (want "bag" (order))
         (ui_key "CTRL+9")
         (ui_key "1")
+        (ui_key "CTRL+SHIFT+2")
         (want "bag" (order))
-        (want '("" "" "" "") notes)))))
+        (ui_key "CTRL+2")
+        (want "gab" (order))
+        (want '("" "" "" "" "" "") notes)))))
 
 (test "The rows of a source are not the list's to sort"
   '((ui_session "LOOKUP_FP"
