@@ -4,8 +4,10 @@
 
 #include "src/listctrl/ColumnText.h"
 #include "src/listctrl/ListCells.h"
+#include "src/platform/mfc/RedrawHold.h"
 
 void insertColumn(const CWnd& list, int index, const CString& title, int width) {
+    holdRedraw(list.m_hWnd);
     LVCOLUMNW column = {};
     column.mask = LVCF_TEXT | LVCF_FMT | LVCF_WIDTH;
     column.fmt = LVCFMT_LEFT;

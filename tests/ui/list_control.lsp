@@ -29,6 +29,8 @@
         (want '("Name" "Size") (titles "TABLE"))
         (wex_listctrl_setcolumns "SORTED" "\tA\t\tB\t\t")
         (want '("A" "" "B") (titles "SORTED"))))
+    (in-tables '(progn (wex_listctrl_setcolumns "TABLE" "x\tName") (wex_listctrl_setcolumns "TABLE" 5)) ""
+      '((want nil (ui_columns "TABLE"))))
     (in-tables '(wex_listctrl_setcolumns "TABLE" "x\tWaiting") three-columns
       '((want '("Name" "Size" "Maker") (titles "TABLE"))))))
 
@@ -186,12 +188,12 @@
         (want '("" "") (ui_items "VIRTUAL"))))))
 
 (test "A list control that isn't looked at takes columns and rows all the same"
-  '((in-tables nil ""
-      '((wex_listctrl_setcolumns 401 "x\tName\tSize")
-        (wex_listctrl_additem 401 "one\tA")
-        (wex_listctrl_setcolumnreference 401 "x\tName")
+  '((in-tables '(fill 401 '("waiting\tw")) "(wex_listctrl_setcolumns 401 \"x\tName\tSize\")"
+      '((wex_listctrl_additem 401 "one\tA")
         (wex_listctrl_setitemcount 401 3)
-        (want '("one\tA") (ui_items 401))
+        (want '("waiting\tw" "one\tA") (ui_items 401))
+        (wex_listctrl_setcolumnreference 401 "x\tName")
+        (want '("waiting\tw") (ui_items 401))
         (want 0 (alerts))))))
 
 ; Every function with arguments that would do, and how many alerts it gives on a tile of another class.

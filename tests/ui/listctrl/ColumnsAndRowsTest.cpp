@@ -70,12 +70,14 @@ TEST_F(ColumnsAndRows, LongCellsStayWhole) {
     EXPECT_EQ(CellReader(list).text(0, 1), cell);
 }
 
-TEST_F(ColumnsAndRows, RowsDrawAtTheNextTurnOfTheLoop) {
+TEST_F(ColumnsAndRows, DrawAtTheNextTurnOfTheLoop) {
     insertColumn(list, 0, L"Name", 50);
     UpdateWindow(list.m_hWnd);
     RECT area;
     appendRow(list, L"one");
     setCell(list, 0, 0, L"ONE");
+    replaceRow(list, 0, L"two\t2");
+    insertColumn(list, 1, L"Size", 50);
     EXPECT_FALSE(GetUpdateRect(list.m_hWnd, &area, FALSE));
     releaseRedraw();
     EXPECT_TRUE(GetUpdateRect(list.m_hWnd, &area, FALSE));
