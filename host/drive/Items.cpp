@@ -90,6 +90,15 @@ class ComboBoxItems : public Control {
     }
 };
 
+// Scrolls a list view so that it shows a column of those edges, in its client pixels.
+void scrollAcross(HWND list, const RECT& column) {
+    RECT client;
+    GetClientRect(list, &client);
+    const LONG beyond =
+        column.left < 0 ? column.left : std::clamp(column.right - client.right, 0L, column.left);
+    if (beyond) SendMessageW(list, LVM_SCROLL, beyond, 0);
+}
+
 class ListViewItems : public Control {
   public:
     using Control::Control;
@@ -112,6 +121,12 @@ class ListViewItems : public Control {
     }
     Spot show(int index, int column) const override {
         send(LVM_ENSUREVISIBLE, index, LPARAM(FALSE));
+        scrollAcross(m_window, cellRect(index, column));
+        return middle(cellRect(index, column));
+    }
+
+  private:
+    RECT cellRect(int index, int column) const {
         RECT rect{};
         if (column > 0) {
             rect.top = column;
@@ -121,10 +136,8 @@ class ListViewItems : public Control {
             rect.left = LVIR_LABEL;
             send(LVM_GETITEMRECT, index, &rect);
         }
-        return middle(rect);
+        return rect;
     }
-
-  private:
     std::wstring cell(int index, int column) const {
         std::wstring buffer(MOST_TEXT_CHARS, L'\0');
         LVITEMW item{};
@@ -276,5 +289,8 @@ std::optional<Spot> headerSpot(HWND control, int column) {
     RECT rect;
     if (!header || !SendMessageW(header, HDM_GETITEMRECT, column, reinterpret_cast<LPARAM>(&rect)))
         return std::nullopt;
+    RECT inList = rect;
+    MapWindowPoints(header, control, reinterpret_cast<POINT*>(&inList), 2);
+    scrollAcross(control, inList);
     return Spot{header, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2}};
 }
