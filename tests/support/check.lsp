@@ -6,6 +6,7 @@
 ;       (want -1 (wex_start_dialog))))
 ;
 ; A wish that fails, or an error, is told and fails the test; the other tests run on. (report-tests) closes a file.
+; What a test and its actions (note …) stands in `notes`, in order.
 
 (setq *passed* 0 *failed* 0 *wrong* nil)
 
@@ -18,7 +19,7 @@
 
 ; Runs the forms one by one, on a clean record of alerts.
 (defun test (name forms)
-  (setq *wrong* nil)
+  (setq *wrong* nil notes nil)
   (ui_alerts)
   (catch-error (foreach form forms (eval form)) note-wrong)
   (cond (*wrong* (setq *failed* (1+ *failed*))
@@ -33,3 +34,23 @@
   (princ (strcat (itoa *passed*) " passed, " (itoa *failed*) " failed\n"))
   (if (> *failed* 0) (error "tests failed"))
   (princ))
+
+(defun note (what) (setq notes (append notes (list what))))
+
+(defun look (tile what) (cdr (assoc what (ui_look tile))))
+
+(defun fill (tile items)
+  (wex_start_list tile)
+  (wex_add_list items)
+  (wex_end_list))
+
+; Plays the session in the dialog of that name and gives its status; `prepare` is evaluated before it starts.
+(defun run-dialog (name prepare session)
+  (ui_session name session)
+  (wex_new_dialog name)
+  (eval prepare)
+  (wex_start_dialog))
+
+; The same for a session after which Cancel is pressed.
+(defun in-dialog (name prepare session)
+  (run-dialog name prepare (append session '((ui_click "Cancel")))))

@@ -1,111 +1,76 @@
 ; Controls that no shipped dialog has, in an add-on that only the tests build.
 
-(defun look (tile what) (cdr (assoc what (ui_look tile))))
-
-(defun in-dialog (name init session)
-  (ui_session name session)
-  (wex_new_dialog name)
-  (wex_setaction_oninit init)
-  (wex_start_dialog))
-
 (test "Captions with arrows and marks become icons; the text that stays is what the rules leave"
-  '((in-dialog "ODD_BUTTONS" ""
+  '((in-dialog "ODD_BUTTONS" nil
       '((foreach row '(("LEFT" "") ("RIGHT" "") ("MORE" "More ") ("NEXT" "Next") ("SORT" "Sort") ("LIST" "List")
                        ("CAP_A" "") ("CAP_C" "") ("CAP_D" "Browse...") ("PLAIN" "&Plain") ("MIXED" ">>")
                        ("BOX" "A box") ("HIDDEN_BOX" "Hidden") ("SLIDE" "Slide >>") ("FRAME" ""))
           (want row (list (car row) (ui_text (car row)))))
-        (ui_shot "odd_buttons.png")
-        (ui_click "Cancel")))))
+        (ui_shot "odd_buttons.png")))))
 
 (test "Only an exact group box is replaced, in its place"
-  '((in-dialog "ODD_BUTTONS" ""
+  '((in-dialog "ODD_BUTTONS" nil
       '((want nil (equal "Button" (look "FRAME" "class")))
         (want "Button" (look "BOX" "class"))
         (want "Button" (look "HIDDEN_BOX" "class"))
         (want (car (look "FRAME" "rect")) (car (look "BOX" "rect")))
         (want (caddr (look "BOX" "rect")) (caddr (look "HIDDEN_BOX" "rect")))
         (wex_set_tile "FRAME" "unseen")
-        (want "" (wex_get_tile "FRAME"))
-        (ui_click "Cancel")))))
+        (want "" (wex_get_tile "FRAME"))))))
 
 (test "Frames and tab controls lie under the controls that they surround"
-  '((in-dialog "ODD_BUTTONS" "" '((want 114 (last (cdr (assoc "controls" (ui_look))))) (ui_click "Cancel")))
-    (in-dialog "ODD_KINDS" "" '((want 118 (last (cdr (assoc "controls" (ui_look))))) (ui_click "Cancel")))))
+  '((in-dialog "ODD_BUTTONS" nil '((want 114 (last (cdr (assoc "controls" (ui_look)))))))
+    (in-dialog "ODD_KINDS" nil '((want 118 (last (cdr (assoc "controls" (ui_look)))))))))
 
 (test "Only an image tile tells its size"
-  '((in-dialog "ODD_BUTTONS" ""
-      '((want (caddr (look "SLIDE" "rect")) (wex_dimx_tile "SLIDE"))
-        (want (cadddr (look "SLIDE" "rect")) (wex_dimy_tile "SLIDE"))
-        (foreach tile '("PLAIN" "LEFT" "CHECK" "FRAME") (want 0 (wex_dimx_tile tile)))
-        (ui_click "Cancel")))))
+  '((in-dialog "ODD_BUTTONS" nil
+      '((want (cddr (look "SLIDE" "rect")) (list (wex_dimx_tile "SLIDE") (wex_dimy_tile "SLIDE")))
+        (foreach tile '("PLAIN" "LEFT" "CHECK" "FRAME") (want 0 (wex_dimx_tile tile)))))))
 
 (test "A box of three states is on for Lisp in its third, though its event says 0"
-  '((setq notes nil)
-    (ui_session "ODD_BUTTONS" '((ui_click "THREE") (ui_click "THREE") (ui_click "THREE") (ui_click "Cancel")))
-    (wex_new_dialog "ODD_BUTTONS")
-    (wex_action_tile "THREE" "(setq notes (cons (list $value (wex_get_tile \"THREE\")) notes))")
-    (wex_start_dialog)
-    (want '(("1" "1") ("0" "1") ("0" "0")) (reverse notes))))
+  '((in-dialog "ODD_BUTTONS" '(wex_action_tile "THREE" "(note (list $value (wex_get_tile \"THREE\")))")
+      '((repeat 3 (ui_click "THREE"))))
+    (want '(("1" "1") ("0" "1") ("0" "0")) notes)))
 
 (test "Radio buttons within a frame stay a group for the mouse and the keys"
-  '((in-dialog "ODD_BUTTONS" "(wex_set_tile \"RADIO1\" \"1\")"
+  '((in-dialog "ODD_BUTTONS" '(wex_set_tile "RADIO1" "1")
       '((ui_click "RADIO2")
-        (want '("0" "1") (list (wex_get_tile "RADIO1") (wex_get_tile "RADIO2")))
+        (want '("0" "1") (mapcar 'wex_get_tile '("RADIO1" "RADIO2")))
         (ui_key "UP" "RADIO2")
-        (want '("1" "0") (list (wex_get_tile "RADIO1") (wex_get_tile "RADIO2")))
-        (ui_click "Cancel")))))
+        (want '("1" "0") (mapcar 'wex_get_tile '("RADIO1" "RADIO2")))))))
 
 (test "Image buttons are pressed by the mouse twice in a row, by Space and by Enter, and never end the dialog"
-  '((setq presses 0)
-    (ui_session "ODD_BUTTONS"
+  '((in-dialog "ODD_BUTTONS"
+      '(progn (setq presses 0) (foreach tile '("MORE" "NEXT" "SORT") (wex_action_tile tile "(setq presses (1+ presses))")))
       '((ui_dblclick "MORE") (want 2 presses)
         (ui_key "SPACE" "NEXT") (want 3 presses)
-        (ui_key "ENTER" "SORT") (want 4 presses)
-        (ui_click "OK")))
-    (wex_new_dialog "ODD_BUTTONS")
-    (foreach tile '("MORE" "NEXT" "SORT") (wex_action_tile tile "(setq presses (1+ presses))"))
-    (wex_start_dialog)
-    (want 4 presses)))
+        (ui_key "ENTER" "SORT") (want 4 presses)))))
 
 (test "A control that the template disables is enabled at the start, unless its mode is left to it"
-  '((ui_session "ODD_BUTTONS" '((want T (look "MIXED" "enabled")) (ui_click "Cancel")))
-    (wex_new_dialog "ODD_BUTTONS")
-    (wex_start_dialog)
-    (ui_session "ODD_BUTTONS" '((want nil (look "MIXED" "enabled")) (ui_click "Cancel")))
-    (wex_new_dialog "ODD_BUTTONS")
-    (wex_mode_tile "MIXED" -1)
-    (wex_start_dialog)))
+  '((in-dialog "ODD_BUTTONS" nil '((want T (look "MIXED" "enabled"))))
+    (in-dialog "ODD_BUTTONS" '(wex_mode_tile "MIXED" -1) '((want nil (look "MIXED" "enabled"))))))
 
-(test "Ids that are not looked at are reached by their number all the same"
-  '((setq notes nil)
-    (in-dialog "ODD_KINDS" ""
+(test "Ids that are not looked at are reached by their number all the same, but don't report their text"
+  '((in-dialog "ODD_KINDS"
+      '(foreach id '(108 109 399 400) (wex_action_tile id "(note (list $key $value))"))
       '((foreach id '(108 109 399 400)
           (want (itoa id) (wex_get_tile id))
           (wex_set_tile id (strcat "new " (itoa id)))
           (want (strcat "new " (itoa id)) (ui_text id)))
         (wex_set_tile 450 "label")
         (want "label" (wex_get_tile 450))
-        (ui_click "Cancel")))))
-
-(test "Only edit boxes that are looked at report their text"
-  '((setq notes nil)
-    (ui_session "ODD_KINDS"
-      '((foreach id '(108 109 399 400) (ui_type id (strcat "t" (itoa id)))) (ui_click "OK")))
-    (wex_new_dialog "ODD_KINDS")
-    (foreach id '(108 109 399 400) (wex_action_tile id "(setq notes (append notes (list (list $key $value))))"))
-    (wex_start_dialog)
+        (foreach id '(108 109 399 400) (ui_type id (strcat "t" (itoa id))))))
     (want '(("control not found" "t109") ("control not found" "t399")) notes)))
 
 (test "An empty field's control answers to no key; neither key nor id is asked as the empty key"
-  '((in-dialog "ODD_KINDS" ""
+  '((in-dialog "ODD_KINDS" nil
       '((want "at an empty field" (wex_get_tile 123))
         (want "at an empty field" (wex_get_tile nil))
         (wex_set_tile nil "changed")
-        (want "changed" (ui_text 123))
-        (ui_click "Cancel")))))
+        (want "changed" (ui_text 123))))))
 
 (test "Controls of every kind take and give a value, and a key without a control keeps its own"
-  '((in-dialog "ODD_KINDS" ""
+  '((in-dialog "ODD_KINDS" nil
       '((foreach tile '("STATIC" "EDIT" "TAB" "TREE" "LINES" "READONLY")
           (wex_set_tile tile "0")
           (wex_get_tile tile))
@@ -115,14 +80,11 @@
         (want nil (wex_set_tile "NOCONTROL" "kept"))
         (want nil (wex_get_tile "NOCONTROL"))
         (wex_set_tile "PROGRESS" "text of its own")
-        (ui_shot "odd_kinds.png")
-        (ui_click "Cancel")))))
+        (ui_shot "odd_kinds.png")))))
 
 (test "A dialog without OK, by the older kind of template: Enter ends it, and unknown keys reach no label"
-  '((ui_session "ODD_OLD"
-      '((want nil (wex_get_tile "nobody")) (wex_set_tile "X" "typed") (want "typed" (ui_text "X")) (ui_key "ENTER" "X")))
-    (want T (wex_new_dialog "odd_old"))
-    (want -1 (wex_start_dialog))))
+  '((want -1 (run-dialog "odd_old" nil
+      '((want nil (wex_get_tile "nobody")) (wex_set_tile "X" "typed") (want "typed" (ui_text "X")) (ui_key "ENTER" "X"))))))
 
 (test "A key list without a template can be opened and not started"
   '((want T (wex_new_dialog "ODD_NO_TEMPLATE"))
