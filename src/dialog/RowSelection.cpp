@@ -27,15 +27,17 @@ int nextSelectedRow(const CWnd& list, int from) {
     return static_cast<int>(list.SendMessage(LVM_GETNEXTITEM, from, LVNI_SELECTED));
 }
 
+// Comes at once, where looking for one more row among a million takes its time.
+int selectedCount(const CWnd& list) { return static_cast<int>(list.SendMessage(LVM_GETSELECTEDCOUNT)); }
+
 }  // namespace
 
-int firstSelectedRow(const CWnd& list) { return nextSelectedRow(list, -1); }
+int firstSelectedRow(const CWnd& list) { return selectedCount(list) > 0 ? nextSelectedRow(list, -1) : -1; }
 
 std::vector<int> selectedRows(const CWnd& list) {
-    // The count comes at once, where looking for one more among a million rows takes its time.
-    std::vector<int> rows(list.SendMessage(LVM_GETSELECTEDCOUNT));
-    int at = -1;
-    for (int& row : rows) row = at = nextSelectedRow(list, at);
+    std::vector<int> rows;
+    int left = selectedCount(list);
+    for (int at = -1; left > 0 && (at = nextSelectedRow(list, at)) >= 0; --left) rows.push_back(at);
     return rows;
 }
 

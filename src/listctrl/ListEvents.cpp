@@ -117,6 +117,7 @@ bool WexListCtrl::PreTranslateMessage(MSG& message) {
 
 // The row to which the arrow is about to move the selection. kept: it may be one past the last.
 void WexListCtrl::noteArrow(WPARAM key) {
+    if (key != VK_DOWN && key != VK_UP) return;
     const int first = firstSelectedRow(*this);
     if (first < 0) return;
     if (key == VK_DOWN) m_lastRow = first + 1;
