@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "src/platform/mfc/RedrawHold.h"
+
 IMPLEMENT_DYNAMIC(WexTabCtrl, CTabCtrl)
 
 namespace {
@@ -76,6 +78,7 @@ void WexTabCtrl::onSelectionChanged(NMHDR* /*header*/) { showPage(); }
 
 void WexTabCtrl::showPage() {
     if (!releaseFocus(m_pages.changeTo(selected()))) return;
+    releaseRedraw();
     // Lisp may have added pages.
     const PageChange change = m_pages.changeTo(selected());
     for (const CWnd* member : change.hide)
@@ -92,7 +95,7 @@ bool WexTabCtrl::releaseFocus(const PageChange& change) {
     return isLive();
 }
 
-// What nothing covers is painted first, and then each control of the page in its place, so that nothing
+// The dialog and the tab control are drawn only where no control of the page covers them, so that nothing
 // flickers.
 void WexTabCtrl::redraw(const PageChange& change) const {
     const UniqueRegion bare(CreateRectRgn(0, 0, 0, 0));
@@ -101,12 +104,13 @@ void WexTabCtrl::redraw(const PageChange& change) const {
         if (member->isLive()) combine(bare, *member, RGN_OR);
     for (const CWnd* member : change.show)
         if (member->isLive() && !isSeeThrough(*member)) combine(bare, *member, RGN_DIFF);
-    RedrawWindow(::GetParent(m_hWnd), nullptr, bare.get(),
-                 RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    const HWND dialog = ::GetParent(m_hWnd);
+    RedrawWindow(dialog, nullptr, bare.get(), RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     for (const CWnd* member : change.show)
         if (member->isLive())
             RedrawWindow(member->m_hWnd, nullptr, nullptr,
-                         RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+                         RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 // --- keys
