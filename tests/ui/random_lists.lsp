@@ -253,8 +253,6 @@
   (apply what (list (if (equal what 'any-call) nil tile))))
 
 (defun shown-rows () (mapcar '(lambda (row) (string-join (car row) "\t")) rows))
-(defun look (tile what) (cdr (assoc what (ui_look tile))))
-
 ; What a click does to a list that changes under it is the platform's affair: the model starts from there.
 (defun look-again ()
   (foreach tile boxes (set-box tile (ui_items tile) (cond ((car (look tile "selected"))) (T -1))))

@@ -1,7 +1,5 @@
 ; Dialogs with pages: which controls show, what the keys do, and how the pages look.
 
-(defun look (tile what) (cdr (assoc what (ui_look tile))))
-(defun note (what) (setq notes (append notes (list what))))
 ; Which of the tiles show.
 (defun shown (tiles) (remove-if-not '(lambda (tile) (look tile "visible")) tiles))
 (defun focused (tiles) (remove-if-not '(lambda (tile) (look tile "focus")) tiles))
@@ -14,14 +12,12 @@
   (apply 'wex_tab_add (append '("TAB" "Second") second-page))
   (wex_tab_add "TAB" "Third"))
 
-(defun in-tabs (init session)
-  (ui_session "ODD_TABS" (append session '((ui_click "Cancel"))))
-  (wex_new_dialog "ODD_TABS")
-  (wex_setaction_oninit init)
-  (wex_start_dialog))
+(defun in-tabs (init session) (in-dialog "ODD_TABS" (list 'wex_setaction_oninit init) session))
+(defun in-pages (prepare session)
+  (in-dialog "ODD_TABS" (list 'progn '(wex_setaction_oninit "(add-pages)") prepare) session))
 
 (test "Only the controls of the selected page show, and a click on a tab tells Lisp nothing"
-  '((setq notes nil $key nil $reason nil)
+  '((setq $key nil $reason nil)
     (ui_session "SETUP_COMPONENT_XREF"
       '((want '("TEXT" "MODE") (shown '("TEXT" "MODE" "SAME_FMT" "BETWEEN" "TYPES")))
         (want '(0) (look "TABS" "selected"))
@@ -70,12 +66,8 @@
         (want '("LIST") (shown '("NAME" "LIST")))
         (ui_pick "TAB" 0)
         (want '("NAME") (shown '("NAME" "LIST")))))
-    (ui_session "ODD_TABS"
-      '((want '(1) (look "TAB" "selected")) (want '("NAME") (shown '("NAME" "LIST"))) (ui_click "Cancel")))
-    (wex_new_dialog "ODD_TABS")
-    (wex_set_tile "TAB" "1")
-    (wex_setaction_oninit "(add-pages)")
-    (wex_start_dialog)))
+    (in-pages '(wex_set_tile "TAB" "1")
+      '((want '(1) (look "TAB" "selected")) (want '("NAME") (shown '("NAME" "LIST")))))))
 
 (test "A change of the page overrides what wex_mode_tile showed or hid"
   '((in-tabs "(add-pages)"
@@ -116,35 +108,21 @@
     (host_unload_plugin)))
 
 (test "The edit box that had the focus tells that it was left, once, and no other does"
-  '((setq notes nil)
-    (ui_session "ODD_TABS"
+  '((in-pages '(foreach tile '("NAME" "BOTH" "READONLY") (wex_action_tile tile "(note (list $key $value $reason))"))
       '((ui_type "NAME" "typed")
         (ui_pick "TAB" 1)
         (want '(("name" "typed" 2)) notes)
-        (want '("TAB") (focused '("TAB" "NAME" "BOTH" "LIST" "OK")))
-        (ui_click "Cancel")))
-    (wex_new_dialog "ODD_TABS")
-    (wex_setaction_oninit "(add-pages)")
-    (foreach tile '("NAME" "BOTH" "READONLY") (wex_action_tile tile "(note (list $key $value $reason))"))
-    (wex_start_dialog)))
+        (want '("TAB") (focused '("TAB" "NAME" "BOTH" "LIST" "OK")))))))
 
 (test "What leaving an edit box runs may add a page or end the dialog"
-  '((setq notes nil)
-    (ui_session "ODD_TABS"
+  '((in-pages '(wex_action_tile "NAME" "(wex_tab_add \"TAB\" \"Fourth\" \"PUSH\")")
       '((ui_type "NAME" "x")
         (ui_pick "TAB" 1)
         (want '("LIST") (shown '("NAME" "CHECK" "LIST" "PUSH")))
-        (want '("First" "Second" "Third" "Fourth") (ui_items "TAB"))
-        (ui_click "Cancel")))
-    (wex_new_dialog "ODD_TABS")
-    (wex_setaction_oninit "(add-pages)")
-    (wex_action_tile "NAME" "(wex_tab_add \"TAB\" \"Fourth\" \"PUSH\")")
-    (wex_start_dialog)
-    (ui_session "ODD_TABS" '((ui_type "NAME" "x") (ui_pick "TAB" 1)))
-    (wex_new_dialog "ODD_TABS")
-    (wex_setaction_oninit "(add-pages)")
-    (wex_action_tile "NAME" "(wex_done_dialog 5)")
-    (want 5 (wex_start_dialog))))
+        (want '("First" "Second" "Third" "Fourth") (ui_items "TAB"))))
+    (want 5 (run-dialog "ODD_TABS"
+              '(progn (wex_setaction_oninit "(add-pages)") (wex_action_tile "NAME" "(wex_done_dialog 5)"))
+              '((ui_type "NAME" "x") (ui_pick "TAB" 1))))))
 
 (test "Ctrl+Tab and Ctrl+PageDown turn to the next page, round the end; with Shift and Ctrl+PageUp back; the arrow keys do on the tabs"
   '((in-tabs "(add-pages)"
@@ -201,13 +179,11 @@
           (want (list y page) (cons y (colors "TAB" left right y))))))))
 
 (test "A list control shows with its header where labels and boxes were"
-  '((ui_session "SETUP_COMPONENT_XREF"
+  '((in-dialog "SETUP_COMPONENT_XREF"
+      '(wex_setaction_oninit
+         "(wex_tab_add \"TABS\" \"Format\" \"MODE\" \"TEXT\" \"FORMATS\" \"LABEL0\" \"SAME_FMT\") (wex_tab_add \"TABS\" \"Types\" \"TYPES\")")
       '((ui_pick "TABS" 1)
-        (want 1 (length (colors "TYPES" 3 (- (width "TYPES") 3) (/ (height "TYPES") 12))))
-        (ui_click "Cancel")))
-    (wex_new_dialog "SETUP_COMPONENT_XREF")
-    (wex_setaction_oninit "(wex_tab_add \"TABS\" \"Format\" \"MODE\" \"TEXT\" \"FORMATS\" \"LABEL0\" \"SAME_FMT\") (wex_tab_add \"TABS\" \"Types\" \"TYPES\")")
-    (wex_start_dialog)))
+        (want 1 (length (colors "TYPES" 3 (- (width "TYPES") 3) (/ (height "TYPES") 12))))))))
 
 (test "A frame whose id is higher than the tab control's lies below it"
   '((in-tabs "(wex_tab_add \"TAB\" \"First\" \"HIGH_FRAME\")"
@@ -215,7 +191,7 @@
         (want (list (page-color)) (colors "HIGH_FRAME" 0 (width "HIGH_FRAME") (/ (height "HIGH_FRAME") 2)))))))
 
 (test "The background follows a tab control that grows and shrinks"
-  '((ui_session "ODD_TABS"
+  '((in-pages '(foreach row '(("TAB" 63) ("OK" 75) ("Cancel" 75)) (apply 'wex_setresizing row))
       '((ui_size 600 400)
         (ui_pick "TAB" 2)
         (setq page (page-color) before (width "TAB"))
@@ -225,10 +201,4 @@
         (ui_shot "tabs_grown.png")
         (ui_size 600 400)
         (want (list page) (colors "TAB" 10 (- (width "TAB") 10) (- (height "TAB") 20)))
-        (want T (> (length (colors "TAB" 5 50 10)) 1))
-        (ui_click "Cancel")))
-    (wex_new_dialog "ODD_TABS")
-    (wex_setresizing "TAB" 63)
-    (foreach tile '("OK" "Cancel") (wex_setresizing tile 75))
-    (wex_setaction_oninit "(add-pages)")
-    (wex_start_dialog)))
+        (want T (> (length (colors "TAB" 5 50 10)) 1))))))
