@@ -1,35 +1,29 @@
 ; What a person does to a list control with mouse and keys, and what Lisp is told of it.
 
-(defun note (what) (setq notes (append notes (list what))))
-
-(defun fill (tile)
+(defun fill-table (tile)
   (wex_listctrl_setcolumns tile "x\tName\tSize")
-  (wex_start_list tile)
-  (wex_add_list '("alpha\t10" "beta\t9" "gamma\t100"))
-  (wex_end_list))
+  (fill tile '("alpha\t10" "beta\t9" "gamma\t100")))
 
 ; A session on a list of three rows in which several can be selected, and then Cancel.
 (defun in-list (init session)
   (setq notes nil)
-  (ui_session "PICK_DWGS" (append session '((ui_click "Cancel"))))
-  (wex_new_dialog "PICK_DWGS")
-  (fill "LST1")
-  (wex_action_tile "LST1" "(note (list $key $value $reason))")
-  (eval init)
-  (wex_start_dialog))
+  (in-dialog "PICK_DWGS"
+    '(progn (fill-table "LST1")
+            (wex_action_tile "LST1" "(note (list $key $value $reason))")
+            (eval init))
+    session))
 
 ; One that ends by itself, on a list that has room for one selected row. Gives the status.
 (defun in-single-list (init session)
   (setq notes nil)
-  (ui_session "CAT_PICK_LST" session)
-  (wex_new_dialog "CAT_PICK_LST")
-  (fill "LST")
-  (wex_action_tile "LST" "(note (list $value $reason))")
-  (eval init)
-  (wex_start_dialog))
+  (run-dialog "CAT_PICK_LST"
+    '(progn (fill-table "LST")
+            (wex_action_tile "LST" "(note (list $value $reason))")
+            (eval init))
+    session))
 
-(defun selected () (cdr (assoc "selected" (ui_look "LST1"))))
-(defun has-focus (tile) (cdr (assoc "focus" (ui_look tile))))
+(defun selected () (look "LST1" "selected"))
+(defun has-focus (tile) (look tile "focus"))
 
 ; The notes since the last call.
 (defun told (/ was) (setq was notes notes nil) was)
@@ -182,19 +176,15 @@
       '((wex_listctrl_enabledbclk "lst" nil) (ui_dblclick "LST" 1) (want '(("1" 5)) (told)) (ui_key "ESC")))))
 
 (test "A list box takes the setting before it has a window only"
-  '((ui_session "DISP_ASSYVALS"
+  '((in-dialog "DISP_ASSYVALS"
+      '(progn (wex_listctrl_enabledbclk "LST" nil)
+              (fill "LST" '("one" "two"))
+              (wex_action_tile "OK" "(want nil \"OK\")"))
       '((ui_dblclick "LST" 1)
         (want "1" (wex_get_tile "LST"))
         (want nil (wex_listctrl_enabledbclk "LST" T))
         (want 2 (length (ui_alerts)))
-        (ui_dblclick "LST" 1)
-        (ui_click "Cancel")))
-    (wex_new_dialog "DISP_ASSYVALS")
-    (wex_listctrl_enabledbclk "LST" nil)
-    (wex_start_list "LST")
-    (wex_add_list '("one" "two"))
-    (wex_action_tile "OK" "(want nil \"OK\")")
-    (wex_start_dialog)))
+        (ui_dblclick "LST" 1)))))
 
 ; The color of the selected row at the right of its text.
 (defun row-color () (ui_pixel "LST1" 60 42))
@@ -219,12 +209,10 @@
 
 ; LINES takes what is on the clipboard.
 (defun in-kinds (session)
-  (setq notes nil)
-  (ui_session "ODD_KINDS" (append session '((ui_click "Cancel"))))
-  (wex_new_dialog "ODD_KINDS")
-  (fill "LISTVIEW")
-  (wex_action_tile "LISTVIEW" "(note $value)")
-  (wex_start_dialog))
+  (in-dialog "ODD_KINDS"
+    '(progn (fill-table "LISTVIEW")
+            (wex_action_tile "LISTVIEW" "(note $value)"))
+    session))
 
 (defun paste () (wex_set_tile "LINES" "") (ui_key "CTRL+V" "LINES"))
 
