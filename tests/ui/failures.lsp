@@ -13,14 +13,6 @@
       (want nil (apply name nil))
       (want nil (ui_alerts)))))
 
-(test "Without a current dialog nothing happens"
-  '((foreach call '((wex_set_tile "DESC" "x") (wex_get_tile "DESC") (wex_mode_tile "DESC" 1) (wex_action_tile "DESC" "(princ)")
-                    (wex_setaction_oninit "(princ)") (wex_settitlebar "x") (wex_done_dialog 1) (wex_start_dialog))
-      (want nil (eval call)))
-    (want 0 (wex_dimx_tile "DESC"))
-    (want 0 (wex_dimy_tile 112))
-    (want nil (ui_alerts))))
-
 (test "An unknown name shows an alert and leaves no dialog current"
   '((want -1 (in-dialog "ADD_REC"
       '(wex_action_tile "HELP" "(note (wex_new_dialog \"NO_SUCH\")) (note (wex_get_tile \"DESC\"))")

@@ -152,9 +152,3 @@
         (want nil (wex_movecontrol "nobody" 1 2 3 4))
         (ui_size 530 460)
         (want (plus '(10 0 0 0) cancel) (rect "Cancel"))))))
-
-(test "Without a dialog, and with arguments missing, nothing happens"
-  '((foreach call '((wex_setresizing "A" 1) (wex_setresizing "A") (wex_setminresizing 10 10) (wex_setminresizing 10)
-                    (wex_setmaxresizing 10 10) (wex_start_controlmove 1) (wex_movecontrol "A" 1 2 3 4) (wex_end_controlmove))
-      (want nil (eval call)))
-    (want nil (ui_alerts))))

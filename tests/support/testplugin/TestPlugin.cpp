@@ -26,20 +26,6 @@ int32_t value() {
     return RESULT_SET;
 }
 
-// The type codes of the arguments, less 5000.
-int32_t types() {
-    HostValue* codes = nullptr;
-    HostValue** tail = &codes;
-    for (const HostValue* node = hostGetArgs(); node; node = node->next) {
-        *tail = hostNewRb(HV_SHORT);
-        (*tail)->value.shortValue = static_cast<int16_t>(node->type - HV_NONE);
-        tail = &(*tail)->next;
-    }
-    hostRetList(codes);
-    hostRelRb(codes);
-    return RESULT_SET;
-}
-
 int32_t noValue() {
     hostRetVoid();
     return RESULT_SET;
@@ -195,17 +181,27 @@ struct Row {
 };
 
 constexpr Row ROWS[] = {
-    {L"t_echo", &echo},         {L"t_value", &value},
-    {L"t_types", &types},       {L"t_void", &noValue},
-    {L"t_noresult", &noResult}, {L"t_two", &twoResults},
-    {L"t_throw", &throwError},  {L"t_throw5", &throwNumber},
-    {L"t_code", &code},         {L"t_invoke", &invoke},
-    {L"t_put", &put},           {L"t_build", &build},
-    {L"t_dialog", &dialog},     {L"t_events", &events},
-    {L"t_ask", &ask},           {L"t_say", &say},
-    {L"t_print", &print},       {L"t_leak", &leakBrush},
-    {L"t_messages", &messages}, {L"t_command", &command},
-    {L"t_send", &send},         {L"t_window", &window},
+    {L"t_echo", &echo},
+    {L"t_value", &value},
+    {L"t_void", &noValue},
+    {L"t_noresult", &noResult},
+    {L"t_two", &twoResults},
+    {L"t_throw", &throwError},
+    {L"t_throw5", &throwNumber},
+    {L"t_code", &code},
+    {L"t_invoke", &invoke},
+    {L"t_put", &put},
+    {L"t_build", &build},
+    {L"t_dialog", &dialog},
+    {L"t_events", &events},
+    {L"t_ask", &ask},
+    {L"t_say", &say},
+    {L"t_print", &print},
+    {L"t_leak", &leakBrush},
+    {L"t_messages", &messages},
+    {L"t_command", &command},
+    {L"t_send", &send},
+    {L"t_window", &window},
     {L"t_tab", &addBareTab},
 };
 constexpr int COUNT = ARRAYSIZE(ROWS);

@@ -13,12 +13,6 @@ namespace {
 // No test needs longer, and none may hang.
 constexpr wchar_t TIMEOUT_SECONDS[] = L"30";
 
-fs::path testFolder() {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
-    return fs::path(path).parent_path();
-}
-
 // As the C run-time of the started program takes it apart again.
 std::wstring quoted(const std::wstring& argument) {
     std::wstring text = L"\"";
@@ -83,10 +77,15 @@ unsigned runProcess(std::wstring command, STARTUPINFOW& startup) {
 
 }  // namespace
 
-HostRun runHost(const std::vector<std::wstring>& arguments, const std::string& input) {
-    const fs::path folder = testFolder();
-    std::wstring command = quoted(folder.parent_path() / L"bin" / L"wexhost.exe");
-    command += L" --plugin " + quoted(folder / L"testplugin.pgx");
+std::wstring buildFolder() {
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+    return fs::path(path).parent_path().parent_path().wstring();
+}
+
+HostRun startHost(const wchar_t* folder, const std::vector<std::wstring>& arguments,
+                  const std::string& input) {
+    std::wstring command = quoted(buildFolder() + L'\\' + folder + L"\\wexhost.exe");
     for (const std::wstring& argument : arguments) command += L" " + quoted(argument);
 
     const Stream in(L"in.txt");
@@ -100,6 +99,12 @@ HostRun runHost(const std::vector<std::wstring>& arguments, const std::string& i
     startup.hStdError = errors.handle();
     const unsigned status = runProcess(command, startup);
     return {status, out.text(), errors.text()};
+}
+
+HostRun runHost(const std::vector<std::wstring>& arguments, const std::string& input) {
+    std::vector<std::wstring> all = {L"--plugin", buildFolder() + L"\\tests\\testplugin.pgx"};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return startHost(L"bin", all, input);
 }
 
 HostRun evaluate(const std::wstring& expression) {

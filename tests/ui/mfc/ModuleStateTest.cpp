@@ -37,11 +37,4 @@ TEST_F(ModuleStateTest, StringsAreEmptyWithoutAModuleAndCutAtTheBuffer) {
     EXPECT_EQ(loadIcon(1), nullptr);
 }
 
-TEST_F(ModuleStateTest, ProfileKeepsNumbersOfBothSigns) {
-    ASSERT_TRUE(CWinApp::WriteProfileInt(L"MfcTest", L"left", -8));
-    EXPECT_EQ(CWinApp::GetProfileInt(L"MfcTest", L"left", 1), -8);
-    EXPECT_EQ(CWinApp::GetProfileInt(L"MfcTest", L"right", 17), 17);
-    RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\WexDialogs\\MfcTest");
-}
-
 }  // namespace

@@ -31,22 +31,6 @@ class RefusingTree : public CTreeCtrl {
     LRESULT onChanging(NMHDR*) { return refuse; }
 };
 
-class Bar : public CScrollBar {
-  public:
-    UINT code = 0, position = 0;
-    const MessageMap& messageMap() const override {
-        static const MessageMap map(CScrollBar::messageMap(),
-                                    {onReflectedMessage<WM_HSCROLL, &Bar::onScroll>()});
-        return map;
-    }
-
-  private:
-    void onScroll(UINT scrollCode, UINT at) {
-        code = scrollCode;
-        position = at;
-    }
-};
-
 class CommandDialog : public TestDialog {
   public:
     using TestDialog::TestDialog;
@@ -109,16 +93,6 @@ TEST_F(ReflectionTest, AnswerOfANotificationReachesTheControl) {
     EXPECT_FALSE(tree.SendMessage(TVM_SELECTITEM, TVGN_CARET, item));
     tree.refuse = false;
     EXPECT_TRUE(tree.SendMessage(TVM_SELECTITEM, TVGN_CARET, item));
-}
-
-TEST_F(ReflectionTest, ScrollBarGetsItsOwnScrolling) {
-    Bar bar;
-    TestDialog dialog(&owner);
-    ASSERT_TRUE(dialog.Create());
-    ASSERT_TRUE(bar.SubclassDlgItem(113, &dialog));
-    dialog.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 42), reinterpret_cast<LPARAM>(bar.m_hWnd));
-    EXPECT_EQ(bar.code, UINT{SB_THUMBTRACK});
-    EXPECT_EQ(bar.position, 42u);
 }
 
 // What a handler gets of a message, as text.

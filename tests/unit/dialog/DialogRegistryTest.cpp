@@ -19,27 +19,6 @@ struct FakeDialog {
 
 using Registry = DialogRegistry<FakeDialog>;
 
-TEST(DialogRegistry, TheDialogMadeBeforeBecomesCurrentThoughItWasNeverStarted) {
-    std::set<const FakeDialog*> alive;
-    Registry registry;
-    registry.add(std::make_unique<FakeDialog>(alive));
-    FakeDialog* first = registry.current();
-    EXPECT_EQ(registry.beforeNewest(), nullptr);
-    registry.add(std::make_unique<FakeDialog>(alive));
-    EXPECT_EQ(registry.beforeNewest(), first);
-    EXPECT_NE(registry.current(), first);
-    registry.removeNewest();
-    EXPECT_EQ(registry.current(), first);
-    registry.clearCurrent();
-    EXPECT_EQ(registry.current(), nullptr);
-    EXPECT_EQ(registry.newest(), first);
-    registry.removeNewest();
-    EXPECT_TRUE(registry.empty());
-    EXPECT_TRUE(alive.empty());
-    registry.removeNewest();
-    EXPECT_EQ(registry.current(), nullptr);
-}
-
 // Programs make, start and mistype dialogs in any order, from inside of running ones: no dialog that runs may
 // be deleted under its own frames, and the current one is always the newest or none.
 class RandomProgram {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "src/dialog/TileValue.h"
-
 namespace {
 
 TileRecords records() {
@@ -41,13 +39,6 @@ TEST(TileRecords, TheOldestOfSeveralWins) {
     CCtrlInfo* byId = tiles.forId(300);
     EXPECT_NE(byUnknownKey, byId);
     EXPECT_EQ(tiles.forKey(L"control not found"), byUnknownKey);
-}
-
-TEST(TileValue, IsToldByTheClassNameWithCase) {
-    EXPECT_EQ(valueMeaning(L"Button"), ValueMeaning::buttonState);
-    EXPECT_EQ(valueMeaning(L"SysTabControl32"), ValueMeaning::tab);
-    EXPECT_EQ(valueMeaning(L"listbox"), ValueMeaning::text);
-    EXPECT_EQ(valueMeaning(L"GXWND"), ValueMeaning::text);
 }
 
 }  // namespace

@@ -17,12 +17,7 @@ TEST(CommandHistory, WalksBothWaysAndGivesBackWhatWasTyped) {
     EXPECT_EQ(history.newer(L"one"), L"two");
     EXPECT_EQ(history.newer(L"two"), L"typed");
     EXPECT_EQ(history.newer(L"typed"), L"typed");
-}
-
-TEST(CommandHistory, AnEnteredLineStartsTheWalkAnew) {
-    CommandHistory history;
-    history.add(L"one");
-    history.add(L"two");
+    // A line that is entered starts the walk anew.
     history.older(L"");
     history.older(L"");
     history.add(L"three");

@@ -2,7 +2,6 @@
 
 #include "host/units/AngularUnits.h"
 #include "host/units/LinearUnits.h"
-#include "src/dialog/SelectionText.h"
 #include "src/tiles/EditFilter.h"
 #include "src/tiles/EndOfEdit.h"
 
@@ -51,34 +50,19 @@ TEST(EditFilter, OnlyBackspaceAndEscAreFree) {
     EXPECT_EQ(filterChar(27, L""), TypedChar::restore);
 }
 
-UnitConverters converters(std::optional<double> parsed, std::optional<CString> formatted,
-                          CString* seen = nullptr) {
-    return {[=](const CString& text) {
-                if (seen) *seen = text;
-                return parsed;
-            },
-            [=](double) { return formatted; }};
-}
-
-TEST(EndOfEdit, ShowsTheHostsFormOrTheLastGoodText) {
-    const EditedText good = endOfEdit(L"1.5", L"old", converters(1.5, L"1.5000"));
-    EXPECT_EQ(good.shown, L"1.5000");
-    EXPECT_EQ(good.lastGood, L"1.5000");
-    const EditedText bad = endOfEdit(L"1-2", L"12", converters(std::nullopt, L"x"));
-    EXPECT_EQ(bad.shown, L"12");
-    EXPECT_EQ(bad.lastGood, L"12");
-    const EditedText unformatted = endOfEdit(L"7", L"old", converters(7, std::nullopt));
-    EXPECT_EQ(unformatted.shown, L"7");
-    EXPECT_EQ(unformatted.lastGood, L"7");
+// What can be formatted, and what can't be parsed, is for sessions of edit boxes.
+TEST(EndOfEdit, AValueThatCannotBeFormattedStaysAsItWasTyped) {
     CString seen;
-    EXPECT_EQ(endOfEdit(L"", L"old", converters(0, std::nullopt, &seen)).shown, L"0.0");
+    const UnitConverters converters{[&](const CString& text) -> std::optional<double> {
+                                        seen = text;
+                                        return 7;
+                                    },
+                                    [](double) { return std::nullopt; }};
+    const EditedText edited = endOfEdit(L"7", L"old", converters);
+    EXPECT_EQ(edited.shown, L"7");
+    EXPECT_EQ(edited.lastGood, L"7");
+    EXPECT_EQ(endOfEdit(L"", L"old", converters).shown, L"0.0");
     EXPECT_EQ(seen, L"0.0");
-}
-
-TEST(SelectionText, JoinsWithOneBlank) {
-    EXPECT_EQ(selectionText({}), L"");
-    const int several[] = {0, 12, 345};
-    EXPECT_EQ(selectionText(several), L"0 12 345");
 }
 
 }  // namespace
