@@ -198,7 +198,6 @@
         (ui_size 800 600)
         (want 200 (- (width "TAB") before))
         (want (list page) (colors "TAB" 10 (- (width "TAB") 10) (- (height "TAB") 20)))
-        (ui_shot "tabs_grown.png")
         (ui_size 600 400)
         (want (list page) (colors "TAB" 10 (- (width "TAB") 10) (- (height "TAB") 20)))
         (want T (> (length (colors "TAB" 5 50 10)) 1))))))
