@@ -62,12 +62,14 @@ TEST_F(ColumnsAndRows, ARowSelectedWhileRedrawIsHeldIsScrolledTo) {
 }
 
 TEST_F(ColumnsAndRows, LongCellsStayWhole) {
-    const CString cell(3000, L'x');
     insertColumn(list, 0, L"Name", 50);
     insertColumn(list, 1, L"Size", 50);
-    appendRow(list, cell + L"\t" + cell);
-    EXPECT_EQ(CellReader(list).text(0, 0), cell);
-    EXPECT_EQ(CellReader(list).text(0, 1), cell);
+    CellReader reader(list);
+    for (const int length : {255, 256, 3000}) {
+        const CString cell(length, L'x');
+        appendRow(list, cell + L"\t" + cell);
+        for (const int column : {0, 1}) EXPECT_EQ(reader.text(rowCount(list) - 1, column), cell);
+    }
 }
 
 TEST_F(ColumnsAndRows, DrawAtTheNextTurnOfTheLoop) {

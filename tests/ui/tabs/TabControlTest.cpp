@@ -55,23 +55,6 @@ TEST_F(TabControl, LiesUnderItsSiblingsWithABlankBackgroundThatFollowsItsSize) {
     }
 }
 
-TEST_F(TabControl, AddsTabsWithoutPictureAndData) {
-    tab.addPage(L"First", {});
-    tab.addPage(L"Second", {});
-    wchar_t text[20];
-    TCITEMW item = {};
-    item.mask = TCIF_TEXT | TCIF_IMAGE | TCIF_PARAM;
-    item.iImage = 7;
-    item.lParam = 7;
-    item.pszText = text;
-    item.cchTextMax = 20;
-    ASSERT_TRUE(tab.SendMessage(TCM_GETITEMW, 1, reinterpret_cast<LPARAM>(&item)));
-    EXPECT_STREQ(item.pszText, L"Second");
-    EXPECT_EQ(item.iImage, -1);
-    EXPECT_EQ(item.lParam, 0);
-    EXPECT_EQ(tab.SendMessage(TCM_GETCURSEL), 0);
-}
-
 TEST_F(TabControl, TakesTheNotificationOfAChangeAndPassesOverMembersThatAreGone) {
     tab.addPage(L"First", {&first});
     tab.addPage(L"Second", {&second});

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "src/listctrl/CellKind.h"
 #include "src/listctrl/CellOrder.h"
 #include "tests/unit/listctrl/MemoryRows.h"
 #include "tests/unit/listctrl/RandomCells.h"
@@ -15,38 +14,12 @@ std::vector<CString> sorted(const std::vector<CString>& cells, bool ascending) {
     return result;
 }
 
-TEST(CellKind, IsThatOfTheLastCharacterUnlessAnyIsForeign) {
-    EXPECT_EQ(cellKindOf(L""), CellKind::text);
-    EXPECT_EQ(cellKindOf(L"' \""), CellKind::text) << "no digit";
-    EXPECT_EQ(cellKindOf(L"12A"), CellKind::text);
-    EXPECT_EQ(cellKindOf(L"A12"), CellKind::text);
-    EXPECT_EQ(cellKindOf(L"-"), CellKind::digits);
-    EXPECT_EQ(cellKindOf(L"1/2"), CellKind::digits);
-    EXPECT_EQ(cellKindOf(L"1.5E+3"), CellKind::digits);
-    EXPECT_EQ(cellKindOf(L"1'-6\""), CellKind::feet);
-    EXPECT_EQ(cellKindOf(L"12 "), CellKind::feet);
-    EXPECT_EQ(cellKindOf(L"3/"), CellKind::slash);
-    EXPECT_EQ(cellKindOf(L"2e"), CellKind::exponent);
-    EXPECT_EQ(cellKindOf(L"1+"), CellKind::exponent);
-    EXPECT_EQ(linearUnitOf(CellKind::digits), 2);
-    EXPECT_EQ(linearUnitOf(CellKind::feet), 3);
-    EXPECT_EQ(linearUnitOf(CellKind::slash), 1);
-    EXPECT_EQ(linearUnitOf(CellKind::exponent), 5);
-}
-
 TEST(CellOrder, DistancesAreComparedByValueAndTextsByCodeUnits) {
     EXPECT_EQ(sorted({L"10", L"9", L"100"}, true), Cells({L"9", L"10", L"100"}));
     EXPECT_EQ(sorted({L"10", L"9", L"100"}, false), Cells({L"100", L"10", L"9"}));
     EXPECT_EQ(sorted({L"b", L"B", L"a", L""}, true), Cells({L"", L"B", L"a", L"b"}));
     EXPECT_EQ(sorted({L"20", L"1'-6\"", L"2'", L"17.5"}, true), Cells({L"17.5", L"1'-6\"", L"20", L"2'"}));
     EXPECT_EQ(sorted({L"10", L"9", L""}, true), Cells({L"", L"9", L"10"}));
-}
-
-TEST(CellOrder, EqualTextsStayWhereTheyAre) {
-    EXPECT_EQ(sortedOrder(Cells{L"x", L"x", L"x"}, true, parseDistance), std::vector({0, 1, 2}));
-    EXPECT_EQ(sortedOrder(Cells{L"7", L"7.0", L"7"}, false, parseDistance),
-              plainOrder({L"7", L"7.0", L"7"}, false));
-    EXPECT_TRUE(sortedOrder(Cells{}, true, parseDistance).empty());
 }
 
 TEST(CellOrder, ComesOutAsThePlainProcedureForAnyTable) {

@@ -51,38 +51,20 @@ TEST(PageMembers, AnotherKindOfArgumentStandsForWhatWasFoundLast) {
     EXPECT_EQ(members({L"a", L"none", HV_NIL}), controls({1})) << "the look-up that failed found nothing";
 }
 
-PageMembers pages(std::initializer_list<Controls> lists) {
-    PageMembers made;
+TEST(PageMembers, NoneIsHiddenAndShownOrTwiceInAList) {
+    PageMembers pages;
     int page = 0;
-    for (const Controls& list : lists) {
-        made.addPage();
-        for (CWnd* member : list) made.add(page, member);
+    for (const Controls& list : {controls({1, 9, 9}), controls({9, 2, 9})}) {
+        pages.addPage();
+        for (CWnd* member : list) pages.add(page, member);
         ++page;
     }
-    return made;
-}
-
-TEST(PageMembers, ChangeHidesTheOtherPagesAndShowsThePage) {
-    const PageMembers three = pages({controls({1, 2}), controls({5, 3}), {}});
-    EXPECT_EQ(three.changeTo(0).hide, controls({5, 3}));
-    EXPECT_EQ(three.changeTo(0).show, controls({1, 2}));
-    EXPECT_EQ(three.changeTo(1).hide, controls({1, 2}));
-    EXPECT_EQ(three.changeTo(2).hide, controls({1, 2, 5, 3}));
-    EXPECT_EQ(three.changeTo(2).show, Controls());
-    for (const int none : {-1, 3}) EXPECT_EQ(three.changeTo(none).hide, controls({1, 2, 5, 3}));
-}
-
-TEST(PageMembers, AControlOfSeveralPagesStaysWhenOneOfThemIsShown) {
-    const PageMembers shared = pages({controls({1, 9, 9}), controls({9, 2, 9}), controls({3})});
-    EXPECT_EQ(shared.changeTo(1).hide, controls({1, 3}));
-    EXPECT_EQ(shared.changeTo(1).show, controls({9, 2}));
-    EXPECT_EQ(shared.changeTo(2).hide, controls({1, 9, 2}));
-}
-
-TEST(PageMembers, APageThatIsNotThereIsRefused) {
-    PageMembers one = pages({controls({1})});
-    for (const int page : {-1, 1}) EXPECT_THROW(one.add(page, control(2)), CInvalidArgException);
-    EXPECT_EQ(one.changeTo(0).show, controls({1}));
+    EXPECT_EQ(pages.changeTo(1).hide, controls({1}));
+    EXPECT_EQ(pages.changeTo(1).show, controls({9, 2}));
+    for (const int none : {-1, 2}) {
+        EXPECT_EQ(pages.changeTo(none).hide, controls({1, 9, 2}));
+        EXPECT_THROW(pages.add(none, control(2)), CInvalidArgException);
+    }
 }
 
 }  // namespace
