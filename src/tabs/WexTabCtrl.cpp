@@ -24,8 +24,9 @@ bool holdsFocus(const CWnd* control) {
     return focus && (focus == control->m_hWnd || IsChild(control->m_hWnd, focus));
 }
 
-// Nothing is drawn.
+// Nothing is drawn. A control that has the focus still is left to the platform, which moves the focus on.
 void setShown(const CWnd& control, bool shown) {
+    if (!shown && holdsFocus(&control)) return control.ShowWindow(SW_HIDE);
     SetWindowPos(control.m_hWnd, nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW |
                      (shown ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
@@ -89,7 +90,7 @@ void WexTabCtrl::showPage() {
 }
 
 // Left to itself the focus would go from one control to the next as they are hidden, and each would tell that
-// it was left. False: the tab control is gone.
+// it was left. A disabled tab control doesn't take it. False: the tab control is gone.
 bool WexTabCtrl::releaseFocus(const PageChange& change) {
     if (std::any_of(change.hide.begin(), change.hide.end(), holdsFocus)) SetFocus();
     return isLive();
@@ -148,6 +149,7 @@ RECT WexTabCtrl::pageAreaIn(const CWnd& window) const {
     return area;
 }
 
+// kept: 2 pixels at the left, 4 at the other edges.
 void WexTabCtrl::placeBackground() {
     RECT rect = GetClientRect();
     rect.left += 2;

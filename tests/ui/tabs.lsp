@@ -124,6 +124,13 @@
               '(progn (wex_setaction_oninit "(add-pages)") (wex_action_tile "NAME" "(wex_done_dialog 5)"))
               '((ui_type "NAME" "x") (ui_pick "TAB" 1))))))
 
+(test "The focus leaves a page that Lisp turns, also where the tab control is disabled"
+  '((in-tabs "(add-pages)"
+      '((ui_type "NAME" "x")
+        (wex_mode_tile "TAB" 1)
+        (progn (wex_set_tile "TAB" "2") (wex_tab_add "TAB" "Fourth"))
+        (want nil (focused '("NAME" "BOTH" "TAB")))))))
+
 (test "Ctrl+Tab and Ctrl+PageDown turn to the next page, round the end; with Shift and Ctrl+PageUp back; the arrow keys do on the tabs"
   '((in-tabs "(add-pages)"
       '((ui_key "CTRL+TAB" "NAME")
