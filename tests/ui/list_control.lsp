@@ -1,17 +1,8 @@
 ; Columns and rows of list controls: before the run, live, and what the functions refuse.
 
-(defun fill (tile items)
-  (wex_start_list tile)
-  (wex_add_list items)
-  (wex_end_list))
-
-; Opens the dialog of list controls. `before` runs without a window, `init` as its start action.
+; `before` runs without a window, `init` as the start action.
 (defun in-tables (before init session)
-  (ui_session "ODD_TABLES" (append session '((ui_click "Cancel"))))
-  (wex_new_dialog "ODD_TABLES")
-  (wex_setaction_oninit init)
-  (eval before)
-  (wex_start_dialog))
+  (in-dialog "ODD_TABLES" '(progn (wex_setaction_oninit init) (eval before)) session))
 
 (defun titles (tile) (mapcar 'car (ui_columns tile)))
 (defun widths (tile) (mapcar 'cadr (ui_columns tile)))
@@ -68,11 +59,11 @@
       '((wex_set_tile "TABLE" "2")
         (wex_set_tile 112 1)
         (wex_set_tile "TABLE" "3")
-        (want '(1 2) (cdr (assoc "selected" (ui_look "TABLE"))))
+        (want '(1 2) (look "TABLE" "selected"))
         (wex_set_tile 112 -1)
-        (want '(1 2) (cdr (assoc "selected" (ui_look "TABLE"))))
+        (want '(1 2) (look "TABLE" "selected"))
         (wex_set_tile "TABLE" -1)
-        (want nil (cdr (assoc "selected" (ui_look "TABLE"))))))))
+        (want nil (look "TABLE" "selected"))))))
 
 (test "On a live list control operation 3 empties, 1 and 2 append, -1 replaces the first selected row"
   '((in-tables '(fill "TABLE" '("one\tA\ta" "two\tB\tb" "three\tC\tc")) three-columns
@@ -85,7 +76,7 @@
         (want '("one\tA\ta" "TWO\t B \tb" "three\tC\tc" "four\t\t") (ui_items "TABLE"))
         (wex_add_list "")
         (want "\t B \tb" (cadr (ui_items "TABLE")))
-        (want '(1 2) (cdr (assoc "selected" (ui_look "TABLE"))))
+        (want '(1 2) (look "TABLE" "selected"))
         (wex_start_list "TABLE" 1)
         (wex_add_list "five")
         (wex_start_list 112 2)
@@ -95,25 +86,25 @@
         (want '("new\t\t") (ui_items "TABLE"))))))
 
 (test "wex_listctrl_additem adds a row or sets one cell, and is also called wex_listctrl_setitem"
-  '((foreach name '(wex_listctrl_additem wex_listctrl_setitem)
+  '((foreach put-row '(wex_listctrl_additem wex_listctrl_setitem)
       (in-tables '(fill "TABLE" '("one\tA" "two\tB" "three\tC")) three-columns
-        '((apply name '("TABLE" "four\tD\t"))
-          (apply name '("TABLE" 1 2 "a\tb"))
-          (apply name '(112 0 0 "ONE"))
+        '((apply put-row '("TABLE" "four\tD\t"))
+          (apply put-row '("TABLE" 1 2 "a\tb"))
+          (apply put-row '(112 0 0 "ONE"))
           (want '("ONE\tA\t" "two\tB\ta\tb" "three\tC\t" "four\tD\t") (ui_items "TABLE"))
-          (apply name '("TABLE" 4 1 "new\tE"))
-          (apply name '("TABLE" -1 1 "newer"))
+          (apply put-row '("TABLE" 4 1 "new\tE"))
+          (apply put-row '("TABLE" -1 1 "newer"))
           (want '("new\tE\t" "newer\t\t") (cdr (member "four\tD\t" (ui_items "TABLE"))))
-          (apply name '("TABLE" 2 1 nil))
+          (apply put-row '("TABLE" 2 1 nil))
           (want "three\t\t" (caddr (ui_items "TABLE")))
           ; Cells and rows that aren't there, and chains that end early.
           (foreach arguments '((-5 0 "x") (0 "x") (0 3 "x") (0 -1 "x") (0) (0 1) ())
-            (apply name (cons "TABLE" arguments)))
+            (apply put-row (cons "TABLE" arguments)))
           (want "ONE\tA\t" (car (ui_items "TABLE")))
           (want 6 (length (ui_items "TABLE")))
-          (foreach arguments '((nil) (7 "no column") (8 nil) ("text first" 1 2)) (apply name (cons "TABLE" arguments)))
+          (foreach arguments '((nil) (7 "no column") (8 nil) ("text first" 1 2)) (apply put-row (cons "TABLE" arguments)))
           (want '("\t\t" "no column\t\t" "\t\t" "text first\t\t") (nthcdr 6 (ui_items "TABLE")))
-          (apply name '("TABLE" 6 0 5 "behind the text's place"))
+          (apply put-row '("TABLE" 6 0 5 "behind the text's place"))
           (want "\t\t" (nth 6 (ui_items "TABLE"))))))))
 
 (test "Columns are added, renamed, counted and deleted; the cells behind a deleted column move up"
@@ -153,16 +144,16 @@
 
 (test "Grid lines come with T and stay"
   '((in-tables nil three-columns
-      '((want nil (cdr (assoc "gridlines" (ui_look "TABLE"))))
+      '((want nil (look "TABLE" "gridlines"))
         (wex_listctrl_showgridlines "TABLE" nil)
         (want 1 (alerts))
         (want nil (wex_listctrl_showgridlines "TABLE"))
-        (want nil (cdr (assoc "gridlines" (ui_look "TABLE"))))
+        (want nil (look "TABLE" "gridlines"))
         (wex_listctrl_showgridlines "TABLE" T)
         (want 0 (alerts))
         (wex_listctrl_showgridlines "TABLE" 1)
         (want 1 (alerts))
-        (want T (cdr (assoc "gridlines" (ui_look "TABLE"))))))))
+        (want T (look "TABLE" "gridlines"))))))
 
 (test "wex_listctrl_setcolumnreference loads the rows that waited anew, as long as they wait"
   '((in-tables '(fill "TABLE" '("one\tA  " "two\tB")) three-columns
@@ -246,13 +237,10 @@
         (want 0 (alerts))))))
 
 (test "The list of footprints stays empty without its records, whatever waits for it"
-  '((ui_session "LOOKUP_FP"
+  '((in-dialog "LOOKUP_FP"
+      '(progn (wex_listctrl_setcolumns "DLST" "x\tCatalog\tName")
+              (fill "DLST" '("one" "two"))
+              (wex_set_tile "DLST" "1"))
       '((want nil (ui_items "DLST"))
         (want "-1" (wex_get_tile "DLST"))
-        (want '("Catalog" "Name") (titles "DLST"))
-        (ui_click "Cancel")))
-    (wex_new_dialog "LOOKUP_FP")
-    (wex_listctrl_setcolumns "DLST" "x\tCatalog\tName")
-    (fill "DLST" '("one" "two"))
-    (wex_set_tile "DLST" "1")
-    (wex_start_dialog)))
+        (want '("Catalog" "Name") (titles "DLST"))))))
