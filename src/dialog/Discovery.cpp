@@ -53,7 +53,7 @@ bool isWalked(int id) {
 
 }  // namespace
 
-void TileControl::attach(WexDialog&, CDataExchange& exchange, int id) { DDX_Control(exchange, id, wnd()); }
+void TileControl::attach(WexDialog&, HWND control) { wnd().SubclassWindow(control); }
 
 void TileControl::applyRecord(CCtrlInfo& tile) {
     if (!tile.m_action.IsEmpty()) m_action = tile.m_action;
@@ -63,25 +63,27 @@ void WexDialog::DoDataExchange(CDataExchange& exchange) {
     CSnapDlg::DoDataExchange(exchange);
     if (exchange.m_bSaveAndValidate) return;
     for (const auto& [id, control] : childrenById(m_hWnd))
-        if (isWalked(id)) discover(exchange, id, control);
+        if (isWalked(id)) discover(id, control);
     m_discovered = true;
 }
 
-void WexDialog::discover(CDataExchange& exchange, int id, HWND control) {
+void WexDialog::discover(int id, HWND control) {
     // A Cancel button without an action stays the plain one that the library handles.
     if (id == CANCEL_CONTROL_ID && tileForId(id)->m_action.IsEmpty()) return;
     const ControlFamily& family = familyOf(kindOf(control));
     CCtrlInfo* tile = nullptr;
+    // A wrapper may put a window of its own in the place of the control.
+    HWND window = control;
     if (family.make) {
         TileControl& wrapper = *m_controls.emplace_back(family.make());
-        wrapper.attach(*this, exchange, id);
+        wrapper.attach(*this, control);
         tile = tileForId(id);
         tile->m_control = &wrapper.wnd();
+        window = wrapper.wnd().m_hWnd;
         tile->m_controlType = family.typeWord;
         wrapper.discovered(*this, *tile);
     } else {
         tile = tileForId(id);
     }
-    if (tile->mode() == MODE_AS_CONTROL)
-        tile->setMode(IsWindowEnabled(::GetDlgItem(m_hWnd, id)) ? MODE_ENABLE : MODE_DISABLE);
+    if (tile->mode() == MODE_AS_CONTROL) tile->setMode(IsWindowEnabled(window) ? MODE_ENABLE : MODE_DISABLE);
 }

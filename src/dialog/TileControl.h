@@ -8,7 +8,6 @@
 #include "src/platform/mfc/CWnd.h"
 
 class WexDialog;
-struct CDataExchange;
 
 class TileControl {
   public:
@@ -17,8 +16,8 @@ class TileControl {
     // The wrapper as a window: the same object.
     virtual CWnd& wnd() = 0;
 
-    // Takes the template's control of that id.
-    virtual void attach(WexDialog& dialog, CDataExchange& exchange, int id);
+    // Takes a control of the template.
+    virtual void attach(WexDialog& dialog, HWND control);
     // The wrapper is attached and joined to its record.
     virtual void discovered(WexDialog& /*dialog*/, CCtrlInfo& /*tile*/) {}
     // Takes over what the wrapper keeps of the record. The base copies the action's name.

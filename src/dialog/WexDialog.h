@@ -80,7 +80,7 @@ class WexDialog : public CSnapDlg {
     LRESULT onHelp(HELPINFO* help);
 
     bool turnPage(int step);
-    void discover(CDataExchange& exchange, int id, HWND control);
+    void discover(int id, HWND control);
     void applyRecords();
     void computeAnchors(const CWnd& control, CCtrlInfo& tile);
     void placeAtStart();

@@ -10,7 +10,7 @@
 class WexSlideImage : public CButton, public TileControl {
   public:
     CWnd& wnd() override { return *this; }
-    void attach(WexDialog& dialog, CDataExchange& exchange, int id) override;
+    void attach(WexDialog& dialog, HWND control) override;
     void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
 
   private:

@@ -23,10 +23,6 @@ const MessageMap& WexButtonSt::messageMap() const {
     return map;
 }
 
-void WexButtonSt::attach(WexDialog& dialog, CDataExchange&, int id) {
-    SubclassWindow(::GetDlgItem(dialog.m_hWnd, id));
-}
-
 void WexButtonSt::discovered(WexDialog& dialog, CCtrlInfo&) {
     ModifyStyle(0, BS_ICON);
     SetAlign(0);

@@ -11,7 +11,6 @@ class WexButtonSt : public CXPStyleButtonST, public TileControl, public Pressabl
 
   public:
     CWnd& wnd() override { return *this; }
-    void attach(WexDialog& dialog, CDataExchange& exchange, int id) override;
     void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
     void click() override { press(); }
     void press() override;

@@ -29,7 +29,7 @@ const MessageMap& WexFrame::messageMap() const {
     return map;
 }
 
-void WexFrame::attach(WexDialog& dialog, CDataExchange&, int id) { replace(dialog, id); }
+void WexFrame::attach(WexDialog& dialog, HWND control) { replace(dialog, ::GetDlgCtrlID(control)); }
 
 void WexFrame::replace(const CWnd& parent, int id) {
     CWnd* groupBox = parent.GetDlgItem(id);

@@ -9,7 +9,7 @@ class WexFrame : public CWnd, public TileControl {
 
   public:
     CWnd& wnd() override { return *this; }
-    void attach(WexDialog& dialog, CDataExchange& exchange, int id) override;
+    void attach(WexDialog& dialog, HWND control) override;
     // Puts the frame in the place of the group box of that id.
     void replace(const CWnd& parent, int id);
 

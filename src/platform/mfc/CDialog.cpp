@@ -63,10 +63,6 @@ class DisabledOwner {
 
 }  // namespace
 
-void DDX_Control(CDataExchange& exchange, int id, CWnd& wrapper) {
-    if (!wrapper.m_hWnd) wrapper.SubclassDlgItem(id, exchange.m_pDlgWnd);
-}
-
 HWND CDialog::owner() const {
     HWND window = m_parent && m_parent->isLive() ? m_parent->m_hWnd : AfxGetMainWindow();
     return window ? GetAncestor(window, GA_ROOT) : nullptr;
@@ -181,7 +177,7 @@ void CDialog::EndDialog(int result) {
 }
 
 bool CDialog::UpdateData(bool save) {
-    CDataExchange exchange{this, save};
+    CDataExchange exchange{save};
     DoDataExchange(exchange);
     return true;
 }

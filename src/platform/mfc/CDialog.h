@@ -3,16 +3,9 @@
 
 #include "src/platform/mfc/CWnd.h"
 
-class CDialog;
-
 struct CDataExchange {
-    CDialog* m_pDlgWnd;
     bool m_bSaveAndValidate;
 };
-
-// Attaches the wrapper to the dialog's control of that id, unless it is attached already or the control is
-// missing.
-void DDX_Control(CDataExchange& exchange, int id, CWnd& wrapper);
 
 // When a modal run ends, and with what.
 class EndState {

@@ -66,8 +66,6 @@ bool CWnd::SubclassWindow(HWND window) {
     return IsWindow(window) && WindowTable::attach(window, *this);
 }
 
-bool CWnd::SubclassDlgItem(int id, CWnd* parent) { return SubclassWindow(::GetDlgItem(parent->m_hWnd, id)); }
-
 HWND CWnd::UnsubclassWindow() {
     const HWND window = m_hWnd;
     WindowTable::detach(*this);

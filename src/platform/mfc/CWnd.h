@@ -37,7 +37,6 @@ class CWnd : public CObject {
     // Attached to that very window already: nothing to do. False where the object has another window, the
     // window has another permanent wrapper, or there is no such window.
     bool SubclassWindow(HWND window);
-    bool SubclassDlgItem(int id, CWnd* parent);
     // Gives the window its own procedure back, and the handle to the caller.
     HWND UnsubclassWindow();
     // Creates a window of a registered class. `rect` is in the parent's client pixels.

@@ -77,7 +77,7 @@ class FocusNoting : public CEdit {
 TEST_F(ModalTest, FocusLeavesAnEditBoxWithinTheEnd) {
     FocusNoting edit;
     TestDialog dialog(&owner);
-    dialog.init = [&] { edit.SubclassDlgItem(110, &dialog); };
+    dialog.init = [&] { edit.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 110)); };
     bool ending = false, lostWhileEnding = false;
     edit.lost = [&] { lostWhileEnding = lostWhileEnding || (ending && dialog.isRunning()); };
     dialog.ok = [&] {

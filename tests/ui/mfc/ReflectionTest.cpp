@@ -63,14 +63,14 @@ TEST_F(ReflectionTest, ControlTakesItsClickBeforeTheDialogDoes) {
     EXPECT_EQ(cancels, 0);
 
     CButton plain;
-    plain.SubclassDlgItem(1, &dialog);
+    plain.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 1));
     dialog.click(1);
     EXPECT_EQ(oks, 2) << "a wrapper without a line for the click leaves it to the dialog";
     plain.UnsubclassWindow();
 
     Pressed ok, press;
-    ok.SubclassDlgItem(1, &dialog);
-    press.SubclassDlgItem(111, &dialog);
+    ok.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 1));
+    press.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 111));
     dialog.click(1);
     dialog.click(111);
     EXPECT_EQ(oks, 2);
@@ -85,7 +85,7 @@ TEST_F(ReflectionTest, AnswerOfANotificationReachesTheControl) {
     RefusingTree tree;
     TestDialog dialog(&owner);
     ASSERT_TRUE(dialog.Create());
-    ASSERT_TRUE(tree.SubclassDlgItem(112, &dialog));
+    ASSERT_TRUE(tree.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 112)));
     TVINSERTSTRUCTW row{};
     row.item.mask = TVIF_TEXT;
     row.item.pszText = const_cast<wchar_t*>(L"row");

@@ -62,13 +62,13 @@ TEST_F(WindowTableTest, PermanentWrapperTakesOverFromAnOnDemandOne) {
     TestDialog dialog(&owner);
     ASSERT_TRUE(dialog.Create());
     CWnd* onDemand = dialog.GetDlgItem(110);
-    ASSERT_TRUE(edit.SubclassDlgItem(110, &dialog));
+    ASSERT_TRUE(edit.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 110)));
     EXPECT_EQ(onDemand->m_hWnd, nullptr);
     EXPECT_EQ(dialog.GetDlgItem(110), &edit);
-    EXPECT_TRUE(edit.SubclassDlgItem(110, &dialog)) << "attached already";
-    EXPECT_FALSE(edit.SubclassDlgItem(111, &dialog));
-    EXPECT_FALSE(second.SubclassDlgItem(110, &dialog));
-    EXPECT_FALSE(second.SubclassDlgItem(999, &dialog));
+    EXPECT_TRUE(edit.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 110))) << "attached already";
+    EXPECT_FALSE(edit.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 111)));
+    EXPECT_FALSE(second.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 110)));
+    EXPECT_FALSE(second.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 999)));
     EXPECT_EQ(edit.m_hWnd, item(dialog, 110));
     dialog.DestroyWindow();
     EXPECT_EQ(edit.m_hWnd, nullptr);
