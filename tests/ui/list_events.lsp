@@ -168,33 +168,34 @@
     (in-single-list nil
       '((wex_listctrl_enabledbclk "lst" nil) (ui_dblclick "LST" 1) (want '(("1" 5)) (told)) (ui_key "ESC")))))
 
-; The color of the selected row at the right of its text.
-(defun row-color () (ui_pixel "LST1" 60 42))
-
-(test "The selection keeps its color when the focus leaves, until Lisp lets it fade"
-  '((in-list nil
-      '((ui_pick "LST1" 1)
-        (setq kept (row-color) bare (ui_pixel "LST1" 60 26))
-        (want nil (= kept bare))
-        (wex_mode_tile "UNSELECT" 2)
-        (want nil (has-focus "LST1"))
-        (want kept (row-color))
-        (wex_mode_tile "LST1" 2)
-        (wex_listctrl_keephighlight "LST1" nil)
-        (want kept (row-color))
-        (wex_mode_tile "UNSELECT" 2)
-        (want nil (member (row-color) (list kept bare)))
-        (wex_listctrl_keephighlight "LST1" T)
-        (ui_pick "LST1" 1)
-        (wex_mode_tile "UNSELECT" 2)
-        (want kept (row-color))))))
-
-; LINES takes what is on the clipboard.
+; A list whose template says nothing of how it looks. LINES takes what is on the clipboard.
 (defun in-kinds (session)
   (in-dialog "ODD_KINDS"
     '(progn (fill-table "LISTVIEW")
             (wex_action_tile "LISTVIEW" "(note $value)"))
     session))
+
+; The color of the second row at the right of its text.
+(defun row-color () (ui_pixel "LISTVIEW" 60 42))
+
+(test "The selection keeps its color when the focus leaves, until Lisp lets it fade"
+  '((in-kinds
+      '((setq bare (row-color))
+        (ui_pick "LISTVIEW" 1)
+        (setq kept (row-color))
+        (want nil (= kept bare))
+        (wex_mode_tile "EDIT" 2)
+        (want nil (has-focus "LISTVIEW"))
+        (want kept (row-color))
+        (wex_mode_tile "LISTVIEW" 2)
+        (wex_listctrl_keephighlight "LISTVIEW" 1)
+        (want kept (row-color))
+        (wex_mode_tile "EDIT" 2)
+        (want nil (member (row-color) (list kept bare)))
+        (wex_listctrl_keephighlight "LISTVIEW" T)
+        (ui_pick "LISTVIEW" 1)
+        (wex_mode_tile "EDIT" 2)
+        (want kept (row-color))))))
 
 (defun paste () (wex_set_tile "LINES" "") (ui_key "CTRL+V" "LINES"))
 
