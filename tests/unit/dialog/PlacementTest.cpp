@@ -37,15 +37,6 @@ TEST(Placement, IsCuredOfImpossibleValues) {
         << "a scale that rounds to nothing counts as 1";
 }
 
-TEST(Placement, OffTheScreenItComesBackIntoTheWorkArea) {
-    const PixelRect second{1280, 0, 2280, 800};
-    EXPECT_EQ(restored({400, 300, 9000, 500}, {}, second), (PixelRect{1580, 200, 1980, 500}));
-    EXPECT_EQ(restored({400, 300, 1500, 300}, {}, second), (PixelRect{1280, 0, 1680, 300}))
-        << "left of the area, it goes to its edge";
-    // kept: at the top the bottom becomes the height alone.
-    EXPECT_EQ(restored({400, 300, 600, 150}, {}, {0, 50, 1280, 800}), (PixelRect{200, 50, 600, 300}));
-}
-
 // The last place that counts as on the screen or in the work area, and the first that doesn't, on each side.
 TEST(Placement, OffTheScreenBeginsWhereNothingOfItIsSeen) {
     const auto at = [](int right, int bottom, const PixelRect& area) {
@@ -64,6 +55,7 @@ TEST(Placement, OffTheScreenBeginsWhereNothingOfItIsSeen) {
     EXPECT_EQ(at(496, 1100, {100, 0, 1280, 2000}), (PixelRect{96, 800, 496, 1100}));
     EXPECT_EQ(at(495, 1100, {100, 0, 1280, 2000}), (PixelRect{100, 800, 500, 1100}));
     EXPECT_EQ(at(700, 300, {0, 4, 1280, 800}), (PixelRect{300, 0, 700, 300}));
+    // kept: at the top the bottom becomes the height alone.
     EXPECT_EQ(at(700, 300, {0, 5, 1280, 800}), (PixelRect{300, 5, 700, 300}));
 }
 
@@ -87,9 +79,9 @@ TEST(Placement, IsStoredWithoutScaleAndAValueOfZeroStays) {
 TEST(Sizing, OnlyRightAndBottomGiveWay) {
     const SizeLimits limits{200, 100, 400, 300};
     EXPECT_EQ(limitSizing({300, 10, 350, 20}, limits, {}), (PixelRect{300, 10, 500, 110}));
-    EXPECT_EQ(limitSizing({0, 0, 900, 900}, limits, {}), (PixelRect{0, 0, 400, 300}));
+    EXPECT_EQ(limitSizing({0, 0, 900, 900}, limits, {2, 2}), (PixelRect{0, 0, 400, 300}));
     EXPECT_EQ(limitSizing({0, 0, 300, 150}, limits, {2, 2}), (PixelRect{0, 0, 400, 200}))
-        << "the least is scaled";
+        << "the least alone is scaled";
     EXPECT_EQ(limitSizing({0, 0, 300, 200}, limits, {}), (PixelRect{0, 0, 300, 200}));
     EXPECT_EQ(limitSizing({0, 0, 9, 9}, {51, 51, 400, 300}, {1.5, 1.5}), (PixelRect{0, 0, 77, 77}));
     EXPECT_EQ(limitSizing({0, 0, 100, 100}, {500, 500, 300, 300}, {}), (PixelRect{0, 0, 500, 500}))
