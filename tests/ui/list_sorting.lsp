@@ -88,6 +88,13 @@
         (want "gab" (order))
         (want '("" "" "" "" "" "") notes)))))
 
+(test "Where heads can't be clicked the keys don't sort either"
+  '((in-dialog "ODD_TABLES" '(wex_listctrl_setcolumns "SORTED" "x\tName\tSize")
+      '((fill "SORTED" '("a\t2" "b\t1"))
+        (wex_listctrl_allowsorting "SORTED" T)
+        (ui_key "CTRL+2" "SORTED")
+        (want '("a\t2" "b\t1") (ui_items "SORTED"))))))
+
 (test "The rows of a source are not the list's to sort"
   '((in-dialog "LOOKUP_FP" nil
       '((wex_listctrl_addcolumn "DLST" "Name")

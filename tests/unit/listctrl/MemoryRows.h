@@ -34,8 +34,9 @@ inline std::optional<double> parseDistance(const std::wstring& text, int unit) {
     return units::distanceFromText(text, unit);
 }
 
-inline std::vector<int> plainOrder(const std::vector<CString>& cells, bool ascending) {
+inline std::vector<int> plainOrder(const std::vector<CString>& cells, bool ascending,
+                                   const PlainSort::Parser& parse = parseDistance) {
     MemoryRows rows(cells);
-    PlainSort(rows, 0, ascending, parseDistance).run();
+    PlainSort(rows, 0, ascending, parse).run();
     return rows.order();
 }
