@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <numbers>
 
+#include "host/units/DecimalText.h"
 #include "host/units/NumberScanner.h"
 
 namespace units {
@@ -17,16 +17,10 @@ constexpr double DEGREES_PER_RADIAN = 180 / std::numbers::pi;
 constexpr double GRADS_PER_RADIAN = 200 / std::numbers::pi;
 constexpr double TURN = 2 * std::numbers::pi;
 
-std::wstring fixed(double value, int precision) {
-    char text[64];
-    const int length = std::snprintf(text, sizeof text, "%.*f", precision, value);
-    return std::wstring(text, text + length);
-}
-
 // A decimal number within one turn: what rounds up to a whole turn is 0.
 std::wstring withinTurn(double value, double turn, int precision) {
-    std::wstring text = fixed(value, precision);
-    return text == fixed(turn, precision) ? fixed(0, precision) : text;
+    std::wstring text = decimalText(value, precision);
+    return text == decimalText(turn, precision) ? decimalText(0, precision) : text;
 }
 
 // Degrees counted in the smallest part that a precision shows.
@@ -49,7 +43,7 @@ struct Sexagesimal {
         shown += std::to_wstring(rest / perMinute) + L'\'';
         if (!showsSeconds) return shown;
         const double seconds = static_cast<double>(rest % perMinute) / static_cast<double>(perSecond);
-        return shown + fixed(seconds, decimals) + L'"';
+        return shown + decimalText(seconds, decimals) + L'"';
     }
 
     bool showsMinutes, showsSeconds;
@@ -148,7 +142,7 @@ std::optional<std::wstring> angleText(double radians, int unit, int precision) {
             return withinTurn(angle * GRADS_PER_RADIAN, 400, precision) + L'g';
         // A turn is no multiple of the last place, so nothing rounds up to it.
         case RADIANS:
-            return fixed(angle, precision) + L'r';
+            return decimalText(angle, precision) + L'r';
         case SURVEYOR:
             return bearing(degrees, precision);
         default:

@@ -1,8 +1,8 @@
 #include "host/units/LinearUnits.h"
 
 #include <cmath>
-#include <cstdio>
 
+#include "host/units/DecimalText.h"
 #include "host/units/NumberScanner.h"
 
 namespace units {
@@ -13,13 +13,7 @@ enum Unit { SCIENTIFIC = 1, DECIMAL, ENGINEERING, ARCHITECTURAL, FRACTIONAL };
 
 constexpr double INCHES_PER_FOOT = 12;
 
-std::wstring formatted(const char* format, int precision, double value) {
-    char text[512];
-    const int length = std::snprintf(text, sizeof text, format, precision, value);
-    return std::wstring(text, text + length);
-}
-
-std::wstring whole(double value) { return formatted("%.*f", 0, value); }
+std::wstring whole(double value) { return decimalText(value, 0); }
 
 // A value that rounds to nothing has no sign.
 std::wstring withSign(double value, std::wstring magnitude) {
@@ -29,10 +23,10 @@ std::wstring withSign(double value, std::wstring magnitude) {
 
 std::wstring engineering(double magnitude, int precision) {
     double feet = std::floor(magnitude / INCHES_PER_FOOT);
-    std::wstring inches = formatted("%.*f", precision, magnitude - feet * INCHES_PER_FOOT);
+    std::wstring inches = decimalText(magnitude - feet * INCHES_PER_FOOT, precision);
     if (std::wcstod(inches.c_str(), nullptr) >= INCHES_PER_FOOT) {
         ++feet;
-        inches = formatted("%.*f", precision, 0);
+        inches = decimalText(0, precision);
     }
     return (feet > 0 ? whole(feet) + L"'-" : L"") + inches + L'"';
 }
@@ -43,7 +37,7 @@ std::wstring fraction(double parts, int power, bool behindWhole) {
     long denominator = 1L << power;
     if (numerator == 0) return {};
     for (; numerator % 2 == 0; numerator /= 2) denominator /= 2;
-    return (behindWhole ? L" " : L"") + std::to_wstring(numerator) + L'/' + std::to_wstring(denominator);
+    return (behindWhole ? L" " : L"") + whole(numerator) + L'/' + whole(denominator);
 }
 
 // In parts of 1 over 2 to `power`.
@@ -107,9 +101,9 @@ std::optional<std::wstring> distanceText(double value, int unit, int precision) 
     const auto parts = [&] { return std::round(std::ldexp(magnitude, power)); };
     switch (unit) {
         case SCIENTIFIC:
-            return withSign(value, formatted("%.*E", precision, magnitude));
+            return withSign(value, scientificText(magnitude, precision));
         case DECIMAL:
-            return withSign(value, formatted("%.*f", precision, magnitude));
+            return withSign(value, decimalText(magnitude, precision));
         case ENGINEERING:
             return withSign(value, engineering(magnitude, precision));
         case ARCHITECTURAL:
