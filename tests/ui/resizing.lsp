@@ -101,9 +101,9 @@
           (want (plus (cadddr row) before) (window)))))))
 
 (test "The lower limit of the height counts at the start in a window that is narrower than it, together with its top"
-  '((in-growing nil nil)
+  '((in-dialog "ADD_REC" nil '((ui_size 530 460)))  ; a size is stored of each dialog
     (in-dialog "ADD_REC" '(wex_setminresizing 60 600)
-      '((want (list 520 (+ (cadr (window)) 600)) (window-size)) (ui_size 520 460)))
+      '((want (list 530 (+ (cadr (window)) 600)) (window-size)) (ui_size 520 460)))
     ; Wider than that height: the window may be lower than its limit.
     (in-dialog "ADD_REC" '(wex_setminresizing 60 500) '((want '(520 460) (window-size))))))
 

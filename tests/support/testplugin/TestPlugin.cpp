@@ -64,17 +64,6 @@ int32_t put() {
     return RESULT_SET;
 }
 
-// Every kind of node that hostBuildList knows.
-int32_t build() {
-    const double point[] = {1.5, -2.5, 9.0};
-    HostValue* chain = hostBuildList(HV_SHORT, -7, HV_LONG, 70000, HV_REAL, 0.5, HV_ANGLE, 1.25, HV_STRING,
-                                     L"\u00E4\u03A9", HV_POINT, point, HV_LIST_BEGIN, HV_TRUE, HV_LIST_BEGIN,
-                                     HV_LIST_END, HV_LIST_END, HV_NIL, HV_NONE);
-    hostRetList(chain);
-    hostRelRb(chain);
-    return RESULT_SET;
-}
-
 int32_t dialog() {
     hostRetInt(runTestDialog(g_module, hostGetMainFrame(), hostGetArgs() != nullptr));
     return RESULT_SET;
@@ -98,12 +87,6 @@ int32_t say() {
 
 int32_t print() {
     hostPrintf(L"%s has %d of %c\n", L"gr\u00FCn", 3, L'x');
-    hostRetVoid();
-    return RESULT_SET;
-}
-
-int32_t leakBrush() {
-    CreateSolidBrush(RGB(1, 2, 3));
     hostRetVoid();
     return RESULT_SET;
 }
@@ -191,13 +174,11 @@ constexpr Row ROWS[] = {
     {L"t_code", &code},
     {L"t_invoke", &invoke},
     {L"t_put", &put},
-    {L"t_build", &build},
     {L"t_dialog", &dialog},
     {L"t_events", &events},
     {L"t_ask", &ask},
     {L"t_say", &say},
     {L"t_print", &print},
-    {L"t_leak", &leakBrush},
     {L"t_messages", &messages},
     {L"t_command", &command},
     {L"t_send", &send},

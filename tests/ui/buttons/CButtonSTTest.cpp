@@ -139,9 +139,4 @@ TEST_F(ImageButton, takesTheDefaultLookAndStillDrawsItself) {
     EXPECT_EQ(shown(), plain);
 }
 
-TEST_F(ImageButton, isWithoutIconOnceItIsTakenAway) {
-    button.SetIcon(nullptr);
-    EXPECT_FALSE(showsRed());
-}
-
 }  // namespace
