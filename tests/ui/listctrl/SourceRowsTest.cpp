@@ -82,31 +82,20 @@ TEST_F(SourceRows, AreAskedForWhereTheyAreInSight) {
     EXPECT_LE(static_cast<int>(rows.askedRows.size()), 2 * (page + 2));
 }
 
-TEST_F(SourceRows, ShowTheirFirstThirdAndFourthField) {
-    Shown shown(DIALOG_OF_ROWS);
+TEST_F(SourceRows, ShowTheirFirstThirdAndFourthFieldInThePlaceOfWaitingRows) {
+    Shown shown(DIALOG_OF_ROWS, [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_listItems = {L"one"}; });
     EXPECT_EQ(shown.cell(777'776, 0), L"777776.0");
     EXPECT_EQ(shown.cell(777'776, 1), L"777776.2");
     EXPECT_EQ(shown.cell(777'776, 2), L"777776.3");
     EXPECT_EQ(shown.cell(777'776, 3), L"");
     EXPECT_EQ(shown.cell(777'777, 2), L"") << "the row has no such field";
-}
 
-TEST_F(SourceRows, AreCutWhereTheListHasNoRoom) {
-    Shown shown(DIALOG_OF_ROWS);
     wchar_t room[4] = {};
     LVITEMW item{};
     item.pszText = room;
     item.cchTextMax = 4;
     shown.list().SendMessage(LVM_GETITEMTEXTW, 12, reinterpret_cast<LPARAM>(&item));
     EXPECT_STREQ(item.pszText, L"12.");
-}
-
-TEST_F(SourceRows, TakeThePlaceOfWaitingRows) {
-    const auto waiting = [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_listItems = {L"one", L"two"}; };
-    Shown shown(DIALOG_OF_ROWS, waiting);
-    EXPECT_EQ(rowCount(shown.list()), MILLION);
-    EXPECT_EQ(shown.cell(0, 0), L"0.0");
-    EXPECT_EQ(shown.list().m_columnRef, L"x\tFirst\tSecond\tThird\tFourth");
 }
 
 TEST_F(SourceRows, AreSelectedByTheirState) {
@@ -126,21 +115,13 @@ TEST_F(SourceRows, AreSelectedByTheirState) {
     EXPECT_EQ(shown.selected(), std::vector<int>());
 }
 
-TEST_F(SourceRows, AreNotAskedForByOtherListsOrWithoutASource) {
-    const auto counted = [](Shown& shown) {
-        shown.list().SendMessage(LVM_SETITEMCOUNT, 5);
-        UpdateWindow(shown.list().m_hWnd);
-        return shown.cell(2, 0);
-    };
-    Shown other(OTHER_DIALOG, [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_value = L"0"; });
-    EXPECT_EQ(rowCount(other.list()), 0);
-    EXPECT_EQ(counted(other), L"");
-    EXPECT_EQ(rows.counted + rows.asked, 0);
-
-    g_rowSource = nullptr;
-    Shown shown(DIALOG_OF_ROWS);
+TEST_F(SourceRows, AreNotAskedForByListsOfOtherDialogs) {
+    Shown shown(OTHER_DIALOG, [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_value = L"0"; });
     EXPECT_EQ(rowCount(shown.list()), 0);
-    EXPECT_EQ(counted(shown), L"");
+    shown.list().SendMessage(LVM_SETITEMCOUNT, 5);
+    UpdateWindow(shown.list().m_hWnd);
+    EXPECT_EQ(shown.cell(2, 0), L"");
+    EXPECT_EQ(rows.counted + rows.asked, 0);
 }
 
 }  // namespace
