@@ -35,7 +35,9 @@
         (wex_add_list "five")
         (want '("one" "TWO" "three" "four" "five") (ui_items "LST"))
         (fill 112 '("new"))
-        (want '("new") (ui_items "LST"))))))
+        (want '("new") (ui_items "LST"))
+        (wex_start_list "LST" 2.0)
+        (want nil (ui_items "LST"))))))
 
 (test "The operation of a list that was started before the run counts as the tile's mode"
   '((in-lists '(progn (wex_start_list "LST" 1) (wex_add_list "x")) '((want nil (look "LST" "enabled"))))

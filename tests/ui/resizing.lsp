@@ -57,14 +57,22 @@
         (ui_size 520 460)
         (want wide (height-of "MSG"))))))
 
-(test "The grip sizes the dialog within its limits"
+; The colors on the diagonal of the square in the dialog's lower right corner, where a grip is.
+(defun corner ( / ok client)
+  (setq ok (rect "OK") client (cdr (assoc "client" (ui_look))))
+  (mapcar '(lambda (in) (ui_pixel "OK" (- (car client) in (car ok)) (- (cadr client) in (cadr ok)))) (range 1 14)))
+
+(test "The grip shows, and sizes the dialog within its limits"
   '((in-dialog "ADD_REC" nil
       '((wex_setmaxresizing 700 600)
         ; A grip has its place from the next paint or size on.
         (ui_size 530 470)
         (want T (stringp (catch-error (ui_drag "GRIP" 10 10))))
+        (setq without (corner))
+        (want 1 (length (unique without)))
         (wex_setminresizing 400 300)
         (ui_size 520 460)
+        (want nil (equal without (corner)))
         (foreach row '((30 20 (550 480)) (400 400 (700 600)) (-500 -400 (400 300)))
           (ui_drag "GRIP" (car row) (cadr row))
           (want (caddr row) (window-size)))

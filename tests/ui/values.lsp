@@ -52,6 +52,8 @@
         (wex_mode_tile "CAT" 1)
         (want nil (look "CAT" "enabled"))
         (want nil (look "CAT" "focus"))
+        ; The dialog has it, and hands it on to one of its controls.
+        (want 1 (length (remove-if-not '(lambda (id) (look id "focus")) (cdr (assoc "controls" (ui_look))))))
         (wex_mode_tile "CAT" 0)
         (want T (look "CAT" "enabled"))
         (wex_mode_tile "CAT" 6)
