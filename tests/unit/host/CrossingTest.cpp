@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <memory_resource>
 #include <string>
 
 namespace {
@@ -62,6 +64,19 @@ TEST_F(CrossingTest, ChainsOfAPluginMakeLists) {
 TEST_F(CrossingTest, AListNestedWithoutEndIsRefused) {
     m_lisp.evalText(u"(setq deep nil) (repeat 5000 (setq deep (list deep 1)))", u"test");
     EXPECT_THROW(chain(u"deep"), lisp::Error);
+}
+
+// As the arguments of a call: nothing of it is released by itself, also where the list can't be handed over.
+TEST_F(CrossingTest, AChainInMemoryOfACallGoesWithTheMemory) {
+    std::byte room[64];
+    std::pmr::monotonic_buffer_resource memory(room, sizeof room);
+    const lisp::Root value(m_lisp,
+                           m_lisp.evalText(u"'(1 (\"a text\" \"\" 2.5) \"more than the room\")", u"test"));
+    const lisp::Value one = value;
+    EXPECT_EQ(m_lisp.print(valueOfChain(m_lisp, chainOf({&one, 1}, &memory))), m_lisp.print(value));
+    m_lisp.evalText(u"(setq deep nil) (repeat 5000 (setq deep (list deep \"text\")))", u"test");
+    const lisp::Value deep = m_lisp.getSymbol(u"deep");
+    EXPECT_THROW(chainOf({&deep, 1}, &memory), lisp::Error);
 }
 
 HostValue* built(int type, ...) {
