@@ -4,7 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "host/units/LinearUnits.h"
-#include "src/platform/mfc/Controls.h"
+#include "src/listctrl/ListCells.h"
+#include "src/listctrl/ListColumns.h"
 #include "src/platform/mfc/RedrawHold.h"
 #include "tests/unit/listctrl/PlainSort.h"
 #include "tests/unit/listctrl/RandomCells.h"
@@ -13,89 +14,55 @@ namespace {
 
 constexpr UINT STATES = 0xFF0F;
 
-std::optional<double> parse(const std::wstring& text, int unit) {
-    return units::distanceFromText(text, unit);
-}
-
-class Owner : public CWnd {
-  public:
-    Owner() {
-        CreateEx(0, L"Static", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, RECT{0, 0, 400, 300}, nullptr, 0);
-    }
-};
-
-class List : public CListCtrl {
-  public:
-    List(const Owner& owner, DWORD style) {
-        CreateEx(0, L"SysListView32", L"", WS_CHILD | LVS_REPORT | style, RECT{0, 0, 300, 200}, owner.m_hWnd,
-                 1);
-        LVCOLUMNW head{};
-        for (int column = 0; column < 3; ++column)
-            SendMessage(LVM_INSERTCOLUMNW, column, reinterpret_cast<LPARAM>(&head));
-    }
-
-    void append(const LVITEMW& like) {
-        LVITEMW item = like;
-        item.iItem = static_cast<int>(SendMessage(LVM_GETITEMCOUNT));
-        SendMessage(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    }
-    void set(LVITEMW item) { SendMessage(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item)); }
-};
-
 // The rows as messages to the control tell them.
 class ControlRows : public PlainRows {
   public:
-    explicit ControlRows(const CWnd& list) : m_list(list) {}
+    explicit ControlRows(CListCtrl& list) : m_list(list) {}
 
-    int rowCount() const override { return static_cast<int>(m_list.SendMessage(LVM_GETITEMCOUNT)); }
-    int columnCount() const override {
-        const auto header = reinterpret_cast<HWND>(m_list.SendMessage(LVM_GETHEADER));
-        return static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
-    }
+    int rowCount() const override { return ::rowCount(m_list); }
+    int columnCount() const override { return ::columnCount(m_list); }
     PlainCell cell(int row, int column) const override {
         wchar_t text[1000] = {};
-        LVITEMW item = itemAt(row, column);
-        item.mask = LVIF_TEXT | LVIF_IMAGE;
+        LVITEMW item = itemAt(row, column, LVIF_TEXT | LVIF_IMAGE);
         item.pszText = text;
         item.cchTextMax = 1000;
-        m_list.SendMessage(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        m_list.getItem(item);
         return {item.pszText, item.iImage};
     }
     void setCell(int row, int column, const PlainCell& cell) override {
-        LVITEMW item = itemAt(row, column);
-        item.mask = column > 0 ? LVIF_TEXT | LVIF_IMAGE : LVIF_TEXT;
+        LVITEMW item = itemAt(row, column, column > 0 ? LVIF_TEXT | LVIF_IMAGE : LVIF_TEXT);
         item.pszText = const_cast<wchar_t*>(cell.text.c_str());
         item.iImage = cell.image;
-        m_list.SendMessage(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        m_list.setItem(item);
     }
     PlainRowData rowData(int row) const override {
-        LVITEMW item = itemAt(row, 0);
-        m_list.SendMessage(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        LVITEMW item = itemAt(row, 0, LVIF_IMAGE | LVIF_STATE | LVIF_PARAM);
+        m_list.getItem(item);
         return {item.iImage, item.state, item.lParam};
     }
     void setRowData(int row, const PlainRowData& data) override {
-        LVITEMW item = itemAt(row, 0);
+        LVITEMW item = itemAt(row, 0, LVIF_IMAGE | LVIF_STATE | LVIF_PARAM);
         item.iImage = data.image;
         item.state = data.state;
         item.lParam = data.data;
-        m_list.SendMessage(LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        m_list.setItem(item);
     }
 
   private:
-    static LVITEMW itemAt(int row, int column) {
+    static LVITEMW itemAt(int row, int column, UINT mask) {
         LVITEMW item{};
-        item.mask = LVIF_IMAGE | LVIF_STATE | LVIF_PARAM;
+        item.mask = mask;
         item.iItem = row;
         item.iSubItem = column;
         item.stateMask = STATES;
         return item;
     }
 
-    const CWnd& m_list;
+    CListCtrl& m_list;
 };
 
 // All that a program can see of the list's rows.
-std::wstring contentOf(const CWnd& list) {
+std::wstring contentOf(CListCtrl& list) {
     const ControlRows rows(list);
     std::wstring content;
     for (int row = 0; row < rows.rowCount(); ++row) {
@@ -115,7 +82,7 @@ std::wstring contentOf(const CWnd& list) {
 }
 
 // Rows with images, item data and states of every kind, as Lisp adds them and as other code might.
-void fill(List& list, RandomCells& random, int rows) {
+void fill(const CListCtrl& list, RandomCells random, int rows) {
     const int mix = random.below(5);
     const bool plain = random.below(2);
     for (int row = 0; row < rows; ++row) {
@@ -136,33 +103,32 @@ void fill(List& list, RandomCells& random, int rows) {
             if (random.below(8) == 0) item.state |= LVIS_FOCUSED;
             if (!plain && random.below(4) == 0)
                 item.state |= LVIS_CUT | INDEXTOOVERLAYMASK(2) | INDEXTOSTATEIMAGEMASK(3);
-            if (column == 0)
-                list.append(item);
-            else
-                list.set(item);
+            list.SendMessage(column == 0 ? LVM_INSERTITEMW : LVM_SETITEMW, 0,
+                             reinterpret_cast<LPARAM>(&item));
         }
     }
 }
 
 TEST(ListSort, LeavesTheControlAsTheExchangeOfRowsWould) {
-    const Owner owner;
+    CWnd owner;
+    owner.CreateEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, RECT{0, 0, 400, 300}, nullptr, 0);
     for (unsigned seed = 1; seed <= 150; ++seed) {
         RandomCells shape(seed);
-        const DWORD style = shape.below(4) ? 0 : LVS_SINGLESEL;
+        const DWORD style = WS_CHILD | LVS_REPORT | (shape.below(4) ? 0 : LVS_SINGLESEL);
         const int rows = shape.below(seed % 25 ? 12 : 80);
         const int column = shape.below(4);  // the last of them isn't there
         const bool ascending = shape.below(2);
-        List ours(owner, style);
-        List plain(owner, style);
-        for (List* list : {&ours, &plain}) {
-            RandomCells random(seed);
-            fill(*list, random, rows);
+        CListCtrl ours, plain;
+        for (CListCtrl* list : {&ours, &plain}) {
+            list->CreateEx(0, L"SysListView32", L"", style, RECT{0, 0, 300, 200}, owner.m_hWnd, 1);
+            for (int at = 0; at < 3; ++at) insertColumn(*list, at, L"Head", 80);
+            fill(*list, RandomCells(seed), rows);
         }
         ASSERT_EQ(contentOf(ours), contentOf(plain)) << "before, seed " << seed;
         ControlRows plainRows(plain);
         for (const bool direction : {ascending, !ascending}) {
-            sortRows(ours, column, direction, parse);
-            PlainSort(plainRows, column, direction, parse).run();
+            sortRows(ours, column, direction, units::distanceFromText);
+            PlainSort(plainRows, column, direction, units::distanceFromText).run();
             ASSERT_EQ(contentOf(ours), contentOf(plain)) << "seed " << seed;
         }
         releaseRedraw();
