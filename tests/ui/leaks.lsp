@@ -11,3 +11,20 @@
     (setq before (host_resources))
     (repeat 990 (open-and-close))
     (want before (host_resources))))
+
+(defun open-pages ()
+  (in-dialog "SETUP_COMPONENT_XREF"
+    '(wex_setaction_oninit
+       "(wex_listctrl_allowsorting \"TYPES\" T) (wex_tab_add \"TABS\" \"Style\" \"MODE\" \"TEXT\") (wex_tab_add \"TABS\" \"Types\" \"TYPES\")")
+    '((wex_listctrl_setcolumns "TYPES" "x\tName")
+      (fill "TYPES" '("b" "a"))
+      (ui_pick "TABS" 1)
+      (ui_pick "TYPES" 0)
+      (ui_header "TYPES" 0)
+      (ui_key "CTRL+C" "TYPES"))))
+
+(test "So do dialogs with pages and a list control that is sorted and copied"
+  '((repeat 5 (open-pages))
+    (setq before (host_resources))
+    (repeat 20 (open-pages))
+    (want before (host_resources))))
