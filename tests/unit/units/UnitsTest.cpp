@@ -76,6 +76,7 @@ TEST(AngularUnits, ShowEachNotationWithinOneTurn) {
     EXPECT_EQ(angleText(5 * PI, 1, 0), L"180");
     EXPECT_EQ(angleText(TURN - 1e-9, 1, 2), L"0.00");
     EXPECT_EQ(angleText(TURN - 1e-9, 2, 4), L"0d0'0\"");
+    EXPECT_EQ(angleText(TURN - 1e-9, 3, 2), L"0.00g");
     EXPECT_EQ(angleText((45.0 + 59.9999 / 60) / 180 * PI, 2, 4), L"46d0'0\"");
 }
 
