@@ -76,13 +76,15 @@
         (ui_type "DESC" "123456789")
         (want "12345678" (ui_text "DESC"))
         (want nil (wex_edit_seteditlimit "KEEP" 1))
-        ; Without a limit of its own mode 3 selects all, whatever was set live.
+        ; Without a limit of its own mode 3 selects 36,000 characters, whatever was set live.
         (wex_edit_seteditlimit "ASMB" 3)
-        (wex_set_tile "ASMB" "123456")
+        (setq long "b")
+        (repeat 1125 (setq long (strcat "0123456789abcdef0123456789abcdef" long)))
+        (wex_set_tile "ASMB" long)
         (wex_mode_tile "ASMB" 2)
         (wex_mode_tile "ASMB" 3)
         (ui_char "x")
-        (want "x" (ui_text "ASMB"))))))
+        (want "xb" (ui_text "ASMB"))))))
 
 (test "The Esc character brings the last good text back; the box keeps the focus, and still has its end to tell"
   '((with-box "numeric 2 2"

@@ -41,7 +41,9 @@
               (wex_mode_tile "DESC" "1") (want nil (wex_mode_tile "DESC")))
       '((want nil (look "CAT" "enabled")) (want nil (look "B_CAT" "visible")) (want T (look "ASMB" "focus"))
         (want T (look "DESC" "enabled"))
-        (wex_mode_tile "QTY" 2) (ui_char "7") (want "7" (ui_text "QTY"))))))
+        (wex_mode_tile "QTY" 2) (ui_char "7") (want "7" (ui_text "QTY"))
+        ; The dialog paints where a tile was: the focus stays where it is now.
+        (wex_mode_tile "CAT" 6) (want T (look "QTY" "focus"))))))
 
 (test "Modes on a live control; by id the focus doesn't move"
   '((in-dialog "ADD_REC" nil

@@ -49,14 +49,15 @@ TEST_F(ScrollBar, StepsByLinesAndPagesWithinItsRange) {
     EXPECT_EQ(scroll(SB_PAGEDOWN), 11);
     EXPECT_EQ(scroll(SB_PAGEUP, 0, WM_VSCROLL), 1);
     EXPECT_EQ(scroll(SB_LINEUP), 0);
-    bar.m_lineStep = 15;
+    bar.m_lineStep = 16;
     bar.m_pageStep = 90;
-    EXPECT_EQ(scroll(SB_LINEUP), -15);
+    EXPECT_EQ(scroll(SB_LINEUP), -16);
     EXPECT_EQ(scroll(SB_LINEUP), -20);
     EXPECT_EQ(scroll(SB_LINEUP), -20);
     EXPECT_EQ(scroll(SB_PAGEDOWN), 70);
-    EXPECT_EQ(scroll(SB_PAGEDOWN), 100);
+    EXPECT_EQ(scroll(SB_LINEDOWN), 86);
     EXPECT_EQ(scroll(SB_LINEDOWN), 100);
+    EXPECT_EQ(scroll(SB_PAGEDOWN), 100);
     EXPECT_EQ(scroll(SB_PAGEUP), 10);
     EXPECT_EQ(scroll(SB_PAGEUP), -20);
 }
