@@ -65,26 +65,6 @@
         (wex_set_tile "TABLE" -1)
         (want nil (look "TABLE" "selected"))))))
 
-(test "On a live list control operation 3 empties, 1 and 2 append, -1 replaces the first selected row"
-  '((in-tables '(fill "TABLE" '("one\tA\ta" "two\tB\tb" "three\tC\tc")) three-columns
-      '((wex_start_list "TABLE" -1)
-        (wex_add_list "four")
-        (want "four\t\t" (last (ui_items "TABLE")))
-        (wex_set_tile "TABLE" "2")
-        (wex_set_tile "TABLE" "1")
-        (wex_add_list "TWO\t B ")
-        (want '("one\tA\ta" "TWO\t B \tb" "three\tC\tc" "four\t\t") (ui_items "TABLE"))
-        (wex_add_list "")
-        (want "\t B \tb" (cadr (ui_items "TABLE")))
-        (want '(1 2) (look "TABLE" "selected"))
-        (wex_start_list "TABLE" 1)
-        (wex_add_list "five")
-        (wex_start_list 112 2)
-        (wex_add_list "six")
-        (want '("five\t\t" "six\t\t") (cdr (member "four\t\t" (ui_items "TABLE"))))
-        (fill 112 '("new"))
-        (want '("new\t\t") (ui_items "TABLE"))))))
-
 (test "wex_listctrl_additem adds a row or sets one cell, and is also called wex_listctrl_setitem"
   '((foreach put-row '(wex_listctrl_additem wex_listctrl_setitem)
       (in-tables '(fill "TABLE" '("one\tA" "two\tB" "three\tC")) three-columns

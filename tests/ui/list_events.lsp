@@ -64,14 +64,10 @@
         (want '(("lst1" "" 5)) (told))
         (ui_pick "LST1" 0)
         (told)
-        (ui_key "DOWN")
-        (want '(("lst1" "1" 5)) (told))
         (ui_key "SHIFT+DOWN")
-        (want '(("lst1" "1 2" 5)) (told))
-        (ui_key "HOME")
-        (want '(("lst1" "0" 5)) (told))
+        (want '(("lst1" "0 1" 5)) (told))
         (ui_key "TAB")
-        (want '(("lst1" "0" 5)) (told))
+        (want '(("lst1" "0 1" 5)) (told))
         (want nil (has-focus "LST1"))))))
 
 (test "Typing a name goes to its row"

@@ -22,23 +22,6 @@
                       (wex_add_list "after the end"))
       '((want '("a" "b" "c" "after the end") (ui_items "LST"))))))
 
-(test "On a live list box operation 3 empties, 2 appends, 1 changes the selected entry"
-  '((in-lists '(fill "LST" '("one" "two" "three"))
-      '((wex_start_list "LST" 2)
-        (wex_add_list "four")
-        (want '("one" "two" "three" "four") (ui_items "LST"))
-        (wex_set_tile "LST" "1")
-        (wex_start_list "LST" 1)
-        (wex_add_list "TWO")
-        (want '("one" "TWO" "three" "four") (ui_items "LST"))
-        (want "-1" (wex_get_tile "LST"))
-        (wex_add_list "five")
-        (want '("one" "TWO" "three" "four" "five") (ui_items "LST"))
-        (fill 112 '("new"))
-        (want '("new") (ui_items "LST"))
-        (wex_start_list "LST" 2.0)
-        (want nil (ui_items "LST"))))))
-
 (test "The operation of a list that was started before the run counts as the tile's mode"
   '((in-lists '(progn (wex_start_list "LST" 1) (wex_add_list "x")) '((want nil (look "LST" "enabled"))))
     (in-lists '(progn (wex_start_list "LST" 2) (wex_add_list "x")) '((want T (look "LST" "focus"))))
@@ -159,7 +142,7 @@
         (want "relay" (wex_get_tile "TYPE"))
         (ui_pick "TYPE" "fuse")
         (want '(("type" "0" 4)) notes)
-        (wex_start_list "TYPE" 2)
+        (wex_start_list 125 2)
         (wex_add_list '("switch"))
         (want '("fuse" "relay" "switch") (ui_items "TYPE"))
         (wex_set_tile "TYPE" "1")
@@ -169,7 +152,7 @@
         (want "" (wex_get_tile "TYPE"))
         (wex_add_list "plug")
         (want '("fuse" "RELAY" "switch" "plug") (ui_items "TYPE"))
-        (wex_start_list "TYPE")
+        (wex_start_list "TYPE" 2.0)
         (want nil (ui_items "TYPE"))))))
 
 (test "Rows that the start action puts in keep the value that was stored before, and a negative one clears"
