@@ -79,10 +79,10 @@
       nil)))
 
 (test "Selecting an entry tells its index"
-  '((in-lists '(progn (fill "LST" '("one" "two" "three"))
+  '((in-lists '(progn (fill "LST" (mapcar 'itoa (range 40)))
                       (wex_action_tile "LST" "(note (list $key $value $reason))"))
-      '((ui_pick "LST" 1) (ui_pick "LST" "three")))
-    (want '(("lst" "1" 4) ("lst" "2" 4)) notes)))
+      '((ui_pick "LST" 1) (ui_pick "LST" "35")))
+    (want '(("lst" "1" 4) ("lst" "35" 4)) notes)))
 
 (test "With multiple selection all selected rows are told, and none of them too; a double click presses OK"
   '((want 3 (run-dialog "DISP_LOCS_ON_DWG_MULT"
@@ -153,7 +153,10 @@
         (wex_add_list "plug")
         (want '("fuse" "RELAY" "switch" "plug") (ui_items "TYPE"))
         (wex_start_list "TYPE" 2.0)
-        (want nil (ui_items "TYPE"))))))
+        (want nil (ui_items "TYPE"))
+        (fill "TYPE" (mapcar 'itoa (range 30)))
+        (ui_pick "TYPE" 25)
+        (want "25" (wex_get_tile "TYPE"))))))
 
 (test "Rows that the start action puts in keep the value that was stored before, and a negative one clears"
   '((defun start ()

@@ -6,12 +6,11 @@
 
 namespace {
 
-constexpr const wchar_t* KEYS[] = {L"edit", L"check", L"disabled", L"list", L"combo", L"tree", L"hidden"};
+constexpr const wchar_t* KEYS[] = {L"edit", L"check", L"disabled", L"list", L"tree", L"hidden"};
 constexpr int FIRST_ID = 110;
 
 HWND g_window;
 bool g_stubborn;
-std::wstring g_events;
 
 HWND item(int id) { return GetDlgItem(g_window, id); }
 
@@ -21,25 +20,15 @@ HTREEITEM addBranch(HTREEITEM parent, const wchar_t* text) {
     branch.hInsertAfter = TVI_LAST;
     branch.item.mask = TVIF_TEXT;
     branch.item.pszText = const_cast<wchar_t*>(text);
-    const LRESULT made = SendMessageW(item(115), TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&branch));
+    const LRESULT made = SendMessageW(item(114), TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&branch));
     return reinterpret_cast<HTREEITEM>(made);
 }
 
 void fill() {
-    for (int i = 0; i < 30; ++i) {
-        const std::wstring text = L"entry " + std::to_wstring(i);
-        SendMessageW(item(113), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-        SendMessageW(item(114), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-    }
     const HTREEITEM metals = addBranch(TVI_ROOT, L"metals");
     addBranch(metals, L"copper");
     addBranch(metals, L"tin");
     addBranch(TVI_ROOT, L"gases");
-}
-
-void note(int id, int code) {
-    if (id < FIRST_ID || id >= FIRST_ID + static_cast<int>(ARRAYSIZE(KEYS))) return;
-    g_events.append(KEYS[id - FIRST_ID]).append(L" ").append(std::to_wstring(code)).append(L";");
 }
 
 INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM w, LPARAM) {
@@ -49,11 +38,7 @@ INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM w, LPARAM) {
             fill();
             return TRUE;
         case WM_COMMAND:
-            note(LOWORD(w), HIWORD(w));
             if ((LOWORD(w) == IDOK || LOWORD(w) == IDCANCEL) && !g_stubborn) EndDialog(window, LOWORD(w));
-            return TRUE;
-        case WM_HELP:
-            g_events += L"help;";
             return TRUE;
         case WM_DESTROY:
             g_window = nullptr;
@@ -65,12 +50,9 @@ INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM w, LPARAM) {
 }  // namespace
 
 int runTestDialog(HMODULE module, HWND owner, bool stubborn) {
-    g_events.clear();
     g_stubborn = stubborn;
     return static_cast<int>(DialogBoxParamW(module, MAKEINTRESOURCEW(100), owner, &dialogProc, 0));
 }
-
-const std::wstring& testDialogEvents() { return g_events; }
 
 HWND findInTestDialog(const wchar_t* dialog, const wchar_t* key, int id) {
     if (!g_window || (dialog && !equalIgnoringCase(dialog, L"everything"))) return nullptr;

@@ -3,14 +3,9 @@
 
 #include <windows.h>
 
-#include <string>
-
 // Runs it in front of `owner`, and gives 1 for OK and 2 for Cancel. A stubborn one stays whatever the person
-// does. The events of its controls are noted in testDialogEvents.
+// does.
 int runTestDialog(HMODULE module, HWND owner, bool stubborn);
-
-// The notifications since it was opened, such as `check 0;list 1;`: the control's key and the code.
-const std::wstring& testDialogEvents();
 
 // As PLUGIN_FIND_WINDOW in HostPlugin.h asks; its name is "everything".
 HWND findInTestDialog(const wchar_t* dialog, const wchar_t* key, int id);

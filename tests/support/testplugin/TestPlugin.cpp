@@ -69,11 +69,6 @@ int32_t dialog() {
     return RESULT_SET;
 }
 
-int32_t events() {
-    hostRetStr(testDialogEvents().c_str());
-    return RESULT_SET;
-}
-
 // Asks without an owner, and gives the button.
 int32_t ask() {
     hostRetInt(MessageBoxW(nullptr, hostGetArgs()->value.stringValue, L"Question", MB_YESNO));
@@ -175,7 +170,6 @@ constexpr Row ROWS[] = {
     {L"t_invoke", &invoke},
     {L"t_put", &put},
     {L"t_dialog", &dialog},
-    {L"t_events", &events},
     {L"t_ask", &ask},
     {L"t_say", &say},
     {L"t_print", &print},

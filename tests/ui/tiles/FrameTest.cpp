@@ -28,11 +28,8 @@ TEST(Frame, TakesThePlaceOfAGroupBoxAndSizesItsOwn) {
     EXPECT_EQ(inner->GetWindowText(), L"Ratings");
 
     frame.MoveWindow({10, 20, 160, 110});
-    const RECT inside = inner->rectInParent();
-    EXPECT_EQ(inside.left, 0);
-    EXPECT_EQ(inside.top, 0);
-    EXPECT_EQ(inside.right, 150);
-    EXPECT_EQ(inside.bottom, 90);
+    const RECT inside = inner->rectInParent(), wanted{0, 0, 150, 90};
+    EXPECT_TRUE(EqualRect(&inside, &wanted));
 }
 
 }  // namespace
