@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "src/dialog/Anchors.h"
 
 namespace {
@@ -60,20 +62,17 @@ TEST(Placement, OffTheScreenBeginsWhereNothingOfItIsSeen) {
 }
 
 TEST(Placement, IsStoredWithoutScaleAndAValueOfZeroStays) {
-    const StoredPlacement plain = placementToStore({100, 100, 700, 600}, {1, 2, 0, 0}, {2, 2});
-    EXPECT_EQ(plain.width, 300);
-    EXPECT_EQ(plain.height, 250);
-    EXPECT_EQ(plain.x, 0);
-    const StoredPlacement tracked = placementToStore({100, 100, 700, 600}, {0, 0, 5, 9}, {1, 1});
-    EXPECT_EQ(tracked.x, 700);
-    EXPECT_EQ(tracked.y, 600);
-    const StoredPlacement scaled = placementToStore({100, 100, 701, 600}, {0, 0, 100, 100}, {2, 2});
-    EXPECT_EQ(scaled.x, 700) << "whole scales divide and then multiply";
-    EXPECT_EQ(scaled.y, 600);
-    const StoredPlacement wide = placementToStore({100, 100, 700, 600}, {0, 0, 100, 100}, {2, 1});
-    EXPECT_EQ(wide.x, 400);
-    EXPECT_EQ(wide.y, 600);
-    EXPECT_EQ(placementToStore({100, 100, 700, 600}, {0, 0, 5, 0}, {1, 1}).x, 5);
+    using Four = std::array<int, 4>;
+    const auto stores = [](int right, const StoredPlacement& before, const DisplayScale& scale) {
+        const StoredPlacement store = placementToStore({100, 100, right, 600}, before, scale);
+        return Four{store.width, store.height, store.x, store.y};
+    };
+    EXPECT_EQ(stores(700, {1, 2, 0, 0}, {2, 2}), (Four{300, 250, 0, 0}));
+    EXPECT_EQ(stores(700, {0, 0, 5, 9}, {1, 1}), (Four{600, 500, 700, 600}));
+    EXPECT_EQ(stores(701, {0, 0, 100, 100}, {2, 2}), (Four{301, 250, 700, 600}))
+        << "whole scales divide first";
+    EXPECT_EQ(stores(700, {0, 0, 100, 100}, {2, 1}), (Four{300, 500, 400, 600}));
+    EXPECT_EQ(stores(700, {0, 0, 5, 0}, {1, 1}), (Four{600, 500, 5, 0}));
 }
 
 TEST(Sizing, OnlyRightAndBottomGiveWay) {
