@@ -1,6 +1,7 @@
 // What Lisp said of the tiles before the window existed is carried over to the controls.
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/WexDialog.h"
+#include "src/platform/mfc/RedrawHold.h"
 
 namespace {
 
@@ -69,7 +70,7 @@ void WexDialog::applyMode(CWnd& control, CCtrlInfo& tile) {
             break;
         case MODE_SHOW:
         case MODE_HIDE:
-            control.ShowWindow(tile.mode() == MODE_SHOW ? SW_SHOW : SW_HIDE);
+            showControl(control.m_hWnd, tile.mode() == MODE_SHOW);
             break;
         default:
             break;

@@ -70,11 +70,8 @@ void applyLiveMode(const CWnd& control, const WexDialog& dialog, const TileAddre
             control.SendMessage(EM_SCROLLCARET);
             return;
         case MODE_SHOW:
-            releaseRedraw();
-            return control.ShowWindow(SW_SHOW);
         case MODE_HIDE:
-            releaseRedraw();
-            return control.ShowWindow(SW_HIDE);
+            return showControl(control.m_hWnd, mode == MODE_SHOW);
         default:
             return;
     }

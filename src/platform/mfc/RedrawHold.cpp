@@ -33,3 +33,8 @@ void releaseRedraw() {
         InvalidateRect(control, nullptr, TRUE);
     }
 }
+
+void showControl(HWND control, bool show) {
+    releaseRedraw();
+    ShowWindow(control, show ? SW_SHOW : SW_HIDE);
+}

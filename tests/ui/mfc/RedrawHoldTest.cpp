@@ -27,6 +27,17 @@ TEST_F(RedrawHoldTest, AHeldControlPaintsAnewWhenItIsReleased) {
     EXPECT_FALSE(needsPaint(control)) << "released once";
 }
 
+TEST_F(RedrawHoldTest, WhatIsShownOrHiddenMeanwhileStaysSo) {
+    const HWND hidden = make(0), shown = make(WS_VISIBLE);
+    holdRedraw(hidden);
+    holdRedraw(shown);
+    showControl(hidden, true);
+    showControl(shown, false);
+    releaseRedraw();
+    EXPECT_TRUE(IsWindowVisible(hidden));
+    EXPECT_FALSE(IsWindowVisible(shown));
+}
+
 TEST_F(RedrawHoldTest, AHiddenControlStaysHiddenAndOneThatIsGoneIsPassedOver) {
     const HWND hidden = make(0), gone = make(WS_VISIBLE);
     holdRedraw(hidden);
