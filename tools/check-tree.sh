@@ -37,6 +37,14 @@ may_not_include src/buttons 'src/' 'src/(platform|buttons)/' 'the drawing of but
 may_not_include src/shell "$families" '-' 'the shell is below the control families'
 may_not_include src/dialog "$families" '-' 'control families meet the dialog by virtuals'
 
+# Of the host's folders each may use those before it.
+order=''
+for folder in lisp units services documents exports drive runner; do
+    order="$order${order:+|}host/$folder/"
+    may_not_include host/$folder 'host/' "$order" 'the host has this folder above'
+done
+files 'host/*/*' | grep -vE "^($order)" | tell 'this folder of the host has no place in their order yet'
+
 files '*.h' ':!resources' | xargs grep -L '^#pragma once' | tell 'no #pragma once'
 files '*.h' '*.cpp' '*.lsp' '*.sh' '*.md' '*.rc' '*.cmake' '*CMakeLists.txt' '*.txt' ':!tests/ui/examples' |
     xargs grep -nE "[[:blank:]]\$|"$'\t'"|^(<<<<<<<|>>>>>>>)|\b(TO""DO|FIX""ME)\b" | tell 'blanks at the end, a tab, or something unfinished'

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/lisp/Error.h"
+#include "host/services/Host.h"
 #include "host/services/Texts.h"
 #include "src/platform/base/Text.h"
 
@@ -133,4 +134,9 @@ void Documents::forgetFunctionsOf(const Plugin& plugin) {
     }
     std::erase_if(m_functions, [&](const auto& entry) { return entry.second->plugin == &plugin; });
     std::erase_if(m_handlers, [&](const auto& entry) { return entry.first.first == &plugin; });
+}
+
+Documents& documents() {
+    static Documents& instance = *new Documents(host().lisp());
+    return instance;
 }

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "host/documents/CallFrame.h"
 #include "host/documents/Plugin.h"
 #include "host/lisp/Interpreter.h"
-#include "host/services/CallFrame.h"
 #include "src/platform/host/HostPlugin.h"
 
 // A drawing that is open. The names are those of Lisp functions that plug-ins defined in it, in lower case.
@@ -66,3 +66,7 @@ class Documents final : public HostDocManager {
     std::map<std::wstring, std::unique_ptr<LispFunction>> m_functions;
     std::map<std::pair<Plugin*, int>, HostLispFunction> m_handlers;
 };
+
+// Those of the process; made at the first question and never destroyed, since plug-ins reach them until it
+// ends.
+Documents& documents();

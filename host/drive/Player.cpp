@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/documents/Documents.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
@@ -50,7 +51,7 @@ void Player::reportLeftovers() {
 
 // The plug-in names its newest dialog, and no other than the newest can be idle.
 bool Player::isPluginDialog(HWND dialog) const {
-    return host().documents().findWindow(nullptr, nullptr, -1) == dialog;
+    return documents().findWindow(nullptr, nullptr, -1) == dialog;
 }
 
 void Player::dialogIdle(HWND dialog) {
@@ -68,7 +69,7 @@ Player::Run& Player::runOf(HWND dialog) {
         std::find_if(m_runs.begin(), m_runs.end(), [=](const Run& run) { return run.dialog == dialog; });
     if (found != m_runs.end()) return *found;
     std::shared_ptr<Session> session = m_queue.take([=](const std::wstring& name) {
-        return host().documents().findWindow(name.c_str(), nullptr, -1) == dialog;
+        return documents().findWindow(name.c_str(), nullptr, -1) == dialog;
     });
     if (!session && host().isHeadless()) {
         report(L"no session for dialog " + quoted(textOf(dialog)) + L", and nobody else to work it",

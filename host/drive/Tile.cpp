@@ -1,5 +1,6 @@
 #include "host/drive/Tile.h"
 
+#include "host/documents/Documents.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/Player.h"
 #include "host/services/Host.h"
@@ -7,7 +8,7 @@
 
 HWND runningDialog() {
     const HWND playing = player().playedDialog();
-    const HWND dialog = playing ? playing : host().documents().findWindow(nullptr, nullptr, -1);
+    const HWND dialog = playing ? playing : documents().findWindow(nullptr, nullptr, -1);
     if (!dialog) throw lisp::Error(u"no dialog is open");
     return dialog;
 }
@@ -19,8 +20,8 @@ Tile::Tile(lisp::Call& call, size_t index) : m_dialog(runningDialog()) {
     const std::wstring key = byKey ? wideText(address.asString()) : L"";
     m_name = byKey ? L"\"" + key + L"\"" : std::to_wstring(address.asInteger());
     // By key the plug-in knows; it answers for its newest dialog, which is this one.
-    m_window = byKey ? host().documents().findWindow(nullptr, key.c_str(), -1)
-                     : GetDlgItem(m_dialog, address.asInteger());
+    m_window =
+        byKey ? documents().findWindow(nullptr, key.c_str(), -1) : GetDlgItem(m_dialog, address.asInteger());
     if (!m_window) fail(L"there is no such tile");
 }
 

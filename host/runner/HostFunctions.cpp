@@ -1,5 +1,6 @@
 #include "host/runner/HostFunctions.h"
 
+#include "host/documents/Documents.h"
 #include "host/drive/Resources.h"
 #include "host/runner/HostFiles.h"
 #include "host/services/Host.h"
@@ -16,22 +17,22 @@ constexpr std::u16string_view START_UP = u"(defun c:wex_loadlisp (path) (load pa
 
 // Each of the two gives the number of documents that are open then.
 Value openDocument(Call&) {
-    host().documents().open();
-    return Value::integer(static_cast<int32_t>(host().documents().count()));
+    documents().open();
+    return Value::integer(static_cast<int32_t>(documents().count()));
 }
 
 Value closeDocument(Call&) {
-    if (!host().documents().close()) throw lisp::Error(u"no document is open");
-    return Value::integer(static_cast<int32_t>(host().documents().count()));
+    if (!documents().close()) throw lisp::Error(u"no document is open");
+    return Value::integer(static_cast<int32_t>(documents().count()));
 }
 
 Value loadPlugin(Call& call) {
-    host().documents().loadPlugin(systemPath(wideText(call.text(0))).wstring());
+    documents().loadPlugin(systemPath(wideText(call.text(0))).wstring());
     return Value::truth();
 }
 
 Value unloadPlugin(Call&) {
-    host().documents().unloadPlugin();
+    documents().unloadPlugin();
     return Value::truth();
 }
 

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "host/documents/CallFrame.h"
+#include "host/documents/Documents.h"
 #include "host/drive/Player.h"
 #include "host/drive/UiFunctions.h"
 #include "host/runner/CheckDialogs.h"
@@ -51,13 +53,25 @@ std::unique_ptr<HostFiles> filesFor(const Options& options) {
 void loadPlugin(const std::wstring& named) {
     const std::filesystem::path path = named.empty() ? programFolder() / PLUGIN_NAME : systemPath(named);
     try {
-        host().documents().loadPlugin(path.wstring());
+        documents().loadPlugin(path.wstring());
     } catch (const lisp::Error& error) {
         reportError(wideText(error.text()));
     }
 }
 
+HWND makeMainFrame() {
+    static MainFrame& frame = *new MainFrame;
+    return frame.window();
+}
+
+// A plug-in of which a function is being called can't be unloaded.
+void endHost() {
+    if (!CallFrame::current()) documents().closeAll();
+}
+
 void startHost(const Options& options) {
+    host().setMainFrame(&makeMainFrame);
+    host().setAtExit(&endHost);
     host().setHeadless(options.headless);
     player().setPlays(options.playsSessions());
     lisp::Interpreter& lisp = host().lisp();
@@ -65,7 +79,7 @@ void startHost(const Options& options) {
     lisp.setFileAccess(filesFor(options));
     defineHostFunctions(lisp);
     defineUiFunctions(lisp, systemPath(options.shotsFolder).wstring());
-    host().documents().open();
+    documents().open();
     loadPlugin(options.plugin);
 }
 

@@ -4,13 +4,13 @@
 
 #include <utility>
 
-#include "src/platform/host/HostServices.h"
+#include "host/services/Host.h"
 
 void Alerts::show(std::wstring_view text) {
     record(text);
     if (!m_attended) return;
     const HWND active = GetActiveWindow();
-    MessageBoxW(active ? active : hostGetMainFrame(), std::wstring(text).c_str(), L"WexHost",
+    MessageBoxW(active ? active : host().mainFrame(), std::wstring(text).c_str(), L"WexHost",
                 MB_OK | MB_ICONEXCLAMATION);
 }
 

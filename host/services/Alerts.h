@@ -20,7 +20,6 @@ class Alerts {
     std::vector<std::wstring> take();
 
     // Whether a person has to see a box: not while a session plays, nor headless.
-    bool isAttended() const { return m_attended; }
     void setAttended(bool attended) { m_attended = attended; }
 
   private:

@@ -1,8 +1,5 @@
 #include "host/services/Host.h"
 
-#include "host/runner/MainFrame.h"
-#include "host/services/CallFrame.h"
-
 namespace {
 
 // Three quarters of the stack that wexhost.exe is linked with.
@@ -10,17 +7,15 @@ constexpr size_t LISP_STACK_BYTES = size_t(12) << 20;
 
 }  // namespace
 
-Host::Host() : m_lisp({.stackBytes = LISP_STACK_BYTES}), m_documents(m_lisp), m_alerts(m_console) {}
+Host::Host() : m_lisp({.stackBytes = LISP_STACK_BYTES}), m_alerts(m_console) {}
 
-Host::~Host() = default;
-
-MainFrame& Host::mainFrame() {
-    if (!m_mainFrame) m_mainFrame = std::make_unique<MainFrame>();
-    return *m_mainFrame;
+HWND Host::mainFrame() {
+    if (!m_mainFrame && m_makeMainFrame) m_mainFrame = m_makeMainFrame();
+    return m_mainFrame;
 }
 
 void Host::exit(int status) {
-    if (!CallFrame::current()) m_documents.closeAll();
+    if (m_atExit) m_atExit();
     m_console.flush();
     ExitProcess(static_cast<UINT>(status));
 }

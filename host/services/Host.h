@@ -3,28 +3,23 @@
 
 #include <windows.h>
 
-#include <memory>
+#include <functional>
 
-#include "host/documents/Documents.h"
 #include "host/lisp/Interpreter.h"
 #include "host/services/Alerts.h"
 #include "host/services/Console.h"
 
-class MainFrame;
-
 class Host {
   public:
     Host();
-    ~Host();
 
     Console& console() { return m_console; }
     lisp::Interpreter& lisp() { return m_lisp; }
-    Documents& documents() { return m_documents; }
     Alerts& alerts() { return m_alerts; }
 
-    // The main frame, made and shown at the first question.
-    MainFrame& mainFrame();
-    bool hasMainFrame() const { return m_mainFrame != nullptr; }
+    // The window in front of which dialogs open: what `make` gives at the first question.
+    HWND mainFrame();
+    void setMainFrame(std::function<HWND()> make) { m_makeMainFrame = std::move(make); }
 
     // No person is there: alerts are recorded and answered, and a dialog must have a session.
     bool isHeadless() const { return m_headless; }
@@ -36,16 +31,17 @@ class Host {
         if (!m_status) m_status = status;
     }
 
-    // Ends the process: closes the documents and unloads the plug-ins unless one of their functions is being
-    // called, and hands on what was printed.
+    // Ends the process, after `work` and when all that was printed has been handed on.
     [[noreturn]] void exit(int status);
+    void setAtExit(std::function<void()> work) { m_atExit = std::move(work); }
 
   private:
     Console m_console;
     lisp::Interpreter m_lisp;
-    Documents m_documents;
     Alerts m_alerts;
-    std::unique_ptr<MainFrame> m_mainFrame;
+    std::function<HWND()> m_makeMainFrame;
+    std::function<void()> m_atExit;
+    HWND m_mainFrame = nullptr;
     bool m_headless = false;
     int m_status = 0;
 };

@@ -3,8 +3,8 @@
 
 #include <cstdarg>
 
+#include "host/documents/CallFrame.h"
 #include "host/documents/Documents.h"
-#include "host/services/CallFrame.h"
 #include "host/services/Crossing.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
@@ -57,15 +57,15 @@ bool invoke(const HostValue* chain, HostValue*& result) {
 }  // namespace
 
 int hostDefun(const wchar_t* name, int code) {
-    return statusOf([&] { return name && host().documents().define(name, code); });
+    return statusOf([&] { return name && documents().define(name, code); });
 }
 
 int hostRegFunc(HostLispFunction handler, int code) {
-    return statusOf([&] { return host().documents().bind(handler, code); });
+    return statusOf([&] { return documents().bind(handler, code); });
 }
 
 int hostUndef(const wchar_t* name, int) {
-    return statusOf([&] { return name && host().documents().undefine(name); });
+    return statusOf([&] { return name && documents().undefine(name); });
 }
 
 int hostGetFunCode() {

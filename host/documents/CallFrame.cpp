@@ -1,4 +1,4 @@
-#include "host/services/CallFrame.h"
+#include "host/documents/CallFrame.h"
 
 #include <exception>
 

@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <string>
 
-#include "host/runner/MainFrame.h"
 #include "host/services/DisplayScale.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
@@ -61,7 +60,7 @@ int hostGraphScr() {
     return HOST_NORMAL;
 }
 
-HWND hostGetMainFrame() { return host().mainFrame().window(); }
+HWND hostGetMainFrame() { return host().mainFrame(); }
 
 double hostMonitorDpiXScale(HMONITOR monitor) { return displayScale(monitor).x; }
 

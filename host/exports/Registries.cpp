@@ -13,10 +13,10 @@ class DynamicLinker : public HostDynamicLinker {
         return std::wstring_view(className) == HostDynamicLinker::className;
     }
     void allowUnload(HMODULE plugin) override {
-        if (Plugin* known = host().documents().pluginOf(plugin)) known->allowUnload();
+        if (Plugin* known = documents().pluginOf(plugin)) known->allowUnload();
     }
     void worksWithSeveralDocuments(HMODULE plugin) override {
-        if (Plugin* known = host().documents().pluginOf(plugin)) known->allowSeveralDocuments();
+        if (Plugin* known = documents().pluginOf(plugin)) known->allowSeveralDocuments();
     }
 };
 
@@ -47,4 +47,4 @@ HostServiceRegistry* hostSysRegistry() {
     return &registry;
 }
 
-HostDocManager* hostDocManager() { return &host().documents(); }
+HostDocManager* hostDocManager() { return &documents(); }
