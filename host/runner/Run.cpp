@@ -16,6 +16,7 @@
 #include "host/runner/MainFrame.h"
 #include "host/runner/Options.h"
 #include "host/runner/Prompt.h"
+#include "host/runner/TempFolder.h"
 #include "host/runner/Terminal.h"
 #include "host/runner/Watchdog.h"
 #include "host/services/Host.h"
@@ -64,14 +65,31 @@ HWND makeMainFrame() {
     return frame.window();
 }
 
+// Removed by endHost.
+std::unique_ptr<TempFolder>& tempFolder() {
+    static auto& folder = *new std::unique_ptr<TempFolder>;
+    return folder;
+}
+
+void makeTempFolder() {
+    try {
+        tempFolder() = std::make_unique<TempFolder>();
+    } catch (const std::filesystem::filesystem_error& error) {
+        host().console().error(L"wexhost: hosts that run at the same time may disturb each other: " +
+                               wideFromUtf8(error.what()));
+    }
+}
+
 // A plug-in of which a function is being called can't be unloaded.
 void endHost() {
     if (!CallFrame::current()) documents().closeAll();
+    tempFolder().reset();
 }
 
 void startHost(const Options& options) {
     host().setMainFrame(&makeMainFrame);
     host().setAtExit(&endHost);
+    makeTempFolder();
     host().setHeadless(options.headless);
     player().setPlays(options.playsSessions());
     lisp::Interpreter& lisp = host().lisp();
