@@ -1,5 +1,6 @@
 #include "host/documents/CallFrame.h"
 
+#include <algorithm>
 #include <exception>
 
 #include "host/documents/Plugin.h"
@@ -12,7 +13,7 @@ lisp::Error failure(const std::u16string& why) {
     return lisp::Error(u"the plug-in's function failed: " + why);
 }
 
-int32_t run(const LispFunction& function) {
+int32_t run(const PluginFunction& function) {
     if (function.handler) return function.handler();
     if (!function.plugin) throw lisp::Error(u"no handler is bound to this function");
     function.plugin->send(PLUGIN_INVOKE_FUNCTION);
@@ -21,7 +22,7 @@ int32_t run(const LispFunction& function) {
 
 }  // namespace
 
-CallFrame::CallFrame(lisp::Interpreter& lisp, const LispFunction& function,
+CallFrame::CallFrame(lisp::Interpreter& lisp, const PluginFunction& function,
                      std::span<const lisp::Value> arguments)
     : m_lisp(lisp), m_function(function), m_arguments(arguments), m_outer(s_current), m_result(lisp) {
     s_current = this;
@@ -46,10 +47,18 @@ lisp::Value CallFrame::result(int32_t status) const {
 
 lisp::Value callPluginFunction(lisp::Call& call) {
     const auto& function = *static_cast<const LispFunction*>(call.userData);
-    CallFrame frame(call.lisp, function, call.arguments);
+    if (function.definitions.empty()) {
+        throw lisp::Error(u"no plug-in defines " + lispText(function.name) + u" any more");
+    }
+    const PluginFunction newest = function.definitions.back();
+    CallFrame frame(call.lisp, newest, call.arguments);
     // Anything may come out of a module that was built elsewhere; Lisp knows its own errors only.
     try {
-        return frame.result(run(function));
+        // A list that is refused is Lisp's error: the plug-in would take it for a call without arguments.
+        if (std::any_of(call.arguments.begin(), call.arguments.end(), [](auto v) { return v.isCons(); })) {
+            frame.arguments();
+        }
+        return frame.result(run(newest));
     } catch (const lisp::Error&) {
         throw;
     } catch (const std::exception& error) {

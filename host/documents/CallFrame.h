@@ -5,6 +5,7 @@
 #include <memory_resource>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "host/lisp/Interpreter.h"
 #include "host/services/ValueChain.h"
@@ -12,18 +13,25 @@
 
 class Plugin;
 
-// A Lisp name that a plug-in defined.
+// What one plug-in made of a Lisp name.
+struct PluginFunction {
+    Plugin* plugin;  // null where the host itself was asked to define it
+    int code;
+    HostLispFunction handler;  // null: the plug-in is sent message 5
+};
+
+// A Lisp name that plug-ins define. It stays when they are gone, since a program may have kept the function.
 struct LispFunction {
     std::wstring name;
-    int code;
-    Plugin* plugin;            // null where the host itself was asked to define it
-    HostLispFunction handler;  // null: the plug-in is sent message 5
+    // One of each plug-in, oldest first. The newest is called.
+    std::vector<PluginFunction> definitions;
 };
 
 class CallFrame {
   public:
     // `arguments` must outlive the frame.
-    CallFrame(lisp::Interpreter& lisp, const LispFunction& function, std::span<const lisp::Value> arguments);
+    CallFrame(lisp::Interpreter& lisp, const PluginFunction& function,
+              std::span<const lisp::Value> arguments);
     ~CallFrame() { s_current = m_outer; }
     CallFrame(const CallFrame&) = delete;
     CallFrame& operator=(const CallFrame&) = delete;
@@ -34,8 +42,9 @@ class CallFrame {
     static bool isRunning(const Plugin* plugin);
 
     int code() const { return m_function.code; }
-    const LispFunction& function() const { return m_function; }
-    // Made at the first question, since many functions ask for none.
+    Plugin* plugin() const { return m_function.plugin; }
+    // Made at the first question, since many functions ask for none. Throws lisp::Error for a list that is
+    // nested too deeply.
     HostValue* arguments();
     lisp::Interpreter& lisp() const { return m_lisp; }
     void setResult(lisp::Value result) {
@@ -50,7 +59,7 @@ class CallFrame {
     static inline CallFrame* s_current = nullptr;
 
     lisp::Interpreter& m_lisp;
-    const LispFunction& m_function;
+    PluginFunction m_function;
     std::span<const lisp::Value> m_arguments;
     CallFrame* m_outer;
     // The nodes and texts of most calls lie here, those of the others in a few blocks.

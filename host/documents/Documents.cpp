@@ -36,21 +36,28 @@ bool Documents::close() {
     for (HostDocManagerReactor* reactor : std::vector(m_reactors)) reactor->documentToBeDestroyed(m_current);
     for (const auto& plugin : m_plugins) tell(*plugin, PLUGIN_UNLOAD_DOCUMENT);
     // What a plug-in left behind goes with the document all the same.
-    for (const std::wstring& name : std::set(m_current->functions)) undefine(name);
+    for (const auto& [name, owner] : std::set(m_current->functions)) undefine(*m_current, name, owner);
     std::erase_if(m_documents, [this](const auto& document) { return document.get() == m_current; });
     m_current = m_documents.empty() ? nullptr : m_documents.back().get();
     return true;
 }
 
 void Documents::loadPlugin(const std::wstring& path) {
-    Plugin& plugin = *m_plugins.emplace_back(std::make_unique<Plugin>(path));
+    auto loaded = std::make_unique<Plugin>(path);
+    if (pluginOf(loaded->module())) throw lisp::Error(lispText(loaded->name() + L" is loaded already"));
+    Plugin& plugin = *m_plugins.emplace_back(std::move(loaded));
     tell(plugin, PLUGIN_INIT);
     for (const auto& document : m_documents) tellOfDocument(*document, plugin, PLUGIN_LOAD_DOCUMENT);
 }
 
-void Documents::unloadPlugin() {
-    if (m_plugins.empty()) throw lisp::Error(u"no plug-in is loaded");
-    Plugin& plugin = *m_plugins.back();
+void Documents::unloadPlugin(const std::wstring& name) {
+    const auto found = std::find_if(m_plugins.rbegin(), m_plugins.rend(), [&](const auto& plugin) {
+        return name.empty() || equalIgnoringCase(plugin->name(), name);
+    });
+    if (found == m_plugins.rend()) {
+        throw lisp::Error(name.empty() ? u"no plug-in is loaded" : lispText(name + L" isn't loaded"));
+    }
+    Plugin& plugin = **found;
     if (!plugin.isUnloadable()) throw lisp::Error(lispText(plugin.name() + L" doesn't allow to be unloaded"));
     if (CallFrame::isRunning(&plugin)) {
         throw lisp::Error(lispText(plugin.name() + L" can't be unloaded while one of its functions runs"));
@@ -58,7 +65,7 @@ void Documents::unloadPlugin() {
     for (const auto& document : m_documents) tellOfDocument(*document, plugin, PLUGIN_UNLOAD_DOCUMENT);
     tell(plugin, PLUGIN_UNLOAD);
     forgetFunctionsOf(plugin);
-    m_plugins.pop_back();
+    m_plugins.erase(std::next(found).base());
 }
 
 Plugin* Documents::pluginOf(HMODULE module) const {
@@ -83,31 +90,46 @@ HWND Documents::findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id
 bool Documents::define(const std::wstring& name, int code) {
     if (!m_current || !isSymbolName(name)) return false;
     const std::wstring key = toLower(name);
-    std::unique_ptr<LispFunction>& function = m_functions[key];
-    if (!function) function = std::make_unique<LispFunction>();
-    const auto bound = m_handlers.find({m_told, code});
-    *function = {name, code, m_told, bound == m_handlers.end() ? nullptr : bound->second};
-    m_lisp.defineNative(lispText(name), &callPluginFunction, function.get());
-    m_current->functions.insert(key);
+    Plugin* const owner = caller();
+    LispFunction& function = m_functions[key];
+    function.name = key;
+    const auto bound = m_handlers.find({owner, code});
+    std::erase_if(function.definitions, [=](const auto& known) { return known.plugin == owner; });
+    function.definitions.push_back({owner, code, bound == m_handlers.end() ? nullptr : bound->second});
+    m_lisp.defineNative(lispText(name), &callPluginFunction, &function);
+    m_current->functions.insert({key, owner});
     return true;
 }
 
 bool Documents::bind(HostLispFunction handler, int code) {
-    m_handlers[{m_told, code}] = handler;
-    for (const auto& [name, function] : m_functions) {
-        if (function->plugin == m_told && function->code == code) function->handler = handler;
+    Plugin* const owner = caller();
+    m_handlers[{owner, code}] = handler;
+    for (auto& [name, function] : m_functions) {
+        for (PluginFunction& known : function.definitions) {
+            if (known.plugin == owner && known.code == code) known.handler = handler;
+        }
     }
     return true;
 }
 
 bool Documents::undefine(const std::wstring& name) {
-    const std::wstring key = toLower(name);
-    if (!m_current || !m_current->functions.erase(key)) return false;
-    const auto knows = [&](const auto& document) { return document->functions.contains(key); };
+    return m_current && undefine(*m_current, toLower(name), caller());
+}
+
+bool Documents::undefine(HostDocument& document, const std::wstring& key, const Plugin* owner) {
+    if (!document.functions.erase({key, owner})) return false;
+    const auto knows = [&](const auto& other) { return other->functions.contains({key, owner}); };
     if (std::any_of(m_documents.begin(), m_documents.end(), knows)) return true;
-    // The record of the function stays: a call of it may be under way.
-    m_lisp.undefine(lispText(key));
+    std::vector<PluginFunction>& definitions = m_functions[key].definitions;
+    std::erase_if(definitions, [=](const auto& known) { return known.plugin == owner; });
+    if (definitions.empty()) m_lisp.undefine(lispText(key));
     return true;
+}
+
+Plugin* Documents::caller() const {
+    if (m_told) return m_told;
+    const CallFrame* frame = CallFrame::current();
+    return frame ? frame->plugin() : nullptr;
 }
 
 void Documents::addReactor(HostDocManagerReactor* reactor) { m_reactors.push_back(reactor); }
@@ -127,12 +149,11 @@ void Documents::tellOfDocument(HostDocument& document, Plugin& plugin, PluginMes
 }
 
 void Documents::forgetFunctionsOf(const Plugin& plugin) {
-    for (const auto& [name, function] : m_functions) {
-        if (function->plugin != &plugin) continue;
-        for (const auto& document : m_documents) document->functions.erase(name);
-        m_lisp.undefine(lispText(name));
+    for (const auto& document : m_documents) {
+        for (const auto& [name, owner] : std::set(document->functions)) {
+            if (owner == &plugin) undefine(*document, name, owner);
+        }
     }
-    std::erase_if(m_functions, [&](const auto& entry) { return entry.second->plugin == &plugin; });
     std::erase_if(m_handlers, [&](const auto& entry) { return entry.first.first == &plugin; });
 }
 

@@ -12,10 +12,10 @@
 #include "host/lisp/Interpreter.h"
 #include "src/platform/host/HostPlugin.h"
 
-// A drawing that is open. The names are those of Lisp functions that plug-ins defined in it, in lower case.
+// A drawing that is open, with the names in lower case of the Lisp functions that plug-ins defined in it.
 class HostDocument {
   public:
-    std::set<std::wstring> functions;
+    std::set<std::pair<std::wstring, const Plugin*>> functions;
 };
 
 class Documents final : public HostDocManager {
@@ -29,11 +29,14 @@ class Documents final : public HostDocManager {
     bool close();
     size_t count() const { return m_documents.size(); }
 
-    // Loads a plug-in, readies it and tells it of the open documents. Throws lisp::Error.
+    // Loads a plug-in, readies it and tells it of the open documents. Where another plug-in has functions of
+    // the same names, those of the new one count until it is unloaded. Throws lisp::Error, also where it is
+    // loaded already.
     void loadPlugin(const std::wstring& path);
-    // Unloads the plug-in that was loaded last. Throws lisp::Error where there is none, or it doesn't allow
-    // it, or one of its functions is being called.
-    void unloadPlugin();
+    // Unloads the plug-in of that file name, in any case; the one that was loaded last where it is empty.
+    // Throws lisp::Error where there is none, or it doesn't allow it, or one of its functions is being
+    // called.
+    void unloadPlugin(const std::wstring& name);
     // Null where the module is none of the loaded plug-ins.
     Plugin* pluginOf(HMODULE module) const;
     // Unloads all plug-ins and closes all documents, at the end of the process.
@@ -42,7 +45,8 @@ class Documents final : public HostDocManager {
     // The window that a plug-in knows under this address; see PLUGIN_FIND_WINDOW in HostPlugin.h.
     HWND findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id) const;
 
-    // What hostDefun, hostRegFunc and hostUndef do, on behalf of the plug-in that is being told something.
+    // What hostDefun, hostRegFunc and hostUndef do, on behalf of the plug-in that is being told something or
+    // called. One plug-in can't undefine what is another's.
     bool define(const std::wstring& name, int code);
     bool bind(HostLispFunction handler, int code);
     bool undefine(const std::wstring& name);
@@ -53,6 +57,8 @@ class Documents final : public HostDocManager {
   private:
     void tell(Plugin& plugin, PluginMessage message);
     void tellOfDocument(HostDocument& document, Plugin& plugin, PluginMessage message);
+    Plugin* caller() const;
+    bool undefine(HostDocument& document, const std::wstring& key, const Plugin* owner);
     void forgetFunctionsOf(const Plugin& plugin);
 
     lisp::Interpreter& m_lisp;
@@ -61,9 +67,9 @@ class Documents final : public HostDocManager {
     std::vector<HostDocManagerReactor*> m_reactors;
     HostDocument* m_current = nullptr;
     Plugin* m_told = nullptr;
-    // By name in lower case; the interpreter refers to them. And the handlers that were bound before or
-    // after.
-    std::map<std::wstring, std::unique_ptr<LispFunction>> m_functions;
+    // By name in lower case. The interpreter refers to them, so none is ever removed. And the handlers that
+    // were bound before or after.
+    std::map<std::wstring, LispFunction> m_functions;
     std::map<std::pair<Plugin*, int>, HostLispFunction> m_handlers;
 };
 

@@ -31,8 +31,8 @@ Value loadPlugin(Call& call) {
     return Value::truth();
 }
 
-Value unloadPlugin(Call&) {
-    documents().unloadPlugin();
+Value unloadPlugin(Call& call) {
+    documents().unloadPlugin(call.has(0) ? wideText(call.text(0)) : L"");
     return Value::truth();
 }
 
@@ -51,7 +51,7 @@ void defineHostFunctions(lisp::Interpreter& lisp) {
     lisp.defineNative(u"host_open_document", &openDocument, nullptr, 0, 0);
     lisp.defineNative(u"host_close_document", &closeDocument, nullptr, 0, 0);
     lisp.defineNative(u"host_load_plugin", &loadPlugin, nullptr, 1, 1);
-    lisp.defineNative(u"host_unload_plugin", &unloadPlugin, nullptr, 0, 0);
+    lisp.defineNative(u"host_unload_plugin", &unloadPlugin, nullptr, 0, 1);
     lisp.defineNative(u"host_resources", &resources, nullptr, 0, 0);
     lisp.defineNative(u"exit", &exitProgram, nullptr, 0, 1);
     defineUnitFunctions(lisp);

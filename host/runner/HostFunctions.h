@@ -3,6 +3,6 @@
 
 #include "host/lisp/Interpreter.h"
 
-// Defines (host_open_document), (host_close_document), (host_load_plugin path), (host_unload_plugin),
+// Defines (host_open_document), (host_close_document), (host_load_plugin path), (host_unload_plugin [name]),
 // (host_resources), (exit [status]) and the command c:wex_loadlisp.
 void defineHostFunctions(lisp::Interpreter& lisp);

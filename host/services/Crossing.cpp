@@ -6,7 +6,7 @@
 
 namespace {
 
-// Deeper nesting would cost stack in proportion.
+// Deeper nesting would cost stack in proportion. The message of the error has the number too.
 constexpr int DEEPEST_LIST = 1000;
 
 void appendValue(ChainBuilder& chain, lisp::Value value, int depth);
@@ -32,7 +32,7 @@ void appendList(ChainBuilder& chain, lisp::Value list, int depth) {
         node.value.pointValue[1] = list.cdr().car().asReal();
         return;
     }
-    if (depth >= DEEPEST_LIST) throw lisp::Error(u"a list is nested too deeply to be handed over");
+    if (depth >= DEEPEST_LIST) throw lisp::Error(u"a list is nested deeper than 1,000");
     chain.append(HV_LIST_BEGIN);
     for (; list.isCons(); list = list.cdr()) appendValue(chain, list.car(), depth + 1);
     if (!list.isNil()) appendValue(chain, list, depth + 1);
