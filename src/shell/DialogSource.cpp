@@ -1,6 +1,8 @@
 #include "src/shell/DialogSource.h"
 
 #include <algorithm>
+#include <memory>
+#include <type_traits>
 #include <vector>
 
 #include "src/shell/KeyList.h"
@@ -19,7 +21,12 @@ int idForNameIn(HMODULE module, const CString& name) {
     return -1;
 }
 
-std::vector<HMODULE> loadAddOns() {
+struct FreeModule {
+    void operator()(HMODULE module) const { FreeLibrary(module); }
+};
+using AddOn = std::unique_ptr<std::remove_pointer_t<HMODULE>, FreeModule>;
+
+std::vector<AddOn> loadAddOns() {
     const std::wstring path = modulePath(g_moduleInstance);
     const std::wstring folder = folderOf(path) + ADD_ON_FOLDER;
     std::vector<std::wstring> names;
@@ -31,16 +38,18 @@ std::vector<HMODULE> loadAddOns() {
     FindClose(search);
     std::sort(names.begin(), names.end(),
               [](const auto& a, const auto& b) { return toLower(a) < toLower(b); });
-    std::vector<HMODULE> modules;
-    for (const std::wstring& name : names)
-        if (const HMODULE module = LoadLibraryExW((folder + name).c_str(), nullptr,
-                                                  LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE))
-            modules.push_back(module);
+    std::vector<AddOn> modules;
+    for (const std::wstring& name : names) {
+        AddOn module(LoadLibraryExW((folder + name).c_str(), nullptr,
+                                    LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));
+        if (module) modules.push_back(std::move(module));
+    }
     return modules;
 }
 
-const std::vector<HMODULE>& addOns() {
-    static const std::vector<HMODULE> modules = loadAddOns();
+// Freed when the plug-in is unloaded.
+const std::vector<AddOn>& addOns() {
+    static const std::vector<AddOn> modules = loadAddOns();
     return modules;
 }
 
@@ -52,7 +61,8 @@ int dialogIdForName(const CString& name) { return idForNameIn(g_moduleInstance, 
 
 std::optional<DialogSource> findDialog(const CString& name) {
     if (const int id = dialogIdForName(name); id >= 0) return DialogSource{id, g_moduleInstance, nullptr};
-    for (const HMODULE addOn : addOns())
-        if (const int id = idForNameIn(addOn, name); id >= 0) return DialogSource{id, addOn, addOn};
+    for (const AddOn& addOn : addOns())
+        if (const int id = idForNameIn(addOn.get(), name); id >= 0)
+            return DialogSource{id, addOn.get(), addOn.get()};
     return std::nullopt;
 }

@@ -1,5 +1,9 @@
 #include "src/shell/GeneratedLispFileMgr.h"
 
+// Not in the class, where nothing would be exported for them.
+GeneratedLispFileMgr::GeneratedLispFileMgr() = default;
+GeneratedLispFileMgr::~GeneratedLispFileMgr() = default;
+
 GeneratedLispFileMgr& GeneratedLispFileMgr::GetInstance() {
     static GeneratedLispFileMgr instance;
     return instance;

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <string>
 
-// Other modules may call it: its methods are exported.
+// Other modules may call it: its methods are exported, those that only the class itself may call too.
 class __declspec(dllexport) GeneratedLispFileMgr {
   public:
     static GeneratedLispFileMgr& GetInstance();
@@ -21,8 +21,8 @@ class __declspec(dllexport) GeneratedLispFileMgr {
     GeneratedLispFileMgr& operator=(const GeneratedLispFileMgr&) = delete;
 
   private:
-    GeneratedLispFileMgr() = default;
-    ~GeneratedLispFileMgr() = default;
+    GeneratedLispFileMgr();
+    ~GeneratedLispFileMgr();
 
     std::map<std::wstring, std::unique_ptr<std::wostringstream>> m_streams;
 };
