@@ -17,10 +17,10 @@ constexpr double DEGREES_PER_RADIAN = 180 / std::numbers::pi;
 constexpr double GRADS_PER_RADIAN = 200 / std::numbers::pi;
 constexpr double TURN = 2 * std::numbers::pi;
 
-// A decimal number within one turn: what rounds up to a whole turn is 0.
+// A decimal number within one turn: what rounds up to a whole turn or beyond is 0.
 std::wstring withinTurn(double value, double turn, int precision) {
     std::wstring text = decimalText(value, precision);
-    return text == decimalText(turn, precision) ? decimalText(0, precision) : text;
+    return std::wcstod(text.c_str(), nullptr) >= turn ? decimalText(0, precision) : text;
 }
 
 // Degrees counted in the smallest part that a precision shows.
@@ -65,20 +65,21 @@ std::wstring bearing(double degrees, int precision) {
     return (north ? L"N " : L"S ") + scale.text(aside) + (east ? L" E" : L" W");
 }
 
-// 45d30'15.5", 45d30', 45d, 45.5: the parts that stand, in degrees.
+// 45d30'15.5", 45d30'15, 45d30, 45d15", 45d, 45.5: the parts that stand, in degrees.
 std::optional<double> sexagesimalFrom(NumberScanner& scanner) {
     const auto degrees = scanner.number(false);
-    if (!degrees || !scanner.take(L'd')) return degrees;
-    double value = *degrees;
-    for (const auto& [mark, perDegree] : {std::pair(L'\'', 60.0), std::pair(L'"', 3600.0)}) {
-        const std::wstring_view start = scanner.rest();
-        const auto part = scanner.number(false);
-        if (part && scanner.take(mark))
-            value += *part / perDegree;
-        else
-            scanner.back(start);
-    }
-    return value;
+    if (!degrees || !scanner.takeMark(L'd')) return degrees;
+    scanner.skipBlanks();
+    const auto part = scanner.number(false);
+    if (!part) return degrees;
+    if (scanner.takeMark(L'"')) return *degrees + *part / 3600;
+    const double value = *degrees + *part / 60;
+    if (!scanner.takeMark(L'\'')) return value;
+    scanner.skipBlanks();
+    const auto seconds = scanner.number(false);
+    if (!seconds) return value;
+    scanner.takeMark(L'"');
+    return value + *seconds / 3600;
 }
 
 std::optional<double> bearingFrom(NumberScanner& scanner) {
@@ -113,10 +114,10 @@ std::optional<double> signedFrom(NumberScanner& scanner, int unit) {
         case SEXAGESIMAL:
             return sign * *value / DEGREES_PER_RADIAN;
         case GRADS:
-            scanner.take(L'g');
+            scanner.takeMark(L'g');
             return sign * *value / GRADS_PER_RADIAN;
         case RADIANS:
-            scanner.take(L'r');
+            scanner.takeMark(L'r');
             return sign * *value;
         default:
             return std::nullopt;
@@ -129,7 +130,8 @@ std::optional<std::wstring> angleText(double radians, int unit, int precision) {
     if (precision == -1) precision = 4;
     if (precision < 0 || precision > 8 || !std::isfinite(radians)) return std::nullopt;
     double angle = std::fmod(radians, TURN);
-    if (angle < 0) angle += TURN;
+    // At 0, too, which may be a negative one.
+    if (std::signbit(angle)) angle += TURN;
     const double degrees = angle * DEGREES_PER_RADIAN;
     switch (unit) {
         case DEGREES:
@@ -140,9 +142,8 @@ std::optional<std::wstring> angleText(double radians, int unit, int precision) {
         }
         case GRADS:
             return withinTurn(angle * GRADS_PER_RADIAN, 400, precision) + L'g';
-        // A turn is no multiple of the last place, so nothing rounds up to it.
         case RADIANS:
-            return decimalText(angle, precision) + L'r';
+            return withinTurn(angle, TURN, precision) + L'r';
         case SURVEYOR:
             return bearing(degrees, precision);
         default:
@@ -155,7 +156,8 @@ std::optional<double> angleFromText(std::wstring_view text, int unit) {
     scanner.skipBlanks();
     const auto radians = signedFrom(scanner, unit);
     scanner.skipBlanks();
-    return radians && std::isfinite(*radians) && scanner.atEnd() ? radians : std::nullopt;
+    if (!radians || !std::isfinite(*radians) || !scanner.atEnd()) return std::nullopt;
+    return *radians == 0 ? 0 : *radians;
 }
 
 }  // namespace units

@@ -16,8 +16,10 @@ namespace units {
 // Nothing for another unit, another precision, or a value that isn't finite.
 std::optional<std::wstring> angleText(double radians, int unit, int precision);
 
-// The angle that a person typed in that notation, blanks at the ends allowed and letters in either case. The
-// mark of the unit may be left out; in unit 5 an angle without letters counts from east. Nothing for an empty
+// The angle that a person typed in that notation, letters in either case, with blanks at the ends and around
+// signs and marks where the person likes. The mark of the unit may be left out, and so may that of the last
+// part in units 2 and 5: 45, 45d30, 45d30'15. Only the whole has a sign. In unit 5 an angle without letters
+// counts from east. Nothing for an empty
 // text, anything left over, a bearing above 90 degrees, and another unit.
 std::optional<double> angleFromText(std::wstring_view text, int unit);
 

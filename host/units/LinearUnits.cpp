@@ -22,8 +22,9 @@ std::wstring withSign(double value, std::wstring magnitude) {
 }
 
 std::wstring engineering(double magnitude, int precision) {
-    double feet = std::floor(magnitude / INCHES_PER_FOOT);
-    std::wstring inches = decimalText(magnitude - feet * INCHES_PER_FOOT, precision);
+    const double rest = std::fmod(magnitude, INCHES_PER_FOOT);
+    double feet = (magnitude - rest) / INCHES_PER_FOOT;
+    std::wstring inches = decimalText(rest, precision);
     if (std::wcstod(inches.c_str(), nullptr) >= INCHES_PER_FOOT) {
         ++feet;
         inches = decimalText(0, precision);
@@ -51,27 +52,30 @@ std::wstring fractional(double parts, int power, bool alwaysWhole) {
 
 std::wstring architectural(double parts, int power) {
     const double perFoot = INCHES_PER_FOOT * std::ldexp(1, power);
-    const double feet = std::floor(parts / perFoot);
-    const std::wstring inches = fractional(parts - feet * perFoot, power, feet > 0);
+    const double rest = std::fmod(parts, perFoot);
+    const double feet = (parts - rest) / perFoot;
+    const std::wstring inches = fractional(rest, power, feet > 0);
     return (feet > 0 ? whole(feet) + L"'-" : L"") + inches + L'"';
+}
+
+std::optional<double> inchesFrom(NumberScanner& scanner) {
+    const auto inches = scanner.mixedNumber();
+    scanner.takeMark(L'"');
+    return inches;
 }
 
 std::optional<double> feetAndInches(NumberScanner& scanner) {
     const std::wstring_view start = scanner.rest();
     const auto feet = scanner.number(false);
-    if (!feet || !scanner.take(L'\'')) {
+    if (!feet || !scanner.takeMark(L'\'')) {
         scanner.back(start);
-        const auto inches = scanner.mixedNumber();
-        scanner.take(L'"');
-        return inches;
+        return inchesFrom(scanner);
     }
     const double inFeet = *feet * INCHES_PER_FOOT;
-    if (!scanner.take(L'-')) {
-        scanner.skipBlanks();
-        if (scanner.atEnd()) return inFeet;
-    }
-    const auto inches = scanner.mixedNumber();
-    scanner.take(L'"');
+    const bool inchesFollow = scanner.takeMark(L'-');
+    scanner.skipBlanks();
+    if (!inchesFollow && scanner.atEnd()) return inFeet;
+    const auto inches = inchesFrom(scanner);
     return inches ? std::optional(inFeet + *inches) : std::nullopt;
 }
 
@@ -121,8 +125,8 @@ std::optional<double> distanceFromText(std::wstring_view text, int unit) {
     const double sign = scanner.sign();
     const auto magnitude = magnitudeFrom(scanner, unit);
     scanner.skipBlanks();
-    return magnitude && std::isfinite(*magnitude) && scanner.atEnd() ? std::optional(sign * *magnitude)
-                                                                     : std::nullopt;
+    if (!magnitude || !std::isfinite(*magnitude) || !scanner.atEnd()) return std::nullopt;
+    return *magnitude == 0 ? 0 : sign * *magnitude;
 }
 
 }  // namespace units

@@ -15,8 +15,10 @@ namespace units {
 // another unit, another precision, or a value that isn't finite.
 std::optional<std::wstring> distanceText(double value, int unit, int precision);
 
-// The value that a person typed in that notation, blanks at the ends allowed: 1'6, 1'-6", 1'6-1/2", 6 1/2,
-// -.5, 1.5e3. Nothing for an empty text, anything left over, a denominator of 0, and another unit.
+// The value that a person typed in that notation: 1'6, 1'-6", 1'6-1/2", 6 1/2, -.5, 1.5e3. Blanks may stand
+// at the ends and around signs and marks: 1' - 6 - 1/2 ". A sign in front holds for the whole; a hyphen
+// further on parts feet from inches and wholes from fractions. Nothing for an empty text, anything left over,
+// a denominator of 0, and another unit.
 std::optional<double> distanceFromText(std::wstring_view text, int unit);
 
 }  // namespace units

@@ -24,10 +24,16 @@ bool NumberScanner::take(wchar_t letter) {
     return true;
 }
 
+bool NumberScanner::takeMark(wchar_t letter) {
+    skipBlanks();
+    return take(letter);
+}
+
 double NumberScanner::sign() {
-    if (take(L'-')) return -1;
-    take(L'+');
-    return 1;
+    const bool negative = take(L'-');
+    if (!negative) take(L'+');
+    skipBlanks();
+    return negative ? -1 : 1;
 }
 
 size_t NumberScanner::digitsFrom(size_t at) const {
@@ -70,7 +76,9 @@ std::optional<double> NumberScanner::mixedNumber() {
         return denominator && *denominator != 0 ? std::optional(*first / *denominator) : std::nullopt;
     }
     const std::wstring_view behindFirst = m_rest;
-    if (first && (take(L' ') || take(L'-'))) {
+    skipBlanks();
+    const bool behindBlank = m_rest.size() < behindFirst.size();
+    if (first && (take(L'-') || behindBlank)) {
         skipBlanks();
         const auto numerator = wholeNumber();
         if (numerator && take(L'/')) {
@@ -78,7 +86,6 @@ std::optional<double> NumberScanner::mixedNumber() {
             if (!denominator || *denominator == 0) return std::nullopt;
             return *first + *numerator / *denominator;
         }
-        m_rest = behindFirst;
     }
     m_rest = start;
     return number(false);

@@ -14,13 +14,15 @@ class NumberScanner {
     void skipBlanks();
     // Takes that letter, in either case, or sign; false where something else stands.
     bool take(wchar_t letter);
-    // -1 behind a minus sign, 1 behind a plus sign or none.
+    // The same behind blanks; where something else stands, the blanks alone are taken.
+    bool takeMark(wchar_t letter);
+    // -1 behind a minus sign, 1 behind a plus sign or none. Takes the blanks behind it, too.
     double sign();
     // Digits alone.
     std::optional<double> wholeNumber();
     // Digits with or without a decimal point, and with an exponent where that is allowed; no sign.
     std::optional<double> number(bool withExponent);
-    // A decimal number, or a fraction such as 1/2, 6 1/2 or 6-1/2. Nothing for a denominator of 0.
+    // A decimal number, or a fraction such as 1/2, 6 1/2, 6-1/2 or 6 - 1/2. Nothing for a denominator of 0.
     std::optional<double> mixedNumber();
 
     // Where the scanner stands; `back` returns there.
