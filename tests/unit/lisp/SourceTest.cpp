@@ -95,6 +95,11 @@ TEST(Reading, KnowsTheSyntax) {
     EXPECT_EQ(session.run("\"\\101\\x\\U+20AC\\U+zz\\e\\1\""), "\"Ax\xE2\x82\xACU+zz\\e\\001\"");
     EXPECT_EQ(session.run("'(a.b a. .5 (a .5) (a . 5) 1+ 1e -x:y$)"),
               "(A.B A. 0.5 (A 0.5) (A . 5) 1+ 1E -X:Y$)");
+    // A hard blank and a byte order mark inside a text, as pasting leaves them.
+    EXPECT_EQ(session.run("'(a\xC2\xA0"
+                          "b\xEF\xBB\xBF"
+                          "c)"),
+              "(A B C)");
     EXPECT_EQ(session.run("(read \"\")"), "nil");
     EXPECT_EQ(session.run("\n(read \"(\")"),
               "error: example:2: (read): the list that opens here is not closed");

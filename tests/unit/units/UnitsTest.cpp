@@ -31,6 +31,7 @@ TEST(LinearUnits, ShowEachNotationAndCarry) {
     EXPECT_EQ(distanceText(-17.5, 4, 1), L"-1'-5 1/2\"");
     EXPECT_EQ(distanceText(-0.00001, 2, 2), L"0.00");
     EXPECT_EQ(distanceText(3, 5, 8), L"3");
+    EXPECT_EQ(distanceText(9e14 + 0.5, 5, 1), L"900000000000000 1/2");
 }
 
 TEST(LinearUnits, ReadWhatAPersonTypes) {
@@ -68,7 +69,7 @@ TEST(LinearUnits, RefuseWhatIsNoDistance) {
     EXPECT_FALSE(distanceText(1, 2, 9));
     EXPECT_FALSE(distanceText(1, 2, -2));
     EXPECT_FALSE(distanceText(INFINITY, 2, 2));
-    EXPECT_TRUE(distanceText(1e308, 4, 8));
+    EXPECT_NEAR(*distanceFromText(*distanceText(1e307, 4, 8), 4) / 1e307, 1, 1e-12);
     EXPECT_FALSE(distanceFromText(std::wstring(308, L'9') + L"'", 4));
     EXPECT_FALSE(angleText(NAN, 1, 2));
 }
@@ -101,6 +102,8 @@ TEST(AngularUnits, BearingsOfAllQuarters) {
         EXPECT_NEAR(*angleFromText(quarters[at], 5), at * PI / 2, 1e-12);
     }
     EXPECT_NEAR(*angleFromText(L"n45dw", 5), 3 * PI / 4, 1e-12);
+    EXPECT_NEAR(*angleFromText(L"S 90 W", 5), PI, 1e-12);
+    EXPECT_NEAR(*angleFromText(L"N 90d E", 5), 0, 1e-12);
     EXPECT_NEAR(*angleFromText(L" S 30d15'36\" E ", 5), 3 * PI / 2 + 30.26 / 180 * PI, 1e-12);
     EXPECT_NEAR(*angleFromText(L"-45d", 5), -PI / 4, 1e-12);
     for (const auto* text : {L"N 45d30 E", L"N45d30E", L"N 45d 30' E", L"n 45 d 30 ' 0 \" e", L"44d30'"})
