@@ -32,11 +32,9 @@ void drawClassicFace(HDC dc, const ButtonState& state, RECT& content) {
 
 }  // namespace
 
-bool CButtonST::SubclassWindow(HWND window) {
-    if (!CButton::SubclassWindow(window)) return false;
+void CButtonST::attached() {
     m_default = (GetStyle() & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
     ModifyStyle(BS_TYPEMASK, BS_OWNERDRAW);
-    return true;
 }
 
 void CButtonST::SetIcon(HICON icon) {

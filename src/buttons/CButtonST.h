@@ -9,8 +9,6 @@ class CButtonST : public CButton {
     DECLARE_DYNAMIC(CButtonST)
 
   public:
-    // Attaches to a push button, which then draws itself.
-    bool SubclassWindow(HWND window);
     // Shows that icon, which is the button's from now on; null shows none.
     void SetIcon(HICON icon);
     // How icon and text stand to each other. There is one way: 0, the icon on the left.
@@ -19,6 +17,8 @@ class CButtonST : public CButton {
     ButtonState state() const;
 
   protected:
+    // The push button draws itself from now on.
+    void attached() override;
     const MessageMap& messageMap() const override;
     // Draws the face with what lies behind it, and takes its border off `content`.
     virtual void drawFace(HDC dc, const ButtonState& state, RECT& content);

@@ -63,7 +63,9 @@ CWnd* CWnd::FromHandlePermanent(HWND window) { return WindowTable::permanent(win
 
 bool CWnd::SubclassWindow(HWND window) {
     if (m_hWnd) return m_hWnd == window;
-    return IsWindow(window) && WindowTable::attach(window, *this);
+    if (!IsWindow(window) || !WindowTable::attach(window, *this)) return false;
+    attached();
+    return true;
 }
 
 HWND CWnd::UnsubclassWindow() {

@@ -35,14 +35,15 @@ class CWnd : public CObject {
 
     // Takes the window's messages. An on-demand wrapper of that window lets go of it and stays alive.
     // Attached to that very window already: nothing to do. False where the object has another window, the
-    // window has another permanent wrapper, or there is no such window.
-    bool SubclassWindow(HWND window);
+    // window has another permanent wrapper, or there is no such window. Final, since most callers know the
+    // window as a CWnd only: what a class does besides goes to attached().
+    virtual bool SubclassWindow(HWND window) final;
     // Gives the window its own procedure back, and the handle to the caller.
     HWND UnsubclassWindow();
     // Creates a window of a registered class. `rect` is in the parent's client pixels.
-    bool CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style, const RECT& rect,
-                  HWND parent, UINT id);
-    bool DestroyWindow();
+    virtual bool CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style,
+                          const RECT& rect, HWND parent, UINT id) final;
+    virtual bool DestroyWindow() final;
 
     // --- queries
 
@@ -96,6 +97,8 @@ class CWnd : public CObject {
     virtual const MessageMap& messageMap() const;
 
   protected:
+    // The object has got its window, which may still be in the making.
+    virtual void attached() {}
     virtual LRESULT WindowProc(UINT message, WPARAM w, LPARAM l);
     // A command that neither the control nor the message map took. True: it is dealt with.
     virtual bool OnCommand(UINT /*id*/, UINT /*notification*/) { return false; }
