@@ -14,6 +14,10 @@ Spot middleOf(HWND window) {
     return {window, {client.right / 2, client.bottom / 2}};
 }
 
+void hold(const Spot& spot) { post(spot, WM_LBUTTONDOWN, MK_LBUTTON); }
+
+void letGo(const Spot& spot) { post(spot, WM_LBUTTONUP, 0); }
+
 // Down and up are posted together: list and tree views run a loop of their own on the first until they see
 // the second.
 void click(const Spot& spot) {

@@ -12,6 +12,9 @@ struct Spot {
 
 Spot middleOf(HWND window);
 
+// Holds the left button down there, until it is let go.
+void hold(const Spot& spot);
+void letGo(const Spot& spot);
 void click(const Spot& spot);
 // With Ctrl held: adds the entry to the selected ones, or takes it out.
 void controlClick(const Spot& spot);

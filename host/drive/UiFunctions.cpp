@@ -248,6 +248,8 @@ struct UiFunction {
 constexpr UiFunction FUNCTIONS[] = {
     {u"ui_session", &session, 2, 2},
     {u"ui_click", &press<&click>, 1, 1},
+    {u"ui_hold", &press<&hold>, 1, 1},
+    {u"ui_release", &press<&letGo>, 1, 1},
     {u"ui_dblclick", &press<&doubleClick>, 1, 3},
     {u"ui_rclick", &press<&rightClick>, 1, 3},
     {u"ui_pick", &pick, 2, 3},
