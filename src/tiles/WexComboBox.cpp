@@ -1,13 +1,33 @@
 #include "src/tiles/WexComboBox.h"
 
 #include "src/dialog/EventBridge.h"
+#include "src/dialog/WexDialog.h"
 
 IMPLEMENT_DYNAMIC(WexComboBox, CComboBox)
+
+namespace {
+
+// Of edit boxes and push buttons, in dialog units.
+constexpr LONG ROW_HEIGHT = 14;
+
+}  // namespace
 
 const MessageMap& WexComboBox::messageMap() const {
     static const MessageMap map(CComboBox::messageMap(),
                                 {onReflected<CBN_SELCHANGE, &WexComboBox::onSelectionChanged>()});
     return map;
+}
+
+// By itself a closed combo box is as high as its font asks, which is less than what stands beside it.
+void WexComboBox::discovered(WexDialog& dialog, CCtrlInfo&) {
+    if ((GetStyle() & (CBS_DROPDOWN | CBS_DROPDOWNLIST)) == CBS_SIMPLE) return;
+    RECT row{0, 0, 0, ROW_HEIGHT};
+    MapDialogRect(dialog.m_hWnd, &row);
+    const RECT now = GetWindowRect();
+    const LONG missing = row.bottom - (now.bottom - now.top);
+    constexpr auto closedPart = static_cast<WPARAM>(-1);
+    if (missing > 0)
+        SendMessage(CB_SETITEMHEIGHT, closedPart, SendMessage(CB_GETITEMHEIGHT, closedPart) + missing);
 }
 
 void WexComboBox::onSelectionChanged() {

@@ -9,6 +9,7 @@ class WexComboBox : public CComboBox, public TileControl {
 
   public:
     CWnd& wnd() override { return *this; }
+    void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
 
   protected:
     const MessageMap& messageMap() const override;
