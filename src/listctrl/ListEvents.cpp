@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr int NO_COLUMN = -1;
+
 // -1 beside the rows.
 int rowAt(const CWnd& list, POINT at) {
     LVHITTESTINFO hit{};
@@ -38,6 +40,7 @@ const MessageMap& WexListCtrl::messageMap() const {
                                     on<WM_LBUTTONDBLCLK, &WexListCtrl::onLeftDoubleClick>(),
                                     on<WM_KEYDOWN, &WexListCtrl::onKeyDown>(),
                                     on<WM_KILLFOCUS, &WexListCtrl::onKillFocus>(),
+                                    onRaw<LVM_DELETEALLITEMS, &WexListCtrl::onDeleteAll>(),
                                     onReflectedNotify<NM_DBLCLK, &WexListCtrl::onDoubleClick>(),
                                     onReflectedNotify<LVN_COLUMNCLICK, &WexListCtrl::onColumnClick>(),
                                     onReflectedNotify<LVN_ITEMCHANGING, &WexListCtrl::onItemChange>(),
@@ -95,6 +98,12 @@ void WexListCtrl::pressOk() {
     const CWnd* parent = GetParent();
     CWnd* ok = parent ? parent->GetDlgItem(IDOK) : nullptr;
     if (auto* button = dynamic_cast<Pressable*>(ok)) button->press();
+}
+
+// The rows that come now stand in an order of their own.
+LRESULT WexListCtrl::onDeleteAll(WPARAM, LPARAM) {
+    showSortDirection(*this, NO_COLUMN, true);
+    return Default();
 }
 
 void WexListCtrl::onColumnClick(NMHDR* header) {

@@ -47,6 +47,7 @@ class WexListCtrl : public CListCtrl, public TileControl {
     // does.
     void onItemChange(NMHDR* /*header*/) {}
     void onColumnClick(NMHDR* header);
+    LRESULT onDeleteAll(WPARAM w, LPARAM l);
     bool hasClickableHeads() const;
     void onKeyDown(UINT key, UINT flags);
     void onKillFocus(CWnd* to);

@@ -34,6 +34,15 @@
         (want '("alpha\t10\t2'" "beta\t9\t1'-6\"" "gamma\t100\t20") (ui_items "LST1"))
         (want nil notes)))))
 
+(test "The arrow goes when the list is filled anew, and the next click still turns the direction"
+  '((in-list three
+      '((ui_header "LST1" 1)
+        (fill "LST1" three)
+        (want '(0 0 0) (directions))
+        (want "abg" (order))
+        (ui_header "LST1" 1)
+        (want '(0 -1 0) (directions))))))
+
 (test "Unless sorting is allowed a head does nothing; once allowed, it stays so"
   '((in-list three
       '((wex_listctrl_setcolumns "LST2" "x\tName")
