@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
     cmake ninja-build ccache git ca-certificates                       # building
     g++ libc6-dev g++-mingw-w64-x86-64-posix mingw-w64-tools           # native and Windows compilers
-    clang libclang-rt-14-dev clang-format googletest                   # fuzzing, format, tests
+    clang libclang-rt-14-dev clang-format googletest python3           # fuzzing, format, tests
     wine wine64 fonts-wine fonts-liberation xvfb xauth util-linux      # running
     "$@"
 )

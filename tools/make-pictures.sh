@@ -1,0 +1,16 @@
+#!/bin/bash
+# Usage: tools/make-pictures.sh [FOLDER]    draws the pictures of the documents from what is built, into docs/images
+set -euo pipefail
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+folder=${1:-$root/docs/images}
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+# picture NAME PROGRAM SHOT: the picture of that name is one that the session of a program takes
+picture() {
+    "$root/wexhost" --headless --timeout 120 --shots "$work" "$root/$2" >/dev/null
+    cp "$work/$3" "$folder/$1"
+}
+
+mkdir -p "$folder"
+picture dialog.png examples/showcase.lsp showcase.png
