@@ -91,14 +91,6 @@ void checkIds(const KeyListText& list, const DialogTemplate& dialog, Words& foun
     }
 }
 
-// The character behind a single "&", lower case.
-std::optional<wchar_t> mnemonicOf(std::wstring_view text) {
-    for (size_t at = text.find(L'&'); at != std::wstring_view::npos && at + 1 < text.size();
-         at = text.find(L'&', at + 2))
-        if (text[at + 1] != L'&') return toLower(text.substr(at + 1, 1)).front();
-    return std::nullopt;
-}
-
 bool readsMnemonic(const DialogTemplateControl& control) {
     return control.className == L"Button" || (control.className == L"Static" && !(control.style & NO_PREFIX));
 }

@@ -1,6 +1,10 @@
 #include "src/buttons/CButtonST.h"
 
+#include <commctrl.h>
+
 #include <utility>
+
+#include "src/platform/mfc/ThemeContext.h"
 
 IMPLEMENT_DYNAMIC(CButtonST, CButton)
 
@@ -33,6 +37,7 @@ void drawClassicFace(HDC dc, const ButtonState& state, RECT& content) {
 }  // namespace
 
 void CButtonST::attached() {
+    m_hasTipWindow = false;
     m_default = (GetStyle() & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
     ModifyStyle(BS_TYPEMASK, BS_OWNERDRAW);
 }
@@ -105,7 +110,24 @@ void CButtonST::drawContent(HDC dc, const ButtonState& state, const RECT& conten
     DrawFocusRect(dc, &focus);
 }
 
+// Made when the pointer first comes, since most dialogs end before that. It goes with the dialog, its owner.
+void CButtonST::makeTipWindow() {
+    if (m_tip.empty() || std::exchange(m_hasTipWindow, true)) return;
+    const ThemeContext themed;
+    const HWND dialog = ::GetParent(m_hWnd);
+    const HWND window = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0,
+                                        0, 0, 0, dialog, nullptr, nullptr, nullptr);
+    TTTOOLINFOW tool = {};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = dialog;
+    tool.uId = reinterpret_cast<UINT_PTR>(m_hWnd);
+    tool.lpszText = m_tip.data();
+    ::SendMessageW(window, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
 void CButtonST::onMouseMove(UINT /*keys*/, POINT /*at*/) {
+    makeTipWindow();
     if (!std::exchange(m_hover, true)) {
         TRACKMOUSEEVENT request = {sizeof request, TME_LEAVE, m_hWnd, 0};
         TrackMouseEvent(&request);

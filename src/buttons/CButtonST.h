@@ -11,6 +11,8 @@ class CButtonST : public CButton {
   public:
     // Shows that icon, which is the button's from now on; null shows none.
     void SetIcon(HICON icon);
+    // Says what the button does, in a box that appears when the pointer rests on it; empty for none.
+    void setTip(const CString& tip) { m_tip = tip; }
     // How icon and text stand to each other. There is one way: 0, the icon on the left.
     void SetAlign(int align);
 
@@ -26,6 +28,7 @@ class CButtonST : public CButton {
   private:
     void onDrawItem(DRAWITEMSTRUCT* item);
     void drawContent(HDC dc, const ButtonState& state, const RECT& content) const;
+    void makeTipWindow();
     void onMouseMove(UINT keys, POINT at);
     void onMouseLeave();
     LRESULT onSetStyle(WPARAM style, LPARAM redraw);
@@ -34,6 +37,8 @@ class CButtonST : public CButton {
     LRESULT onEraseBackground(HDC dc);
 
     ButtonIcon m_icon;
+    CString m_tip;
+    bool m_hasTipWindow = false;
     bool m_hover = false;
     bool m_default = false;
 };

@@ -1,6 +1,7 @@
 #include "src/dialog/ImageButtonLook.h"
 
 #include <cmath>
+#include <cwctype>
 
 namespace {
 
@@ -48,6 +49,13 @@ std::optional<ImageButtonLook> imageButtonLook(std::wstring_view caption, const 
         return ImageButtonLook{caption, ICON_CAPTION_A};
     if (startsWith(caption, 6, c)) return ImageButtonLook{caption, ICON_CAPTION_C};
     return std::nullopt;
+}
+
+CString tipText(const CString& caption) {
+    const size_t at = caption.find(L'&');
+    if (!mnemonicOf(caption)) return caption;
+    return caption.substr(0, at) + caption.substr(at + 1) + L" (Alt+" +
+           static_cast<wchar_t>(std::towupper(caption[at + 1])) + L")";
 }
 
 int iconSide(const ImageButtonLook& look, double scale) {

@@ -35,5 +35,8 @@ bool isImageButtonCaption(std::wstring_view caption, const ButtonCaptions& capti
 // The look that a caption gives; nothing where no rule fits, and the button keeps its text and has no icon.
 std::optional<ImageButtonLook> imageButtonLook(std::wstring_view caption, const ButtonCaptions& captions);
 
+// What a tip says for a caption with a mnemonic: "&Next" becomes "Next (Alt+N)".
+CString tipText(const CString& caption);
+
 // The side in pixels of an icon on a monitor of that scale (1.0: 96 dots per inch).
 int iconSide(const ImageButtonLook& look, double scale);

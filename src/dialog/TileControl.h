@@ -33,6 +33,9 @@ class TileControl {
     // on one of them. False: it has none.
     virtual bool turnPage(int /*step*/, HWND /*focus*/) { return false; }
 
+    // Whether Alt and that letter (lower case) press the control, beside what the platform finds in captions.
+    virtual bool hasMnemonic(wchar_t /*letter*/) const { return false; }
+
     // --- for what stands on the control, as on a page
 
     // The brush that continues the control's own background in `dc`, which is that of `other`; null where

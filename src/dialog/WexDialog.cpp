@@ -23,6 +23,21 @@ int pageStep(const MSG& message) {
     return message.wParam == VK_NEXT ? 1 : message.wParam == VK_PRIOR ? -1 : 0;
 }
 
+bool canBeWorked(HWND control) { return IsWindowVisible(control) && IsWindowEnabled(control); }
+
+// Whether the platform finds a control by that letter, as a caption names it.
+bool isInCaption(HWND dialog, wchar_t letter) {
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        const auto code = ::SendMessageW(child, WM_GETDLGCODE, 0, 0);
+        const bool hasCaption = code & (DLGC_BUTTON | DLGC_STATIC);
+        wchar_t caption[256] = {};
+        if (hasCaption && canBeWorked(child) && ::GetWindowTextW(child, caption, ARRAYSIZE(caption)) &&
+            mnemonicOf(caption) == letter)
+            return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 WexDialog::WexDialog(const DialogSource& source, CWnd* parent)
@@ -77,6 +92,7 @@ bool WexDialog::PreTranslateMessage(MSG& message) {
         return true;
     }
     if (const int step = pageStep(message); step && turnPage(step)) return true;
+    if (pressByMnemonic(message)) return true;
     return CSnapDlg::PreTranslateMessage(message);
 }
 
@@ -85,6 +101,20 @@ bool WexDialog::turnPage(int step) {
     for (const HWND focus : {::GetFocus(), HWND()})
         for (const auto& control : m_controls)
             if (control->turnPage(step, focus)) return true;
+    return false;
+}
+
+// A button without a text has its mnemonic elsewhere. A caption with the same one comes first.
+bool WexDialog::pressByMnemonic(const MSG& message) {
+    if (message.message != WM_SYSCHAR) return false;
+    const wchar_t typed = static_cast<wchar_t>(message.wParam);
+    const wchar_t letter = toLower({&typed, 1}).front();
+    for (const auto& control : m_controls) {
+        const HWND window = control->wnd().m_hWnd;
+        if (!control->hasMnemonic(letter) || !canBeWorked(window) || isInCaption(m_hWnd, letter)) continue;
+        ::SendMessageW(window, BM_CLICK, 0, 0);
+        return true;
+    }
     return false;
 }
 

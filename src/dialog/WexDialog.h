@@ -80,6 +80,7 @@ class WexDialog : public CSnapDlg {
     LRESULT onHelp(HELPINFO* help);
 
     bool turnPage(int step);
+    bool pressByMnemonic(const MSG& message);
     void discover(int id, HWND control);
     void applyRecords();
     void computeAnchors(const CWnd& control, CCtrlInfo& tile);

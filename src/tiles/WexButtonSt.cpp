@@ -32,6 +32,14 @@ void WexButtonSt::discovered(WexDialog& dialog, CCtrlInfo&) {
     if (!look) return;
     SetWindowText(look->text);
     SetIcon(loadButtonIcon(m_hWnd, *look));
+    if (look->text.empty()) describe(look->icon);
+}
+
+// What an icon means is the text of the same number.
+void WexButtonSt::describe(int icon) {
+    const CString caption = loadString(g_resourceInstance, icon);
+    m_mnemonic = mnemonicOf(caption);
+    setTip(tipText(caption));
 }
 
 void WexButtonSt::press() { publish(*this, L"1", REASON_PRESSED, m_action); }

@@ -12,9 +12,16 @@ class WexButtonSt : public CXPStyleButtonST, public TileControl, public Pressabl
   public:
     CWnd& wnd() override { return *this; }
     void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
+    // An icon that stands alone has its mnemonic in its tip.
+    bool hasMnemonic(wchar_t letter) const override { return m_mnemonic == letter; }
     void click() override { press(); }
     void press() override;
 
   protected:
     const MessageMap& messageMap() const override;
+
+  private:
+    void describe(int icon);
+
+    std::optional<wchar_t> m_mnemonic;
 };

@@ -52,6 +52,13 @@ std::wstring trimBlanksRight(std::wstring_view text) {
     return std::wstring(last == std::wstring_view::npos ? std::wstring_view{} : text.substr(0, last + 1));
 }
 
+std::optional<wchar_t> mnemonicOf(std::wstring_view caption) {
+    for (size_t at = caption.find(L'&'); at != std::wstring_view::npos && at + 1 < caption.size();
+         at = caption.find(L'&', at + 2))
+        if (caption[at + 1] != L'&') return lowerLetter(caption[at + 1]);
+    return std::nullopt;
+}
+
 std::wstring without(std::wstring_view text, std::wstring_view what) {
     std::wstring kept;
     size_t from = 0;

@@ -1,6 +1,7 @@
 // Wide text as the whole product sees it: letter case, decimal numbers, blanks. Portable.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,9 @@ int decimalNumber(std::wstring_view text);
 
 // `text` without blanks (the space character only) at its right end.
 std::wstring trimBlanksRight(std::wstring_view text);
+
+// The letter that works a control of that caption: the one behind a single "&", in lower case.
+std::optional<wchar_t> mnemonicOf(std::wstring_view caption);
 
 // `text` with every occurrence of `what` taken out, searched once from left to right.
 std::wstring without(std::wstring_view text, std::wstring_view what);

@@ -1,6 +1,8 @@
 // How an image button looks and what it tells the dialog manager, on a window of its own.
 #include <gtest/gtest.h>
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <vector>
 
@@ -125,6 +127,36 @@ TEST_F(ImageButton, knowsWhenThePointerIsOverIt) {
     EXPECT_TRUE(button.state().hover);
     button.SendMessage(WM_MOUSELEAVE);
     EXPECT_FALSE(button.state().hover);
+}
+
+HWND tipWindow() {
+    HWND found = nullptr;
+    const WNDENUMPROC look = [](HWND window, LPARAM to) -> BOOL {
+        wchar_t name[32] = {};
+        GetClassNameW(window, name, ARRAYSIZE(name));
+        if (lstrcmpiW(name, TOOLTIPS_CLASSW) == 0) *reinterpret_cast<HWND*>(to) = window;
+        return TRUE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+TEST_F(ImageButton, saysWhatItDoesOnceThePointerComes) {
+    button.setTip(L"Next (Alt+N)");
+    EXPECT_FALSE(tipWindow());
+    for (int at : {5, 6}) button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(at, at));
+    ASSERT_TRUE(tipWindow());
+    EXPECT_EQ(SendMessageW(tipWindow(), TTM_GETTOOLCOUNT, 0, 0), 1);
+    wchar_t text[80] = {};
+    TTTOOLINFOW tool = {};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.hwnd = parent.m_hWnd;
+    tool.uId = reinterpret_cast<UINT_PTR>(window);
+    tool.lpszText = text;
+    SendMessageW(tipWindow(), TTM_GETTEXTW, ARRAYSIZE(text), reinterpret_cast<LPARAM>(&tool));
+    EXPECT_STREQ(text, L"Next (Alt+N)");
+    parent.DestroyWindow();
+    EXPECT_FALSE(tipWindow());
 }
 
 TEST_F(ImageButton, takesTheDefaultLookAndStillDrawsItself) {

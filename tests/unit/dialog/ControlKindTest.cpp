@@ -66,6 +66,8 @@ TEST(ImageButton, EachCaptionGivesItsTextAndIcon) {
         EXPECT_EQ(look->scaledIcon, row.icon > 1000) << row.caption;
     }
     EXPECT_FALSE(imageButtonLook(L"Searching", captions)) << "caption D counts whole only";
+    EXPECT_EQ(tipText(L"Pre&vious"), L"Previous (Alt+V)");
+    EXPECT_EQ(tipText(L"No && mnemonic"), L"No && mnemonic");
 }
 
 TEST(ImageButton, IconsGrowWithTheMonitor) {
