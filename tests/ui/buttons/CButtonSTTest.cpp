@@ -1,12 +1,12 @@
 // How an image button looks and what it tells the dialog manager, on a window of its own.
 #include <gtest/gtest.h>
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <vector>
 
 #include "src/buttons/CXPStyleButtonST.h"
+
+#include <commctrl.h>
 
 namespace {
 
