@@ -23,11 +23,16 @@ void WexComboBox::discovered(WexDialog& dialog, CCtrlInfo&) {
     if ((GetStyle() & (CBS_DROPDOWN | CBS_DROPDOWNLIST)) == CBS_SIMPLE) return;
     RECT row{0, 0, 0, ROW_HEIGHT};
     MapDialogRect(dialog.m_hWnd, &row);
-    const RECT now = GetWindowRect();
-    const LONG missing = row.bottom - (now.bottom - now.top);
+    const auto height = [this] {
+        const RECT rect = GetWindowRect();
+        return rect.bottom - rect.top;
+    };
+    if (height() >= row.bottom) return;
     constexpr auto closedPart = static_cast<WPARAM>(-1);
-    if (missing > 0)
-        SendMessage(CB_SETITEMHEIGHT, closedPart, SendMessage(CB_GETITEMHEIGHT, closedPart) + missing);
+    // The height that is set is not the one that is asked for: what lies between them shows by setting it.
+    const LRESULT text = SendMessage(CB_GETITEMHEIGHT, closedPart);
+    SendMessage(CB_SETITEMHEIGHT, closedPart, text);
+    SendMessage(CB_SETITEMHEIGHT, closedPart, text + row.bottom - height());
 }
 
 void WexComboBox::onSelectionChanged() {

@@ -11,9 +11,9 @@
   (setq size (cddr (look tile "rect")))
   (mapcar '(lambda (y) (mapcar '(lambda (x) (ui_pixel tile x y)) (range (car size)))) (range (cadr size))))
 
-; Thin lines are mixed with what lies behind them.
+; The corners of thin lines are mixed with a little of what lies behind them.
 (defun alike (a b)
-  (and (near (/ a 65536) (/ b 65536) 40) (near (rem (/ a 256) 256) (rem (/ b 256) 256) 40) (near (rem a 256) (rem b 256) 40)))
+  (and (near (/ a 65536) (/ b 65536) 12) (near (rem (/ a 256) 256) (rem (/ b 256) 256) 12) (near (rem a 256) (rem b 256) 12)))
 
 ; Where a picture has such a color: (left top right bottom) of the outermost points, nil where nowhere.
 (defun color-box (color picture / x y box)
@@ -49,9 +49,13 @@
     (progn
       (setq middle (middle-of box))
       (want nil (remove-if '(lambda (side) (< (/ (icon-side) 8) side (icon-side))) (size-of box)))
-      (want T (near (cadr middle) (cadr size) (* 8 scale)))
-      (if alone (want T (near (car middle) (car size) (* 8 scale)))
+      (want T (near (cadr middle) (cadr size) (icon-side)))
+      (if alone (want T (near (car middle) (car size) (icon-side)))
                 (want T (< (car middle) (car size)))))))
+
+; One point to the right and down; a corner more or less may count.
+(defun want-moved (from to)
+  (foreach by (mapcar '- (middle-of to) (middle-of from)) (want T (near by 2 1))))
 
 ; All looks of one button. The focus comes by the keyboard, since only then it is shown.
 (defun looks (tile color alone)
@@ -67,7 +71,7 @@
     (want nil (equal up focused))
     (ui_hold tile-now)
     (setq pressed (picture tile-now))
-    (want (mapcar '1+ up-box) (color-box color-now pressed))
+    (want-moved up-box (color-box color-now pressed))
     (ui_release tile-now)
     (want focused (picture tile-now))
     (wex_mode_tile tile-now 1)
