@@ -1,11 +1,15 @@
-// The control families of the product: which wrapper and which type word a kind of control gets.
+// The control families of the product: which wrapper and which type word a kind of control gets, and what its
+// values and its entries are.
+#include <iterator>
+
+#include "src/dialog/ButtonState.h"
 #include "src/dialog/TileControl.h"
 #include "src/grid/WexGrid.h"
 #include "src/listctrl/ListRows.h"
 #include "src/listctrl/WexListCtrl.h"
 #include "src/slides/WexSlideImage.h"
 #include "src/tabs/WexTabCtrl.h"
-#include "src/tiles/ListRecords.h"
+#include "src/tiles/ListEntries.h"
 #include "src/tiles/WexButton.h"
 #include "src/tiles/WexButtonSt.h"
 #include "src/tiles/WexComboBox.h"
@@ -22,30 +26,60 @@ std::unique_ptr<TileControl> make() {
     return std::make_unique<Wrapper>();
 }
 
-void applyCheckState(const CWnd& button, const CCtrlInfo& tile) {
-    if (tile.m_value == L"1" || tile.m_value == L"0") button.SendMessage(BM_SETCHECK, tile.m_value == L"1");
-}
-
 void applyEditLimit(const CWnd& edit, const CCtrlInfo& tile) {
     edit.SendMessage(EM_LIMITTEXT, tile.m_editLimit);
 }
 
-// In the order of ControlKind.
 constexpr ControlFamily families[] = {
-    {ControlKind::slideImage, L"Slide", make<WexSlideImage>, nullptr},
-    {ControlKind::frame, L"Frame", make<WexFrame>, nullptr},
-    {ControlKind::imageButton, L"ImageButton", make<WexButtonSt>, nullptr},
-    {ControlKind::button, L"Button", make<WexButton>, applyCheckState},
-    {ControlKind::grid, L"GXWND", make<WexGrid>, nullptr},
-    {ControlKind::tab, L"SysTabControl32", make<WexTabCtrl>, nullptr},
-    {ControlKind::tree, L"SysTreeView32", make<WexTree>, nullptr},
-    {ControlKind::edit, L"Edit", make<WexEditBox>, applyEditLimit},
-    {ControlKind::staticText, L"Static", make<WexStatic>, nullptr},
-    {ControlKind::listBox, L"ListBox", make<WexListBox>, applyListBox},
-    {ControlKind::comboBox, L"ComboBox", make<WexComboBox>, applyComboBox},
-    {ControlKind::listControl, L"SysListView32", make<WexListCtrl>, applyListControl},
-    {ControlKind::unknown, L"", nullptr, nullptr},
+    {.kind = ControlKind::slideImage, .typeWord = L"Slide", .make = make<WexSlideImage>},
+    {.kind = ControlKind::frame, .typeWord = L"Frame", .make = make<WexFrame>},
+    {.kind = ControlKind::imageButton, .typeWord = L"ImageButton", .make = make<WexButtonSt>},
+    {.kind = ControlKind::button,
+     .typeWord = L"Button",
+     .make = make<WexButton>,
+     .applyMessages = applyCheckState,
+     .setValue = setButtonValue},
+    {.kind = ControlKind::grid, .typeWord = L"GXWND", .make = make<WexGrid>},
+    {.kind = ControlKind::tab,
+     .typeWord = L"SysTabControl32",
+     .make = make<WexTabCtrl>,
+     .setValue = setTabValue},
+    {.kind = ControlKind::tree, .typeWord = L"SysTreeView32", .make = make<WexTree>},
+    {.kind = ControlKind::edit,
+     .typeWord = L"Edit",
+     .make = make<WexEditBox>,
+     .applyMessages = applyEditLimit},
+    {.kind = ControlKind::staticText, .typeWord = L"Static", .make = make<WexStatic>},
+    {.kind = ControlKind::listBox,
+     .typeWord = L"ListBox",
+     .make = make<WexListBox>,
+     .applyMessages = applyListBox,
+     .setValue = setListBoxValue,
+     .emptyEntries = emptyListBox,
+     .addEntry = addToListBox},
+    {.kind = ControlKind::comboBox,
+     .typeWord = L"ComboBox",
+     .make = make<WexComboBox>,
+     .applyMessages = applyComboBox,
+     .setValue = setComboBoxValue,
+     .emptyEntries = emptyComboBox,
+     .addEntry = addToComboBox},
+    {.kind = ControlKind::listControl,
+     .typeWord = L"SysListView32",
+     .make = make<WexListCtrl>,
+     .applyMessages = applyListControl,
+     .setValue = setListControlValue,
+     .emptyEntries = emptyListControl,
+     .addEntry = addToListControl},
+    {.kind = ControlKind::unknown, .typeWord = L""},
 };
+
+constexpr bool standInOrder() {
+    for (size_t at = 0; at < std::size(families); ++at)
+        if (families[at].kind != static_cast<ControlKind>(at)) return false;
+    return std::size(families) == static_cast<size_t>(ControlKind::unknown) + 1;
+}
+static_assert(standInOrder(), "a family is found by its place: one row for each ControlKind, in its order");
 
 }  // namespace
 

@@ -27,15 +27,20 @@ may_not_include() {
 files '*.h' '*.cpp' ':!resources' | xargs -P2 -n20 clang-format --dry-run -Werror 2>&1 |
     sed -n 's/^\([^:]*\):[0-9]*:.* error: .*/\1/p' | sort -u | tell 'clang-format would change it'
 
-families='src/(tiles|listctrl|tabs|grid|tree|datasource|slides|report|preview)/'
+# What isn't below the families of controls is one.
+families=$(cd src && ls -d */ | grep -vxE '(platform|buttons|shell|dialog)/' | tr -d /)
+any_family="src/($(paste -sd'|' <<<"$families"))/"
 may_not_include host 'src/' 'src/platform/(host|base)/' "of the plug-in's source the host sees the interface only"
 may_not_include src 'host/' '-' 'the plug-in knows the host by its interface only'
 may_not_include src/platform 'src/' 'src/platform/' 'the platform is below the subsystems'
 may_not_include src/platform/base 'src/platform/(mfc|host)/' '-' 'the base types are lowest'
 may_not_include src/platform/mfc 'src/platform/host/' '-' 'the class library knows no host'
 may_not_include src/buttons 'src/' 'src/(platform|buttons)/' 'the drawing of buttons knows no dialog'
-may_not_include src/shell "$families" '-' 'the shell is below the control families'
-may_not_include src/dialog "$families" '-' 'control families meet the dialog by virtuals'
+may_not_include src/shell "$any_family" '-' 'the shell is below the control families'
+may_not_include src/dialog "$any_family" '-' 'control families meet the dialog by virtuals'
+for family in $families; do
+    may_not_include "src/$family" "$any_family" "src/$family/" 'a control family knows no other one'
+done
 
 # Of the host's folders each may use those before it.
 order=''

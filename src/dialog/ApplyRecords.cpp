@@ -5,7 +5,8 @@
 
 namespace {
 
-// The call costs as much as the rest of the record, and most controls are as they should be.
+// Most controls are enabled or disabled already as they should be, and EnableWindow costs as much as all else
+// that is done for a record.
 void enable(const CWnd& control, bool enabled) {
     if (IsWindowEnabled(control.m_hWnd) != enabled) control.EnableWindow(enabled);
 }
@@ -28,7 +29,7 @@ void WexDialog::applyRecords() {
         CCtrlInfo& tile = *m_tiles.at(at);
         const int id = tile.m_ctrlId >= 0 ? tile.m_ctrlId : idForKey(tile.m_key);
         if (id == -1) continue;
-        // A dialog that runs again has new windows, and what was never wrapped still names the old one.
+        // A dialog that runs again has new windows, but the record of a bare control still names the old one.
         CWnd* control = tile.m_control && tile.m_control->isLive() ? tile.m_control : itemForId(id);
         if (!control) continue;
         computeAnchors(*control, tile);

@@ -6,7 +6,6 @@
 #include "src/dialog/WexDialog.h"
 #include "src/shell/EventFile.h"
 #include "src/shell/EventText.h"
-#include "src/shell/HostNumber.h"
 
 namespace {
 
@@ -44,10 +43,9 @@ void newDialog(LispCall& call) {
     g_dialogPosX = g_dialogPosY = -1;
     if (const auto name = call.text()) g_dialogName = *name;
     g_dialogs.clearCurrent();
-    const HostValue* position = call.next();
-    if (position && position->type == HV_POINT) {
-        g_dialogPosX = truncated(position->value.pointValue[0]);
-        g_dialogPosY = truncated(position->value.pointValue[1]);
+    if (const auto position = call.point()) {
+        g_dialogPosX = position->x;
+        g_dialogPosY = position->y;
     }
     const auto source = findDialog(g_dialogName);
     if (!source) {
@@ -87,13 +85,12 @@ void doneDialog(LispCall& call) {
 
 void actionTile(LispCall& call) {
     const TileAddress tile = call.tile();
-    const HostValue* text = call.next();
-    if (!text) return call.retNil();
+    const CString lispText = call.textOrEmpty();
+    if (call.lacksArgument()) return call.retNil();
     WexDialog* dialog = currentDialog();
     if (!dialog) return call.retVoid();
     // With neither a key nor an id the key is "-1".
     const CString key = tile.key.IsEmpty() ? CString(std::to_wstring(tile.controlId())) : tile.key;
-    const CString lispText = text->type == HV_STRING ? text->value.stringValue : L"";
     CCtrlInfo* record = tile.isById() ? dialog->tileForId(tile.controlId()) : dialog->tileForKey(key);
     record->m_action = defineAction(*dialog, key, lispText);
     call.retT();

@@ -23,14 +23,14 @@ class TileControl {
     // Takes over what the wrapper keeps of the record. The base copies the action's name.
     virtual void applyRecord(CCtrlInfo& tile);
 
-    // A list control that shows rows of a source, and so has no items of its own.
-    virtual bool showsSourceRows() const { return false; }
+    // The value that Lisp gets. The base gives the window's text.
+    virtual CString value() { return wnd().GetWindowText(); }
 
     // The dialog has been laid out anew. True: the control has to be redrawn.
     virtual bool laidOut() { return false; }
 
-    // Turns pages, so many on or back, where the control has any. With `focus` only where that window stands
-    // on one of them. False: it has none.
+    // Turns that many pages on, or back if negative. With `focus`, only if that window is the control or
+    // stands on its page. False where no page was turned.
     virtual bool turnPage(int /*step*/, HWND /*focus*/) { return false; }
 
     // Whether Alt and that letter (lower case) press the control, beside what the platform finds in captions.
@@ -38,10 +38,10 @@ class TileControl {
 
     // --- for what stands on the control, as on a page
 
-    // The brush that continues the control's own background in `dc`, which is that of `other`; null where
-    // `other` doesn't stand on it or has a background of its own. The control's.
+    // The brush that continues this control's background under `other`, whose device context is `dc`. Null
+    // where `other` doesn't stand on this control or has a background of its own. Owned by this control.
     virtual HBRUSH brushUnder(HDC /*dc*/, const CWnd& /*other*/) { return nullptr; }
-    // Paints the background into the dialog's, for controls that let the dialog shine through.
+    // Paints the background on the dialog, for transparent controls, which show what the dialog has there.
     virtual void paintUnder(HDC /*dc*/, const CWnd& /*dialog*/) {}
 
     // Name of the Lisp function behind the tile, empty for none.
@@ -53,12 +53,24 @@ struct ControlFamily {
     ControlKind kind;
     const wchar_t* typeWord;
     // Makes a wrapper; null leaves the control unwrapped.
-    std::unique_ptr<TileControl> (*make)();
-    // The messages that carry the rest of a record to the control, wrapped or bare; null for none.
-    void (*applyMessages)(const CWnd& control, const CCtrlInfo& tile);
+    std::unique_ptr<TileControl> (*make)() = nullptr;
+
+    // --- for all controls of the window class that is the type word, also where they aren't wrapped
+
+    // The messages that carry the rest of a record to the control; null for none.
+    void (*applyMessages)(const CWnd& control, const CCtrlInfo& tile) = nullptr;
+    // Sets the value that Lisp gives; null makes it the window's text.
+    void (*setValue)(CWnd& control, const CString& value, bool byKey) = nullptr;
+    // Lisp begins a new list in a live control; null where that empties nothing.
+    void (*emptyEntries)(CWnd& control, bool byKey) = nullptr;
+    // Lisp adds to the list of a live control; null where it takes nothing. The operation is a ListOperation.
+    void (*addEntry)(CWnd& control, const wchar_t* text, int operation) = nullptr;
+    // Lisp ends the list of a live control, whose record has the arguments; null where there is nothing to
+    // do.
+    void (*endEntries)(CWnd& control, CCtrlInfo& tile) = nullptr;
 };
 
 // The families of the product, one for each kind of control, in the module's ControlFamilies.cpp.
 const ControlFamily& familyOf(ControlKind kind);
-// The family of that type word, which is the class name of a bare control; null where there is none.
+// The family of that type word, or of that window class; null where there is none.
 const ControlFamily* familyOfType(const CString& typeWord);

@@ -7,15 +7,15 @@
 
 IMPLEMENT_DYNAMIC(WexDialog, CSnapDlg)
 
-// Never deleted: at the end of the process the statics go in an order of their own, and a dialog that is
-// deleted then would use what is gone.
+// Never deleted: at the end of the process statics are destroyed in no useful order, and the destructor of a
+// dialog would use some that are gone.
 DialogRegistry<WexDialog>& g_dialogs = *new DialogRegistry<WexDialog>;
 CString g_dialogName;
 int32_t g_doneStatus = 0;
 
 namespace {
 
-// How many pages a key goes on: Ctrl+Tab and Ctrl+PageDown one, with Shift and Ctrl+PageUp one back.
+// How many pages a key turns: Ctrl+Tab and Ctrl+PageDown one on, Ctrl+Shift+Tab and Ctrl+PageUp one back.
 int pageStep(const MSG& message) {
     const auto held = [](int key) { return GetKeyState(key) < 0; };
     if (message.message != WM_KEYDOWN || !held(VK_CONTROL)) return 0;

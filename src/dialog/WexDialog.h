@@ -34,6 +34,7 @@ class WexDialog : public CSnapDlg {
 
     // Sets a tile's value in its control and its record. By key the dialog's own name and "main_title" also
     // name its title.
+    void setValueFor(const TileAddress& tile, const CString& value);
     void setValueByKey(const CString& key, const CString& value);
     void setValueById(int id, const CString& value);
 
@@ -91,8 +92,8 @@ class WexDialog : public CSnapDlg {
     void applyMode(CWnd& control, CCtrlInfo& tile);
     void setControlValue(CWnd* control, const CString& value, bool byKey);
 
-    // The on-size action waits until discovery has run: the platform's own sizing at creation resized
-    // nothing.
+    // Whether discovery has run. The platform sends WM_SIZE while it creates the window, before that: nobody
+    // resized anything then, and no on-size action runs.
     bool m_discovered = false;
 };
 

@@ -1,17 +1,7 @@
 #include "src/listctrl/ListCheck.h"
 
-#include "src/dialog/WexDialog.h"
-
-CWnd* controlOf(const TileAddress& tile) {
-    const WexDialog* dialog = currentDialog();
-    return dialog ? dialog->itemFor(tile) : nullptr;
-}
-
 bool isListControl(const CWnd* control) {
-    if (!control) return false;
-    if (control->className() == L"SysListView32") return true;
-    alertText(TEXT_NOT_A_LIST_CONTROL);
-    return false;
+    return isOfClass(control, L"SysListView32", TEXT_NOT_A_LIST_CONTROL);
 }
 
 CWnd* listControlOf(const TileAddress& tile) {

@@ -1,12 +1,7 @@
 // The list control that a Lisp function works on.
 #pragma once
 
-#include "src/shell/LispCall.h"
-
-class CWnd;
-
-// The control of a tile in the current dialog; null without a dialog, a window or such a control.
-CWnd* controlOf(const TileAddress& tile);
+#include "src/dialog/CurrentTile.h"
 
 // Whether there is a control and it is a list control. An alert for a control of another class.
 bool isListControl(const CWnd* control);

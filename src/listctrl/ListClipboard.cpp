@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "src/dialog/RowSelection.h"
 #include "src/listctrl/ListCells.h"
+#include "src/listctrl/RowSelection.h"
 #include "src/listctrl/TableText.h"
 
 namespace {

@@ -20,10 +20,6 @@ double displayScale() { return hostMonitorDpiXScale(nullptr); }
 // -1 where there is none, and that names no column.
 int columnArgument(LispCall& call) { return call.shortNumber().value_or(-1); }
 
-CString textOf(const HostValue& node) {
-    return node.type == HV_STRING ? CString(node.value.stringValue) : CString();
-}
-
 // The width as the message takes it. kept: -1 and -2 are crossed with those of the platform.
 constexpr LPARAM widthParameter(int width) {
     constexpr LPARAM fitHeader = LPARAM{static_cast<uint16_t>(LVSCW_AUTOSIZE_USEHEADER)};
@@ -85,21 +81,20 @@ void listGetColumnWidth(LispCall& call) {
 
 void listShowGridLines(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
-    const HostValue* flag = call.next();
-    if (!list || !flag) return call.retNil();
+    const bool show = call.isTrue();
+    if (!list || call.lacksArgument()) return call.retNil();
     call.retVoid();
-    if (flag->type != HV_TRUE) return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
+    if (!show) return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
     list->SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, LVS_EX_GRIDLINES);
 }
 
 void listSetColumns(LispCall& call) {
     const TileAddress tile = call.tile();
-    const HostValue* columns = call.next();
-    if (!columns) return call.retNil();
+    const CString text = call.textOrEmpty();
+    if (call.lacksArgument()) return call.retNil();
     call.retVoid();
     WexDialog* dialog = currentDialog();
     if (!dialog) return;
-    const CString text = textOf(*columns);
     if (CWnd* control = dialog->itemFor(tile)) {
         if (!isUsableListControl(control)) return;
         keepColumnText(*control, text);
@@ -111,10 +106,9 @@ void listSetColumns(LispCall& call) {
 
 void listSetColumnReference(LispCall& call) {
     CWnd* control = controlOf(call.tile());
-    const HostValue* columns = call.next();
-    if (!columns) return call.retNil();
+    const CString text = call.textOrEmpty();
+    if (call.lacksArgument()) return call.retNil();
     call.retVoid();
-    const CString text = textOf(*columns);
     if (text.IsEmpty() || !isUsableListControl(control)) return;
     keepColumnText(*control, text);
     const CCtrlInfo* record = currentDialog()->tileForControl(control);
@@ -146,13 +140,10 @@ void listGetColCount(LispCall& call) {
 
 void listSetItemCount(LispCall& call) {
     const TileAddress tile = call.tile();
-    const HostValue* count = call.next();
-    const CWnd* list = count ? listControlOf(tile) : nullptr;
+    const int count = call.shortOrLong().value_or(-1);
+    const CWnd* list = call.lacksArgument() ? nullptr : listControlOf(tile);
     if (!list) return call.retNil();
     call.retVoid();
-    int number = -1;
-    if (count->type == HV_SHORT) number = count->value.shortValue;
-    if (count->type == HV_LONG) number = count->value.longValue;
     // A list that the dialog didn't look at isn't known to be one.
-    if (number != -1 && list->IsKindOf(RUNTIME_CLASS(CListCtrl))) list->SendMessage(LVM_SETITEMCOUNT, number);
+    if (count != -1 && list->IsKindOf(RUNTIME_CLASS(CListCtrl))) list->SendMessage(LVM_SETITEMCOUNT, count);
 }

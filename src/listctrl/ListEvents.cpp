@@ -1,11 +1,11 @@
 // What a list control does at the mouse, the keys and its notifications.
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/Pressable.h"
-#include "src/dialog/RowSelection.h"
 #include "src/dialog/SelectionText.h"
 #include "src/listctrl/ListCells.h"
 #include "src/listctrl/ListClipboard.h"
 #include "src/listctrl/ListSort.h"
+#include "src/listctrl/RowSelection.h"
 #include "src/listctrl/WexListCtrl.h"
 #include "src/platform/host/HostUnits.h"
 

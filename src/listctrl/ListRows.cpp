@@ -1,7 +1,7 @@
 #include "src/listctrl/ListRows.h"
 
-#include "src/dialog/RowSelection.h"
 #include "src/listctrl/ListCells.h"
+#include "src/listctrl/RowSelection.h"
 #include "src/listctrl/RowText.h"
 #include "src/listctrl/WexListCtrl.h"
 #include "src/platform/mfc/RedrawHold.h"
@@ -46,8 +46,8 @@ class WaitingRows {
 
 void insertAtTop(const CWnd& list, const CStringArray& rows) {
     const auto count = static_cast<int>(rows.size());
-    // Each row goes to its own place, which gives what inserting at the top from the last to the first gives;
-    // but a list that sorts its rows puts equal ones in the order in which they come.
+    // Inserting in order gives the same rows as inserting in reverse at the top, and is faster. A list that
+    // sorts itself keeps equal rows in insertion order, so there the rows go in reversed, at the top.
     const bool sorts = list.GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING);
     WaitingRows waiting(list);
     for (int at = 0; at < count; ++at) waiting.insert(sorts ? 0 : at, rows[sorts ? count - 1 - at : at]);
@@ -86,4 +86,23 @@ void reloadWaitingRows(const CWnd& list, const CCtrlInfo& tile) {
 void applyListControl(const CWnd& list, const CCtrlInfo& tile) {
     if (!showsRecords(list)) insertAtTop(list, tile.m_listItems);
     if (!tile.m_value.IsEmpty()) selectRow(list, decimalNumber(tile.m_value));
+}
+
+// kept: only the key path clears the selection by a negative row.
+void setListControlValue(CWnd& list, const CString& value, bool byKey) {
+    const int row = decimalNumber(value);
+    if (row >= 0)
+        selectRow(list, row);
+    else if (byKey)
+        clearSelection(list);
+}
+
+void emptyListControl(CWnd& list, bool /*byKey*/) { list.SendMessage(LVM_DELETEALLITEMS); }
+
+void addToListControl(CWnd& list, const wchar_t* row, int operation) {
+    const int replaced = operation == LIST_CHANGE_ROW ? firstSelectedRow(list) : -1;
+    if (replaced >= 0)
+        replaceRow(list, replaced, row);
+    else
+        appendRow(list, row);
 }

@@ -17,3 +17,9 @@ void reloadWaitingRows(const CWnd& list, const CCtrlInfo& tile);
 // The rows and the value that wait in a record, carried over at the start. The rows stand before those that
 // the list has already.
 void applyListControl(const CWnd& list, const CCtrlInfo& tile);
+
+// The value is the number of a row to select, beside those that are selected.
+void setListControlValue(CWnd& list, const CString& value, bool byKey);
+void emptyListControl(CWnd& list, bool byKey);
+// LIST_CHANGE_ROW writes over the first selected row, where there is one; otherwise the row is appended.
+void addToListControl(CWnd& list, const wchar_t* row, int operation);

@@ -1,8 +1,8 @@
 #include "src/listctrl/SelectionFunctions.h"
 
-#include "src/dialog/RowSelection.h"
 #include "src/dialog/WexDialog.h"
 #include "src/listctrl/ListCheck.h"
+#include "src/listctrl/RowSelection.h"
 #include "src/listctrl/WexListCtrl.h"
 
 namespace {
@@ -14,10 +14,10 @@ WexListCtrl* wrapperOf(CWnd* list) { return dynamic_cast<WexListCtrl*>(list); }
 
 void listAllowSorting(LispCall& call) {
     CWnd* list = listControlOf(call.tile());
-    const HostValue* flag = call.next();
-    if (!list || !flag) return call.retNil();
+    const bool allow = call.isTrue();
+    if (!list || call.lacksArgument()) return call.retNil();
     call.retVoid();
-    if (flag->type != HV_TRUE) return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
+    if (!allow) return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
     if (WexListCtrl* wrapper = wrapperOf(list)) wrapper->m_allowSorting = true;
 }
 
@@ -28,12 +28,11 @@ void listGetSelectedNths(LispCall& call) {
 
 void listEnableDblClick(LispCall& call) {
     const TileAddress address = call.tile();
-    const HostValue* flag = call.next();
-    if (!flag) return call.retNil();
+    const bool enable = call.isTrue();
+    if (call.lacksArgument()) return call.retNil();
     call.retVoid();
     WexDialog* dialog = currentDialog();
     if (!dialog) return;
-    const bool enable = flag->type == HV_TRUE;
     if (CCtrlInfo* tile = dialog->tileFor(address)) tile->m_dblClickEnabled = enable;
     CWnd* control = dialog->itemFor(address);
     if (!control) return;
@@ -43,8 +42,8 @@ void listEnableDblClick(LispCall& call) {
 
 void listKeepHighlight(LispCall& call) {
     CWnd* list = listControlOf(call.tile());
-    const HostValue* flag = call.next();
-    if (!list || !flag) return call.retNil();
+    const bool keep = call.isTrue();
+    if (!list || call.lacksArgument()) return call.retNil();
     call.retVoid();
-    if (WexListCtrl* wrapper = wrapperOf(list)) wrapper->m_keepHighlight = flag->type == HV_TRUE;
+    if (WexListCtrl* wrapper = wrapperOf(list)) wrapper->m_keepHighlight = keep;
 }

@@ -4,6 +4,7 @@
 
 #include "src/dialog/WexDialog.h"
 #include "src/listctrl/ListColumns.h"
+#include "src/listctrl/RowSelection.h"
 
 IMPLEMENT_DYNAMIC(WexListCtrl, CListCtrl)
 
@@ -34,6 +35,8 @@ void WexListCtrl::applyRecord(CCtrlInfo& tile) {
     }
     if (g_rowSource && showsRecords(*this)) bindTo(*g_rowSource);
 }
+
+CString WexListCtrl::value() { return std::to_wstring(firstSelectedRow(*this)); }
 
 void WexListCtrl::bindTo(RowSource& source) {
     m_dataSource = &source;

@@ -20,7 +20,7 @@ class WexListCtrl : public CListCtrl, public TileControl {
     CWnd& wnd() override { return *this; }
     void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
     void applyRecord(CCtrlInfo& tile) override;
-    bool showsSourceRows() const override { return m_dataSource != nullptr; }
+    CString value() override;
 
     // Shows the rows of the source, of a list that has none of its own by its style.
     void bindTo(RowSource& source);

@@ -3,34 +3,96 @@
 #include <cassert>
 #include <exception>
 
+#include "src/shell/HostNumber.h"
 #include "src/shell/LispInvoke.h"
+
+namespace {
+
+std::optional<CString> stringOf(const HostValue& node) {
+    if (node.type != HV_STRING) return std::nullopt;
+    return CString(node.value.stringValue);
+}
+
+std::optional<int> shortOf(const HostValue& node) {
+    if (node.type != HV_SHORT) return std::nullopt;
+    return node.value.shortValue;
+}
+
+std::optional<int> shortOrLongOf(const HostValue& node) {
+    return node.type == HV_LONG ? node.value.longValue : shortOf(node);
+}
+
+std::optional<int> shortOrRealOf(const HostValue& node) {
+    return node.type == HV_REAL ? truncated(node.value.realValue) : shortOf(node);
+}
+
+std::optional<WholePoint> pointOf(const HostValue& node) {
+    if (node.type != HV_POINT) return std::nullopt;
+    return WholePoint{truncated(node.value.pointValue[0]), truncated(node.value.pointValue[1])};
+}
+
+}  // namespace
 
 LispCall::~LispCall() { assert(m_results == 1 || std::uncaught_exceptions() > 0); }
 
 const HostValue* LispCall::next() {
     const HostValue* node = m_next;
-    if (node) m_next = node->next;
+    if (node)
+        m_next = node->next;
+    else
+        m_lacksArgument = true;
     return node;
 }
 
 TileAddress LispCall::tile() {
     TileAddress address;
     const HostValue* node = next();
-    if (node && node->type == HV_STRING) address.key = node->value.stringValue;
-    if (node && node->type == HV_SHORT) address.id = static_cast<uint32_t>(node->value.shortValue);
+    if (!node) return address;
+    address.key = stringOf(*node).value_or(CString());
+    if (const auto id = shortOf(*node)) address.id = static_cast<uint32_t>(*id);
     return address;
 }
 
-std::optional<CString> LispCall::text() {
+std::optional<CString> LispCall::text() { return read(stringOf); }
+
+CString LispCall::textOrDecimal() {
     const HostValue* node = next();
-    if (!node || node->type != HV_STRING) return std::nullopt;
-    return CString(node->value.stringValue);
+    if (!node) return {};
+    if (const auto number = shortOrLongOf(*node)) return std::to_wstring(*number);
+    return stringOf(*node).value_or(CString());
 }
 
-std::optional<int> LispCall::shortNumber() {
+std::vector<CString> LispCall::texts() {
+    std::vector<CString> texts;
     const HostValue* node = next();
-    if (!node || node->type != HV_SHORT) return std::nullopt;
-    return node->value.shortValue;
+    const bool isList = node && node->type == HV_LIST_BEGIN;
+    if (isList) node = next();
+    for (; node && node->type == HV_STRING; node = isList ? next() : nullptr)
+        texts.emplace_back(node->value.stringValue);
+    return texts;
+}
+
+std::optional<int> LispCall::shortNumber() { return read(shortOf); }
+
+std::optional<int> LispCall::shortOrLong() { return read(shortOrLongOf); }
+
+std::optional<int> LispCall::shortOrReal() { return read(shortOrRealOf); }
+
+std::optional<WholePoint> LispCall::point() { return read(pointOf); }
+
+bool LispCall::isTrue() {
+    const HostValue* node = next();
+    return node && node->type == HV_TRUE;
+}
+
+bool LispCall::isTrueOrShort() {
+    const HostValue* node = next();
+    return node && (node->type == HV_TRUE || node->type == HV_SHORT);
+}
+
+bool LispCall::isNeitherNilNorZero() {
+    const HostValue* node = next();
+    return !node || (node->type != HV_NIL && shortOf(*node) != 0);
 }
 
 void LispCall::retVoid() {

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "src/platform/base/CInvalidArgException.h"
 #include "src/platform/base/CString.h"
@@ -20,8 +21,13 @@ struct TileAddress {
     int controlId() const { return static_cast<int>(id); }
 };
 
+struct WholePoint {
+    int32_t x;
+    int32_t y;
+};
+
 // The argument chain of one Lisp call and its result. An argument is one node: a list's begin, elements and
-// end count as one each. Every reader takes the next node, whatever it holds.
+// end count as one each. Every reader takes the next node, whatever it holds, and bears the name of its rule.
 class LispCall {
   public:
     LispCall() : m_next(hostGetArgs()) {}
@@ -33,12 +39,35 @@ class LispCall {
 
     // The next node, and null past the last one. The host's.
     const HostValue* next();
+    // Whether a reader asked for a node past the last one. A function that needs an argument asks this once
+    // it has read it: one of a wrong type is there, too.
+    bool lacksArgument() const { return m_lacksArgument; }
+
     // A string is a key and a short a control id; any other node is an empty key without an id, and so is -1.
     TileAddress tile();
+
     // The text of a string; nothing for any other node.
     std::optional<CString> text();
+    CString textOrEmpty() { return text().value_or(CString()); }
+    // A string as it stands, a short or a long in decimal; empty for any other node.
+    CString textOrDecimal();
+    // One string, or those of a list up to the first element that is none.
+    std::vector<CString> texts();
+
     // The number of a short; nothing for any other node.
     std::optional<int> shortNumber();
+    std::optional<int> shortOrLong();
+    // A real is truncated.
+    std::optional<int> shortOrReal();
+    // Both numbers truncated; nothing for any other node.
+    std::optional<WholePoint> point();
+
+    // T itself, and nothing else.
+    bool isTrue();
+    // T, or a short of any value.
+    bool isTrueOrShort();
+    // Anything but nil and 0; a missing node too.
+    bool isNeitherNilNorZero();
 
     void retVoid();
     void retNil();
@@ -51,7 +80,15 @@ class LispCall {
   private:
     void setsResult() { ++m_results; }
 
+    // What `convert` makes of the next node; nothing past the last one.
+    template <class Value>
+    std::optional<Value> read(std::optional<Value> (*convert)(const HostValue& node)) {
+        const HostValue* node = next();
+        return node ? convert(*node) : std::nullopt;
+    }
+
     const HostValue* m_next;
+    bool m_lacksArgument = false;
     int m_results = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "src/tabs/TabFunctions.h"
 
+#include "src/dialog/CurrentTile.h"
 #include "src/dialog/WexDialog.h"
 #include "src/tabs/WexTabCtrl.h"
 
@@ -16,13 +17,9 @@ std::vector<CWnd*> pageMembers(const WexDialog& dialog, const HostValue* argumen
 
 void tabAdd(LispCall& call) {
     const TileAddress address = call.tile();
-    const HostValue* title = call.next();
-    if (!title) return call.retNil();
-    const WexDialog* dialog = currentDialog();
-    auto* tab = dialog ? dynamic_cast<WexTabCtrl*>(dialog->itemFor(address)) : nullptr;
-    if (tab) {
-        const CString caption = title->type == HV_STRING ? title->value.stringValue : L"";
-        tab->addPage(caption, pageMembers(*dialog, call.next()));
-    }
+    const CString caption = call.textOrEmpty();
+    if (call.lacksArgument()) return call.retNil();
+    if (auto* tab = controlAs<WexTabCtrl>(address))
+        tab->addPage(caption, pageMembers(*currentDialog(), call.next()));
     call.retVoid();
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "src/dialog/EntrySelection.h"
 #include "src/platform/mfc/RedrawHold.h"
 
 IMPLEMENT_DYNAMIC(WexTabCtrl, CTabCtrl)
@@ -10,8 +11,8 @@ namespace {
 
 constexpr UINT BACKGROUND_ID = 6000;
 
-// Whether what lies behind the control may show in it: in group boxes and labels, and in such as leave parts
-// to children, as a list control does, whose header may fill nothing but its columns.
+// Whether what lies behind the control may show through it. It does in group boxes and labels, and in
+// controls with children: a list control's header paints its columns only, and leaves the rest of its row.
 bool isSeeThrough(const CWnd& control) {
     return GetWindow(control.m_hWnd, GW_CHILD) || control.SendMessage(WM_GETDLGCODE) & DLGC_STATIC;
 }
@@ -19,14 +20,9 @@ bool isSeeThrough(const CWnd& control) {
 // Edit boxes have a background of their own, also such that can't be edited.
 bool hasOwnBackground(const CWnd& control) { return control.SendMessage(WM_GETDLGCODE) & DLGC_HASSETSEL; }
 
-bool holdsFocus(const CWnd* control) {
-    const HWND focus = ::GetFocus();
-    return focus && (focus == control->m_hWnd || IsChild(control->m_hWnd, focus));
-}
-
 // Nothing is drawn. A control that has the focus still is left to the platform, which moves the focus on.
 void setShown(const CWnd& control, bool shown) {
-    if (!shown && holdsFocus(&control)) return control.ShowWindow(SW_HIDE);
+    if (!shown && control.holdsFocus()) return control.ShowWindow(SW_HIDE);
     SetWindowPos(control.m_hWnd, nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW |
                      (shown ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
@@ -89,10 +85,12 @@ void WexTabCtrl::showPage() {
     if (IsWindowVisible(::GetParent(m_hWnd))) redraw(change);
 }
 
-// Left to itself the focus would go from one control to the next as they are hidden, and each would tell that
-// it was left. A disabled tab control doesn't take it. False: the tab control is gone.
+// Without this the platform would move the focus from one control to the next as they are hidden, and each
+// would report that it lost it. A disabled tab control doesn't take the focus. False: the tab control is
+// gone.
 bool WexTabCtrl::releaseFocus(const PageChange& change) {
-    if (std::any_of(change.hide.begin(), change.hide.end(), holdsFocus)) SetFocus();
+    if (std::any_of(change.hide.begin(), change.hide.end(), [](const CWnd* m) { return m->holdsFocus(); }))
+        SetFocus();
     return isLive();
 }
 
@@ -174,7 +172,7 @@ HBRUSH WexTabCtrl::pageBrush() {
     return m_look.brushOf(*this, {(page.left + page.right) / 2, (page.top + page.bottom) / 2});
 }
 
-// The background lies over the captions too, and paints below them only.
+// The background window covers the captions too, so it is clipped to what is below them.
 LRESULT WexTabCtrl::onColorStatic(HDC dc, CWnd* control) {
     const RECT page = pageAreaIn(*control);
     IntersectClipRect(dc, page.left, page.top, page.right, page.bottom);
@@ -199,4 +197,8 @@ void WexTabCtrl::paintUnder(HDC dc, const CWnd& dialog) {
     if (!isLive() || !IsWindowVisible(m_hWnd)) return;
     const RECT page = pageAreaIn(dialog);
     if (const HBRUSH brush = pageBrush()) FillRect(dc, &page, brush);
+}
+
+void setTabValue(CWnd& tab, const CString& value, bool /*byKey*/) {
+    selectEntry(tab, value, TCM_GETITEMCOUNT, TCM_SETCURSEL);
 }

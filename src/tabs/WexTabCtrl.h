@@ -51,3 +51,6 @@ class WexTabCtrl : public CTabCtrl, public TileControl {
 
     PageLook m_look;
 };
+
+// The value is the number of a tab. kept: the controls of the page that was shown stay.
+void setTabValue(CWnd& tab, const CString& value, bool byKey);

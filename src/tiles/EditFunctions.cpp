@@ -1,22 +1,16 @@
 #include "src/tiles/EditFunctions.h"
 
+#include "src/dialog/CurrentTile.h"
 #include "src/dialog/WexDialog.h"
 #include "src/tiles/WexEditBox.h"
 
 namespace {
 
-CWnd* controlOf(const TileAddress& tile) {
-    const WexDialog* dialog = currentDialog();
-    return dialog ? dialog->itemFor(tile) : nullptr;
-}
-
-int shortOf(const HostValue& node) { return node.type == HV_SHORT ? node.value.shortValue : -1; }
-
 void setNotation(LispCall& call, EditMode mode) {
-    auto* box = dynamic_cast<WexEditBox*>(controlOf(call.tile()));
-    const HostValue* unit = call.next();
-    const HostValue* precision = call.next();
-    if (box && unit && precision) box->setNotation(mode, shortOf(*unit), shortOf(*precision));
+    auto* box = controlAs<WexEditBox>(call.tile());
+    const int unit = call.shortNumber().value_or(-1);
+    const int precision = call.shortNumber().value_or(-1);
+    if (box && !call.lacksArgument()) box->setNotation(mode, unit, precision);
     call.retNil();
 }
 

@@ -1,34 +1,24 @@
 #include "src/tiles/ResizeFunctions.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
+#include "src/dialog/CurrentTile.h"
 #include "src/dialog/WexDialog.h"
-#include "src/shell/HostNumber.h"
 
 namespace {
 
 // The lowest limit of a dialog's width and height, in pixels at 96 dots per inch.
 constexpr int SMALLEST = 50;
 
-std::optional<int> shortOf(const HostValue& node) {
-    return node.type == HV_SHORT ? std::optional<int>(node.value.shortValue) : std::nullopt;
-}
-
-std::optional<int> pixelsOf(const HostValue& node) {
-    return node.type == HV_REAL ? std::optional<int>(truncated(node.value.realValue)) : shortOf(node);
-}
-
 // Reads width and height and hands them to `set`, where both can be used.
 template <class Set>
 void setLimits(LispCall& call, Set set) {
-    const HostValue* width = call.next();
-    const HostValue* height = call.next();
-    if (!height) return call.retNil();
+    const auto width = call.shortNumber();
+    const auto height = call.shortNumber();
+    if (call.lacksArgument()) return call.retNil();
     WexDialog* dialog = currentDialog();
-    const auto w = shortOf(*width), h = shortOf(*height);
-    if (dialog && w && h) set(*dialog, *w, *h);
+    if (dialog && width && height) set(*dialog, *width, *height);
     call.retVoid();
 }
 
@@ -36,13 +26,12 @@ void setLimits(LispCall& call, Set set) {
 
 void setResizing(LispCall& call) {
     const TileAddress address = call.tile();
-    const HostValue* code = call.next();
-    if (!code) return call.retNil();
+    const auto code = call.shortNumber();
+    if (call.lacksArgument()) return call.retNil();
     WexDialog* dialog = currentDialog();
-    const auto number = shortOf(*code);
-    if (dialog && number) {
+    if (dialog && code) {
         dialog->m_resizable = true;
-        if (CCtrlInfo* tile = dialog->tileFor(address)) tile->m_resizeCode = *number;
+        if (CCtrlInfo* tile = dialog->tileFor(address)) tile->m_resizeCode = *code;
     }
     call.retVoid();
 }
@@ -63,7 +52,7 @@ void setMaxResizing(LispCall& call) {
 }
 
 void startControlMove(LispCall& call) {
-    const auto count = pixelsOf(*call.next());
+    const auto count = call.shortOrReal();
     WexDialog* dialog = currentDialog();
     if (dialog && count) dialog->m_deferPos = BeginDeferWindowPos(*count);
     call.retVoid();
@@ -71,19 +60,16 @@ void startControlMove(LispCall& call) {
 
 void moveControl(LispCall& call) {
     const TileAddress tile = call.tile();
-    std::array<std::optional<int>, 4> numbers;
-    for (auto& number : numbers) {
-        const HostValue* node = call.next();
-        if (!node) return call.retNil();
-        number = pixelsOf(*node);
-    }
-    const WexDialog* dialog = currentDialog();
-    const CWnd* control = dialog ? dialog->itemFor(tile) : nullptr;
-    if (!control) return call.retNil();
-    const auto& [x, y, width, height] = numbers;
+    const auto x = call.shortOrReal();
+    const auto y = call.shortOrReal();
+    const auto width = call.shortOrReal();
+    const auto height = call.shortOrReal();
+    const CWnd* control = controlOf(tile);
+    if (!control || call.lacksArgument()) return call.retNil();
     // kept: the handle that comes back isn't stored, so the count that was given has to cover all moves.
     if (x && y && width && height)
-        DeferWindowPos(dialog->m_deferPos, control->m_hWnd, nullptr, *x, *y, *width, *height, SWP_NOZORDER);
+        DeferWindowPos(currentDialog()->m_deferPos, control->m_hWnd, nullptr, *x, *y, *width, *height,
+                       SWP_NOZORDER);
     call.retVoid();
 }
 

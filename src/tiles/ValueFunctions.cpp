@@ -1,33 +1,15 @@
 #include "src/tiles/ValueFunctions.h"
 
+#include "src/dialog/CurrentTile.h"
 #include "src/dialog/WexDialog.h"
 #include "src/platform/mfc/RedrawHold.h"
 #include "src/tiles/WexButton.h"
 
 namespace {
 
-CString valueText(const HostValue& node) {
-    switch (node.type) {
-        case HV_STRING:
-            return node.value.stringValue;
-        case HV_SHORT:
-            return std::to_wstring(node.value.shortValue);
-        case HV_LONG:
-            return std::to_wstring(node.value.longValue);
-        default:
-            return {};
-    }
-}
-
-CString controlValue(const CWnd& control) {
-    const auto number = [&](UINT message, WPARAM w = 0, LPARAM l = 0) {
-        return std::to_wstring(static_cast<int>(control.SendMessage(message, w, l)));
-    };
-    if (control.IsKindOf(RUNTIME_CLASS(CButton))) return control.SendMessage(BM_GETCHECK) ? L"1" : L"0";
-    if (control.IsKindOf(RUNTIME_CLASS(CListBox))) return number(LB_GETCURSEL);
-    if (control.IsKindOf(RUNTIME_CLASS(CListCtrl)))
-        return number(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
-    return control.GetWindowText();
+CString controlValue(CWnd& control) {
+    auto* tile = dynamic_cast<TileControl*>(&control);
+    return tile ? tile->value() : control.GetWindowText();
 }
 
 void disable(const CWnd& control, const WexDialog& dialog) {
@@ -40,8 +22,8 @@ void focusByKey(const CWnd& control) {
     const HWND before = GetFocus();
     if (before == control.m_hWnd) return;
     control.SetFocus();
-    // Between two buttons the old one would keep its default look. It may be gone: the focus move can run
-    // Lisp.
+    // From one button to another, the old one would keep its default look. It may be gone by now: the move of
+    // the focus can run Lisp.
     const CWnd* old = CWnd::FromHandlePermanent(before);
     if (old && old->isLive() && old->IsKindOf(RUNTIME_CLASS(WexButton)) &&
         control.IsKindOf(RUNTIME_CLASS(WexButton)))
@@ -79,8 +61,7 @@ void applyLiveMode(const CWnd& control, const WexDialog& dialog, const TileAddre
 
 // The client area of an image tile in device pixels; empty for any other tile.
 RECT imageTileArea(const TileAddress& tile) {
-    const WexDialog* dialog = currentDialog();
-    const CWnd* control = dialog ? dialog->itemFor(tile) : nullptr;
+    const CWnd* control = controlOf(tile);
     if (!control || control->GetRuntimeClass() != RUNTIME_CLASS(CButton)) return {};
     return control->GetClientRect();
 }
@@ -89,14 +70,9 @@ RECT imageTileArea(const TileAddress& tile) {
 
 void setTile(LispCall& call) {
     const TileAddress tile = call.tile();
-    const HostValue* value = call.next();
-    if (!value) return call.retNil();
-    if (WexDialog* dialog = currentDialog()) {
-        if (tile.isById())
-            dialog->setValueById(tile.controlId(), valueText(*value));
-        else
-            dialog->setValueByKey(tile.key, valueText(*value));
-    }
+    const CString value = call.textOrDecimal();
+    if (call.lacksArgument()) return call.retNil();
+    if (WexDialog* dialog = currentDialog()) dialog->setValueFor(tile, value);
     call.retVoid();
 }
 
@@ -104,23 +80,22 @@ void getTile(LispCall& call) {
     const TileAddress tile = call.tile();
     const WexDialog* dialog = currentDialog();
     if (!dialog) return call.retVoid();
-    const CWnd* control = dialog->itemFor(tile);
+    CWnd* control = dialog->itemFor(tile);
     if (!control) return call.retNil();
     call.ret(controlValue(*control));
 }
 
 void modeTile(LispCall& call) {
     const TileAddress tile = call.tile();
-    const HostValue* code = call.next();
-    if (!code) return call.retNil();
+    const auto mode = call.shortNumber();
+    if (call.lacksArgument()) return call.retNil();
     WexDialog* dialog = currentDialog();
-    if (dialog && code->type == HV_SHORT) {
-        const int mode = code->value.shortValue;
+    if (dialog && mode) {
         CCtrlInfo* record = dialog->tileFor(tile);
-        if (record) record->setMode(mode);
+        if (record) record->setMode(*mode);
         const CCtrlInfo unrecorded;
         if (const CWnd* control = dialog->itemFor(tile))
-            applyLiveMode(*control, *dialog, tile, mode, (record ? *record : unrecorded).m_editLimit);
+            applyLiveMode(*control, *dialog, tile, *mode, (record ? *record : unrecorded).m_editLimit);
     }
     call.retVoid();
 }

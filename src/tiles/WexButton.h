@@ -1,6 +1,7 @@
 // A button of any kind but an image button: push button, check box, radio button, plain group box.
 #pragma once
 
+#include "src/dialog/ButtonState.h"
 #include "src/dialog/Pressable.h"
 #include "src/dialog/TileControl.h"
 #include "src/platform/mfc/Controls.h"
@@ -10,6 +11,7 @@ class WexButton : public CButton, public TileControl, public Pressable {
 
   public:
     CWnd& wnd() override { return *this; }
+    CString value() override { return buttonValue(*this); }
     void click() override;
     void press() override;
 

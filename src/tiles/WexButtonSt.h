@@ -2,6 +2,7 @@
 #pragma once
 
 #include "src/buttons/CXPStyleButtonST.h"
+#include "src/dialog/ButtonState.h"
 #include "src/dialog/Pressable.h"
 #include "src/dialog/TileControl.h"
 
@@ -11,6 +12,7 @@ class WexButtonSt : public CXPStyleButtonST, public TileControl, public Pressabl
 
   public:
     CWnd& wnd() override { return *this; }
+    CString value() override { return buttonValue(*this); }
     void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
     // An icon that stands alone has its mnemonic in its tip.
     bool hasMnemonic(wchar_t letter) const override { return m_mnemonic == letter; }

@@ -39,7 +39,7 @@ bool WexListBox::hasSelection() const {
     return count >= 1 || (count == LB_ERR && SendMessage(LB_GETCURSEL) >= 0);
 }
 
-// OK is looked at first, while the selection of the first click stands.
+// OK is pressed before the control sees the second click, which could change the selection.
 void WexListBox::onDoubleClick(UINT /*keys*/, POINT /*at*/) {
     if (m_dblClickEnabled) pressOk();
     if (isLive()) Default();

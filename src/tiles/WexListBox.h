@@ -9,6 +9,7 @@ class WexListBox : public CListBox, public TileControl {
 
   public:
     CWnd& wnd() override { return *this; }
+    CString value() override { return std::to_wstring(SendMessage(LB_GETCURSEL)); }
     void applyRecord(CCtrlInfo& tile) override;
 
   protected:

@@ -21,15 +21,10 @@ UINT iconOf(std::optional<int> code) {
     }
 }
 
-int enableValue(const HostValue* flag) {
-    if (flag && flag->type == HV_SHORT) return flag->value.shortValue;
-    return !flag || flag->type != HV_NIL;
-}
-
 }  // namespace
 
 void alert(LispCall& call) {
-    const CString text = call.text().value_or(CString());
+    const CString text = call.textOrEmpty();
     const UINT icon = iconOf(call.shortNumber());
     const CWnd* owner = findParentWindow();
     releaseRedraw();
@@ -39,17 +34,17 @@ void alert(LispCall& call) {
 }
 
 void enableDialog(LispCall& call) {
-    const int enable = enableValue(call.next());
+    const bool enable = call.isNeitherNilNorZero();
     const WexDialog* dialog = currentDialog();
     if (dialog && dialog->isLive()) {
-        dialog->EnableWindow(enable != 0);
+        dialog->EnableWindow(enable);
         if (enable) SetActiveWindow(dialog->m_hWnd);
     }
     call.retVoid();
 }
 
 void setTitleBar(LispCall& call) {
-    const CString text = call.text().value_or(CString());
+    const CString text = call.textOrEmpty();
     const WexDialog* dialog = currentDialog();
     if (dialog && dialog->isLive()) dialog->SetWindowText(text);
     call.retNil();

@@ -68,12 +68,6 @@ bool CWnd::SubclassWindow(HWND window) {
     return true;
 }
 
-HWND CWnd::UnsubclassWindow() {
-    const HWND window = m_hWnd;
-    WindowTable::detach(*this);
-    return window;
-}
-
 bool CWnd::CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style,
                     const RECT& rect, HWND parent, UINT id) {
     const ThemeContext themed;
@@ -92,6 +86,11 @@ bool CWnd::DestroyWindow() {
 }
 
 CWnd* CWnd::GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
+
+bool CWnd::holdsFocus() const {
+    const HWND focus = ::GetFocus();
+    return focus && (focus == m_hWnd || IsChild(m_hWnd, focus));
+}
 
 const CString& CWnd::className() const {
     if (m_classOf != m_hWnd) {

@@ -38,8 +38,6 @@ class CWnd : public CObject {
     // window has another permanent wrapper, or there is no such window. Final, since most callers know the
     // window as a CWnd only: what a class does besides goes to attached().
     virtual bool SubclassWindow(HWND window) final;
-    // Gives the window its own procedure back, and the handle to the caller.
-    HWND UnsubclassWindow();
     // Creates a window of a registered class. `rect` is in the parent's client pixels.
     virtual bool CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style,
                           const RECT& rect, HWND parent, UINT id) final;
@@ -49,6 +47,8 @@ class CWnd : public CObject {
 
     // Whether there is a window, still.
     bool isLive() const { return m_hWnd && IsWindow(m_hWnd); }
+    // Whether the focus is here, or in a child as in the edit box of a combo box.
+    bool holdsFocus() const;
     // The wrapper of that child; null where there is none.
     CWnd* GetDlgItem(int id) const;
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }

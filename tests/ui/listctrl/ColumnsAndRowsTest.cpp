@@ -1,10 +1,10 @@
 // Columns and rows on a list control of its own, beside what the control itself measures.
 #include <gtest/gtest.h>
 
-#include "src/dialog/RowSelection.h"
 #include "src/listctrl/ListCells.h"
 #include "src/listctrl/ListColumns.h"
 #include "src/listctrl/ListRows.h"
+#include "src/listctrl/RowSelection.h"
 #include "src/platform/mfc/Controls.h"
 #include "src/platform/mfc/RedrawHold.h"
 

@@ -3,9 +3,9 @@
 
 #include <set>
 
-#include "src/dialog/RowSelection.h"
 #include "src/dialog/WexDialog.h"
 #include "src/listctrl/ListCells.h"
+#include "src/listctrl/RowSelection.h"
 #include "src/listctrl/WexListCtrl.h"
 #include "src/platform/mfc/RedrawHold.h"
 

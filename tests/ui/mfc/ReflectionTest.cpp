@@ -62,11 +62,12 @@ TEST_F(ReflectionTest, ControlTakesItsClickBeforeTheDialogDoes) {
     EXPECT_EQ(dialog.commands, 2) << "the map comes before the default";
     EXPECT_EQ(cancels, 0);
 
-    CButton plain;
-    plain.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 1));
-    dialog.click(1);
-    EXPECT_EQ(oks, 2) << "a wrapper without a line for the click leaves it to the dialog";
-    plain.UnsubclassWindow();
+    {
+        CButton plain;
+        plain.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 1));
+        dialog.click(1);
+        EXPECT_EQ(oks, 2) << "a wrapper without a line for the click leaves it to the dialog";
+    }
 
     Pressed ok, press;
     ok.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 1));

@@ -1,14 +1,14 @@
-#include "src/dialog/RowSelection.h"
+#include "src/listctrl/RowSelection.h"
 
-#include "src/dialog/TileControl.h"
+#include "src/listctrl/WexListCtrl.h"
 #include "src/platform/mfc/RedrawHold.h"
 
 namespace {
 
 // The rows of a source are no items: only their state can be set.
 bool hasItems(const CWnd& list) {
-    const auto* tile = dynamic_cast<const TileControl*>(&list);
-    return !tile || !tile->showsSourceRows();
+    const auto* wrapper = dynamic_cast<const WexListCtrl*>(&list);
+    return !wrapper || !wrapper->m_dataSource;
 }
 
 void setRowState(const CWnd& list, int row, UINT state, UINT mask) {
