@@ -13,14 +13,14 @@ CString controlValue(CWnd& control) {
 }
 
 void disable(const CWnd& control, const WexDialog& dialog) {
-    const bool hadFocus = GetFocus() == control.m_hWnd;
+    const bool hadFocus = control.holdsFocus();
     control.EnableWindow(false);
     if (hadFocus) dialog.SetFocus();
 }
 
 void focusByKey(const CWnd& control) {
+    if (control.holdsFocus()) return;
     const HWND before = GetFocus();
-    if (before == control.m_hWnd) return;
     control.SetFocus();
     // From one button to another, the old one would keep its default look. It may be gone by now: the move of
     // the focus can run Lisp.
@@ -32,7 +32,7 @@ void focusByKey(const CWnd& control) {
 
 // kept: by id the focus is only set where it is already.
 void focusById(const CWnd& control, const WexDialog& dialog) {
-    if (GetFocus() != control.m_hWnd) return;
+    if (!control.holdsFocus()) return;
     control.SetFocus();
     dialog.SendMessage(WM_PAINT);
 }

@@ -69,6 +69,15 @@
         (ui_char "x")
         (want "x" (ui_text "DESC"))))))
 
+(test "A combo box that is disabled while its edit box has the focus hands the keyboard on"
+  '((in-dialog "ADD_REC" nil
+      '((wex_mode_tile "MFG" 2)
+        (ui_char "A")
+        (want "A" (ui_text "MFG"))
+        (wex_mode_tile "MFG" 1)
+        (want nil (look "MFG" "focus"))
+        (want 1 (length (remove-if-not '(lambda (id) (look id "focus")) (cdr (assoc "controls" (ui_look))))))))))
+
 (test "The value of a list is an entry's number; one that doesn't exist leaves the selection"
   '((in-dialog "DISP_ASSYVALS" '(progn (fill "LST" '("a" "b" "c")) (wex_set_tile "LST" "1"))
       '((wex_set_tile "LST" "99")
