@@ -8,7 +8,7 @@ IMPLEMENT_DYNAMIC(CSnapDlg, CDialog)
 
 namespace {
 
-// Entries of the profile. kept: the values of the last two are named for another corner than they follow.
+// Profile entries. kept: "TopLeft" in the names, although they hold the lower right corner.
 constexpr wchar_t WIDTH_ENTRY[] = L"sizeWidth3";
 constexpr wchar_t HEIGHT_ENTRY[] = L"sizeHeight3";
 constexpr wchar_t X_ENTRY[] = L"nTopLeftX3";

@@ -17,9 +17,9 @@ class MovedArea {
     UniqueRegion m_region{CreateRectRgn(0, 0, 0, 0)};
 };
 
-// Draws the dialog and its controls anew, there or everywhere. A control that was moved with its picture
-// counts as painted: it would be erased with the dialog's background, or keep the picture of one that stood
-// there before.
+// Draws the dialog and its controls anew, in `where` or everywhere. The platform moves a control with its
+// picture and takes it for painted, although the dialog's background or another control's picture may be in
+// its place: so everything is invalidated, children too.
 void redraw(HWND dialog, HRGN where = nullptr) {
     RedrawWindow(dialog, nullptr, where, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

@@ -38,9 +38,9 @@ int linearUnitOf(CellKind kind) {
         case CellKind::feet:
             return 3;
         case CellKind::slash:
-            return 1;  // kept: programs depend on it
+            return 1;  // kept: a fraction is read in the scientific unit
         case CellKind::exponent:
-            return 5;  // kept: programs depend on it
+            return 5;  // kept: an exponent is read in the fractional unit
         case CellKind::text:
             break;
     }

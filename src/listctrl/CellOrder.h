@@ -13,7 +13,8 @@ using DistanceParser = std::function<std::optional<double>(const CString& text, 
 
 // `cells` are the texts of the column to sort by, row by row. Gives for each row which row's content it gets.
 //
-// Cells of notations are compared by their distances, and textually, by code units, where one is a text. A
-// distance that can't be parsed is below nothing. So that is no order that a library's sort would take; the
-// outcome for equal, mixed and bad data is that of one certain procedure, which programs depend on.
+// Two cells in notations of distances are compared by their distances. If one of the two is a plain text,
+// both are compared as texts, by code units. A distance that can't be parsed is less than nothing, and
+// nothing is less than it. This is no strict weak ordering: `std::sort` must not be used. kept: programs
+// depend on where equal, mixed and unreadable cells end up, so the steps of the sort are fixed.
 std::vector<int> sortedOrder(std::span<const CString> cells, bool ascending, const DistanceParser& parse);

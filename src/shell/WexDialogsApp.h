@@ -42,8 +42,8 @@ class HostPluginApp : public HostDbPluginApp {
     bool mdiAware = true;
 };
 
-// Keeps the tables of commands and of custom classes that a plug-in of this host can bring. This one brings
-// none, so nothing is walked; its Lisp functions are registered for each document.
+// Registers the plug-in's Lisp functions for each document. A plug-in of this host could bring commands and
+// custom classes as well; this one brings none.
 class WexHostPluginApp : public HostPluginApp {
   public:
     explicit WexHostPluginApp(LispTable table) : m_table(table) {}

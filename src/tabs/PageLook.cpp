@@ -16,7 +16,8 @@ COLORREF drawnColor(const CWnd& tab, POINT at) {
 }  // namespace
 
 HBRUSH PageLook::brushOf(const CWnd& tab, POINT middle) {
-    // The control may let the dialog paint first what lies behind it, and the dialog asks here.
+    // To paint itself, the control may ask the dialog for what lies behind it, and the dialog asks here
+    // again.
     if (!m_brush && !m_asking) {
         m_asking = true;
         m_brush.reset(CreateSolidBrush(drawnColor(tab, middle)));

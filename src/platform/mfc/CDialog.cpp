@@ -15,7 +15,7 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 namespace {
 
-// Undocumented, but old as the hills: posted to make the caret blink.
+// Undocumented: the platform posts it to make the caret blink.
 constexpr UINT WM_SYSTIMER = 0x0118;
 
 INT_PTR CALLBACK unusedDialogProc(HWND, UINT, WPARAM, LPARAM) { return FALSE; }

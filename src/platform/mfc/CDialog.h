@@ -55,8 +55,8 @@ class CDialog : public CWnd {
     // The last call before the loop leaves decides the result. No effect without a window or once the loop
     // has left; before the loop runs, the window never shows.
     void EndDialog(int result);
-    // Whether DoModal is at work, from before the window is made until the loop has left.
-    // From the call of DoModal to its return, also while the window is being taken down.
+    // True from the call of DoModal to its return: also before the window is made, and while it is taken
+    // down.
     bool isRunning() const { return m_running; }
 
     bool UpdateData(bool save);

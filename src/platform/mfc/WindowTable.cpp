@@ -9,9 +9,12 @@
 namespace {
 
 struct Attachment {
-    CWnd* wrapper = nullptr;  // null: let go of, while somebody else's procedure still leads to ours
+    // Null once the wrapper is detached. The entry stays as long as a later subclass still calls our
+    // procedure.
+    CWnd* wrapper = nullptr;
     WNDPROC ownProcedure = nullptr;
-    // It can be called as it is, which costs a fraction of the platform's call of it.
+    // Whether the procedure is a plain function pointer. Calling it directly costs a fraction of a call
+    // through the platform.
     bool isCode = false;
 };
 
@@ -120,7 +123,7 @@ void WindowTable::detach(CWnd& wrapper) {
         setProcedure(window, attachment->ownProcedure);
         removeAttachment(window);
     } else {
-        // Whoever put a procedure over ours goes on calling ours; it only leads on from now.
+        // A later subclass still calls our procedure, which only passes messages on from now.
         attachment->wrapper = nullptr;
     }
 }
