@@ -4,14 +4,14 @@
 
 namespace {
 
-constexpr int64_t FAR = 100'000;
+constexpr int64_t BEYOND = 100'000;
 
 }  // namespace
 
 int TrackView::start(uint32_t at, uint32_t first) const {
     const int64_t header = scaledOffset(m_sizes.offset(1));
     const int64_t start = header + scaledOffset(m_sizes.offset(at)) - scaledOffset(m_sizes.offset(first));
-    return static_cast<int>(std::clamp(start, -FAR, FAR));
+    return static_cast<int>(std::clamp(start, -BEYOND, BEYOND));
 }
 
 int TrackView::end(uint32_t at) const { return at == 0 ? headerEnd() : start(at + 1, first()); }
