@@ -5,6 +5,7 @@
 
 #include "host/documents/Plugin.h"
 #include "host/services/Crossing.h"
+#include "host/services/Host.h"
 #include "host/services/Texts.h"
 
 namespace {
@@ -52,6 +53,9 @@ lisp::Value callPluginFunction(lisp::Call& call) {
     }
     const PluginFunction newest = function.definitions.back();
     CallFrame frame(call.lisp, newest, call.arguments);
+    if (Actions::isBinding(function.name)) {
+        host().actions().note(function.name, frame.arguments(), call.lisp.place());
+    }
     // Anything may come out of a module that was built elsewhere; Lisp knows its own errors only.
     try {
         // A list that is refused is Lisp's error: the plug-in would take it for a call without arguments.

@@ -11,13 +11,22 @@
 
 namespace {
 
+constexpr int LISP_ERROR = 1;
+
+// Tells an error, and the action in which it came up.
+void report(const std::exception& error) {
+    const std::wstring action = host().actions().running();
+    host().console().error((action.empty() ? L"" : action + L"\n  ") + wideFromUtf8(error.what()));
+    host().fail(LISP_ERROR);
+}
+
 // HOST_NORMAL where `work` gives true; HOST_ERROR where it gives false or fails.
 template <class Work>
 int statusOf(Work&& work) noexcept {
     try {
         return work() ? HOST_NORMAL : HOST_ERROR;
     } catch (const std::exception& error) {
-        host().console().error(wideFromUtf8(error.what()));
+        report(error);
         return HOST_ERROR;
     }
 }
@@ -27,7 +36,7 @@ auto madeOrNull(Make&& make) noexcept -> decltype(make()) {
     try {
         return make();
     } catch (const std::exception& error) {
-        host().console().error(wideFromUtf8(error.what()));
+        report(error);
         return nullptr;
     }
 }
@@ -40,6 +49,10 @@ int setResult(Make&& make) noexcept {
         if (frame) frame->setResult(make(frame->lisp()));
         return frame != nullptr;
     });
+}
+
+const wchar_t* nameOf(const HostValue* chain) {
+    return chain && chain->type == HV_STRING ? chain->value.stringValue : L"";
 }
 
 bool invoke(const HostValue* chain, HostValue*& result) {
@@ -148,6 +161,7 @@ int hostPutSym(const wchar_t* name, const HostValue* chain) {
 }
 
 int hostInvoke(const HostValue* chain, HostValue** result) {
+    const Actions::Run action(host().actions(), nameOf(chain));
     return statusOf([&] {
         HostValue* value = nullptr;
         if (result && *result) return false;

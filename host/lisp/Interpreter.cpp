@@ -20,7 +20,18 @@ void writeToStandardOutput(std::u16string_view text) {
     std::fwrite(bytes.data(), 1, bytes.size(), stdout);
 }
 
+std::u16string textOf(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    std::string bytes(std::istreambuf_iterator<char>(stream), {});
+    if (!stream.is_open() || stream.bad()) throw Error(u"can't open " + readable(fromPath(path)));
+    return decodeFile(bytes);
+}
+
 }  // namespace
+
+std::u16string SourceLine::text() const {
+    return file.empty() ? std::u16string() : file + u":" + decimal(int64_t(line));
+}
 
 Interpreter::Interpreter(Limits limits)
     : machine_(std::make_unique<Machine>(*this, limits)), files_(std::make_unique<FileAccess>()) {
@@ -122,18 +133,19 @@ Value Interpreter::evalText(std::u16string_view text, std::u16string_view name) 
     return guarded([&] { return machine_->evalText(text, name); });
 }
 
-Value Interpreter::loadFile(std::u16string_view name) {
+std::filesystem::path Interpreter::found(std::u16string_view name) const {
     std::optional<std::filesystem::path> path = files_->find(name);
     if (!path) throw Error(u"can't open " + readable(name));
-    return loadPath(*path);
+    return *path;
 }
 
+Value Interpreter::loadFile(std::u16string_view name) { return loadPath(found(name)); }
+
 Value Interpreter::loadPath(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    std::string bytes(std::istreambuf_iterator<char>(stream), {});
-    if (!stream.is_open() || stream.bad()) throw Error(u"can't open " + readable(fromPath(path)));
-    return evalText(decodeFile(bytes), fromPath(path.filename()));
+    return evalText(textOf(path), fromPath(path.filename()));
 }
+
+std::u16string Interpreter::fileText(std::u16string_view name) const { return textOf(found(name)); }
 
 Value Interpreter::read(std::u16string_view text) {
     return guarded([&] {
@@ -141,6 +153,10 @@ Value Interpreter::read(std::u16string_view text) {
         Reader(*machine_, text, 0).next(form);
         return form;
     });
+}
+
+Value Interpreter::readAll(std::u16string_view text, const SourceLine& place) {
+    return guarded([&] { return machine_->readAll(text, place); });
 }
 
 bool Interpreter::isComplete(std::u16string_view text) { return Reader::isComplete(text); }
@@ -160,7 +176,7 @@ void Interpreter::setFileAccess(std::unique_ptr<FileAccess> access) {
 
 void Interpreter::interrupt() { machine_->interrupt(); }
 void Interpreter::clearInterrupt() { machine_->clearInterrupt(); }
-std::u16string Interpreter::place() const { return machine_->placeText(); }
+SourceLine Interpreter::place() const { return machine_->place(); }
 void Interpreter::setCollectAlways(bool always) { machine_->setCollectAlways(always); }
 size_t Interpreter::heapBytesInUse() const { return machine_->heap.used(); }
 Root*& Interpreter::rootList() { return machine_->heap.roots(); }

@@ -39,6 +39,15 @@ struct Limits {
     uint64_t steps = 0;
 };
 
+// A line of a program.
+struct SourceLine {
+    std::u16string file;
+    int line = 0;  // from 1; 0 where unknown
+
+    // Such as `demo.lsp:12`; empty where the file is unknown.
+    std::u16string text() const;
+};
+
 class Interpreter {
   public:
     explicit Interpreter(Limits limits = {});
@@ -79,8 +88,13 @@ class Interpreter {
     // can't be read. `name` is found through the FileAccess.
     Value loadFile(std::u16string_view name);
     Value loadPath(const std::filesystem::path& path);
+    // The text of the file that loadFile would load.
+    std::u16string fileText(std::u16string_view name) const;
     // The first form of a text, unevaluated; nil where there is none.
     Value read(std::u16string_view text);
+    // The list of all forms of a text, unevaluated. All of it counts as written in the line of `place`; where
+    // that is 0, as a file of that name.
+    Value readAll(std::u16string_view text, const SourceLine& place);
 
     // Whether a prompt may evaluate `text`: no list and no string of it is still open.
     static bool isComplete(std::u16string_view text);
@@ -100,9 +114,8 @@ class Interpreter {
     void interrupt();
     // Forgets an interrupt that came too late, and starts counting steps anew.
     void clearInterrupt();
-    // File and line of the call that runs or ran last, such as `demo.lsp:12`; empty where unknown. May be
-    // called from any thread.
-    std::u16string place() const;
+    // File and line of the call that runs or ran last. May be called from any thread.
+    SourceLine place() const;
 
     // For tests: collects at every step, so that a value that nothing keeps alive is seen at once.
     void setCollectAlways(bool always);
@@ -115,6 +128,7 @@ class Interpreter {
   private:
     template <class Work>
     auto guarded(Work&& work);
+    std::filesystem::path found(std::u16string_view name) const;
 
     std::unique_ptr<Machine> machine_;
     std::unique_ptr<FileAccess> files_;

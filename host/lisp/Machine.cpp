@@ -114,6 +114,14 @@ Value Machine::evalText(std::u16string_view text, std::u16string_view name) {
     }
 }
 
+Value Machine::readAll(std::u16string_view text, const SourceLine& place) {
+    Reader reader(*this, text, fileNumber(place.file), uint32_t(place.line));
+    ListBuilder forms(interpreter);
+    Value form;
+    while (reader.next(form)) forms.add(form);
+    return forms.list();
+}
+
 uint32_t Machine::fileNumber(std::u16string_view name) {
     std::lock_guard lock(fileNamesLock_);
     auto found = std::find(fileNames_.begin(), fileNames_.end(), name);
@@ -128,11 +136,11 @@ void Machine::locate(Error& error) const {
                  function_ ? lowerCase(function_->name) : std::u16string());
 }
 
-std::u16string Machine::placeText() const {
+SourceLine Machine::place() const {
     Place place = currentPlace();
     if (!place.file) return {};
     std::lock_guard lock(fileNamesLock_);
-    return fileNames_[place.file - 1] + u":" + decimal(int64_t(place.line));
+    return {fileNames_[place.file - 1], int(place.line)};
 }
 
 Machine::Entry::Entry(Machine& machine) : machine_(machine), top_(machine.top_) {

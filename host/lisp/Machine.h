@@ -52,6 +52,8 @@ class Machine {
     Value eval(Value form);
     // Reads and evaluates all forms of a text.
     Value evalText(std::u16string_view text, std::u16string_view name);
+    // Reads all forms of a text; see Interpreter::readAll.
+    Value readAll(std::u16string_view text, const SourceLine& place);
     // The function that a value stands for when it is called: itself, a symbol's or a lambda list. Else an
     // Error.
     Function* callable(Value value);
@@ -66,7 +68,7 @@ class Machine {
         return {uint32_t(packed >> 32), uint32_t(packed)};
     }
     void locate(Error& error) const;
-    std::u16string placeText() const;
+    SourceLine place() const;
 
     // Around each entry from C++: knows the shallowest, and puts the stack back after an exception.
     class Entry {

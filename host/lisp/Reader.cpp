@@ -1,5 +1,7 @@
 #include "host/lisp/Reader.h"
 
+#include <algorithm>
+
 #include "host/lisp/Machine.h"
 #include "host/lisp/Text.h"
 
@@ -21,8 +23,8 @@ int digitValue(char16_t c) {
 
 }  // namespace
 
-Reader::Reader(Machine& machine, std::u16string_view text, uint32_t file)
-    : machine_(machine), text_(text), file_(file) {}
+Reader::Reader(Machine& machine, std::u16string_view text, uint32_t file, uint32_t line)
+    : machine_(machine), text_(text), line_(line ? line : 1), file_(file), countsLines_(!line) {}
 
 bool Reader::next(Value& result) {
     skipBlanks();
@@ -34,7 +36,7 @@ bool Reader::next(Value& result) {
 
 char16_t Reader::take() {
     char16_t c = text_[position_++];
-    if (c == u'\n') ++line_;
+    if (c == u'\n' && countsLines_) ++line_;
     return c;
 }
 
@@ -214,6 +216,10 @@ bool Reader::isComplete(std::u16string_view text) {
         }
     }
     return depth <= 0;
+}
+
+bool isWord(std::u16string_view text) {
+    return !text.empty() && std::none_of(text.begin(), text.end(), endsToken);
 }
 
 std::u16string readable(std::u16string_view text) {

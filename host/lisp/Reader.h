@@ -13,8 +13,9 @@ class Machine;
 
 class Reader {
   public:
-    // `file` numbers the source for the places of lists, 0 for none. `text` must outlive the reader.
-    Reader(Machine& machine, std::u16string_view text, uint32_t file);
+    // `file` numbers the source for the places of lists, 0 for none. With `line` all of `text` counts as
+    // written in that one line. `text` must outlive the reader.
+    Reader(Machine& machine, std::u16string_view text, uint32_t file, uint32_t line = 0);
 
     // Reads the next form; false at the end of the text. Throws a located Error.
     bool next(Value& form);
@@ -39,9 +40,13 @@ class Reader {
     Machine& machine_;
     std::u16string_view text_;
     size_t position_ = 0;
-    uint32_t line_ = 1;
+    uint32_t line_;
     uint32_t file_;
+    bool countsLines_;
 };
+
+// Whether the reader takes the text as one word: the name of a symbol, or a number.
+bool isWord(std::u16string_view text);
 
 // How prin1 writes a string.
 std::u16string readable(std::u16string_view text);

@@ -12,9 +12,6 @@ namespace {
 using lisp::Call;
 using lisp::Value;
 
-// The plug-in has its event files loaded by this command.
-constexpr std::u16string_view START_UP = u"(defun c:wex_loadlisp (path) (load path))";
-
 // Each of the two gives the number of documents that are open then.
 Value openDocument(Call&) {
     documents().open();
@@ -33,6 +30,11 @@ Value loadPlugin(Call& call) {
 
 Value unloadPlugin(Call& call) {
     documents().unloadPlugin(call.has(0) ? wideText(call.text(0)) : L"");
+    return Value::truth();
+}
+
+Value loadActions(Call& call) {
+    host().actions().load(call.text(0));
     return Value::truth();
 }
 
@@ -55,5 +57,6 @@ void defineHostFunctions(lisp::Interpreter& lisp) {
     lisp.defineNative(u"host_resources", &resources, nullptr, 0, 0);
     lisp.defineNative(u"exit", &exitProgram, nullptr, 0, 1);
     defineUnitFunctions(lisp);
-    lisp.evalText(START_UP, u"start-up");
+    // The plug-in has the files of its dialogs' actions loaded by this command.
+    lisp.defineNative(u"c:wex_loadlisp", &loadActions, nullptr, 1, 1);
 }

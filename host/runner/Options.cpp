@@ -10,6 +10,7 @@ class Parser {
 
     Options parse() {
         while (!m_rest.empty() && m_options.error.empty()) take(next());
+        if (m_options.error.empty() && waitsForNobody()) fail(L"--headless needs a program, -e or -i");
         return m_options;
     }
 
@@ -21,6 +22,11 @@ class Parser {
     }
 
     void fail(const std::wstring& why) { m_options.error = why; }
+
+    bool waitsForNobody() const {
+        const bool ends = m_options.help || m_options.checkDialogs || m_options.interactive;
+        return m_options.headless && m_options.steps.empty() && !ends;
+    }
 
     // The operand of `option`, or an empty text and an error.
     std::wstring operand(const std::wstring& option) {
@@ -93,7 +99,7 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   -i                 prompt on the terminal, after the files
   --headless         nobody is there: play the programs' sessions, answer all alerts
   --play             play the programs' sessions where the person can watch
-  --timeout SECONDS  give up after that time
+  --timeout SECONDS  give up after that time; inf for never
   --support DIR      look for Lisp files in DIR too; may be given several times
   --shots DIR        where ui_shot writes its pictures (the working folder)
   --plugin PATH      the plug-in to load (WexDialogs.pgx beside wexhost.exe)

@@ -3,6 +3,8 @@
 #include <optional>
 #include <utility>
 
+#include "host/lisp/Reader.h"
+
 namespace {
 
 constexpr std::u16string_view BLANKS = u" \t\r\n";
@@ -12,8 +14,6 @@ std::u16string_view trimmed(std::u16string_view text) {
     if (first == text.npos) return {};
     return text.substr(first, text.find_last_not_of(BLANKS) - first + 1);
 }
-
-bool isWord(std::u16string_view text) { return text.find_first_of(u" \t\r\n()'\";") == text.npos; }
 
 }  // namespace
 
@@ -30,8 +30,16 @@ void Prompt::enter(std::u16string_view line) {
     }
 }
 
+void Prompt::finish() {
+    try {
+        m_lisp.readAll(std::exchange(m_pending, {}), {u"prompt"});
+    } catch (const lisp::Error& error) {
+        m_report(error.text());
+    }
+}
+
 lisp::Value Prompt::evaluate(const std::u16string& text) {
-    if (isWord(text)) {
+    if (lisp::isWord(text)) {
         const std::optional<lisp::Value> value = m_lisp.apply(u"c:" + text, {});
         if (value) return *value;
     }

@@ -15,6 +15,8 @@ class Prompt {
     // Takes a line. What is a whole form by then is evaluated and its value printed; a single word that names
     // a command (the function `c:WORD`) calls it. An error is reported and ends nothing.
     void enter(std::u16string_view line);
+    // No more lines come: a form that needs more is an error.
+    void finish();
     // Whether the form begun on earlier lines needs more.
     bool isContinuing() const { return !m_pending.empty(); }
     // Forgets what was begun.

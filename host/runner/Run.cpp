@@ -142,8 +142,7 @@ void printPrompt(const Prompt& prompt) {
 }
 
 void workTerminal() {
-    Prompt prompt(host().lisp(),
-                  [](const std::u16string& error) { host().console().error(wideText(error)); });
+    Prompt prompt(host().lisp(), [](const std::u16string& error) { reportError(wideText(error)); });
     static Terminal& terminal = *new Terminal;
     printPrompt(prompt);
     while (!terminal.isOver()) {
@@ -155,6 +154,7 @@ void workTerminal() {
             printPrompt(prompt);
         }
     }
+    prompt.finish();
 }
 
 void work(const Options& options) {

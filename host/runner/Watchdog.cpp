@@ -24,7 +24,9 @@ BOOL CALLBACK appendDialog(HWND window, LPARAM list) noexcept {
 }  // namespace
 
 Watchdog::Watchdog(double seconds) : m_stop(CreateEventW(nullptr, TRUE, FALSE, nullptr)) {
-    const auto milliseconds = static_cast<DWORD>(seconds * 1000);
+    // Beyond what the platform counts, some 49 days, there is no end.
+    const double wanted = seconds * 1000;
+    const DWORD milliseconds = wanted < INFINITE ? static_cast<DWORD>(wanted) : INFINITE;
     m_thread = std::thread(
         [this, mainThread = GetCurrentThreadId(), milliseconds] { watch(mainThread, milliseconds); });
 }
@@ -41,7 +43,9 @@ void Watchdog::watch(DWORD mainThread, DWORD milliseconds) const {
     EnumThreadWindows(mainThread, &appendDialog, reinterpret_cast<LPARAM>(&report));
     const std::wstring step = player().progress().place();
     if (!step.empty()) report += L"\n  the last step was " + step;
-    const std::wstring place = wideText(host().lisp().place());
+    const std::wstring action = host().actions().running();
+    if (!action.empty()) report += L"\n  the action that runs is that of " + action;
+    const std::wstring place = wideText(host().lisp().place().text());
     if (!place.empty()) report += L"\n  the last call was at " + place;
     host().console().error(report);
     TerminateProcess(GetCurrentProcess(), TIME_RAN_OUT);

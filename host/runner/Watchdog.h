@@ -8,7 +8,7 @@
 class Watchdog {
   public:
     // Says on standard error where the program stands, and exits with status 4, unless stopped within that
-    // time.
+    // time, which may be infinite.
     explicit Watchdog(double seconds);
     ~Watchdog();
     Watchdog(const Watchdog&) = delete;

@@ -24,12 +24,14 @@ void Console::print(std::wstring_view text) {
     {
         const std::lock_guard lock(m_mutex);
         m_pending += utf8Text(text);
+        m_isMidLine = text.back() != L'\n';
         if (text.back() == L'\n' || m_pending.size() > LONG_OUTPUT) flushLocked();
     }
     tell(text);
 }
 
 void Console::error(std::wstring_view line) {
+    if (isMidLine()) print(L"\n");
     const std::wstring whole = std::wstring(line) + L"\n";
     {
         const std::lock_guard lock(m_mutex);
@@ -37,6 +39,11 @@ void Console::error(std::wstring_view line) {
         writeAll(STD_ERROR_HANDLE, utf8Text(whole));
     }
     tell(whole);
+}
+
+bool Console::isMidLine() {
+    const std::lock_guard lock(m_mutex);
+    return m_isMidLine;
 }
 
 void Console::flush() {

@@ -14,18 +14,21 @@ class Console {
 
     // Standard output. What ends in a line end, or has grown long, is handed on at once.
     void print(std::wstring_view text);
-    // One line on standard error, behind all that was printed before.
+    // One line on standard error, behind all that was printed before; a line begun on standard output ends
+    // first, since the two often show on one screen.
     void error(std::wstring_view line);
     void flush();
     // Is shown all that the calling thread prints from now on, errors too. Null for none.
     void setListener(Listener listener);
 
   private:
+    bool isMidLine();
     void flushLocked();
     void tell(std::wstring_view text);
 
     std::mutex m_mutex;
     std::string m_pending;
+    bool m_isMidLine = false;
     Listener m_listener;
     std::thread::id m_listenerThread;
 };

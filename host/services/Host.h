@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "host/lisp/Interpreter.h"
+#include "host/services/Actions.h"
 #include "host/services/Alerts.h"
 #include "host/services/Console.h"
 
@@ -15,6 +16,7 @@ class Host {
 
     Console& console() { return m_console; }
     lisp::Interpreter& lisp() { return m_lisp; }
+    Actions& actions() { return m_actions; }
     Alerts& alerts() { return m_alerts; }
 
     // The window in front of which dialogs open: what `make` gives at the first question.
@@ -38,6 +40,7 @@ class Host {
   private:
     Console m_console;
     lisp::Interpreter m_lisp;
+    Actions m_actions{m_lisp};
     Alerts m_alerts;
     std::function<HWND()> m_makeMainFrame;
     std::function<void()> m_atExit;

@@ -4,8 +4,8 @@
 
 #include "src/dialog/ParentWindow.h"
 #include "src/dialog/WexDialog.h"
+#include "src/platform/base/EventText.h"
 #include "src/shell/EventFile.h"
-#include "src/shell/EventText.h"
 
 namespace {
 

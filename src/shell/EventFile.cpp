@@ -3,8 +3,8 @@
 #include <windows.h>
 
 #include "src/platform/base/CFileException.h"
+#include "src/platform/base/EventText.h"
 #include "src/platform/host/HostServices.h"
-#include "src/shell/EventText.h"
 #include "src/shell/GeneratedLispFileMgr.h"
 #include "src/shell/LispInvoke.h"
 

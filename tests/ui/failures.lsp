@@ -22,15 +22,6 @@
     (want nil (wex_new_dialog ""))
     (want 1 (length (ui_alerts)))))
 
-(test "An action with unbalanced parentheses takes all actions of the dialog with it, and the dialog runs"
-  '((want -1 (run-dialog "CONFIRM_DELREC" '(wex_action_tile "OK" "(note (list 1 2")
-      '((ui_click "LABEL0") (ui_click "OK") (ui_close))))
-    (want nil notes)))
-
-(test "A Lisp error inside an action ends that action alone"
-  '((want -1 (in-dialog "CONFIRM_DELREC" '(wex_action_tile "OK" "(note 1) (car 5) (note 2)") '((ui_click "OK"))))
-    (want '(1) notes)))
-
 (test "Without c:wex_loadlisp the dialog runs without its actions"
   '((setq kept c:wex_loadlisp)
     (setq c:wex_loadlisp nil)

@@ -51,7 +51,7 @@ TEST(LispBridge, AnErrorInACallbackIsReportedAndThePluginGoesOn) {
     const HostRun run = runProgram("(prin1 (t_invoke \"car\" 5))");
     EXPECT_EQ(run.output, "(-5001 8)");
     EXPECT_NE(run.errors.find("argument 1: expected a list, got 5"), std::string::npos) << run.errors;
-    EXPECT_EQ(run.status, 0U);
+    EXPECT_EQ(run.status, 1U);
 }
 
 TEST(LispBridge, WhatAPluginThrowsIsALispErrorThatSaysWhere) {

@@ -8,7 +8,7 @@ namespace {
 TEST(Runner, StepsRunInOrderAndStopAtTheFirstError) {
     const HostRun run = runHost({L"--headless", L"-e", L"(setq x 1)", L"-e", L"(princ (1+ x))", L"-e",
                                  L"(car 5)", L"-e", L"(princ \"never\")"});
-    EXPECT_EQ(run.output, "2");
+    EXPECT_EQ(run.output, "2\n");
     EXPECT_EQ(run.errors, "-e:1: (car): argument 1: expected a list, got 5\n");
     EXPECT_EQ(run.status, 1U);
 }
@@ -25,7 +25,13 @@ TEST(Runner, ThePromptGoesOnOverLinesAndErrors) {
                 "(+ 1\r\n 2)\n(car 5)\n(princ)\n(defun c:greet () \"hello\")\ngreet\nt\n\"gr\xC3\xBCn\"");
     EXPECT_EQ(run.output, "3\n\nC:GREET\n\"hello\"\nT\n\"gr\xC3\xBCn\"\n");
     EXPECT_NE(run.errors.find("(car): argument 1"), std::string::npos) << run.errors;
-    EXPECT_EQ(run.status, 0U);
+    EXPECT_EQ(run.status, 1U);
+
+    const HostRun open = runHost({L"--headless", L"-i"}, "(princ 1)\n(princ\n (princ 2)\n");
+    EXPECT_EQ(open.output, "11\n");
+    EXPECT_EQ(open.errors, "prompt:1: the list that opens here is not closed\n");
+    EXPECT_EQ(open.status, 1U);
+    EXPECT_EQ(runHost({L"--headless", L"-i"}, "(princ 1)\n").status, 0U);
 }
 
 // 13 is Enter, 38 and 40 are Up and Down, 27 is Esc.
@@ -51,6 +57,8 @@ TEST(Runner, AlertsAndMessageBoxesAreAnsweredAndRecorded) {
 }
 
 TEST(Runner, TimeRunsOutInALoopOfLisp) {
+    for (const wchar_t* never : {L"inf", L"1e10"})
+        EXPECT_EQ(runHost({L"--headless", L"--timeout", never, L"-e", L"(repeat 100000 1)"}).status, 0U);
     const HostRun run = runHost({L"--headless", L"--timeout", L"0.5", L"-e", L"(while T (setq x 1))"});
     EXPECT_EQ(run.status, 4U);
     EXPECT_EQ(run.errors.find("time ran out\n"), 0U) << run.errors;

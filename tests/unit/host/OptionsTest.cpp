@@ -22,7 +22,7 @@ TEST(Options, FilesAndExpressionsKeepTheirOrder) {
 TEST(Options, SessionsPlayOnlyWhereNobodyWorksTheProgram) {
     EXPECT_FALSE(parse({L"-i", L"a.lsp"}).playsSessions());
     EXPECT_TRUE(parse({L"--play"}).playsSessions());
-    EXPECT_TRUE(parse({L"--headless"}).playsSessions());
+    EXPECT_TRUE(parse({L"--headless", L"a.lsp"}).playsSessions());
 }
 
 TEST(Options, OperandsOfTheDialogCheckAreModules) {
@@ -36,6 +36,8 @@ TEST(Options, WhatIsWrongIsNamed) {
     EXPECT_EQ(parse({L"--nope"}).error, L"--nope is no option");
     EXPECT_EQ(parse({L"--shots"}).error, L"--shots needs an operand");
     EXPECT_EQ(parse({L"--timeout", L"2.5"}).timeoutSeconds, 2.5);
+    EXPECT_EQ(parse({L"--headless"}).error, L"--headless needs a program, -e or -i");
+    EXPECT_EQ(parse({L"--headless", L"-i"}).error, L"");
     for (const wchar_t* text : {L"soon", L"", L"0", L"-1", L"5s", L"nan"}) {
         EXPECT_NE(parse({L"--timeout", text}).error, L"") << text;
     }

@@ -147,7 +147,7 @@ TEST(Stopping, StepsAreCounted) {
     EXPECT_THROW(session.lisp.evalText(u"(strcat)", u"example"), Interrupted);
     session.lisp.clearInterrupt();
     EXPECT_EQ(session.run("(strcat)"), "\"\"");
-    EXPECT_EQ(session.lisp.place(), u"example:1");
+    EXPECT_EQ(session.lisp.place().text(), u"example:1");
 }
 
 TEST(Symbols, AreSetAndReadByNameInAnyCase) {

@@ -1,4 +1,4 @@
-#include "src/shell/EventText.h"
+#include "src/platform/base/EventText.h"
 
 #include <gtest/gtest.h>
 

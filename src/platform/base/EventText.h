@@ -2,6 +2,7 @@
 // Portable.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,13 @@ std::wstring actionFunctionName(std::wstring_view suffix);
 
 // The definition of that function around the program's own text, which is taken as it stands.
 std::wstring actionDefinition(std::wstring_view suffix, std::wstring_view text);
+
+// Where in the text of an event file the last definition begins before `end`; npos where none does. Looks for
+// the text before a name alone, which an action's own text may hold too.
+size_t lastDefinition(std::wstring_view file, size_t end);
+
+// The suffix of the definition that begins at `at`; nothing where its name has no end.
+std::optional<std::wstring_view> definitionSuffix(std::wstring_view file, size_t at);
 
 // The path of an event file. `tempFolder` ends with a backslash.
 std::wstring eventFilePathIn(std::wstring_view tempFolder, std::wstring_view dialogName);
