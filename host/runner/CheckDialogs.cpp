@@ -1,11 +1,13 @@
 #include "host/runner/CheckDialogs.h"
 
+#include <algorithm>
 #include <map>
 
 #include "host/runner/DialogFindings.h"
 #include "host/runner/ResourceModules.h"
 #include "host/runner/TextMeasure.h"
 #include "host/services/Host.h"
+#include "src/platform/base/DialogResources.h"
 
 namespace {
 
@@ -18,9 +20,22 @@ std::wstring counted(size_t count, const std::wstring& what) {
     return std::to_wstring(count) + L' ' + what + (count == 1 ? L"" : L"s");
 }
 
+// Registered by the plug-in itself.
+constexpr wchar_t GRID_CLASS[] = L"GXWND";
+
+bool knowsClass(const std::wstring& name) {
+    WNDCLASSEXW info{};
+    info.cbSize = sizeof info;
+    return equalIgnoringCase(name, GRID_CLASS) ||
+           GetClassInfoExW(GetModuleHandleW(nullptr), name.c_str(), &info) != 0;
+}
+
 class DialogCheck {
   public:
-    explicit DialogCheck(const std::vector<ResourceModule>& modules) : m_modules(modules) {
+    explicit DialogCheck(const ResourceModules& modules) : m_modules(modules) {
+        for (const std::wstring& path : modules.missing) find(path, L"can't be loaded");
+        for (const ResourceModule& module : modules.inPlace)
+            for (const auto& [id, text] : module.keyLists) note(module, id, std::wstring(keyListName(text)));
         const std::optional<ResourceModule> own = ownResourceModule();
         if (!own) return;
         for (const int id : ICON_CAPTION_IDS) m_iconCaptions.push_back(own->text(id));
@@ -46,14 +61,34 @@ class DialogCheck {
         print(dialog + L": " + finding);
     }
 
+    void note(const ResourceModule& module, int id, const std::wstring& name) {
+        m_names.emplace(toLower(name), module.name);
+        m_ids.emplace(id, name + L" of " + module.name);
+    }
+
+    void checkTaken(int id, const std::wstring& name) {
+        const auto holder = m_names.find(toLower(name));
+        const auto owner = m_ids.find(id);
+        if (holder != m_names.end())
+            find(name,
+                 L"is in " + holder->second + L" already, and one of the two is never found: rename it");
+        else if (owner != m_ids.end())
+            print(L"note: " + name + L" has the id " + std::to_wstring(id) + L", as has " + owner->second +
+                  L"; each module has its own ids");
+    }
+
     void checkList(const ResourceModule& module, int id, const std::wstring& text) {
         const std::wstring name(keyListName(text));
-        const auto keys = parseKeyList(text);
+        const auto keys = parseKeyList(std::wstring_view(text).substr(0, KEY_LIST_CHARS));
         if (!keys)
             return find(module.name,
                         L"string " + std::to_wstring(id) + L" is no key list: write NAME,key,key");
-        const auto [holder, isNew] = m_names.emplace(keys->name, module.name);
-        if (!isNew) find(name, L"is in " + holder->second + L" already, and the first is taken: rename it");
+        checkTaken(id, name);
+        note(module, id, name);
+        if (text.size() > KEY_LIST_CHARS)
+            find(name, L"has a key list of " + std::to_wstring(text.size()) +
+                           L" characters, which is cut at " + std::to_wstring(KEY_LIST_CHARS) +
+                           L": shorten the keys");
         const std::optional<DialogTemplate>* dialog = templateOf(module, id);
         if (!dialog) {
             m_withoutTemplate += (m_withoutTemplate.empty() ? L"" : L", ") + name;
@@ -66,32 +101,43 @@ class DialogCheck {
         const auto fits = [&](const std::wstring& words, const TextRoom& room) {
             return measure.fits(words, room);
         };
-        for (const std::wstring& finding : findMismatches(*keys, **dialog, m_iconCaptions, fits))
+        for (const std::wstring& finding :
+             findMismatches(*keys, **dialog, {m_iconCaptions, fits, &knowsClass}))
             find(name, finding);
     }
 
-    // A module's own template, or one of a module that has no key lists.
+    // The modules among which key lists and templates of `module` belong together: itself or the product's
+    // two.
+    template <class Test>
+    bool anyPart(const ResourceModule& module, Test&& test) const {
+        if (!module.isProducts()) return test(module);
+        return std::any_of(m_modules.asked.begin(), m_modules.asked.end(),
+                           [&](const ResourceModule& other) { return other.isProducts() && test(other); });
+    }
+
     const std::optional<DialogTemplate>* templateOf(const ResourceModule& module, int id) const {
-        const auto in = [id](const ResourceModule& other) -> const std::optional<DialogTemplate>* {
-            const auto at = other.templates.find(id);
-            return at == other.templates.end() ? nullptr : &at->second;
-        };
-        if (const auto* own = in(module)) return own;
-        for (const ResourceModule& other : m_modules)
-            if (const auto* found = other.keyLists.empty() ? in(other) : nullptr) return found;
-        return nullptr;
+        const std::optional<DialogTemplate>* found = nullptr;
+        anyPart(module, [&](const ResourceModule& part) {
+            const auto at = part.templates.find(id);
+            if (at != part.templates.end()) found = &at->second;
+            return found != nullptr;
+        });
+        return found;
     }
 
+    // Where the product's key lists aren't at hand they count as there.
     bool hasKeyList(const ResourceModule& module, int id) const {
-        if (!module.keyLists.empty()) return module.keyLists.contains(id);
-        for (const ResourceModule& other : m_modules)
-            if (other.keyLists.contains(id)) return true;
-        return false;
+        const bool atHand =
+            anyPart(module, [](const ResourceModule& part) { return !part.keyLists.empty(); });
+        return anyPart(module, [id](const ResourceModule& part) { return part.keyLists.contains(id); }) ||
+               (module.isProducts() && !atHand);
     }
 
-    const std::vector<ResourceModule>& m_modules;
+    const ResourceModules& m_modules;
     std::vector<std::wstring> m_iconCaptions;
-    std::map<std::wstring, std::wstring> m_names;  // the module of each dialog name seen so far
+    // Where each dialog name, in lower case, and each id was seen first.
+    std::map<std::wstring, std::wstring> m_names;
+    std::map<int, std::wstring> m_ids;
     std::wstring m_withoutTemplate;
     int m_dialogs = 0;
     int m_found = 0;
@@ -100,15 +146,10 @@ class DialogCheck {
 }  // namespace
 
 int checkDialogs(std::span<const std::wstring> paths) {
-    std::wstring missing;
-    const std::vector<ResourceModule> modules = loadResourceModules(paths, missing);
-    if (!missing.empty()) {
-        print(missing + L": can't be loaded");
-        return 1;
-    }
+    const ResourceModules modules = loadResourceModules(paths);
     DialogCheck check(modules);
-    for (const ResourceModule& module : modules) check.check(module);
-    print(counted(check.dialogs(), L"dialog") + L" in " + counted(modules.size(), L"module") + L", " +
+    for (const ResourceModule& module : modules.asked) check.check(module);
+    print(counted(check.dialogs(), L"dialog") + L" in " + counted(modules.asked.size(), L"module") + L", " +
           std::to_wstring(check.found()) + (check.found() == 1 ? L" mismatch" : L" mismatches"));
     return check.found() ? 1 : 0;
 }

@@ -5,11 +5,16 @@
 #include <optional>
 #include <set>
 
+#include "host/lisp/Reader.h"
+#include "host/services/Texts.h"
+#include "src/platform/base/DialogResources.h"
+
 namespace {
 
-// The control ids that are looked at when a dialog starts, besides those of OK and Cancel.
-constexpr int FIRST_SEEN_ID = 109;
-constexpr int LAST_SEEN_ID = 399;
+// The characters that no file name can hold, and how long one can be; the file of a dialog's actions has the
+// dialog's name and a few letters more.
+constexpr std::wstring_view NOT_IN_FILE_NAMES = L"\\/:*?\"<>|";
+constexpr size_t LONGEST_NAME = 240;
 // What an unknown key asks for; the second is how older templates write it.
 constexpr int UNKNOWN_KEY_ID = -1;
 constexpr int UNKNOWN_KEY_ID_16 = 0xFFFF;
@@ -21,8 +26,6 @@ constexpr uint32_t NO_PREFIX = 0x80;
 constexpr uint32_t CENTER_IMAGE = 0x200;
 constexpr uint32_t MULTI_LINE_BUTTON = 0x2000;
 constexpr uint32_t PICTURE_BUTTON = 0xC0;
-constexpr uint32_t EXTENDED_STATIC_EDGE = 0x20000;
-constexpr uint32_t FRAME_STYLE = 0x54000007;
 
 // What surrounds a button's text, in dialog units.
 constexpr int PUSH_BUTTON_BORDER = 4;
@@ -40,8 +43,21 @@ int idOfKey(const CString& key, size_t position) {
     return FIRST_KEY_CONTROL_ID + static_cast<int>(position);
 }
 
-bool isSeen(int id) {
-    return id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID || (id >= FIRST_SEEN_ID && id <= LAST_SEEN_ID);
+// A part of the name of a Lisp function.
+bool isLispName(const std::wstring& text) { return lisp::isWord(lispText(text)); }
+
+void checkName(const CString& name, Words& found) {
+    const bool isFileName =
+        name.size() <= LONGEST_NAME && std::none_of(name.begin(), name.end(), [](wchar_t c) {
+            return c < L' ' || NOT_IN_FILE_NAMES.find(c) != std::wstring_view::npos;
+        });
+    if (!isFileName)
+        found.push_back(L"no file can have that name, and without one the dialog never starts: leave out " +
+                        std::wstring(NOT_IN_FILE_NAMES));
+    else if (!isLispName(name))
+        found.push_back(
+            L"no Lisp symbol can hold that name, so no action of the dialog runs: leave out blanks, "
+            L"parentheses, quotes and semicolons");
 }
 
 void checkKeys(const KeyListText& list, const DialogTemplate& dialog, Words& found) {
@@ -55,7 +71,12 @@ void checkKeys(const KeyListText& list, const DialogTemplate& dialog, Words& fou
             found.push_back(L"key " + quoted(key) +
                             L" stands twice, and only the first is found: rename the one at position " +
                             std::to_wstring(i));
-        else if (!isSeen(id))
+        else if (!isLispName(key))
+            found.push_back(
+                L"key " + quoted(key) +
+                L" fits in no Lisp symbol, so an action on it breaks all actions of the dialog: leave "
+                L"out blanks, parentheses, quotes and semicolons");
+        else if (!isWalkedId(id))
             found.push_back(L"key " + quoted(key) + L" belongs to " + nameOf(id) +
                             L", which is out of reach: shorten the list to 290 keys");
         else if (std::none_of(dialog.controls.begin(), dialog.controls.end(),
@@ -68,7 +89,7 @@ void checkKeys(const KeyListText& list, const DialogTemplate& dialog, Words& fou
 std::optional<std::wstring> problemOfId(const KeyListText& list, int id) {
     if (id == UNKNOWN_KEY_ID || id == UNKNOWN_KEY_ID_16)
         return L" is what every unknown key would reach: give it an id of its own";
-    if (!isSeen(id)) return L" is out of reach: use the ids 1, 2 and 110 to 399";
+    if (!isWalkedId(id)) return L" is out of reach: use the ids 1, 2 and 110 to 399";
     if (id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID) return std::nullopt;
     const size_t position = static_cast<size_t>(id) - FIRST_KEY_CONTROL_ID;
     if (id < FIRST_KEY_CONTROL_ID || position >= list.keys.size())
@@ -126,7 +147,7 @@ std::optional<TextRoom> roomOfStatic(const DialogTemplateControl& control) {
 }
 
 std::optional<TextRoom> roomOfButton(const DialogTemplateControl& control) {
-    if (control.style & PICTURE_BUTTON || control.exStyle & EXTENDED_STATIC_EDGE) return std::nullopt;
+    if (control.style & PICTURE_BUTTON || control.exStyle & SLIDE_EX_STYLE) return std::nullopt;
     TextRoom room{control.width, control.height, (control.style & MULTI_LINE_BUTTON) != 0};
     switch (control.style & BUTTON_KIND) {
         case 0x0:  // BS_PUSHBUTTON
@@ -151,7 +172,7 @@ bool overlap(const DialogTemplateControl& a, const DialogTemplateControl& b) {
 // Frames and tab controls go to the bottom one after the other, in the order of their ids.
 void checkPages(const DialogTemplate& dialog, Words& found) {
     for (const DialogTemplateControl& tab : dialog.controls) {
-        if (tab.className != L"SysTabControl32") continue;
+        if (!equalIgnoringCase(tab.className, L"SysTabControl32")) continue;
         for (const DialogTemplateControl& frame : dialog.controls)
             if (frame.className == L"Button" && frame.style == FRAME_STYLE && frame.id > tab.id &&
                 overlap(frame, tab))
@@ -167,13 +188,21 @@ std::optional<TextRoom> roomFor(const DialogTemplateControl& control) {
     return std::nullopt;
 }
 
-void checkTexts(const DialogTemplate& dialog, const Words& iconCaptions, const FitsRoom& fits, Words& found) {
+void checkClasses(const DialogTemplate& dialog, const DialogSurroundings& surroundings, Words& found) {
+    for (const DialogTemplateControl& control : dialog.controls)
+        if (!surroundings.knowsClass(control.className))
+            found.push_back(nameOf(control.id) + L" is of the window class " + quoted(control.className) +
+                            L", which nobody registers, so the dialog never shows: use another class");
+}
+
+void checkTexts(const DialogTemplate& dialog, const DialogSurroundings& surroundings, Words& found) {
+    const Words& iconCaptions = surroundings.iconCaptions;
     for (const DialogTemplateControl& control : dialog.controls) {
         const auto room = roomFor(control);
         const bool isIcon = std::any_of(iconCaptions.begin(), iconCaptions.end(), [&](const auto& caption) {
             return equalIgnoringCase(caption, control.text);
         });
-        if (room && !isIcon && !control.text.empty() && !fits(control.text, *room))
+        if (room && !isIcon && !control.text.empty() && !surroundings.fits(control.text, *room))
             found.push_back(nameOf(control.id) + L" cuts off its text " + quoted(control.text) +
                             L": make it larger, or the text shorter");
     }
@@ -181,13 +210,15 @@ void checkTexts(const DialogTemplate& dialog, const Words& iconCaptions, const F
 
 }  // namespace
 
-Words findMismatches(const KeyListText& keys, const DialogTemplate& dialog, const Words& iconCaptions,
-                     const FitsRoom& fits) {
+Words findMismatches(const KeyListText& keys, const DialogTemplate& dialog,
+                     const DialogSurroundings& surroundings) {
     Words found;
+    checkName(keys.name, found);
     checkKeys(keys, dialog, found);
     checkIds(keys, dialog, found);
+    checkClasses(dialog, surroundings, found);
     checkMnemonics(dialog, found);
     checkPages(dialog, found);
-    checkTexts(dialog, iconCaptions, fits, found);
+    checkTexts(dialog, surroundings, found);
     return found;
 }

@@ -19,7 +19,14 @@ struct TextRoom {
 // Whether a text fits that room in the template's font.
 using FitsRoom = std::function<bool(const std::wstring& text, const TextRoom& room)>;
 
-// The text of each finding: key or control id, what is wrong, and how to mend it. `iconCaptions` are captions
-// that become icons, so they need no room.
+// What a dialog is made with.
+struct DialogSurroundings {
+    std::vector<std::wstring> iconCaptions;  // captions that become icons, so they need no room
+    FitsRoom fits;
+    // Whether controls of that window class can be made.
+    std::function<bool(const std::wstring& className)> knowsClass;
+};
+
+// The text of each finding: key or control id, what is wrong, and how to mend it.
 std::vector<std::wstring> findMismatches(const KeyListText& keys, const DialogTemplate& dialog,
-                                         const std::vector<std::wstring>& iconCaptions, const FitsRoom& fits);
+                                         const DialogSurroundings& surroundings);

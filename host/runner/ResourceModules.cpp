@@ -1,14 +1,15 @@
 #include "host/runner/ResourceModules.h"
 
+#include <algorithm>
 #include <filesystem>
+
+#include "src/platform/base/AddOns.h"
+#include "src/platform/base/DialogResources.h"
+#include "src/platform/base/Text.h"
 
 namespace {
 
-// Ids of the strings that can be key lists; a template has the id of its key list.
-constexpr int FIRST_ID = 1500;
-constexpr int LAST_ID = 3999;
-
-constexpr wchar_t RESOURCE_MODULE[] = L"WexDialogsRes.dll";
+using Paths = std::vector<std::filesystem::path>;
 
 std::optional<DialogTemplate> readTemplate(HMODULE module, HRSRC resource) {
     const auto* bytes = static_cast<const uint8_t*>(LockResource(LoadResource(module, resource)));
@@ -21,7 +22,7 @@ std::optional<ResourceModule> load(const std::filesystem::path& path) {
     module.handle.reset(
         LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));
     if (!module.handle) return std::nullopt;
-    for (int id = FIRST_ID; id <= LAST_ID; ++id) {
+    for (int id = FIRST_KEY_LIST_ID; id <= LAST_KEY_LIST_ID; ++id) {
         if (std::wstring text = module.text(id); !text.empty()) module.keyLists[id] = std::move(text);
         if (const HRSRC found = FindResourceW(module.handle.get(), MAKEINTRESOURCEW(id), RT_DIALOG))
             module.templates[id] = readTemplate(module.handle.get(), found);
@@ -35,16 +36,35 @@ std::filesystem::path programFolder() {
     return std::filesystem::path(path).parent_path();
 }
 
-std::vector<std::filesystem::path> ownModules() {
+bool hasNamesake(const Paths& paths, const std::filesystem::path& name) {
+    return std::any_of(paths.begin(), paths.end(), [&](const auto& path) {
+        return equalIgnoringCase(path.filename().wstring(), name.filename().wstring());
+    });
+}
+
+Paths modulesInPlace() {
     const std::filesystem::path folder = programFolder();
-    std::vector<std::filesystem::path> paths{folder / L"WexDialogs.pgx", folder / RESOURCE_MODULE};
-    std::error_code noFolder;
-    for (const auto& entry : std::filesystem::directory_iterator(folder / L"WexDialogs.d", noFolder))
-        if (entry.path().extension() == L".dll") paths.push_back(entry.path());
+    Paths paths = addOnPaths(folder);
+    paths.insert(paths.begin(), {folder / PLUGIN_NAME, folder / RESOURCE_MODULE_NAME});
     return paths;
 }
 
+void addOtherHalves(Paths& paths) {
+    for (const std::filesystem::path& half : Paths(paths)) {
+        const bool isPlugin = equalIgnoringCase(half.filename().wstring(), PLUGIN_NAME);
+        const bool isResources = equalIgnoringCase(half.filename().wstring(), RESOURCE_MODULE_NAME);
+        if (!isPlugin && !isResources) continue;
+        const auto other = half.parent_path() / (isPlugin ? RESOURCE_MODULE_NAME : PLUGIN_NAME);
+        std::error_code ignored;
+        if (!hasNamesake(paths, other) && std::filesystem::exists(other, ignored)) paths.push_back(other);
+    }
+}
+
 }  // namespace
+
+bool ResourceModule::isProducts() const {
+    return equalIgnoringCase(name, PLUGIN_NAME) || equalIgnoringCase(name, RESOURCE_MODULE_NAME);
+}
 
 std::wstring ResourceModule::text(int id) const {
     const wchar_t* text = nullptr;
@@ -52,17 +72,21 @@ std::wstring ResourceModule::text(int id) const {
     return {text, text + length};
 }
 
-std::optional<ResourceModule> ownResourceModule() { return load(programFolder() / RESOURCE_MODULE); }
+std::optional<ResourceModule> ownResourceModule() { return load(programFolder() / RESOURCE_MODULE_NAME); }
 
-std::vector<ResourceModule> loadResourceModules(std::span<const std::wstring> paths, std::wstring& missing) {
-    std::vector<std::filesystem::path> wanted(paths.begin(), paths.end());
-    if (wanted.empty()) wanted = ownModules();
-    std::vector<ResourceModule> modules;
-    for (const auto& path : wanted) {
+ResourceModules loadResourceModules(std::span<const std::wstring> paths) {
+    Paths asked(paths.begin(), paths.end());
+    if (asked.empty()) asked = modulesInPlace();
+    addOtherHalves(asked);
+    ResourceModules modules;
+    for (const auto& path : asked) {
         if (auto module = load(path))
-            modules.push_back(std::move(*module));
-        else if (missing.empty())
-            missing = path.wstring();
+            modules.asked.push_back(std::move(*module));
+        else
+            modules.missing.push_back(path.wstring());
     }
+    for (const auto& path : modulesInPlace())
+        if (auto module = hasNamesake(asked, path) ? std::nullopt : load(path))
+            modules.inPlace.push_back(std::move(*module));
     return modules;
 }

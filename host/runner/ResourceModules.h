@@ -26,11 +26,21 @@ struct ResourceModule {
 
     // Nothing where the string is missing.
     std::wstring text(int id) const;
+    // One of the two that the product's own dialogs lie in.
+    bool isProducts() const;
+};
+
+struct ResourceModules {
+    std::vector<ResourceModule> asked;
+    // Those in place beside the running program, but for those asked for and namesakes of theirs.
+    std::vector<ResourceModule> inPlace;
+    // The paths of those asked for that can't be loaded.
+    std::vector<std::wstring> missing;
 };
 
 // The product's resource module beside the running program; nothing where it is missing.
 std::optional<ResourceModule> ownResourceModule();
 
-// Loads the modules; with none given, the product's own beside the running program. The path of the first
-// that can't be loaded comes back in `missing`.
-std::vector<ResourceModule> loadResourceModules(std::span<const std::wstring> paths, std::wstring& missing);
+// Loads the modules of those paths; with none given, those in place. One of the product's two brings the
+// other from its folder.
+ResourceModules loadResourceModules(std::span<const std::wstring> paths);

@@ -21,6 +21,7 @@
 #include "host/runner/Watchdog.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
+#include "src/platform/base/DialogResources.h"
 
 namespace {
 
@@ -28,7 +29,6 @@ constexpr int LISP_ERROR = 1;
 constexpr int BAD_USAGE = 2;
 
 constexpr wchar_t GREETING[] = L"Type a Lisp expression, or the name of a command.\n";
-constexpr wchar_t PLUGIN_NAME[] = L"WexDialogs.pgx";
 
 std::filesystem::path programFolder() {
     std::wstring path(MAX_PATH, L'\0');

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "src/dialog/ImageButtonLook.h"
+#include "src/platform/base/DialogResources.h"
 
 enum class ControlKind {
     slideImage,
@@ -21,12 +22,6 @@ enum class ControlKind {
     listControl,
     unknown,
 };
-
-// The style of a group box that becomes a frame: child, visible, clip-siblings and group box, and no further
-// bit.
-constexpr uint32_t FRAME_STYLE = 0x54000007;
-// The extended style bit that makes a button a slide tile.
-constexpr uint32_t SLIDE_EX_STYLE = 0x20000;
 
 struct ControlTraits {
     std::wstring_view className;  // compared with case

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int FIRST_WALKED_ID = 109;
-constexpr int LAST_WALKED_ID = 399;
 // A mode that Lisp left to the control itself.
 constexpr int MODE_AS_CONTROL = -1;
 constexpr int CAPTION_CHARS = 1000;
@@ -47,10 +45,6 @@ std::map<int, HWND> childrenById(HWND dialog) {
     return std::move(listing.children);
 }
 
-bool isWalked(int id) {
-    return id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID || (id >= FIRST_WALKED_ID && id <= LAST_WALKED_ID);
-}
-
 }  // namespace
 
 void TileControl::attach(WexDialog&, HWND control) { wnd().SubclassWindow(control); }
@@ -63,7 +57,7 @@ void WexDialog::DoDataExchange(CDataExchange& exchange) {
     CSnapDlg::DoDataExchange(exchange);
     if (exchange.m_bSaveAndValidate) return;
     for (const auto& [id, control] : childrenById(m_hWnd))
-        if (isWalked(id)) discover(id, control);
+        if (isWalkedId(id)) discover(id, control);
     m_discovered = true;
 }
 

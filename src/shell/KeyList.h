@@ -5,10 +5,6 @@
 
 #include "src/platform/base/CString.h"
 
-// Ids of the strings that can be key lists; a dialog's template has the id of its key list.
-constexpr int FIRST_KEY_LIST_ID = 1500;
-constexpr int LAST_KEY_LIST_ID = 3999;
-
 // The keys of one dialog, lower case, by position. The key at position i belongs to control id 110 + i, but
 // for "OK" and "Cancel", which are the standard ids wherever they stand.
 class KeyList {

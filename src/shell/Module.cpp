@@ -1,5 +1,6 @@
 #include "src/shell/Module.h"
 
+#include "src/platform/base/DialogResources.h"
 #include "src/platform/host/HostServices.h"
 #include "src/shell/ResourceFolder.h"
 
@@ -13,14 +14,13 @@ CString g_buttonCaptionD;
 
 namespace {
 
-constexpr wchar_t PLUGIN_NAME[] = L"WexDialogs.pgx";
 constexpr DWORD MODULE_PATH_CHARS = 4999;
 constexpr int NOT_LOADED = 3;
 
 HMODULE loadResourceModule() {
     // Under another file name the plug-in isn't found, and the null handle means the host's executable.
     const std::wstring beside =
-        folderOf(modulePath(GetModuleHandleW(PLUGIN_NAME))).append(RESOURCE_MODULE_NAME);
+        folderOf(modulePath(GetModuleHandleW(PLUGIN_NAME.data()))).append(RESOURCE_MODULE_NAME);
     if (const HMODULE module = LoadLibraryW(beside.c_str())) return module;
     return LoadLibraryW(RESOURCE_MODULE_NAME.data());
 }

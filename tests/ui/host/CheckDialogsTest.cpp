@@ -1,6 +1,9 @@
 // The check of key lists against templates, run as a user runs it.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "tests/ui/host/HostProcess.h"
 
 namespace {
@@ -15,8 +18,9 @@ TEST(CheckDialogs, tellsWhatIsWrongInKeyListsTemplatesAndRoomForTexts) {
              "ODD_OLD: control 65535 is what every unknown key would reach",
              "ODD_MISTAKES: key \"b\" stands twice",
              "ODD_MISTAKES: control 112 cuts off its text",
+             "ODD_LONG: has a key list of 1618 characters, which is cut at 1499",
              "Odd.dll: template 2007 has no key list",
-             "note: Odd.dll has key lists without a template: ODD_NO_TEMPLATE\n",
+             "note: Odd.dll has key lists without a template: ODD_NO_TEMPLATE, ODD_LONG\n",
          })
         EXPECT_NE(run.output.find(line), std::string::npos) << line << "\n" << run.output;
     // The dialog of buttons is sound, and nothing is said of it: neither its icons nor its empty texts.
@@ -29,10 +33,37 @@ TEST(CheckDialogs, findsNothingInWhatIsShipped) {
     EXPECT_NE(run.output.find(", 0 mismatches\n"), std::string::npos) << run.output;
 }
 
-TEST(CheckDialogs, tellsAModuleThatIsMissing) {
-    const HostRun run = startHost(L"bin", {L"--check-dialogs", L"no_such.dll"});
-    EXPECT_EQ(run.status, 1u);
-    EXPECT_NE(run.output.find("no_such.dll: can't be loaded"), std::string::npos) << run.output;
+// Each of the two files that the product's dialogs lie in.
+TEST(CheckDialogs, takesTheProductByEitherHalf) {
+    for (const wchar_t* half : {L"WexDialogsRes.dll", L"WexDialogs.pgx"}) {
+        const HostRun run = startHost(L"testbin", {L"--check-dialogs", buildFolder() + L"\\bin\\" + half});
+        EXPECT_EQ(run.status, 0u);
+        EXPECT_NE(run.output.find(" in 2 modules, 0 mismatches\n"), std::string::npos) << run.output;
+    }
+}
+
+// A folder of add-ons: one that can't be loaded, one with capitals in its file name, and its twin.
+TEST(CheckDialogs, goesOnAfterAModuleThatIsNoneAndTellsWhatIsTaken) {
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::path(buildFolder()) / L"checkbin";
+    const fs::path addOns = folder / L"WexDialogs.d";
+    fs::remove_all(folder);
+    fs::create_directories(addOns);
+    for (const wchar_t* file : {L"wexhost.exe", L"hostapi.dll", L"WexDialogs.pgx", L"WexDialogsRes.dll"})
+        fs::create_hard_link(fs::path(buildFolder()) / L"bin" / file, folder / file);
+    const fs::path odd = fs::path(buildFolder()) / L"testbin" / L"WexDialogs.d" / L"Odd.dll";
+    fs::copy_file(odd, addOns / L"FIRST.DLL");
+    fs::copy_file(odd, folder / L"Twin.dll");
+    std::ofstream(addOns / L"Broken.dll") << "no module";
+
+    const HostRun all = startHost(L"checkbin", {L"--check-dialogs"});
+    const HostRun twin = startHost(L"checkbin", {L"--check-dialogs", (folder / L"Twin.dll").wstring()});
+    fs::remove_all(folder);
+    EXPECT_EQ(all.status, 1u);
+    EXPECT_NE(all.output.find("Broken.dll: can't be loaded"), std::string::npos) << all.output;
+    EXPECT_NE(all.output.find("ODD_MISTAKES: key \"b\" stands twice"), std::string::npos) << all.output;
+    EXPECT_EQ(all.output.find("ODD_KINDS: is in"), std::string::npos) << all.output;
+    EXPECT_NE(twin.output.find("ODD_KINDS: is in FIRST.DLL already"), std::string::npos) << twin.output;
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace {
 
 using Findings = std::vector<std::wstring>;
@@ -12,12 +14,13 @@ DialogTemplateControl control(int id, const wchar_t* className = L"Edit", const 
 }
 
 bool alwaysFits(const std::wstring&, const TextRoom&) { return true; }
+bool isNoSuch(const std::wstring& className) { return className == L"NoSuchClass"; }
 
 Findings findings(const wchar_t* keys, std::vector<DialogTemplateControl> controls,
                   const FitsRoom& fits = alwaysFits) {
     DialogTemplate dialog;
     dialog.controls = std::move(controls);
-    return findMismatches(*parseKeyList(keys), dialog, {L"Browse"}, fits);
+    return findMismatches(*parseKeyList(keys), dialog, {{L"Browse"}, fits, std::not_fn(&isNoSuch)});
 }
 
 // Each of `parts` is found in the finding at its place, and there are no more findings.
@@ -88,10 +91,22 @@ TEST(DialogFindings, framesThatTheirTabControlCovers) {
     };
     expectFindings(
         findings(L"A,A1,TAB,A3,A4,A5",
-                 {control(110, L"Button", L"", frameStyle), control(111, L"SysTabControl32"),
+                 {control(110, L"Button", L"", frameStyle), control(111, L"SYSTABCONTROL32"),
                   at(control(112, L"Button", L"", frameStyle), 39), control(113, L"Button", L"", 0x50000007),
                   at(control(114, L"Button", L"", frameStyle), 40)}),
         {L"control 112 is a frame that the tab control 111 covers: give it a lower id"});
+}
+
+TEST(DialogFindings, namesKeysAndClassesThatDoNotWork) {
+    const std::vector<DialogTemplateControl> ok{control(1)};
+    expectFindings(findings(L"A/B,OK", ok), {L"no file can have that name"});
+    expectFindings(findings((std::wstring(241, L'n') + L",OK").c_str(), ok), {L"no file can have that name"});
+    expectFindings(findings(L"A B,OK", ok), {L"no Lisp symbol can hold that name"});
+    expectFindings(findings(L"A,OK,B C,D),it's,E/F",
+                            {control(1), control(111), control(112), control(113), control(114)}),
+                   {L"key \"b c\" fits in no Lisp symbol", L"key \"d)\"", L"key \"it's\""});
+    expectFindings(findings(L"A,X", {control(110, L"NoSuchClass")}),
+                   {L"control 110 is of the window class \"NoSuchClass\", which nobody registers"});
 }
 
 TEST(DialogFindings, textIsMeasuredWhereItIsShownWhole) {
