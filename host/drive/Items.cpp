@@ -3,40 +3,18 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cstring>
 
+#include "host/drive/ControlItems.h"
+#include "host/drive/TreeItems.h"
 #include "host/services/Texts.h"
 
 namespace {
 
-// Longer texts of rows, tabs and tree items are cut.
-constexpr int MOST_TEXT_CHARS = 4096;
-
 HWND headerOf(HWND listView) { return reinterpret_cast<HWND>(SendMessageW(listView, LVM_GETHEADER, 0, 0)); }
 
-class Control : public Items {
+class ListBoxItems : public ControlItems {
   public:
-    explicit Control(HWND window) : m_window(window) {}
-
-  protected:
-    LRESULT send(UINT message, WPARAM w = 0, LPARAM l = 0) const {
-        return SendMessageW(m_window, message, w, l);
-    }
-    template <class Record>
-    LRESULT send(UINT message, WPARAM w, Record* record) const {
-        return send(message, w, reinterpret_cast<LPARAM>(record));
-    }
-    Spot middle(const RECT& rect) const {
-        return {m_window, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2}};
-    }
-    static std::wstring upToNul(const std::wstring& buffer) { return buffer.c_str(); }
-
-    HWND m_window;
-};
-
-class ListBoxItems : public Control {
-  public:
-    using Control::Control;
+    using ControlItems::ControlItems;
 
     int count() const override { return static_cast<int>(send(LB_GETCOUNT)); }
     std::wstring text(int index) const override {
@@ -51,22 +29,23 @@ class ListBoxItems : public Control {
         }
         return found;
     }
-    Spot show(int index, int) const override {
+    void bringIntoView(int index, int) const override {
         RECT rect{};
         send(LB_GETITEMRECT, index, &rect);
         RECT client;
         GetClientRect(m_window, &client);
-        if (rect.top < 0 || rect.bottom > client.bottom) {
-            send(LB_SETTOPINDEX, index);
-            send(LB_GETITEMRECT, index, &rect);
-        }
+        if (rect.top < 0 || rect.bottom > client.bottom) send(LB_SETTOPINDEX, index);
+    }
+    Spot at(int index, int) const override {
+        RECT rect{};
+        send(LB_GETITEMRECT, index, &rect);
         return middle(rect);
     }
 };
 
-class ComboBoxItems : public Control {
+class ComboBoxItems : public ControlItems {
   public:
-    using Control::Control;
+    using ControlItems::ControlItems;
 
     int count() const override { return static_cast<int>(send(CB_GETCOUNT)); }
     std::wstring text(int index) const override {
@@ -78,15 +57,21 @@ class ComboBoxItems : public Control {
         const auto index = static_cast<int>(send(CB_GETCURSEL));
         return index < 0 ? std::vector<int>() : std::vector{index};
     }
-    Spot show(int index, int) const override {
-        COMBOBOXINFO parts = {sizeof parts};
-        GetComboBoxInfo(m_window, &parts);
+    void bringIntoView(int index, int) const override {
         const bool dropsDown = (GetWindowLongW(m_window, GWL_STYLE) & 3) != CBS_SIMPLE;
         if (dropsDown) {
             SetFocus(m_window);
             send(CB_SHOWDROPDOWN, TRUE);
         }
-        return ListBoxItems(parts.hwndList).show(index, 0);
+        list().bringIntoView(index, 0);
+    }
+    Spot at(int index, int) const override { return list().at(index, 0); }
+
+  private:
+    ListBoxItems list() const {
+        COMBOBOXINFO parts = {sizeof parts};
+        GetComboBoxInfo(m_window, &parts);
+        return ListBoxItems(parts.hwndList);
     }
 };
 
@@ -99,9 +84,9 @@ void scrollAcross(HWND list, const RECT& column) {
     if (beyond) SendMessageW(list, LVM_SCROLL, beyond, 0);
 }
 
-class ListViewItems : public Control {
+class ListViewItems : public ControlItems {
   public:
-    using Control::Control;
+    using ControlItems::ControlItems;
 
     int count() const override { return static_cast<int>(send(LVM_GETITEMCOUNT)); }
     std::wstring text(int index) const override {
@@ -119,10 +104,19 @@ class ListViewItems : public Control {
         for (int index = next(-1); index >= 0; index = next(index)) found.push_back(index);
         return found;
     }
-    Spot show(int index, int column) const override {
+    void bringIntoView(int index, int column) const override {
         send(LVM_ENSUREVISIBLE, index, LPARAM(FALSE));
         scrollAcross(m_window, cellRect(index, column));
-        return middle(cellRect(index, column));
+    }
+    Spot at(int index, int column) const override { return middle(cellRect(index, column)); }
+    std::optional<Spot> checkBoxOf(int index) const override {
+        const Spot spot = at(index, 0);
+        return foundLeftOf(spot, [&](POINT point) {
+            LVHITTESTINFO hit{};
+            hit.pt = point;
+            send(LVM_HITTEST, 0, &hit);
+            return hit.flags == LVHT_ONITEMSTATEICON;
+        });
     }
 
   private:
@@ -139,49 +133,59 @@ class ListViewItems : public Control {
         return rect;
     }
     std::wstring cell(int index, int column) const {
-        std::wstring buffer(MOST_TEXT_CHARS, L'\0');
-        LVITEMW item{};
-        item.iSubItem = column;
-        item.pszText = buffer.data();
-        item.cchTextMax = MOST_TEXT_CHARS;
-        send(LVM_GETITEMTEXTW, index, &item);
-        return item.pszText ? std::wstring(item.pszText) : std::wstring();
+        return wholeText([&](wchar_t* buffer, int size) -> const wchar_t* {
+            LVITEMW item{};
+            item.iSubItem = column;
+            item.pszText = buffer;
+            item.cchTextMax = size;
+            send(LVM_GETITEMTEXTW, index, &item);
+            return item.pszText;
+        });
     }
 };
 
-class TabItems : public Control {
+class TabItems : public ControlItems {
   public:
-    using Control::Control;
+    using ControlItems::ControlItems;
 
     int count() const override { return static_cast<int>(send(TCM_GETITEMCOUNT)); }
     std::wstring text(int index) const override {
-        std::wstring buffer(MOST_TEXT_CHARS, L'\0');
-        TCITEMW item{};
-        item.mask = TCIF_TEXT;
-        item.pszText = buffer.data();
-        item.cchTextMax = MOST_TEXT_CHARS;
-        send(TCM_GETITEMW, index, &item);
-        return upToNul(buffer);
+        return wholeText([&](wchar_t* buffer, int size) -> const wchar_t* {
+            TCITEMW item{};
+            item.mask = TCIF_TEXT;
+            item.pszText = buffer;
+            item.cchTextMax = size;
+            send(TCM_GETITEMW, index, &item);
+            return item.pszText;
+        });
     }
     std::vector<int> selected() const override {
         const auto index = static_cast<int>(send(TCM_GETCURSEL));
         return index < 0 ? std::vector<int>() : std::vector{index};
     }
     // Tabs that have no room are reached by the arrows at the end of the row, one with each step.
-    Spot show(int index, int) const override {
+    void bringIntoView(int index, int) const override {
         const HWND arrows = FindWindowExW(m_window, nullptr, UPDOWN_CLASSW, nullptr);
         const int room = arrows && IsWindowVisible(arrows) ? rectIn(arrows).left : rectIn(m_window).right;
-        Spot spot = middle(itemRect(index));
-        for (int steps = count(); steps > 0 && (spot.point.x < 0 || spot.point.x >= room); --steps) {
-            const auto first = static_cast<int>(SendMessageW(arrows, UDM_GETPOS32, 0, 0));
-            const int next = first + (spot.point.x < 0 ? -1 : 1);
-            send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, next), reinterpret_cast<LPARAM>(arrows));
-            spot = middle(itemRect(index));
+        for (int steps = count(); steps > 0; --steps) {
+            const RECT rect = itemRect(index);
+            const LONG x = middle(rect).point.x;
+            const bool isLeft = x < 0 || IsRectEmpty(&rect);
+            if (!isLeft && x < room) return;
+            pressArrow(arrows, !isLeft);
         }
-        return spot;
     }
+    Spot at(int index, int) const override { return middle(itemRect(index)); }
 
   private:
+    static void pressArrow(HWND arrows, bool right) {
+        Spot spot = middleOf(arrows);
+        spot.point.x += right ? spot.point.x / 2 : -spot.point.x / 2;
+        const LPARAM point = MAKELPARAM(spot.point.x, spot.point.y);
+        SendMessageW(arrows, WM_LBUTTONDOWN, MK_LBUTTON, point);
+        SendMessageW(arrows, WM_LBUTTONUP, 0, point);
+    }
+    // Empty where it is scrolled off to the left; elsewhere such a tab may have an edge below 0.
     RECT itemRect(int index) const {
         RECT rect{};
         send(TCM_GETITEMRECT, index, &rect);
@@ -196,62 +200,32 @@ class TabItems : public Control {
     }
 };
 
-// The items from top to bottom, those in closed branches too.
-class TreeItems : public Control {
-  public:
-    explicit TreeItems(HWND window) : Control(window) { gather(next(TVGN_ROOT, nullptr)); }
-
-    int count() const override { return static_cast<int>(m_handles.size()); }
-    std::wstring text(int index) const override {
-        std::wstring buffer(MOST_TEXT_CHARS, L'\0');
-        TVITEMW item{};
-        item.mask = TVIF_TEXT;
-        item.hItem = m_handles[index];
-        item.pszText = buffer.data();
-        item.cchTextMax = MOST_TEXT_CHARS;
-        send(TVM_GETITEMW, 0, &item);
-        return upToNul(buffer);
-    }
-    // A handle goes to Lisp in 32 bits.
-    lisp::Value name(int index) const override {
-        return lisp::Value::integer(static_cast<int32_t>(reinterpret_cast<intptr_t>(m_handles[index])));
-    }
-    std::vector<int> selected() const override {
-        const HTREEITEM caret = next(TVGN_CARET, nullptr);
-        const auto found = std::find(m_handles.begin(), m_handles.end(), caret);
-        if (found == m_handles.end()) return {};
-        return {static_cast<int>(found - m_handles.begin())};
-    }
-    Spot show(int index, int) const override {
-        send(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(m_handles[index]));
-        RECT rect{};
-        std::memcpy(&rect, &m_handles[index], sizeof(HTREEITEM));
-        send(TVM_GETITEMRECT, TRUE, &rect);
-        return middle(rect);
-    }
-
-  private:
-    HTREEITEM next(UINT relation, HTREEITEM from) const {
-        return reinterpret_cast<HTREEITEM>(send(TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(from)));
-    }
-    void gather(HTREEITEM item) {
-        for (; item; item = next(TVGN_NEXT, item)) {
-            m_handles.push_back(item);
-            gather(next(TVGN_CHILD, item));
-        }
-    }
-
-    std::vector<HTREEITEM> m_handles;
-};
-
 }  // namespace
 
+Spot Items::show(int index, int column) const {
+    bringIntoView(index, column);
+    return at(index, column);
+}
+
 int Items::find(lisp::Value item) const {
+    if (item.isCons()) return findPath(item);
     const bool byText = item.isString();
     const std::wstring wanted = byText ? wideText(item.asString()) : std::wstring();
     for (int i = 0; i < count(); ++i) {
         if (byText ? text(i) == wanted : name(i) == item) return i;
     }
+    return -1;
+}
+
+int Items::findPath(lisp::Value item) const {
+    if (!tree()) return -1;
+    std::vector<std::wstring> wanted;
+    for (const lisp::Value step : lisp::Elements(item)) {
+        if (!step.isString()) return -1;
+        wanted.push_back(wideText(step.asString()));
+    }
+    for (int i = 0; i < count(); ++i)
+        if (text(i) == wanted.back() && tree()->path(i) == wanted) return i;
     return -1;
 }
 
@@ -263,7 +237,7 @@ std::unique_ptr<Items> itemsOf(HWND control) {
     if (is(L"ComboBox")) return std::make_unique<ComboBoxItems>(control);
     if (is(WC_LISTVIEWW)) return std::make_unique<ListViewItems>(control);
     if (is(WC_TABCONTROLW)) return std::make_unique<TabItems>(control);
-    if (is(WC_TREEVIEWW)) return std::make_unique<TreeItems>(control);
+    if (is(WC_TREEVIEWW)) return treeItemsOf(control);
     return nullptr;
 }
 
@@ -272,14 +246,16 @@ std::vector<ColumnHead> columnHeads(HWND control) {
     const HWND header = headerOf(control);
     const auto count = header ? static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
     for (int column = 0; column < count; ++column) {
-        std::wstring title(MOST_TEXT_CHARS, L'\0');
         HDITEMW item{};
-        item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
-        item.pszText = title.data();
-        item.cchTextMax = MOST_TEXT_CHARS;
-        SendMessageW(header, HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&item));
+        const std::wstring title = wholeText([&](wchar_t* buffer, int size) -> const wchar_t* {
+            item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
+            item.pszText = buffer;
+            item.cchTextMax = size;
+            SendMessageW(header, HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&item));
+            return item.pszText;
+        });
         const int direction = item.fmt & HDF_SORTUP ? 1 : item.fmt & HDF_SORTDOWN ? -1 : 0;
-        heads.push_back({item.pszText, item.cxy, direction});
+        heads.push_back({title, item.cxy, direction});
     }
     return heads;
 }

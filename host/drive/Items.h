@@ -11,6 +11,20 @@
 #include "host/drive/Mouse.h"
 #include "host/lisp/Value.h"
 
+// How the branches of a tree stand, each by its place among the entries.
+class TreeLook {
+  public:
+    // The texts from the root to the item.
+    virtual std::vector<std::wstring> path(int index) const = 0;
+    virtual bool isOpen(int index) const = 0;
+    // The number of the image that is drawn: that of a selected item is another. -1 for none.
+    virtual int image(int index) const = 0;
+    virtual bool isChecked(int index) const = 0;
+
+  protected:
+    ~TreeLook() = default;
+};
+
 class Items {
   public:
     virtual ~Items() = default;
@@ -22,11 +36,27 @@ class Items {
     virtual lisp::Value name(int index) const { return lisp::Value::integer(index); }
     // The indexes of the selected entries, in order.
     virtual std::vector<int> selected() const = 0;
-    // Scrolls the entry into view, and opens what hides it. Where to click it, in that column of a row.
-    virtual Spot show(int index, int column) const = 0;
+    // What a person reads where it stands, nothing for an entry that is hidden in a closed branch.
+    virtual std::optional<std::wstring> line(int index) const { return text(index); }
+    // Scrolls the entry into view, and opens what hides it.
+    virtual void bringIntoView(int index, int column) const = 0;
+    // Where to click the entry as it stands, in that column of a row.
+    virtual Spot at(int index, int column) const = 0;
+    // Where to click its check box, or the button that opens and closes it; nothing where it has none in
+    // view.
+    virtual std::optional<Spot> checkBoxOf(int) const { return std::nullopt; }
+    virtual std::optional<Spot> buttonOf(int) const { return std::nullopt; }
+    // What a tree shows beside its texts; null for another control.
+    virtual const TreeLook* tree() const { return nullptr; }
 
-    // The entry that Lisp means: by its name, or by its text, the first one of that text. -1 for none.
+    // Both at once.
+    Spot show(int index, int column) const;
+    // The entry that Lisp means: by its name, or by its text, the first one of that text; in a tree by a list
+    // of the texts from the root to it, too. -1 for none.
     int find(lisp::Value item) const;
+
+  private:
+    int findPath(lisp::Value texts) const;
 };
 
 // Null for a control that is no list.

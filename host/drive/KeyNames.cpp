@@ -58,3 +58,9 @@ std::optional<KeyStroke> parseKeyStroke(std::wstring_view text) {
     stroke.virtualKey = *key;
     return stroke;
 }
+
+std::optional<KeyStroke> parseHeldKeys(std::wstring_view text) {
+    std::optional<KeyStroke> stroke = parseKeyStroke(std::wstring(text) + L"+a");
+    if (stroke) stroke->virtualKey = 0;
+    return stroke;
+}

@@ -17,3 +17,6 @@ struct KeyStroke {
 // Reads `ENTER`, `Ctrl+A`, `shift+tab`, `Alt+F4`: a key's name, behind the names Shift, Ctrl and Alt in any
 // order, joined by `+`; letter case does not count. A letter or a digit names itself. Nothing for other text.
 std::optional<KeyStroke> parseKeyStroke(std::wstring_view text);
+
+// Reads `Shift`, `Ctrl+Shift` and the like, with which the mouse is used; the virtual key is 0.
+std::optional<KeyStroke> parseHeldKeys(std::wstring_view text);

@@ -1,5 +1,7 @@
 #include "host/drive/Keyboard.h"
 
+#include "host/drive/Player.h"
+
 namespace {
 
 constexpr BYTE KEY_DOWN = 0x80;
@@ -13,7 +15,7 @@ constexpr LPARAM WAS_DOWN = LPARAM(1) << 30;
 constexpr LPARAM RELEASED = LPARAM(1) << 31;
 
 // Posted keys leave the thread's keyboard state alone, where programs look for Shift, Ctrl and Alt.
-void hold(const KeyStroke& stroke, BYTE state) {
+void setKeys(const KeyStroke& stroke, BYTE state) {
     BYTE keys[256];
     GetKeyboardState(keys);
     const auto set = [&](int both, int left) { keys[both] = keys[left] = state; };
@@ -30,14 +32,22 @@ void typeText(HWND window, std::wstring_view text) {
 }
 
 void pressKey(HWND window, const KeyStroke& stroke) {
-    hold(stroke, KEY_DOWN);
     const auto key = static_cast<WPARAM>(stroke.virtualKey);
     const LPARAM scan = LPARAM(MapVirtualKeyW(stroke.virtualKey, MAPVK_VK_TO_VSC)) << 16 | 1;
     const bool system = stroke.alt && !stroke.control;
     const LPARAM alt = system ? ALT_HELD : 0;
+    setKeys(stroke, KEY_DOWN);
     PostMessageW(window, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key, scan | alt);
     if (stroke.virtualKey == VK_F1 && !stroke.alt) PostMessageW(window, WM_KEYF1, 0, 0);
-    PostMessageW(window, system ? WM_SYSKEYUP : WM_KEYUP, key, scan | alt | WAS_DOWN | RELEASED);
+    player().steps().add(nullptr, [=] {
+        const HWND focus = GetFocus();
+        if (focus)
+            PostMessageW(focus, system ? WM_SYSKEYUP : WM_KEYUP, key, scan | alt | WAS_DOWN | RELEASED);
+    });
+    player().steps().add(nullptr, [=] { setKeys(stroke, 0); });
 }
 
-void releaseHeldKeys() { hold({.virtualKey = 0, .shift = true, .control = true, .alt = true}, 0); }
+void holdKeys(const KeyStroke& stroke) {
+    setKeys(stroke, KEY_DOWN);
+    player().steps().add(nullptr, [=] { setKeys(stroke, 0); });
+}

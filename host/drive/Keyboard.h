@@ -10,8 +10,10 @@
 // Types the characters into `window`.
 void typeText(HWND window, std::wstring_view text);
 
-// Presses and releases a key in `window`. The keys held meanwhile stay down until releaseHeldKeys.
+// Presses a key in `window`, and lets go of it in the next idle moment, where the focus is then: so the
+// release comes behind the character that the press makes. Meanwhile the keys that it is pressed with are
+// held.
 void pressKey(HWND window, const KeyStroke& stroke);
 
-// Lets go of Shift, Ctrl and Alt; to be called when the loop has handled the strokes.
-void releaseHeldKeys();
+// Holds the stroke's Shift, Ctrl and Alt until the next idle moment; its own key isn't pressed.
+void holdKeys(const KeyStroke& stroke);

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "host/drive/Items.h"
+#include "host/drive/Pairs.h"
 #include "host/services/Texts.h"
 
 namespace {
@@ -53,27 +54,33 @@ lisp::Value controlsOf(lisp::Interpreter& lisp, HWND dialog) {
     return list.list();
 }
 
-// An association list that grows pair by pair.
-class Pairs {
-  public:
-    explicit Pairs(lisp::Interpreter& lisp) : m_lisp(lisp), m_pairs(lisp) {}
-
-    void add(std::u16string_view name, lisp::Value value) {
-        m_pairs.add(m_lisp.cons(m_lisp.string(name), value));
-    }
-    lisp::Value list() { return m_pairs.list(); }
-
-  private:
-    lisp::Interpreter& m_lisp;
-    lisp::ListBuilder m_pairs;
-};
-
 lisp::Value selectedOf(lisp::Interpreter& lisp, HWND window) {
     lisp::ListBuilder list(lisp);
     if (const auto items = itemsOf(window)) {
         for (const int index : items->selected()) list.add(items->name(index));
     }
     return list.list();
+}
+
+lisp::Value pathList(lisp::Interpreter& lisp, const TreeLook& tree, int index) {
+    lisp::ListBuilder texts(lisp);
+    for (const std::wstring& text : tree.path(index)) texts.add(lisp.string(lispText(text)));
+    return texts.list();
+}
+
+void addTree(Pairs& look, lisp::Interpreter& lisp, const Items& items, const TreeLook& tree) {
+    const std::vector<int> selected = items.selected();
+    look.add(u"path", selected.empty() ? lisp::Value() : pathList(lisp, tree, selected.front()));
+    lisp::ListBuilder open(lisp), images(lisp), checked(lisp);
+    for (int i = 0; i < items.count(); ++i) {
+        if (!items.line(i)) continue;
+        images.add(number(tree.image(i)));
+        if (tree.isOpen(i)) open.add(pathList(lisp, tree, i));
+        if (tree.isChecked(i)) checked.add(pathList(lisp, tree, i));
+    }
+    look.add(u"expanded", open.list());
+    look.add(u"images", images.list());
+    look.add(u"checks", checked.list());
 }
 
 }  // namespace
@@ -89,6 +96,8 @@ lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
     look.add(u"rect", rectOf(lisp, window, tile.dialog()));
     look.add(u"selected", selectedOf(lisp, window));
     look.add(u"gridlines", lisp::Value::truth(hasGridLines(window)));
+    if (const auto items = itemsOf(window); items && items->tree())
+        addTree(look, lisp, *items, *items->tree());
     return look.list();
 }
 

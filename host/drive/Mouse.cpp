@@ -1,9 +1,104 @@
 #include "host/drive/Mouse.h"
 
+#include <algorithm>
+#include <deque>
+#include <vector>
+
+#include "host/drive/MessageBoxes.h"
+
 namespace {
 
-void post(const Spot& spot, UINT message, WPARAM buttons) {
-    PostMessageW(spot.window, message, buttons, MAKELPARAM(spot.point.x, spot.point.y));
+struct Posted {
+    HWND window;
+    UINT message;
+    WPARAM w;
+    LPARAM l;
+
+    bool operator==(const Posted&) const = default;
+    void post() const { PostMessageW(window, message, w, l); }
+};
+
+bool isRelease(UINT message) { return message == WM_LBUTTONUP || message == WM_RBUTTONUP; }
+
+// The dialog that a window stands in; the list of a combo box has one as its owner.
+HWND dialogOf(HWND window) {
+    HWND at = GetAncestor(window, GA_ROOT);
+    while (at && !isSystemDialog(at)) at = GetWindow(at, GW_OWNER);
+    return at;
+}
+
+// Another dialog or a message box stands before the window's own; not `going`, which is on its way out.
+bool isBlocked(HWND window, HWND going) {
+    const HWND dialog = dialogOf(window);
+    const HWND active = GetActiveWindow();
+    const bool otherIsActive = active && active != dialog && active != going && isSystemDialog(active);
+    return dialog && (otherIsActive || !IsWindowEnabled(dialog));
+}
+
+// Watches what the drive has posted until all of it was taken from the queue: so loops pay for the watch only
+// while the mouse is at work.
+class PostedMouse {
+  public:
+    void post(const Posted& posted) {
+        std::erase_if(m_waiting, [](const Posted& old) { return !IsWindow(old.window); });
+        if (!m_hook) m_hook = SetWindowsHookExW(WH_GETMESSAGE, &messageHook, nullptr, GetCurrentThreadId());
+        m_waiting.push_back(posted);
+        posted.post();
+    }
+
+    void deliverHeld(HWND going) {
+        const std::vector<Posted> held = std::move(m_held);
+        m_held.clear();
+        for (const Posted& release : held) {
+            if (!IsWindow(release.window)) continue;
+            if (isBlocked(release.window, going)) {
+                m_held.push_back(release);
+            } else {
+                post(release);
+            }
+        }
+    }
+
+  private:
+    static LRESULT CALLBACK messageHook(int code, WPARAM removed, LPARAM l) noexcept;
+
+    // The message leaves the queue. A press doesn't reach a window that can't be worked.
+    void taken(MSG& message) {
+        const auto found = std::find(m_waiting.begin(), m_waiting.end(),
+                                     Posted{message.hwnd, message.message, message.wParam, message.lParam});
+        if (found == m_waiting.end()) return;
+        const Posted posted = *found;
+        m_waiting.erase(found);
+        if (m_waiting.empty()) {
+            UnhookWindowsHookEx(m_hook);
+            m_hook = nullptr;
+        }
+        const bool isStopped = isBlocked(posted.window, nullptr);
+        const bool isMove = posted.message == WM_MOUSEMOVE;
+        if (!isMove && !isRelease(posted.message)) m_pressLost = isStopped;
+        if (!m_pressLost && !isStopped) return;
+        if (!m_pressLost && !isMove) m_held.push_back(posted);
+        message.message = WM_NULL;
+    }
+
+    std::deque<Posted> m_waiting;
+    std::vector<Posted> m_held;
+    HHOOK m_hook = nullptr;
+    bool m_pressLost = false;
+};
+
+PostedMouse& mouse() {
+    static PostedMouse instance;
+    return instance;
+}
+
+LRESULT CALLBACK PostedMouse::messageHook(int code, WPARAM removed, LPARAM l) noexcept {
+    if (code == HC_ACTION && removed & PM_REMOVE) mouse().taken(*reinterpret_cast<MSG*>(l));
+    return CallNextHookEx(nullptr, code, removed, l);
+}
+
+void post(const Spot& spot, UINT message, WPARAM keys) {
+    mouse().post({spot.window, message, keys, MAKELPARAM(spot.point.x, spot.point.y)});
 }
 
 }  // namespace
@@ -14,29 +109,39 @@ Spot middleOf(HWND window) {
     return {window, {client.right / 2, client.bottom / 2}};
 }
 
-void hold(const Spot& spot) { post(spot, WM_LBUTTONDOWN, MK_LBUTTON); }
+bool isInView(const Spot& spot) {
+    RECT client;
+    return GetClientRect(spot.window, &client) && PtInRect(&client, spot.point);
+}
 
-void letGo(const Spot& spot) { post(spot, WM_LBUTTONUP, 0); }
+void hold(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONDOWN, MK_LBUTTON | keys); }
+
+void letGo(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONUP, keys); }
 
 // Down and up are posted together: list and tree views run a loop of their own on the first until they see
 // the second.
-void click(const Spot& spot) {
-    post(spot, WM_LBUTTONDOWN, MK_LBUTTON);
-    post(spot, WM_LBUTTONUP, 0);
+void click(const Spot& spot, WPARAM keys) {
+    post(spot, WM_LBUTTONDOWN, MK_LBUTTON | keys);
+    post(spot, WM_LBUTTONUP, keys);
 }
 
-void controlClick(const Spot& spot) {
-    post(spot, WM_LBUTTONDOWN, MK_LBUTTON | MK_CONTROL);
-    post(spot, WM_LBUTTONUP, MK_CONTROL);
+void doubleClick(const Spot& spot, WPARAM keys) {
+    click(spot, keys);
+    post(spot, WM_LBUTTONDBLCLK, MK_LBUTTON | keys);
+    post(spot, WM_LBUTTONUP, keys);
 }
 
-void doubleClick(const Spot& spot) {
-    click(spot);
-    post(spot, WM_LBUTTONDBLCLK, MK_LBUTTON);
-    post(spot, WM_LBUTTONUP, 0);
+void rightClick(const Spot& spot, WPARAM keys) {
+    post(spot, WM_RBUTTONDOWN, MK_RBUTTON | keys);
+    post(spot, WM_RBUTTONUP, keys);
 }
 
-void rightClick(const Spot& spot) {
-    post(spot, WM_RBUTTONDOWN, MK_RBUTTON);
-    post(spot, WM_RBUTTONUP, 0);
+void sweep(const Spot& from, const Spot& to, WPARAM keys) {
+    const POINT between = {(from.point.x + to.point.x) / 2, (from.point.y + to.point.y) / 2};
+    post(from, WM_LBUTTONDOWN, MK_LBUTTON | keys);
+    post({from.window, between}, WM_MOUSEMOVE, MK_LBUTTON | keys);
+    post(to, WM_MOUSEMOVE, MK_LBUTTON | keys);
+    post(to, WM_LBUTTONUP, keys);
 }
+
+void deliverHeldReleases(HWND going) { mouse().deliverHeld(going); }

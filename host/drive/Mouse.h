@@ -11,12 +11,21 @@ struct Spot {
 };
 
 Spot middleOf(HWND window);
+// Whether the spot lies within its window's client area.
+bool isInView(const Spot& spot);
 
+// `keys` are those of MK_SHIFT and MK_CONTROL that are held meanwhile.
 // Holds the left button down there, until it is let go.
-void hold(const Spot& spot);
-void letGo(const Spot& spot);
-void click(const Spot& spot);
-// With Ctrl held: adds the entry to the selected ones, or takes it out.
-void controlClick(const Spot& spot);
-void doubleClick(const Spot& spot);
-void rightClick(const Spot& spot);
+void hold(const Spot& spot, WPARAM keys);
+void letGo(const Spot& spot, WPARAM keys);
+void click(const Spot& spot, WPARAM keys);
+void doubleClick(const Spot& spot, WPARAM keys);
+void rightClick(const Spot& spot, WPARAM keys);
+// Presses the left button at the first spot, moves to the second one and lets go there. Of one window.
+void sweep(const Spot& from, const Spot& to, WPARAM keys);
+
+// A press may open a message box or another dialog before it was handled to its end, whose loop then takes
+// the release from the queue while the pressed window can't be worked. Such a release is held back, and
+// delivered when that window's dialog can be worked again. To be called in idle moments, and with the window
+// that goes.
+void deliverHeldReleases(HWND going);

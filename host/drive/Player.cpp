@@ -5,6 +5,7 @@
 
 #include "host/documents/Documents.h"
 #include "host/drive/MessageBoxes.h"
+#include "host/drive/Mouse.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
 
@@ -56,12 +57,20 @@ bool Player::isPluginDialog(HWND dialog) const {
 
 void Player::dialogIdle(HWND dialog) {
     host().console().flush();
-    if (const auto work = std::exchange(m_nextIdle, nullptr)) work();
-    if (isPluginDialog(dialog)) {
-        play(dialog);
-    } else if (isSystemDialog(dialog)) {
-        answer(dialog);
+    deliverHeldReleases(nullptr);
+    const bool isPlugins = isPluginDialog(dialog);
+    if (!isPlugins && isSystemDialog(dialog)) answer(dialog);
+    if (!doStep(dialog) && isPlugins) play(dialog);
+}
+
+bool Player::doStep(HWND dialog) {
+    try {
+        if (!m_steps.doNext(dialog)) return false;
+    } catch (const lisp::Error& error) {
+        report(m_progress.place() + L"\n  " + wideText(error.text()), LISP_ERROR);
     }
+    wakeAgain(dialog, false);
+    return true;
 }
 
 Player::Run& Player::runOf(HWND dialog) {
@@ -130,6 +139,14 @@ void Player::closeLeftOpen(Run& run) {
     PostMessageW(run.dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
+void Player::act(HWND dialog, Steps::Work work) {
+    if (m_steps.isEmpty()) {
+        work();
+    } else {
+        m_steps.add(dialog, std::move(work));
+    }
+}
+
 void Player::messageBoxShown(HWND box) { answer(box); }
 
 void Player::answer(HWND box) {
@@ -142,11 +159,16 @@ void Player::answer(HWND box) {
 
 void Player::windowGone(HWND window) {
     std::erase(m_answered, window);
+    m_steps.forget(window);
+    deliverHeldReleases(window);
     const auto found =
         std::find_if(m_runs.begin(), m_runs.end(), [=](const Run& run) { return run.dialog == window; });
     if (found == m_runs.end()) return;
     const Run run = *found;
     m_runs.erase(found);
+    // Keys don't stay down until some later dialog is idle.
+    if (m_runs.empty())
+        while (m_steps.doNext(nullptr)) continue;
     if (!run.session || run.session->isOver()) return;
     report(L"session " + quoted(run.session->dialog()) + L": the dialog ended before step " +
                std::to_wstring(run.session->step() + 1) + L": " + printed(run.session->nextForm()),

@@ -3,7 +3,6 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,6 +12,7 @@
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/Progress.h"
 #include "host/drive/Sessions.h"
+#include "host/drive/Steps.h"
 
 class Player : public DialogObserver {
   public:
@@ -28,8 +28,10 @@ class Player : public DialogObserver {
     HWND playedDialog() const { return m_evaluating.empty() ? nullptr : m_evaluating.back(); }
     // Has the form at hand evaluated again at the next idle moment; for ui_wait.
     void repeatForm() { m_repeat = true; }
-    // Done at the next idle moment, before anything else.
-    void atNextIdle(std::function<void()> work) { m_nextIdle = std::move(work); }
+    // Has the work done in the dialog at once, or behind what the form at hand has left to do.
+    void act(HWND dialog, Steps::Work work);
+    // What the form at hand has left to do before the next one.
+    Steps& steps() { return m_steps; }
 
     // How the last message box looked that was answered.
     const BoxLook& lastBox() const { return m_lastBox; }
@@ -50,6 +52,7 @@ class Player : public DialogObserver {
 
     bool isPluginDialog(HWND dialog) const;
     Run& runOf(HWND dialog);
+    bool doStep(HWND dialog);
     void play(HWND dialog);
     void evaluate(HWND dialog, Session& session);
     void wakeAgain(HWND dialog, bool waiting);
@@ -65,7 +68,7 @@ class Player : public DialogObserver {
     std::vector<HWND> m_evaluating;
     std::vector<HWND> m_answered;
     BoxLook m_lastBox;
-    std::function<void()> m_nextIdle;
+    Steps m_steps;
     std::optional<IdleWatch> m_watch;
     Progress m_progress;
 };

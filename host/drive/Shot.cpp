@@ -19,35 +19,89 @@ struct Picture {
     UINT rowBytes() const { return static_cast<UINT>(width) * 4; }
 };
 
-// Copying from the window's own surface gets its children too, and what other windows cover.
-Picture pictureOf(HWND window) {
-    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+// What a picture is copied into.
+class PictureSurface {
+  public:
+    PictureSurface(HDC like, SIZE size) : m_dc(CreateCompatibleDC(like)), m_size(size) {
+        BITMAPINFO info{};
+        info.bmiHeader.biSize = sizeof info.bmiHeader;
+        info.bmiHeader.biWidth = size.cx;
+        info.bmiHeader.biHeight = -size.cy;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        m_section = CreateDIBSection(like, &info, DIB_RGB_COLORS, &m_bits, nullptr, 0);
+        if (m_section) m_previous = SelectObject(m_dc, m_section);
+    }
+    ~PictureSurface() {
+        if (m_section) SelectObject(m_dc, m_previous);
+        DeleteObject(m_section);
+        DeleteDC(m_dc);
+    }
+    PictureSurface(const PictureSurface&) = delete;
+    PictureSurface& operator=(const PictureSurface&) = delete;
+
+    HDC dc() const { return m_dc; }
+    // Empty where there was no memory for it.
+    Picture picture() const {
+        Picture picture{m_size.cx, m_size.cy, {}};
+        if (!m_section) return picture;
+        GdiFlush();
+        const auto* first = static_cast<const BYTE*>(m_bits);
+        picture.pixels.assign(first, first + static_cast<size_t>(picture.rowBytes()) * m_size.cy);
+        return picture;
+    }
+
+  private:
+    HDC m_dc;
+    SIZE m_size;
+    HBITMAP m_section;
+    HGDIOBJ m_previous = nullptr;
+    void* m_bits = nullptr;
+};
+
+void moveTo(HWND window, POINT at) {
+    SetWindowPos(window, nullptr, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// Copies the part of the window that is on the screen.
+void copyVisible(HWND window, SIZE size, HDC to, RECT screen) {
     RECT rect;
     GetWindowRect(window, &rect);
-    Picture picture{rect.right - rect.left, rect.bottom - rect.top, {}};
-
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = picture.width;
-    info.bmiHeader.biHeight = -picture.height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    RECT part;
+    if (!IntersectRect(&part, &rect, &screen)) return;
+    OffsetRect(&part, -rect.left, -rect.top);
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     const HDC source = GetWindowDC(window);
-    const HDC copy = CreateCompatibleDC(source);
-    void* bits = nullptr;
-    const HBITMAP section = CreateDIBSection(source, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    if (section) {
-        const HGDIOBJ previous = SelectObject(copy, section);
-        BitBlt(copy, 0, 0, picture.width, picture.height, source, 0, 0, SRCCOPY);
-        GdiFlush();
-        const auto* first = static_cast<const BYTE*>(bits);
-        picture.pixels.assign(first, first + static_cast<size_t>(picture.rowBytes()) * picture.height);
-        SelectObject(copy, previous);
-        DeleteObject(section);
-    }
-    DeleteDC(copy);
+    BitBlt(to, part.left, part.top, std::min(part.right, size.cx) - part.left,
+           std::min(part.bottom, size.cy) - part.top, source, part.left, part.top, SRCCOPY);
     ReleaseDC(window, source);
-    return picture;
+}
+
+// Copying from the window's own surface gets its children too, and what other windows cover, but not what
+// lies off the screen: a window that isn't wholly on it is pushed across it, and back to where it was.
+Picture pictureOf(HWND window) {
+    RECT rect;
+    GetWindowRect(window, &rect);
+    const SIZE size = {rect.right - rect.left, rect.bottom - rect.top};
+    const POINT corner = {GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_YVIRTUALSCREEN)};
+    const SIZE room = {GetSystemMetrics(SM_CXVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN)};
+    const RECT screen = {corner.x, corner.y, corner.x + room.cx, corner.y + room.cy};
+    const HDC like = GetDC(nullptr);
+    const PictureSurface surface(like, size);
+    ReleaseDC(nullptr, like);
+    RECT whole;
+    if (UnionRect(&whole, &rect, &screen) && EqualRect(&whole, &screen)) {
+        copyVisible(window, size, surface.dc(), screen);
+        return surface.picture();
+    }
+    for (LONG top = 0; top < size.cy; top += room.cy) {
+        for (LONG left = 0; left < size.cx; left += room.cx) {
+            moveTo(window, {corner.x - left, corner.y - top});
+            copyVisible(window, size, surface.dc(), screen);
+        }
+    }
+    moveTo(window, {rect.left, rect.top});
+    return surface.picture();
 }
 
 // Holds a reference to a component's object.

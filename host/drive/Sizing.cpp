@@ -43,6 +43,11 @@ RECT moved(RECT rect, LRESULT part, SIZE by) {
     return rect;
 }
 
+// Whether the mouse reaches the window and the system would size it.
+bool canBeSized(HWND dialog) {
+    return IsWindowVisible(dialog) && IsWindowEnabled(dialog) && !IsZoomed(dialog) && !IsIconic(dialog);
+}
+
 }  // namespace
 
 const Border* borderNamed(std::wstring_view name) {
@@ -55,6 +60,7 @@ const Border* borderNamed(std::wstring_view name) {
 // In place of the system's own loop, which follows the one pointer that all programs share: what it asks and
 // tells for a drag of a single step.
 bool dragBorder(HWND dialog, const Border& border, SIZE by) {
+    if (!canBeSized(dialog)) return false;
     const POINT hold = holdOf(dialog, border);
     const LRESULT part = SendMessageW(dialog, WM_NCHITTEST, 0, MAKELPARAM(hold.x, hold.y));
     if (part < HTSIZEFIRST || part > HTSIZELAST) return false;

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <span>
 
+#include "host/drive/ClickFunctions.h"
 #include "host/drive/Items.h"
 #include "host/drive/Keyboard.h"
 #include "host/drive/Look.h"
@@ -26,54 +28,9 @@ std::wstring wideArgument(Call& call, size_t index) { return wideText(call.text(
 
 Value text(Call& call, const std::wstring& text) { return call.lisp.string(lispText(text)); }
 
-Spot entrySpot(Call& call, const Tile& tile, Value item) {
-    const auto items = itemsOf(tile.window());
-    if (!items) tile.fail(L"it is no list");
-    const int index = items->find(item);
-    if (index < 0) tile.fail(L"it has no item " + wideText(call.lisp.print(item)));
-    return items->show(index, call.integerOr(2, 0));
-}
-
-// Where to click for "tile [item [column]]": the entry, or the middle of the tile where none is named.
-Spot spotOf(Call& call, const Tile& tile) {
-    return call.has(1) ? entrySpot(call, tile, call[1]) : middleOf(tile.window());
-}
-
-template <void (*Press)(const Spot&)>
-Value press(Call& call) {
-    const Tile tile(call, 0);
-    tile.mustBeWorkable();
-    Press(spotOf(call, tile));
-    return Value::none();
-}
-
-// (ui_pick tile item [column]); a list of items is picked with Ctrl held from the second one on.
-Value pick(Call& call) {
-    if (!call[1].isCons()) return press<&click>(call);
-    const Tile tile(call, 0);
-    tile.mustBeWorkable();
-    auto clickNext = &click;
-    for (const Value item : lisp::Elements(call[1])) {
-        clickNext(entrySpot(call, tile, item));
-        clickNext = &controlClick;
-    }
-    return Value::none();
-}
-
 // (ui_session "NAME" '(form ...))
 Value session(Call& call) {
     player().queue(std::make_unique<Session>(call.lisp, wideArgument(call, 0), call.list(1)));
-    return Value::none();
-}
-
-// (ui_header tile column)
-Value header(Call& call) {
-    const Tile tile(call, 0);
-    tile.mustBeWorkable();
-    const int column = call.integer(1);
-    const std::optional<Spot> spot = headerSpot(tile.window(), column);
-    if (!spot) tile.fail(L"it has no header of column " + std::to_wstring(column));
-    click(*spot);
     return Value::none();
 }
 
@@ -84,58 +41,74 @@ HWND typingWindow(const Tile& tile) {
     return isCombo ? parts.hwndItem : tile.window();
 }
 
-// (ui_type tile "text"): as if the person had marked what stood there.
-Value type(Call& call) {
-    const Tile tile(call, 0);
-    tile.mustBeWorkable();
-    const std::wstring characters = wideArgument(call, 1);
-    const HWND window = typingWindow(tile);
-    // A click where it has the focus already would be the second half of a double click.
-    if (GetFocus() != window) click(middleOf(window));
+void retype(HWND window, const std::wstring& characters) {
     PostMessageW(window, EM_SETSEL, 0, -1);
     if (characters.empty()) {
         pressKey(window, {VK_DELETE});
     } else {
         typeText(window, characters);
     }
+}
+
+void typeInto(const Tile& tile, const std::wstring& characters) {
+    const HWND window = typingWindow(tile);
+    // A click where it has the focus already would be the second half of a double click.
+    if (GetFocus() == window) return retype(window, characters);
+    click(middleOf(window), 0);
+    player().steps().add(tile.dialog(), [=] {
+        tile.mustBeWorkable();
+        retype(window, characters);
+    });
+}
+
+// (ui_type tile "text"): as if the person had marked what stood there.
+Value type(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    player().act(tile.dialog(), [=, characters = wideArgument(call, 1)] { typeInto(tile, characters); });
     return Value::none();
 }
 
-// The window that gets what comes from the keyboard: that of the tile of argument `index`, which takes the
-// focus as by the Tab key (a button becomes the default one, the text of an edit box is selected); without
-// one, where the focus is.
-HWND keyboardWindow(Call& call, size_t index) {
+// Has `work` done with the window that gets what comes from the keyboard: that of the tile of argument 1,
+// which takes the focus as by the Tab key (a button becomes the default one, the text of an edit box is
+// selected); without one, where the focus is. Where nothing has it, the keyboard reaches nobody.
+template <class Work>
+void atKeyboard(Call& call, Work work) {
     const HWND dialog = runningDialog();
-    if (!call.has(index)) {
-        const HWND focus = GetFocus();
-        return focus && IsChild(dialog, focus) ? focus : dialog;
+    if (!call.has(1)) {
+        player().act(dialog, [=] {
+            if (const HWND focus = GetFocus()) work(focus);
+        });
+        return;
     }
-    const Tile tile(call, index);
+    const Tile tile(call, 1);
     tile.mustBeWorkable();
-    const HWND window = typingWindow(tile);
-    if (GetFocus() != window) SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
-    return window;
+    player().act(dialog, [=] {
+        const HWND window = typingWindow(tile);
+        if (GetFocus() != window) SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
+        work(window);
+    });
 }
 
 // (ui_key "ENTER" [tile])
 Value key(Call& call) {
     const std::optional<KeyStroke> stroke = parseKeyStroke(wideArgument(call, 0));
     if (!stroke) call.expected(0, "the name of a key");
-    pressKey(keyboardWindow(call, 1), *stroke);
-    player().atNextIdle(&releaseHeldKeys);
+    atKeyboard(call, [=](HWND window) { pressKey(window, *stroke); });
     return Value::none();
 }
 
 // (ui_char "text" [tile])
 Value character(Call& call) {
     const std::wstring characters = wideArgument(call, 0);
-    typeText(keyboardWindow(call, 1), characters);
+    atKeyboard(call, [=](HWND window) { typeText(window, characters); });
     return Value::none();
 }
 
 // (ui_close)
 Value close(Call&) {
-    PostMessageW(runningDialog(), WM_SYSCOMMAND, SC_CLOSE, 0);
+    const HWND dialog = runningDialog();
+    player().act(dialog, [=] { PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0); });
     return Value::none();
 }
 
@@ -172,7 +145,8 @@ Value items(Call& call) {
     const auto items = itemsOf(tile.window());
     if (!items) tile.fail(L"it is no list");
     lisp::ListBuilder list(call.lisp);
-    for (int i = 0; i < items->count(); ++i) list.add(text(call, items->text(i)));
+    for (int i = 0; i < items->count(); ++i)
+        if (const auto line = items->line(i)) list.add(text(call, *line));
     return list.list();
 }
 
@@ -238,46 +212,22 @@ Value shot(Call& call) {
     return text(call, path.wstring());
 }
 
-struct UiFunction {
-    const char16_t* name;
-    lisp::NativeFunction function;
-    int minimum;
-    int maximum;
-};
-
 constexpr UiFunction FUNCTIONS[] = {
-    {u"ui_session", &session, 2, 2},
-    {u"ui_click", &press<&click>, 1, 1},
-    {u"ui_hold", &press<&hold>, 1, 1},
-    {u"ui_release", &press<&letGo>, 1, 1},
-    {u"ui_dblclick", &press<&doubleClick>, 1, 3},
-    {u"ui_rclick", &press<&rightClick>, 1, 3},
-    {u"ui_pick", &pick, 2, 3},
-    {u"ui_header", &header, 2, 2},
-    {u"ui_type", &type, 2, 2},
-    {u"ui_key", &key, 1, 2},
-    {u"ui_char", &character, 1, 2},
-    {u"ui_close", &close, 0, 0},
-    {u"ui_size", &size, 2, 2},
-    {u"ui_drag", &drag, 3, 3},
-    {u"ui_wait", &wait, 1, 1},
-    {u"ui_text", &textOfTile, 1, 1},
-    {u"ui_items", &items, 1, 1},
-    {u"ui_look", &look, 0, 1},
-    {u"ui_pixel", &pixel, 3, 3},
-    {u"ui_box", &box, 0, 0},
-    {u"ui_columns", &columns, 1, 1},
-    {u"ui_title", &title, 0, 0},
-    {u"ui_dialogs", &dialogs, 0, 0},
-    {u"ui_alerts", &alerts, 0, 0},
-    {u"ui_shot", &shot, 1, 1},
+    {u"ui_session", &session, 2, 2}, {u"ui_type", &type, 2, 2},       {u"ui_key", &key, 1, 2},
+    {u"ui_char", &character, 1, 2},  {u"ui_close", &close, 0, 0},     {u"ui_size", &size, 2, 2},
+    {u"ui_drag", &drag, 3, 3},       {u"ui_wait", &wait, 1, 1},       {u"ui_text", &textOfTile, 1, 1},
+    {u"ui_items", &items, 1, 1},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
+    {u"ui_box", &box, 0, 0},         {u"ui_columns", &columns, 1, 1}, {u"ui_title", &title, 0, 0},
+    {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},   {u"ui_shot", &shot, 1, 1},
 };
 
 }  // namespace
 
 void defineUiFunctions(lisp::Interpreter& lisp, const std::wstring& shotsFolder) {
     g_shotsFolder = shotsFolder;
-    for (const UiFunction& function : FUNCTIONS) {
-        lisp.defineNative(function.name, function.function, nullptr, function.minimum, function.maximum);
+    for (const std::span<const UiFunction> table :
+         {std::span<const UiFunction>(FUNCTIONS), clickFunctions()}) {
+        for (const UiFunction& function : table)
+            lisp.defineNative(function.name, function.function, nullptr, function.minimum, function.maximum);
     }
 }

@@ -58,7 +58,7 @@
         (ui_rclick "LST1" 2)
         (want T (has-focus "LST1"))))))
 
-(test "Each key that is released tells the selected rows, once"
+(test "Each key that is released in it tells the selected rows, once; the Tab that leaves is released elsewhere"
   '((in-list nil
       '((ui_key "F2" "LST1")
         (want '(("lst1" "" 5)) (told))
@@ -67,8 +67,11 @@
         (ui_key "SHIFT+DOWN")
         (want '(("lst1" "0 1" 5)) (told))
         (ui_key "TAB")
-        (want '(("lst1" "0 1" 5)) (told))
-        (want nil (has-focus "LST1"))))))
+        (want nil (has-focus "LST1"))
+        (want nil (told))
+        (ui_key "SHIFT+TAB")
+        (want T (has-focus "LST1"))
+        (want '(("lst1" "0 1" 5)) (told))))))
 
 (test "Typing a name goes to its row"
   '((in-list nil

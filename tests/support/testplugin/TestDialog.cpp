@@ -14,21 +14,25 @@ bool g_stubborn;
 
 HWND item(int id) { return GetDlgItem(g_window, id); }
 
-HTREEITEM addBranch(HTREEITEM parent, const wchar_t* text) {
+HTREEITEM addBranch(HTREEITEM parent, const wchar_t* text, int image) {
     TVINSERTSTRUCTW branch{};
     branch.hParent = parent;
     branch.hInsertAfter = TVI_LAST;
-    branch.item.mask = TVIF_TEXT;
+    branch.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    branch.item.iImage = image;
+    branch.item.iSelectedImage = image + 10;
     branch.item.pszText = const_cast<wchar_t*>(text);
     const LRESULT made = SendMessageW(item(114), TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&branch));
     return reinterpret_cast<HTREEITEM>(made);
 }
 
 void fill() {
-    const HTREEITEM metals = addBranch(TVI_ROOT, L"metals");
-    addBranch(metals, L"copper");
-    addBranch(metals, L"tin");
-    addBranch(TVI_ROOT, L"gases");
+    // As a style of the template it would come before the tree can make its boxes.
+    SetWindowLongW(item(114), GWL_STYLE, GetWindowLongW(item(114), GWL_STYLE) | TVS_CHECKBOXES);
+    const HTREEITEM metals = addBranch(TVI_ROOT, L"metals", 0);
+    addBranch(metals, L"copper", 1);
+    addBranch(metals, L"tin", 2);
+    addBranch(TVI_ROOT, L"gases", 3);
 }
 
 INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM w, LPARAM) {

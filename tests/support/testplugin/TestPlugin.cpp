@@ -153,6 +153,22 @@ int32_t addBareTab() {
     return RESULT_SET;
 }
 
+// Moves the dialog in front.
+int32_t move() {
+    const HostValue* x = hostGetArgs();
+    SetWindowPos(GetLastActivePopup(hostGetMainFrame()), nullptr, x->value.shortValue,
+                 x->next->value.shortValue, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    hostRetVoid();
+    return RESULT_SET;
+}
+
+// Takes the focus away from all windows.
+int32_t unfocus() {
+    SetFocus(nullptr);
+    hostRetVoid();
+    return RESULT_SET;
+}
+
 struct Row {
     const wchar_t* name;
     HostLispFunction handler;
@@ -178,6 +194,8 @@ constexpr Row ROWS[] = {
     {L"t_send", &send},
     {L"t_window", &window},
     {L"t_tab", &addBareTab},
+    {L"t_move", &move},
+    {L"t_unfocus", &unfocus},
 };
 constexpr int COUNT = ARRAYSIZE(ROWS);
 

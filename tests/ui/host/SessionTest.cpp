@@ -1,6 +1,9 @@
 // Sessions work a plain dialog with a control of each kind as a person would.
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+
 #include "tests/ui/host/HostProcess.h"
 
 namespace {
@@ -36,12 +39,33 @@ TEST(Session, EditBoxesAndCheckBoxesBehaveAsUnderAHand) {
 }
 
 // Those of lists are picked in the sessions of the dialogs that have them.
-TEST(Session, BranchesOfATreeArePickedByTextAndByHandle) {
+TEST(Session, BranchesOfATreeArePickedByTextByHandleAndByPath) {
     EXPECT_EQ(shown(R"((show (ui_items "tree"))
                        (ui_pick "tree" "tin") (setq tin (look "tree" "selected"))
+                       (show (ui_items "tree"))
                        (ui_pick "tree" "gases") (show (equal tin (look "tree" "selected")))
-                       (ui_pick "tree" (car tin)) (show (equal tin (look "tree" "selected"))))"),
-              "(\"metals\" \"copper\" \"tin\" \"gases\")\nnil\nT\n");
+                       (ui_pick "tree" (car tin)) (show (equal tin (look "tree" "selected")))
+                       (ui_pick "tree" '("metals" "copper")) (show (look "tree" "path")))"),
+              "(\"metals\" \"gases\")\n(\"metals\" \"\\tcopper\" \"\\ttin\" \"gases\")\nnil\nT\n"
+              "(\"metals\" \"copper\")\n");
+}
+
+TEST(Session, ATreesButtonsBoxesAndKeysAreWorked) {
+    EXPECT_EQ(shown(R"((ui_expand "tree" "metals") (show (look "tree" "expanded"))
+                       (show (look "tree" "path"))
+                       (ui_check "tree" '("metals" "tin")) (show (look "tree" "checks"))
+                       (ui_pick "tree" "copper") (show (look "tree" "images"))
+                       (ui_key "LEFT" "tree") (ui_key "LEFT") (show (ui_items "tree"))
+                       (ui_dblclick "tree" "metals") (show (look "tree" "expanded"))
+                       (ui_expand "tree" "metals") (ui_key "g") (show (look "tree" "path")))"),
+              "((\"metals\"))\n(\"metals\")\n((\"metals\" \"tin\"))\n(0 11 2 3)\n(\"metals\" \"gases\")\n"
+              "((\"metals\"))\n(\"gases\")\n");
+}
+
+TEST(Session, WithoutAFocusAKeyGoesNowhere) {
+    EXPECT_EQ(shown(R"((ui_click "check") (t_unfocus) (ui_key "SPACE") (ui_key "ENTER") (ui_char "x")
+                       (show (look "check" "checked")))"),
+              "T\n");
 }
 
 TEST(Session, WaitingFormsAreTriedAgain) {
@@ -56,7 +80,8 @@ TEST(Session, WhatAPersonCannotDoIsRefused) {
     const HostRun run =
         play(R"((ui_click "disabled") (ui_click "hidden") (ui_click "nobody") (ui_pick "edit" 1)
                                 (ui_pick "list" 99) (ui_key "QQ") (ui_header "edit" 1) (ui_drag "MIDDLE" 1 1)
-                                (ui_drag "GRIP" 1 1) (ui_click "ok"))");
+                                (ui_drag "GRIP" 1 1)
+                                (ui_expand "tree" "gases") (ui_pick "tree" '("gases" "tin")) (ui_click "ok"))");
     EXPECT_EQ(run.status, 1U);
     for (const char* why :
          {"step 1: (UI_CLICK \"disabled\")\n", "tile \"disabled\" of dialog \"Everything\": it is disabled\n",
@@ -65,6 +90,8 @@ TEST(Session, WhatAPersonCannotDoIsRefused) {
           "tile \"edit\" of dialog \"Everything\": it is no list\n",
           "tile \"list\" of dialog \"Everything\": it has no item 99\n",
           "expected the name of a key, got \"QQ\"\n",
+          "tile \"tree\" of dialog \"Everything\": item \"gases\" has no button to open or close it\n",
+          "tile \"tree\" of dialog \"Everything\": it has no item (\"gases\" \"tin\")\n",
           "tile \"edit\" of dialog \"Everything\": it has no header of column 1\n",
           "expected LEFT, TOP, RIGHT, BOTTOM or GRIP, got \"MIDDLE\"\n",
           "dialog \"Everything\" can't be sized there\n"}) {
@@ -107,6 +134,23 @@ TEST(Session, APictureShowsTheWholeWindow) {
         {L"--shots", L"C:\\"});
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(run.output, "C:\\every.png");
+}
+
+std::string contentOf(const char* path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Session, APictureShowsAlsoWhatLiesOffTheScreen) {
+    const HostRun run = runProgram(
+        "(ui_session \"everything\" '((t_move 100 100) (ui_shot \"on.png\") (t_move -100 900) (ui_shot "
+        "\"off.png\")"
+        "(princ (cdr (assoc \"rect\" (ui_look)))) (ui_close))) (t_dialog)",
+        {L"--shots", L"C:\\"});
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.output.find("(-100 900 "), 0U) << run.output;
+    EXPECT_FALSE(contentOf("C:\\on.png").empty());
+    EXPECT_TRUE(contentOf("C:\\on.png") == contentOf("C:\\off.png"));
 }
 
 }  // namespace

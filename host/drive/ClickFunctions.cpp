@@ -1,0 +1,188 @@
+#include "host/drive/ClickFunctions.h"
+
+#include <vector>
+
+#include "host/drive/Items.h"
+#include "host/drive/Keyboard.h"
+#include "host/drive/Mouse.h"
+#include "host/drive/Player.h"
+#include "host/drive/Tile.h"
+#include "host/lisp/Interpreter.h"
+#include "host/services/Texts.h"
+
+namespace {
+
+using lisp::Call;
+using lisp::Value;
+
+using Press = void (*)(const Spot&, WPARAM);
+
+constexpr KeyStroke NO_KEYS = {.virtualKey = 0};
+constexpr KeyStroke CONTROL = {.virtualKey = 0, .control = true};
+
+WPARAM mouseKeys(const KeyStroke& keys) {
+    return (keys.shift ? MK_SHIFT : 0) | (keys.control ? MK_CONTROL : 0);
+}
+
+// Some controls ask the message for the keys, and others the keyboard.
+void pressWith(Press press, const Spot& spot, const KeyStroke& keys) {
+    player().act(runningDialog(), [=] {
+        if (keys != NO_KEYS) holdKeys(keys);
+        press(spot, mouseKeys(keys));
+    });
+}
+
+// How many arguments there are without the name of held keys, which is the last one; none of those before
+// `first` is one.
+size_t countBeforeKeys(Call& call, size_t first) {
+    const size_t count = call.count();
+    return count > first && call[count - 1].isString() ? count - 1 : count;
+}
+
+KeyStroke heldKeys(Call& call, size_t first) {
+    const size_t at = countBeforeKeys(call, first);
+    if (at == call.count()) return NO_KEYS;
+    const std::optional<KeyStroke> keys = parseHeldKeys(wideText(call.text(at)));
+    if (!keys || keys->alt) call.expected(at, "SHIFT, CTRL or SHIFT+CTRL");
+    return *keys;
+}
+
+std::unique_ptr<Items> itemsIn(const Tile& tile) {
+    auto items = itemsOf(tile.window());
+    if (!items) tile.fail(L"it is no list");
+    return items;
+}
+
+int indexOf(Call& call, const Tile& tile, const Items& items, Value item) {
+    const int index = items.find(item);
+    if (index < 0) tile.fail(L"it has no item " + wideText(call.lisp.print(item)));
+    return index;
+}
+
+Spot entrySpot(Call& call, const Tile& tile, Value item, int column) {
+    const auto items = itemsIn(tile);
+    return items->show(indexOf(call, tile, *items, item), column);
+}
+
+// Where to press for "tile [item [column]]": the entry, or the middle of the tile where none is named.
+Spot spotOf(Call& call, const Tile& tile, size_t count) {
+    if (count < 2) return middleOf(tile.window());
+    return entrySpot(call, tile, call[1], count > 2 ? call.integerOr(2, 0) : 0);
+}
+
+// (ui_click tile [keys])
+template <Press press>
+Value pressMiddle(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    pressWith(press, middleOf(tile.window()), heldKeys(call, 1));
+    return Value::none();
+}
+
+// (ui_dblclick tile [item [column]] [keys])
+template <Press press>
+Value pressEntry(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    const KeyStroke keys = heldKeys(call, 2);
+    pressWith(press, spotOf(call, tile, countBeforeKeys(call, 2)), keys);
+    return Value::none();
+}
+
+// One after the other, with Ctrl held from the second one on.
+void pickAll(Call& call, const Tile& tile) {
+    const auto items = itemsIn(tile);
+    std::vector<int> indexes;
+    for (const Value item : lisp::Elements(call[1])) indexes.push_back(indexOf(call, tile, *items, item));
+    pressWith(&click, items->show(indexes.front(), 0), NO_KEYS);
+    for (size_t i = 1; i < indexes.size(); ++i) {
+        player().steps().add(tile.dialog(), [tile, index = indexes[i]] {
+            tile.mustBeWorkable();
+            pressWith(&click, itemsIn(tile)->show(index, 0), CONTROL);
+        });
+    }
+}
+
+// Two spots are reached in one movement if both are in view.
+void sweepTile(const Tile& tile, const Spot& from, const Spot& to, const KeyStroke& keys) {
+    if (!isInView(from) || !isInView(to)) tile.fail(L"its ends are not in view together");
+    player().act(tile.dialog(), [=] {
+        if (keys != NO_KEYS) holdKeys(keys);
+        sweep(from, to, mouseKeys(keys));
+    });
+}
+
+// (ui_pick tile item [column] [keys]); a list of items is picked one by one, but in a tree it is the path of
+// one.
+Value pick(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    const KeyStroke keys = heldKeys(call, 2);
+    const size_t count = countBeforeKeys(call, 2);
+    const auto items = itemsOf(tile.window());
+    if (call[1].isCons() && items && !items->tree()) {
+        pickAll(call, tile);
+    } else {
+        pressWith(&click, spotOf(call, tile, count), keys);
+    }
+    return Value::none();
+}
+
+// (ui_sweep tile from to [keys])
+Value sweepEntries(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    const KeyStroke keys = heldKeys(call, 3);
+    const auto items = itemsIn(tile);
+    const int from = indexOf(call, tile, *items, call[1]);
+    const int to = indexOf(call, tile, *items, call[2]);
+    items->bringIntoView(to, 0);
+    items->bringIntoView(from, 0);
+    sweepTile(tile, items->at(from, 0), items->at(to, 0), keys);
+    return Value::none();
+}
+
+// (ui_expand tree item), (ui_check tile item): the part of the entry that `find` finds.
+template <std::optional<Spot> (Items::*find)(int) const>
+Value pressPart(Call& call, const wchar_t* part) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    const auto items = itemsIn(tile);
+    const int index = indexOf(call, tile, *items, call[1]);
+    items->bringIntoView(index, 0);
+    const std::optional<Spot> spot = ((*items).*find)(index);
+    if (!spot) tile.fail(L"item " + wideText(call.lisp.print(call[1])) + L" has no " + part);
+    pressWith(&click, *spot, NO_KEYS);
+    return Value::none();
+}
+Value expand(Call& call) { return pressPart<&Items::buttonOf>(call, L"button to open or close it"); }
+Value check(Call& call) { return pressPart<&Items::checkBoxOf>(call, L"check box"); }
+
+// (ui_header tile column [keys])
+Value header(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    const int column = call.integer(1);
+    const KeyStroke keys = heldKeys(call, 2);
+    const std::optional<Spot> spot = headerSpot(tile.window(), column);
+    if (!spot) tile.fail(L"it has no header of column " + std::to_wstring(column));
+    pressWith(&click, *spot, keys);
+    return Value::none();
+}
+
+constexpr UiFunction FUNCTIONS[] = {
+    {u"ui_click", &pressMiddle<&click>, 1, 2},
+    {u"ui_hold", &pressMiddle<&hold>, 1, 2},
+    {u"ui_release", &pressMiddle<&letGo>, 1, 2},
+    {u"ui_dblclick", &pressEntry<&doubleClick>, 1, 4},
+    {u"ui_rclick", &pressEntry<&rightClick>, 1, 4},
+    {u"ui_pick", &pick, 2, 4},
+    {u"ui_sweep", &sweepEntries, 3, 4},
+    {u"ui_expand", &expand, 2, 2},
+    {u"ui_check", &check, 2, 2},
+    {u"ui_header", &header, 2, 3},
+};
+
+}  // namespace
+
+std::span<const UiFunction> clickFunctions() { return FUNCTIONS; }
