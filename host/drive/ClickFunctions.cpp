@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "host/drive/GridWindow.h"
 #include "host/drive/Items.h"
 #include "host/drive/Keyboard.h"
 #include "host/drive/Mouse.h"
@@ -64,9 +65,24 @@ Spot entrySpot(Call& call, const Tile& tile, Value item, int column) {
     return items->show(indexOf(call, tile, *items, item), column);
 }
 
-// Where to press for "tile [item [column]]": the entry, or the middle of the tile where none is named.
+// Of an integer of the call and the one behind it.
+GridPlace placeOf(Call& call, size_t index) {
+    return {static_cast<uint32_t>(call.integer(index)), static_cast<uint32_t>(call.integer(index + 1))};
+}
+
+Spot cellSpot(const Tile& tile, const GridWindow& grid, GridPlace place) {
+    const std::wstring name = L"cell " + std::to_wstring(place.row) + L" " + std::to_wstring(place.column);
+    if (!grid.cell(place)) tile.fail(L"it has no " + name);
+    const std::optional<Spot> spot = grid.bringIntoView(place);
+    if (!spot) tile.fail(name + L" can't be brought into view");
+    return *spot;
+}
+
+// Where to press for "tile [item [column]]", or "tile [row column]" of a grid: the entry, or the middle of
+// the tile where none is named.
 Spot spotOf(Call& call, const Tile& tile, size_t count) {
     if (count < 2) return middleOf(tile.window());
+    if (const auto grid = gridOf(tile.window())) return cellSpot(tile, *grid, placeOf(call, 1));
     return entrySpot(call, tile, call[1], count > 2 ? call.integerOr(2, 0) : 0);
 }
 
@@ -112,15 +128,28 @@ void sweepTile(const Tile& tile, const Spot& from, const Spot& to, const KeyStro
     });
 }
 
-// (ui_pick tile item [column] [keys]); a list of items is picked one by one, but in a tree it is the path of
-// one.
+void sweepCells(Call& call, const Tile& tile, const GridWindow& grid, const KeyStroke& keys) {
+    const GridPlace last = placeOf(call, 3);
+    cellSpot(tile, grid, last);
+    const Spot from = cellSpot(tile, grid, placeOf(call, 1));
+    // The way to the first cell may have moved the last one.
+    const std::optional<Spot> to = grid.spotOf(last);
+    if (!to) tile.fail(L"its ends are not in view together");
+    sweepTile(tile, from, *to, keys);
+}
+
+// (ui_pick tile item [column] [keys]), (ui_pick grid row column [row column] [keys]); a list of items is
+// picked one by one, but in a tree it is the path of one.
 Value pick(Call& call) {
     const Tile tile(call, 0);
     tile.mustBeWorkable();
     const KeyStroke keys = heldKeys(call, 2);
     const size_t count = countBeforeKeys(call, 2);
+    const auto grid = gridOf(tile.window());
     const auto items = itemsOf(tile.window());
-    if (call[1].isCons() && items && !items->tree()) {
+    if (grid && count > 3) {
+        sweepCells(call, tile, *grid, keys);
+    } else if (call[1].isCons() && items && !items->tree()) {
         pickAll(call, tile);
     } else {
         pressWith(&click, spotOf(call, tile, count), keys);
@@ -164,7 +193,9 @@ Value header(Call& call) {
     tile.mustBeWorkable();
     const int column = call.integer(1);
     const KeyStroke keys = heldKeys(call, 2);
-    const std::optional<Spot> spot = headerSpot(tile.window(), column);
+    const auto grid = gridOf(tile.window());
+    const std::optional<Spot> spot =
+        grid ? cellSpot(tile, *grid, {0, static_cast<uint32_t>(column)}) : headerSpot(tile.window(), column);
     if (!spot) tile.fail(L"it has no header of column " + std::to_wstring(column));
     pressWith(&click, *spot, keys);
     return Value::none();
@@ -176,7 +207,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_release", &pressMiddle<&letGo>, 1, 2},
     {u"ui_dblclick", &pressEntry<&doubleClick>, 1, 4},
     {u"ui_rclick", &pressEntry<&rightClick>, 1, 4},
-    {u"ui_pick", &pick, 2, 4},
+    {u"ui_pick", &pick, 2, 6},
     {u"ui_sweep", &sweepEntries, 3, 4},
     {u"ui_expand", &expand, 2, 2},
     {u"ui_check", &check, 2, 2},

@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "host/drive/GridFunctions.h"
 #include "host/drive/Items.h"
 #include "host/drive/Pairs.h"
 #include "host/services/Texts.h"
@@ -83,6 +84,13 @@ void addTree(Pairs& look, lisp::Interpreter& lisp, const Items& items, const Tre
     look.add(u"checks", checked.list());
 }
 
+void addGrid(Pairs& look, lisp::Interpreter& lisp, const GridWindow& grid) {
+    const GridTableLook table = grid.table();
+    look.add(u"current", table.hasCurrent ? placeList(lisp, table.current) : lisp::Value());
+    look.add(u"ranges", selectedRanges(lisp, table));
+    look.add(u"first", placeList(lisp, table.first));
+}
+
 }  // namespace
 
 lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
@@ -98,6 +106,7 @@ lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
     look.add(u"gridlines", lisp::Value::truth(hasGridLines(window)));
     if (const auto items = itemsOf(window); items && items->tree())
         addTree(look, lisp, *items, *items->tree());
+    if (const auto grid = gridOf(window)) addGrid(look, lisp, *grid);
     return look.list();
 }
 

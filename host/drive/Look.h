@@ -7,7 +7,7 @@
 
 // An association list of strings to values: "class", "enabled", "visible", "focus", "checked" (nil for a
 // control that can't be), "rect" as (left top width height) in the dialog's client pixels, "selected" as a
-// list, "gridlines" (of a list view); of a tree what docs/sessions.md tells, too.
+// list, "gridlines" (of a list view); of a tree and a grid what docs/sessions.md tells, too.
 lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile);
 
 // The color of a point of the tile, counted in pixels from its left upper corner, as 0xRRGGBB. Throws

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "host/drive/ClickFunctions.h"
+#include "host/drive/GridFunctions.h"
 #include "host/drive/Items.h"
 #include "host/drive/Keyboard.h"
 #include "host/drive/Look.h"
@@ -51,6 +52,7 @@ void retype(HWND window, const std::wstring& characters) {
 }
 
 void typeInto(const Tile& tile, const std::wstring& characters) {
+    if (gridOf(tile.window())) return typeIntoGrid(tile, characters);
     const HWND window = typingWindow(tile);
     // A click where it has the focus already would be the second half of a double click.
     if (GetFocus() == window) return retype(window, characters);
@@ -142,6 +144,7 @@ Value textOfTile(Call& call) { return text(call, textOf(Tile(call, 0).window()))
 // (ui_items tile)
 Value items(Call& call) {
     const Tile tile(call, 0);
+    if (const auto grid = gridOf(tile.window())) return gridRows(call.lisp, *grid);
     const auto items = itemsOf(tile.window());
     if (!items) tile.fail(L"it is no list");
     lisp::ListBuilder list(call.lisp);
@@ -217,8 +220,9 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_char", &character, 1, 2},  {u"ui_close", &close, 0, 0},     {u"ui_size", &size, 2, 2},
     {u"ui_drag", &drag, 3, 3},       {u"ui_wait", &wait, 1, 1},       {u"ui_text", &textOfTile, 1, 1},
     {u"ui_items", &items, 1, 1},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
-    {u"ui_box", &box, 0, 0},         {u"ui_columns", &columns, 1, 1}, {u"ui_title", &title, 0, 0},
-    {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},   {u"ui_shot", &shot, 1, 1},
+    {u"ui_box", &box, 0, 0},         {u"ui_cell", &cellLook, 3, 3},   {u"ui_columns", &columns, 1, 1},
+    {u"ui_title", &title, 0, 0},     {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},
+    {u"ui_shot", &shot, 1, 1},
 };
 
 }  // namespace

@@ -1,0 +1,31 @@
+// A grid, asked by the questions that its window answers.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+
+#include "host/drive/Mouse.h"
+#include "src/platform/base/GridQuery.h"
+
+class GridWindow {
+  public:
+    explicit GridWindow(HWND window) : m_window(window) {}
+
+    GridTableLook table() const;
+    // Nothing where the table has no such cell.
+    std::optional<GridCellLook> cell(GridPlace place) const;
+    // The middle of what is in view of the cell; nothing where none of it is.
+    std::optional<Spot> spotOf(GridPlace place) const;
+    // The same after it was scrolled into view.
+    std::optional<Spot> bringIntoView(GridPlace place) const;
+
+  private:
+    template <class Record>
+    bool ask(GridQuestion question, Record& record) const;
+
+    HWND m_window;
+};
+
+// Nothing for a control that is no grid.
+std::optional<GridWindow> gridOf(HWND control);
