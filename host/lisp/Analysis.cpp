@@ -30,7 +30,7 @@ struct SpecialForm {
 // Analyses into one Code.
 class Analyser {
   public:
-    Analyser(Machine& machine, Code& code, Place place) : machine_(machine), code_(code), place_(place) {}
+    Analyser(Machine& machine, Code& code, Place place) : m_machine(machine), m_code(code), m_place(place) {}
 
     const Node* node(Value form);
     const Node* body(Value forms);
@@ -39,8 +39,8 @@ class Analyser {
     const Node* function(Value arguments);
     const Node* ifForm(Value arguments);
     const Node* cond(Value arguments);
-    const Node* andForm(Value arguments) { return code_.make<JunctionNode>(nodes(arguments), false); }
-    const Node* orForm(Value arguments) { return code_.make<JunctionNode>(nodes(arguments), true); }
+    const Node* andForm(Value arguments) { return m_code.make<JunctionNode>(nodes(arguments), false); }
+    const Node* orForm(Value arguments) { return m_code.make<JunctionNode>(nodes(arguments), true); }
     const Node* progn(Value arguments) { return body(arguments); }
     const Node* setq(Value arguments);
     const Node* whileForm(Value arguments);
@@ -60,14 +60,14 @@ class Analyser {
     Symbol* variable(Value value) const;
     Function* makeFunction(Value parameters, Value forms);
 
-    Machine& machine_;
-    Code& code_;
+    Machine& m_machine;
+    Code& m_code;
     // Of the innermost form that the reader placed.
-    Place place_;
-    Symbol* form_ = nullptr;
+    Place m_place;
+    Symbol* m_form = nullptr;
 };
 
-constexpr SpecialForm kSpecialForms[] = {
+constexpr SpecialForm specialForms[] = {
     {u"QUOTE", &Analyser::quote},     {u"FUNCTION", &Analyser::function},
     {u"IF", &Analyser::ifForm},       {u"COND", &Analyser::cond},
     {u"AND", &Analyser::andForm},     {u"OR", &Analyser::orForm},
@@ -78,36 +78,36 @@ constexpr SpecialForm kSpecialForms[] = {
 };
 
 const Node* Analyser::node(Value form) {
-    machine_.checkDepth();
-    if (form.isSymbol()) return code_.make<VariableNode>(form.asSymbol());
+    m_machine.checkDepth();
+    if (form.isSymbol()) return m_code.make<VariableNode>(form.asSymbol());
     return form.isCons() ? list(form) : constant(form);
 }
 
 const Node* Analyser::list(Value form) {
-    Place outer = place_;
-    Symbol* outerForm = form_;
-    if (form.asCons()->place.line) place_ = form.asCons()->place;
+    Place outer = m_place;
+    Symbol* outerForm = m_form;
+    if (form.asCons()->place.line) m_place = form.asCons()->place;
     Value head = form.car(), arguments = form.cdr();
     const Node* result = nullptr;
-    form_ = head.isSymbol() ? head.asSymbol() : nullptr;
+    m_form = head.isSymbol() ? head.asSymbol() : nullptr;
     try {
-        if (form_ && form_->specialForm)
-            result = (this->*kSpecialForms[form_->specialForm - 1].analyse)(arguments);
-        else if (form_)
-            result = call(form_, arguments);
+        if (m_form && m_form->specialForm)
+            result = (this->*specialForms[m_form->specialForm - 1].analyse)(arguments);
+        else if (m_form)
+            result = call(m_form, arguments);
         else
-            result = code_.make<CallValueNode>(place_, node(head), nodes(arguments));
+            result = m_code.make<CallValueNode>(m_place, node(head), nodes(arguments));
     } catch (const Malformed& fault) {
-        result = code_.make<MalformedNode>(place_, form_, fault.text);
+        result = m_code.make<MalformedNode>(m_place, m_form, fault.text);
     }
-    place_ = outer;
-    form_ = outerForm;
+    m_place = outer;
+    m_form = outerForm;
     return result;
 }
 
 const Node* Analyser::constant(Value value) {
-    code_.constants.push_back(value);
-    return code_.make<ConstantNode>(value.orNil());
+    m_code.constants.push_back(value);
+    return m_code.make<ConstantNode>(value.orNil());
 }
 
 NodeList Analyser::nodes(Value forms) {
@@ -119,7 +119,7 @@ NodeList Analyser::nodes(Value forms) {
 const Node* Analyser::body(Value forms) {
     if (!forms.isCons()) return constant(Value::nil());
     if (!forms.cdr().isCons()) return node(forms.car());
-    return code_.make<SequenceNode>(nodes(forms));
+    return m_code.make<SequenceNode>(nodes(forms));
 }
 
 Value Analyser::take(Value& arguments, const char16_t* what) const {
@@ -130,7 +130,7 @@ Value Analyser::take(Value& arguments, const char16_t* what) const {
 }
 
 Symbol* Analyser::variable(Value value) const {
-    if (!value.isSymbol()) throw Malformed{u"expected a variable, got " + abbreviated(machine_, value)};
+    if (!value.isSymbol()) throw Malformed{u"expected a variable, got " + abbreviated(m_machine, value)};
     if (value.asSymbol()->specialForm)
         throw Malformed{lowerCase(value.symbolName()) + u" can't be used as a variable or function name"};
     return value.asSymbol();
@@ -140,7 +140,7 @@ const Node* Analyser::quote(Value arguments) { return constant(take(arguments, u
 
 const Node* Analyser::function(Value arguments) {
     Value quoted = take(arguments, u"a function");
-    return isLambda(machine_, quoted) ? node(quoted) : constant(quoted);
+    return isLambda(m_machine, quoted) ? node(quoted) : constant(quoted);
 }
 
 const Node* Analyser::ifForm(Value arguments) {
@@ -149,13 +149,13 @@ const Node* Analyser::ifForm(Value arguments) {
     const Node* no = node(arguments.isCons() ? arguments.car() : Value::nil());
     if (arguments.isCons() && arguments.cdr().isCons())
         throw Malformed{u"expected at most 3 parts: a condition and what to do in each case (see progn)"};
-    return code_.make<IfNode>(test, yes, no);
+    return m_code.make<IfNode>(test, yes, no);
 }
 
 const Node* Analyser::cond(Value arguments) {
-    auto* result = code_.make<CondNode>();
+    auto* result = m_code.make<CondNode>();
     for (Value clause : Elements(arguments)) {
-        if (!clause.isCons()) throw Malformed{u"expected a clause, got " + abbreviated(machine_, clause)};
+        if (!clause.isCons()) throw Malformed{u"expected a clause, got " + abbreviated(m_machine, clause)};
         const Node* test = node(clause.car());
         result->clauses.push_back({test, clause.cdr().isCons() ? body(clause.cdr()) : nullptr});
     }
@@ -167,26 +167,26 @@ const Node* Analyser::setq(Value arguments) {
     while (arguments.isCons()) {
         Symbol* target = variable(take(arguments, u"a variable"));
         const Node* value = node(take(arguments, u"the value"));
-        settings.push_back(code_.make<SetNode>(target, value));
+        settings.push_back(m_code.make<SetNode>(target, value));
     }
     if (settings.empty()) throw Malformed{u"a variable is missing"};
-    return settings.size() == 1 ? settings[0] : code_.make<SequenceNode>(std::move(settings));
+    return settings.size() == 1 ? settings[0] : m_code.make<SequenceNode>(std::move(settings));
 }
 
 const Node* Analyser::whileForm(Value arguments) {
     const Node* test = node(take(arguments, u"the condition"));
-    return code_.make<WhileNode>(test, body(arguments));
+    return m_code.make<WhileNode>(test, body(arguments));
 }
 
 const Node* Analyser::repeat(Value arguments) {
     const Node* count = node(take(arguments, u"how often"));
-    return code_.make<RepeatNode>(place_, form_, count, body(arguments));
+    return m_code.make<RepeatNode>(m_place, m_form, count, body(arguments));
 }
 
 const Node* Analyser::foreach (Value arguments) {
     Symbol* element = variable(take(arguments, u"a variable"));
     const Node* elements = node(take(arguments, u"a list"));
-    return code_.make<ForeachNode>(place_, form_, element, elements, body(arguments));
+    return m_code.make<ForeachNode>(m_place, m_form, element, elements, body(arguments));
 }
 
 const Node* Analyser::lambda(Value arguments) {
@@ -199,18 +199,18 @@ const Node* Analyser::defun(Value arguments) {
     Value parameters = take(arguments, u"the list of parameters");
     Function* made = makeFunction(parameters, arguments);
     made->name = name;
-    return code_.make<SetNode>(name, constant(Value::of(made)), name);
+    return m_code.make<SetNode>(name, constant(Value::of(made)), name);
 }
 
 const Node* Analyser::catchError(Value arguments) {
     const Node* tried = node(take(arguments, u"the form to try"));
-    return code_.make<CatchErrorNode>(tried, arguments.isCons() ? node(arguments.car()) : nullptr);
+    return m_code.make<CatchErrorNode>(tried, arguments.isCons() ? node(arguments.car()) : nullptr);
 }
 
 Function* Analyser::makeFunction(Value parameters, Value forms) {
     if (!parameters.isList())
-        throw Malformed{u"expected a list of parameters, got " + abbreviated(machine_, parameters)};
-    Function* function = machine_.heap.function();
+        throw Malformed{u"expected a list of parameters, got " + abbreviated(m_machine, parameters)};
+    Function* function = m_machine.heap.function();
     bool locals = false;
     for (Value parameter : Elements(parameters)) {
         Symbol* symbol = variable(parameter);
@@ -223,9 +223,9 @@ Function* Analyser::makeFunction(Value parameters, Value forms) {
     }
     if (!locals) function->minimum = uint32_t(function->variables.size());
     function->maximum = function->minimum;
-    function->code = machine_.heap.code();
-    function->code->root = Analyser(machine_, *function->code, place_).body(forms);
-    machine_.heap.charge(64 * function->code->nodes.size());
+    function->code = m_machine.heap.code();
+    function->code->root = Analyser(m_machine, *function->code, m_place).body(forms);
+    m_machine.heap.charge(64 * function->code->nodes.size());
     return function;
 }
 
@@ -242,7 +242,7 @@ const Node* Analyser::call(Symbol* name, Value arguments) {
             NativeFunction native;
             const Node* (*make)(Code&, Place, Symbol*, NodeList);
         };
-        static constexpr Fast kFast[] = {
+        static constexpr Fast fastForms[] = {
             {addNumbers, makeArithmetic<Add>},
             {subtractNumbers, makeArithmetic<Subtract>},
             {multiplyNumbers, makeArithmetic<Multiply>},
@@ -255,10 +255,10 @@ const Node* Analyser::call(Symbol* name, Value arguments) {
             {compareGreaterOrEqual, makeArithmetic<GreaterOrEqual>},
         };
         NativeFunction native = name->value.asFunction()->native;
-        for (const Fast& fast : kFast)
-            if (fast.native == native) return fast.make(code_, place_, name, std::move(list));
+        for (const Fast& fast : fastForms)
+            if (fast.native == native) return fast.make(m_code, m_place, name, std::move(list));
     }
-    return code_.make<CallNode>(place_, name, std::move(list));
+    return m_code.make<CallNode>(m_place, name, std::move(list));
 }
 
 }  // namespace
@@ -272,7 +272,7 @@ Code* analyse(Machine& machine, Value form) {
 
 void defineSpecialForms(Machine& machine) {
     uint8_t number = 0;
-    for (const SpecialForm& form : kSpecialForms) machine.symbols.intern(form.name)->specialForm = ++number;
+    for (const SpecialForm& form : specialForms) machine.symbols.intern(form.name)->specialForm = ++number;
 }
 
 bool isLambda(Machine& machine, Value list) {

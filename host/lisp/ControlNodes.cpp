@@ -79,16 +79,16 @@ namespace {
 // Keeps a variable's former value on the value stack, and gives it back.
 class Binding {
   public:
-    Binding(Machine& machine, Symbol* variable) : variable_(variable), slot_(machine.top()) {
+    Binding(Machine& machine, Symbol* variable) : m_variable(variable), m_slot(machine.top()) {
         machine.push(variable->value);
     }
-    ~Binding() { variable_->value = *slot_; }
+    ~Binding() { m_variable->value = *m_slot; }
     Binding(const Binding&) = delete;
     Binding& operator=(const Binding&) = delete;
 
   private:
-    Symbol* variable_;
-    Value* slot_;
+    Symbol* m_variable;
+    Value* m_slot;
 };
 
 }  // namespace

@@ -124,7 +124,7 @@ void Heap::markChildren(Object* object) {
 
 void Heap::collect(const std::function<void()>& markRoots) {
     markRoots();
-    for (Root* root = firstRoot_; root; root = root->next_) mark(root->value_);
+    for (Root* root = firstRoot_; root; root = root->m_next) mark(root->m_value);
     while (!greyConses_.empty() || !greyObjects_.empty()) {
         if (!greyConses_.empty()) {
             Cons* cons = greyConses_.back();
@@ -205,18 +205,18 @@ void Heap::destroy(Object* object) {
     }
 }
 
-Root::Root(Interpreter& lisp, Value value) : value_(value), previous_(nullptr), first_(&lisp.rootList()) {
-    next_ = *first_;
-    if (next_) next_->previous_ = this;
-    *first_ = this;
+Root::Root(Interpreter& lisp, Value value) : m_value(value), m_previous(nullptr), m_first(&lisp.rootList()) {
+    m_next = *m_first;
+    if (m_next) m_next->m_previous = this;
+    *m_first = this;
 }
 
 Root::~Root() {
-    if (previous_)
-        previous_->next_ = next_;
+    if (m_previous)
+        m_previous->m_next = m_next;
     else
-        *first_ = next_;
-    if (next_) next_->previous_ = previous_;
+        *m_first = m_next;
+    if (m_next) m_next->m_previous = m_previous;
 }
 
 }  // namespace lisp

@@ -34,9 +34,9 @@ std::u16string SourceLine::text() const {
 }
 
 Interpreter::Interpreter(Limits limits)
-    : machine_(std::make_unique<Machine>(*this, limits)), files_(std::make_unique<FileAccess>()) {
+    : m_machine(std::make_unique<Machine>(*this, limits)), m_files(std::make_unique<FileAccess>()) {
     setOutput(nullptr);
-    defineSpecialForms(*machine_);
+    defineSpecialForms(*m_machine);
     defineControlFunctions(*this);
     definePredicates(*this);
     defineListFunctions(*this);
@@ -52,26 +52,26 @@ Interpreter::~Interpreter() = default;
 // Runs work that may call Lisp: puts the value stack back and tells where an error came up.
 template <class Work>
 auto Interpreter::guarded(Work&& work) {
-    Machine::Entry entry(*machine_);
+    Machine::Entry entry(*m_machine);
     try {
         return work();
     } catch (Error& error) {
-        machine_->locate(error);
+        m_machine->locate(error);
         throw;
     }
 }
 
 Value Interpreter::string(std::u16string_view text) {
-    return Value::of(machine_->heap.string(std::u16string(text)));
+    return Value::of(m_machine->heap.string(std::u16string(text)));
 }
 
 Value Interpreter::symbol(std::u16string_view name) {
     if (name.size() == 3 && upperCase(name) == u"NIL") return Value::nil();
     if (name.size() == 1 && upperCase(name[0]) == u'T') return Value::truth();
-    return Value::of(machine_->symbols.intern(name));
+    return Value::of(m_machine->symbols.intern(name));
 }
 
-Value Interpreter::cons(Value first, Value rest) { return Value::of(machine_->heap.cons(first, rest)); }
+Value Interpreter::cons(Value first, Value rest) { return Value::of(m_machine->heap.cons(first, rest)); }
 
 Value Interpreter::list(std::span<const Value> elements) {
     Value result;
@@ -85,8 +85,8 @@ Value Interpreter::list(std::initializer_list<Value> elements) {
 
 void Interpreter::defineNative(std::u16string_view name, NativeFunction native, void* userData, int minimum,
                                int maximum) {
-    Symbol* symbol = machine_->symbols.intern(name);
-    Function* function = machine_->heap.function();
+    Symbol* symbol = m_machine->symbols.intern(name);
+    Function* function = m_machine->heap.function();
     function->name = symbol;
     function->native = native;
     function->userData = userData;
@@ -108,12 +108,12 @@ Value Interpreter::getSymbol(std::u16string_view name) {
 }
 
 Value Interpreter::eval(Value form) {
-    return guarded([&] { return machine_->eval(form); });
+    return guarded([&] { return m_machine->eval(form); });
 }
 
 Value Interpreter::call(Value function, std::span<const Value> arguments) {
     return guarded([&] {
-        Machine& machine = *machine_;
+        Machine& machine = *m_machine;
         Function* callee = machine.callable(function);
         Value* base = machine.top();
         for (Value argument : arguments) machine.push(argument.orNil());
@@ -122,19 +122,19 @@ Value Interpreter::call(Value function, std::span<const Value> arguments) {
 }
 
 std::optional<Value> Interpreter::apply(std::u16string_view name, std::span<const Value> arguments) {
-    Symbol* symbol = machine_->symbols.find(name);
+    Symbol* symbol = m_machine->symbols.find(name);
     if (!symbol || symbol->specialForm) return std::nullopt;
-    bool callable = symbol->value.isFunction() || isLambda(*machine_, symbol->value);
+    bool callable = symbol->value.isFunction() || isLambda(*m_machine, symbol->value);
     if (!callable) return std::nullopt;
     return call(Value::of(symbol), arguments);
 }
 
 Value Interpreter::evalText(std::u16string_view text, std::u16string_view name) {
-    return guarded([&] { return machine_->evalText(text, name); });
+    return guarded([&] { return m_machine->evalText(text, name); });
 }
 
 std::filesystem::path Interpreter::found(std::u16string_view name) const {
-    std::optional<std::filesystem::path> path = files_->find(name);
+    std::optional<std::filesystem::path> path = m_files->find(name);
     if (!path) throw Error(u"can't open " + readable(name));
     return *path;
 }
@@ -150,44 +150,44 @@ std::u16string Interpreter::fileText(std::u16string_view name) const { return te
 Value Interpreter::read(std::u16string_view text) {
     return guarded([&] {
         Value form;
-        Reader(*machine_, text, 0).next(form);
+        Reader(*m_machine, text, 0).next(form);
         return form;
     });
 }
 
 Value Interpreter::readAll(std::u16string_view text, const SourceLine& place) {
-    return guarded([&] { return machine_->readAll(text, place); });
+    return guarded([&] { return m_machine->readAll(text, place); });
 }
 
 bool Interpreter::isComplete(std::u16string_view text) { return Reader::isComplete(text); }
 
-std::u16string Interpreter::display(Value value) const { return printed(*machine_, value, false); }
-std::u16string Interpreter::print(Value value) const { return printed(*machine_, value, true); }
+std::u16string Interpreter::display(Value value) const { return printed(*m_machine, value, false); }
+std::u16string Interpreter::print(Value value) const { return printed(*m_machine, value, true); }
 
 void Interpreter::setOutput(std::function<void(std::u16string_view)> output) {
-    output_ = output ? std::move(output) : writeToStandardOutput;
+    m_output = output ? std::move(output) : writeToStandardOutput;
 }
 
-void Interpreter::write(std::u16string_view text) { output_(text); }
+void Interpreter::write(std::u16string_view text) { m_output(text); }
 
 void Interpreter::setFileAccess(std::unique_ptr<FileAccess> access) {
-    files_ = access ? std::move(access) : std::make_unique<FileAccess>();
+    m_files = access ? std::move(access) : std::make_unique<FileAccess>();
 }
 
-void Interpreter::interrupt() { machine_->interrupt(); }
-void Interpreter::clearInterrupt() { machine_->clearInterrupt(); }
-SourceLine Interpreter::place() const { return machine_->place(); }
-void Interpreter::setCollectAlways(bool always) { machine_->setCollectAlways(always); }
-size_t Interpreter::heapBytesInUse() const { return machine_->heap.used(); }
-Root*& Interpreter::rootList() { return machine_->heap.roots(); }
+void Interpreter::interrupt() { m_machine->interrupt(); }
+void Interpreter::clearInterrupt() { m_machine->clearInterrupt(); }
+SourceLine Interpreter::place() const { return m_machine->place(); }
+void Interpreter::setCollectAlways(bool always) { m_machine->setCollectAlways(always); }
+size_t Interpreter::heapBytesInUse() const { return m_machine->heap.used(); }
+Root*& Interpreter::rootList() { return m_machine->heap.roots(); }
 
 void ListBuilder::addTail(Value value, bool asElement) {
-    Value added = asElement ? lisp_.cons(value, {}) : value.orNil();
-    if (last_)
-        last_->cdr = added;
+    Value added = asElement ? m_lisp.cons(value, {}) : value.orNil();
+    if (m_last)
+        m_last->cdr = added;
     else
-        list_ = added;
-    if (asElement) last_ = added.asCons();
+        m_list = added;
+    if (asElement) m_last = added.asCons();
 }
 
 }  // namespace lisp

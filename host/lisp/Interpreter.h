@@ -108,7 +108,7 @@ class Interpreter {
     void write(std::u16string_view text);
     // Null for the default.
     void setFileAccess(std::unique_ptr<FileAccess> access);
-    const FileAccess& files() const { return *files_; }
+    const FileAccess& files() const { return *m_files; }
 
     // Stops the running program by an Interrupted error at its next step. May be called from any thread.
     void interrupt();
@@ -122,7 +122,7 @@ class Interpreter {
     size_t heapBytesInUse() const;
 
     // For the functions of the language itself.
-    Machine& machine() { return *machine_; }
+    Machine& machine() { return *m_machine; }
     Root*& rootList();
 
   private:
@@ -130,9 +130,9 @@ class Interpreter {
     auto guarded(Work&& work);
     std::filesystem::path found(std::u16string_view name) const;
 
-    std::unique_ptr<Machine> machine_;
-    std::unique_ptr<FileAccess> files_;
-    std::function<void(std::u16string_view)> output_;
+    std::unique_ptr<Machine> m_machine;
+    std::unique_ptr<FileAccess> m_files;
+    std::function<void(std::u16string_view)> m_output;
 };
 
 // Keeps a value alive while it exists, and is assignable. Must not outlive its interpreter.
@@ -143,36 +143,36 @@ class Root {
     Root(const Root&) = delete;
     Root& operator=(const Root&) = delete;
     Root& operator=(Value value) {
-        value_ = value;
+        m_value = value;
         return *this;
     }
 
-    Value get() const { return value_; }
-    operator Value() const { return value_; }
+    Value get() const { return m_value; }
+    operator Value() const { return m_value; }
 
   private:
     friend class Heap;
-    Value value_;
-    Root* previous_;
-    Root* next_;
-    Root** first_;
+    Value m_value;
+    Root* m_previous;
+    Root* m_next;
+    Root** m_first;
 };
 
 // Makes a list front to back, and keeps it alive meanwhile.
 class ListBuilder {
   public:
-    explicit ListBuilder(Interpreter& lisp) : lisp_(lisp), list_(lisp) {}
+    explicit ListBuilder(Interpreter& lisp) : m_lisp(lisp), m_list(lisp) {}
     void add(Value element) { addTail(element, true); }
     // Makes `rest` the tail of the list; nothing may be added after it.
     void finishWith(Value rest) { addTail(rest, false); }
-    Value list() const { return list_; }
+    Value list() const { return m_list; }
 
   private:
     void addTail(Value value, bool asElement);
 
-    Interpreter& lisp_;
-    Root list_;
-    Cons* last_ = nullptr;
+    Interpreter& m_lisp;
+    Root m_list;
+    Cons* m_last = nullptr;
 };
 
 }  // namespace lisp

@@ -17,10 +17,10 @@ Value carCdr(Call& call) {
     return value;
 }
 
-constexpr const char16_t* kPaths[] = {u"a",    u"d",    u"aa",   u"ad",   u"da",   u"dd",   u"aaa",  u"aad",
-                                      u"ada",  u"add",  u"daa",  u"dad",  u"dda",  u"ddd",  u"aaaa", u"aaad",
-                                      u"aada", u"aadd", u"adaa", u"adad", u"adda", u"addd", u"daaa", u"daad",
-                                      u"dada", u"dadd", u"ddaa", u"ddad", u"ddda", u"dddd"};
+constexpr const char16_t* paths[] = {u"a",    u"d",    u"aa",   u"ad",   u"da",   u"dd",   u"aaa",  u"aad",
+                                     u"ada",  u"add",  u"daa",  u"dad",  u"dda",  u"ddd",  u"aaaa", u"aaad",
+                                     u"aada", u"aadd", u"adaa", u"adad", u"adda", u"addd", u"daaa", u"daad",
+                                     u"dada", u"dadd", u"ddaa", u"ddad", u"ddda", u"dddd"};
 
 Value cons(Call& call) { return call.lisp.cons(call[0], call[1]); }
 Value list(Call& call) { return call.lisp.list(call.arguments); }
@@ -133,7 +133,7 @@ Value range(Call& call) {
     return result;
 }
 
-constexpr Definition kFunctions[] = {
+constexpr Definition functions[] = {
     {u"cons", cons, 2, 2},
     {u"list", list, 0, -1},
     {u"append", append, 0, -1},
@@ -155,8 +155,8 @@ constexpr Definition kFunctions[] = {
 }  // namespace
 
 void defineListFunctions(Interpreter& lisp) {
-    defineAll(lisp, kFunctions);
-    for (const char16_t* path : kPaths)
+    defineAll(lisp, functions);
+    for (const char16_t* path : paths)
         lisp.defineNative(u"c" + std::u16string(path) + u"r", carCdr, const_cast<char16_t*>(path), 1, 1);
 }
 

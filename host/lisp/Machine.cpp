@@ -13,23 +13,23 @@ namespace lisp {
 namespace {
 
 // Steps between two looks at the interrupt flag and the heap.
-constexpr int64_t kChunk = 1000;
+constexpr int64_t CHUNK = 1000;
 
 // Gives variables their values from the stack for the length of a call, keeping the former values there.
 class Bindings {
   public:
-    Bindings(const std::vector<Symbol*>& variables, Value* slots) : variables_(variables), slots_(slots) {
-        for (size_t i = 0; i < variables_.size(); ++i) std::swap(variables_[i]->value, slots_[i]);
+    Bindings(const std::vector<Symbol*>& variables, Value* slots) : m_variables(variables), m_slots(slots) {
+        for (size_t i = 0; i < m_variables.size(); ++i) std::swap(m_variables[i]->value, m_slots[i]);
     }
     ~Bindings() {
-        for (size_t i = variables_.size(); i-- > 0;) std::swap(variables_[i]->value, slots_[i]);
+        for (size_t i = m_variables.size(); i-- > 0;) std::swap(m_variables[i]->value, m_slots[i]);
     }
     Bindings(const Bindings&) = delete;
     Bindings& operator=(const Bindings&) = delete;
 
   private:
-    const std::vector<Symbol*>& variables_;
-    Value* slots_;
+    const std::vector<Symbol*>& m_variables;
+    Value* m_slots;
 };
 
 std::u16string argumentCountText(uint32_t minimum, uint32_t maximum, size_t given) {
@@ -46,23 +46,23 @@ std::u16string argumentCountText(uint32_t minimum, uint32_t maximum, size_t give
 
 Machine::Machine(Interpreter& owner, Limits limits)
     : interpreter(owner),
-      heap(limits.heapBytes, fuel_),
-      limits_(limits),
-      stepsLeft_(limits.steps ? limits.steps : UINT64_MAX),
-      stack_(static_cast<Value*>(std::malloc(limits.stackBytes)), &std::free) {
-    if (!stack_) throw std::bad_alloc();
-    top_ = stack_.get();
-    stackLimit_ = top_ + limits.stackBytes / sizeof(Value);
+      heap(limits.heapBytes, m_fuel),
+      m_limits(limits),
+      m_stepsLeft(limits.steps ? limits.steps : UINT64_MAX),
+      m_stack(static_cast<Value*>(std::malloc(limits.stackBytes)), &std::free) {
+    if (!m_stack) throw std::bad_alloc();
+    m_top = m_stack.get();
+    m_stackLimit = m_top + limits.stackBytes / sizeof(Value);
 }
 
 Value Machine::call(Function* function, Value* base) {
-    size_t given = size_t(top_ - base);
+    size_t given = size_t(m_top - base);
     if (given < function->minimum || given > function->maximum)
         throw Error(argumentCountText(function->minimum, function->maximum, given));
     if (!function->native) return callLisp(function, base);
     Call call{interpreter, {base, given}, function->userData};
     Value result = function->native(call);
-    top_ = base;
+    m_top = base;
     return result;
 }
 
@@ -76,7 +76,7 @@ Value Machine::callLisp(Function* function, Value* base) {
         Bindings bindings(variables, base);
         result = function->code->root->eval(*this);
     }
-    top_ = base;
+    m_top = base;
     return result;
 }
 
@@ -96,10 +96,10 @@ Value Machine::eval(Value form) {
     if (!form.isCons()) return form.orNil();
     Cons* list = form.asCons();
     if (!list->code) list->code = analyse(*this, form);
-    Value* base = top_;
+    Value* base = m_top;
     push(form);
     Value result = list->code->root->eval(*this);
-    top_ = base;
+    m_top = base;
     return result;
 }
 
@@ -123,57 +123,57 @@ Value Machine::readAll(std::u16string_view text, const SourceLine& place) {
 }
 
 uint32_t Machine::fileNumber(std::u16string_view name) {
-    std::lock_guard lock(fileNamesLock_);
-    auto found = std::find(fileNames_.begin(), fileNames_.end(), name);
-    if (found == fileNames_.end()) found = fileNames_.insert(fileNames_.end(), std::u16string(name));
-    return uint32_t(found - fileNames_.begin()) + 1;
+    std::lock_guard lock(m_fileNamesLock);
+    auto found = std::find(m_fileNames.begin(), m_fileNames.end(), name);
+    if (found == m_fileNames.end()) found = m_fileNames.insert(m_fileNames.end(), std::u16string(name));
+    return uint32_t(found - m_fileNames.begin()) + 1;
 }
 
 void Machine::locate(Error& error) const {
     Place place = currentPlace();
-    std::lock_guard lock(fileNamesLock_);
-    error.locate(place.file ? fileNames_[place.file - 1] : std::u16string(), int(place.line),
-                 function_ ? lowerCase(function_->name) : std::u16string());
+    std::lock_guard lock(m_fileNamesLock);
+    error.locate(place.file ? m_fileNames[place.file - 1] : std::u16string(), int(place.line),
+                 m_function ? lowerCase(m_function->name) : std::u16string());
 }
 
 SourceLine Machine::place() const {
     Place place = currentPlace();
     if (!place.file) return {};
-    std::lock_guard lock(fileNamesLock_);
-    return {fileNames_[place.file - 1], int(place.line)};
+    std::lock_guard lock(m_fileNamesLock);
+    return {m_fileNames[place.file - 1], int(place.line)};
 }
 
-Machine::Entry::Entry(Machine& machine) : machine_(machine), top_(machine.top_) {
+Machine::Entry::Entry(Machine& machine) : m_machine(machine), m_top(machine.m_top) {
     auto here = reinterpret_cast<uintptr_t>(__builtin_frame_address(0));
-    if (here > machine.stackStart_) {
-        machine.stackStart_ = here;
-        machine.stackEnd_ = here - std::min<uintptr_t>(here, machine.limits_.stackBytes);
+    if (here > machine.m_stackStart) {
+        machine.m_stackStart = here;
+        machine.m_stackEnd = here - std::min<uintptr_t>(here, machine.m_limits.stackBytes);
     }
 }
 
 void Machine::refuel() {
-    if (interrupted_) throw Interrupted(u"interrupted");
-    stepsLeft_ -= std::min(stepsLeft_, uint64_t(chunk_));
-    if (stepsLeft_ == 0) throw Interrupted(u"too many steps");
-    if (collectAlways_ || heap.wantsCollection()) collect();
-    chunk_ = collectAlways_ ? 1 : int64_t(std::min(uint64_t(kChunk), stepsLeft_));
-    fuel_ = chunk_ - 1;
+    if (m_interrupted) throw Interrupted(u"interrupted");
+    m_stepsLeft -= std::min(m_stepsLeft, uint64_t(m_chunk));
+    if (m_stepsLeft == 0) throw Interrupted(u"too many steps");
+    if (m_collectAlways || heap.wantsCollection()) collect();
+    m_chunk = m_collectAlways ? 1 : int64_t(std::min(uint64_t(CHUNK), m_stepsLeft));
+    m_fuel = m_chunk - 1;
 }
 
 void Machine::clearInterrupt() {
-    interrupted_ = false;
-    stepsLeft_ = limits_.steps ? limits_.steps : UINT64_MAX;
-    chunk_ = fuel_ = 0;
+    m_interrupted = false;
+    m_stepsLeft = m_limits.steps ? m_limits.steps : UINT64_MAX;
+    m_chunk = m_fuel = 0;
 }
 
 void Machine::setCollectAlways(bool always) {
-    collectAlways_ = always;
-    chunk_ = fuel_ = 0;
+    m_collectAlways = always;
+    m_chunk = m_fuel = 0;
 }
 
 void Machine::collect() {
     heap.collect([this] {
-        for (const Value* value = stack_.get(); value < top_; ++value) heap.mark(*value);
+        for (const Value* value = m_stack.get(); value < m_top; ++value) heap.mark(*value);
         for (const auto& [name, symbol] : symbols) heap.mark(symbol->value);
     });
 }

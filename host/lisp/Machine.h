@@ -26,25 +26,25 @@ class Machine {
     // is the only point at which objects are collected. Values held across it must be on the value stack or
     // in a Root.
     void step() {
-        if (--fuel_ < 0) [[unlikely]]
+        if (--m_fuel < 0) [[unlikely]]
             refuel();
-        if (reinterpret_cast<uintptr_t>(__builtin_frame_address(0)) < stackEnd_) [[unlikely]]
+        if (reinterpret_cast<uintptr_t>(__builtin_frame_address(0)) < m_stackEnd) [[unlikely]]
             tooDeep();
     }
     // The same check of depth for the recursion of reader, printer and analysis.
     void checkDepth() const {
-        if (reinterpret_cast<uintptr_t>(__builtin_frame_address(0)) < stackEnd_) [[unlikely]]
+        if (reinterpret_cast<uintptr_t>(__builtin_frame_address(0)) < m_stackEnd) [[unlikely]]
             tooDeep();
     }
 
     // The value stack: arguments of running calls, saved bindings, whatever must survive a step().
-    Value* top() const { return top_; }
+    Value* top() const { return m_top; }
     void push(Value value) {
-        if (top_ == stackLimit_) [[unlikely]]
+        if (m_top == m_stackLimit) [[unlikely]]
             tooDeep();
-        *top_++ = value;
+        *m_top++ = value;
     }
-    void popTo(Value* base) { top_ = base; }
+    void popTo(Value* base) { m_top = base; }
 
     // Calls with the arguments from `base` to the top of the stack, and takes them off.
     Value call(Function* function, Value* base);
@@ -60,11 +60,11 @@ class Machine {
 
     // Notes what runs now, for error texts.
     void setCurrent(Place place, const Symbol* function) {
-        place_.store(uint64_t(place.file) << 32 | place.line, std::memory_order_relaxed);
-        function_ = function;
+        m_place.store(uint64_t(place.file) << 32 | place.line, std::memory_order_relaxed);
+        m_function = function;
     }
     Place currentPlace() const {
-        uint64_t packed = place_.load(std::memory_order_relaxed);
+        uint64_t packed = m_place.load(std::memory_order_relaxed);
         return {uint32_t(packed >> 32), uint32_t(packed)};
     }
     void locate(Error& error) const;
@@ -74,14 +74,14 @@ class Machine {
     class Entry {
       public:
         explicit Entry(Machine& machine);
-        ~Entry() { machine_.top_ = top_; }
+        ~Entry() { m_machine.m_top = m_top; }
 
       private:
-        Machine& machine_;
-        Value* top_;
+        Machine& m_machine;
+        Value* m_top;
     };
 
-    void interrupt() { interrupted_ = true; }
+    void interrupt() { m_interrupted = true; }
     void clearInterrupt();
     void setCollectAlways(bool always);
 
@@ -92,22 +92,22 @@ class Machine {
     void collect();
     [[noreturn]] void tooDeep() const;
 
-    int64_t fuel_ = 0;
-    uintptr_t stackEnd_ = 0;
-    Value* top_;
-    Value* stackLimit_;
-    std::atomic<uint64_t> place_ = 0;
-    const Symbol* function_ = nullptr;
+    int64_t m_fuel = 0;
+    uintptr_t m_stackEnd = 0;
+    Value* m_top;
+    Value* m_stackLimit;
+    std::atomic<uint64_t> m_place = 0;
+    const Symbol* m_function = nullptr;
 
-    Limits limits_;
-    uintptr_t stackStart_ = 0;
-    uint64_t stepsLeft_;
-    int64_t chunk_ = 0;
-    bool collectAlways_ = false;
-    std::atomic<bool> interrupted_ = false;
-    std::unique_ptr<Value[], decltype(&std::free)> stack_;
-    mutable std::mutex fileNamesLock_;
-    std::vector<std::u16string> fileNames_;
+    Limits m_limits;
+    uintptr_t m_stackStart = 0;
+    uint64_t m_stepsLeft;
+    int64_t m_chunk = 0;
+    bool m_collectAlways = false;
+    std::atomic<bool> m_interrupted = false;
+    std::unique_ptr<Value[], decltype(&std::free)> m_stack;
+    mutable std::mutex m_fileNamesLock;
+    std::vector<std::u16string> m_fileNames;
 };
 
 }  // namespace lisp

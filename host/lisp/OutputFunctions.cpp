@@ -60,7 +60,7 @@ Value writeCharacter(Call& call) {
     return call[0];
 }
 
-constexpr Definition kFunctions[] = {
+constexpr Definition functions[] = {
     {u"princ", princ, 0, 2},
     {u"prin1", prin1, 0, 2},
     {u"print", print, 0, 2},
@@ -72,6 +72,6 @@ constexpr Definition kFunctions[] = {
 
 }  // namespace
 
-void defineOutputFunctions(Interpreter& lisp) { defineAll(lisp, kFunctions); }
+void defineOutputFunctions(Interpreter& lisp) { defineAll(lisp, functions); }
 
 }  // namespace lisp

@@ -60,18 +60,18 @@ void Printer::append(Value value) {
 }  // namespace
 
 std::u16string printed(const Machine& machine, Value value, bool forReading) {
-    constexpr size_t kLongest = size_t(1) << 24;
-    Printer printer{machine, forReading, kLongest, {}};
+    constexpr size_t LONGEST = size_t(1) << 24;
+    Printer printer{machine, forReading, LONGEST, {}};
     printer.append(value);
-    if (printer.out.size() > kLongest) throw Error(u"too long to print");
+    if (printer.out.size() > LONGEST) throw Error(u"too long to print");
     return std::move(printer.out);
 }
 
 std::u16string abbreviated(const Machine& machine, Value value) {
-    constexpr size_t kLongest = 60;
-    Printer printer{machine, true, kLongest, {}};
+    constexpr size_t LONGEST = 60;
+    Printer printer{machine, true, LONGEST, {}};
     printer.append(value);
-    if (printer.out.size() > kLongest) printer.out = printer.out.substr(0, kLongest) + u"\u2026";
+    if (printer.out.size() > LONGEST) printer.out = printer.out.substr(0, LONGEST) + u"\u2026";
     return std::move(printer.out);
 }
 

@@ -24,19 +24,19 @@ int digitValue(char16_t c) {
 }  // namespace
 
 Reader::Reader(Machine& machine, std::u16string_view text, uint32_t file, uint32_t line)
-    : machine_(machine), text_(text), line_(line ? line : 1), file_(file), countsLines_(!line) {}
+    : m_machine(machine), m_text(text), m_line(line ? line : 1), m_file(file), m_countsLines(!line) {}
 
 bool Reader::next(Value& result) {
     skipBlanks();
     if (atEnd()) return false;
-    if (file_) machine_.setCurrent({file_, line_}, nullptr);
+    if (m_file) m_machine.setCurrent({m_file, m_line}, nullptr);
     result = form();
     return true;
 }
 
 char16_t Reader::take() {
-    char16_t c = text_[position_++];
-    if (c == u'\n' && countsLines_) ++line_;
+    char16_t c = m_text[m_position++];
+    if (c == u'\n' && m_countsLines) ++m_line;
     return c;
 }
 
@@ -44,10 +44,10 @@ void Reader::skipBlanks() {
     while (!atEnd()) {
         if (isBlank(peek())) {
             take();
-        } else if (text_.substr(position_).starts_with(u";|")) {
-            size_t end = text_.find(u"|;", position_ + 2);
-            if (end == text_.npos) fail(u"the comment that opens here is not closed", line_);
-            while (position_ < end + 2) take();
+        } else if (m_text.substr(m_position).starts_with(u";|")) {
+            size_t end = m_text.find(u"|;", m_position + 2);
+            if (end == m_text.npos) fail(u"the comment that opens here is not closed", m_line);
+            while (m_position < end + 2) take();
         } else if (peek() == u';') {
             while (!atEnd() && peek() != u'\n') take();
         } else {
@@ -57,22 +57,22 @@ void Reader::skipBlanks() {
 }
 
 Value Reader::form() {
-    machine_.checkDepth();
+    m_machine.checkDepth();
     switch (peek()) {
         case u'(':
             return list();
         case u'"':
             return string();
         case u')':
-            fail(u"a closing parenthesis without an opening one", line_);
+            fail(u"a closing parenthesis without an opening one", m_line);
         case u'\'': {
-            Place place{file_, line_};
+            Place place{m_file, m_line};
             take();
             skipBlanks();
-            if (atEnd()) fail(u"nothing after the quote mark", line_);
-            Value argument = Value::of(machine_.heap.cons(form(), Value::nil(), place));
+            if (atEnd()) fail(u"nothing after the quote mark", m_line);
+            Value argument = Value::of(m_machine.heap.cons(form(), Value::nil(), place));
             return Value::of(
-                machine_.heap.cons(Value::of(machine_.symbols.intern(u"QUOTE")), argument, place));
+                m_machine.heap.cons(Value::of(m_machine.symbols.intern(u"QUOTE")), argument, place));
         }
         default:
             return atom();
@@ -80,7 +80,7 @@ Value Reader::form() {
 }
 
 Value Reader::list() {
-    uint32_t opened = line_;
+    uint32_t opened = m_line;
     take();
     Cons* first = nullptr;
     Cons* last = nullptr;
@@ -91,20 +91,20 @@ Value Reader::list() {
             take();
             return first ? Value::of(first) : Value::nil();
         }
-        uint32_t line = first ? line_ : opened;
+        uint32_t line = first ? m_line : opened;
         bool dot =
-            last && peek() == u'.' && (position_ + 1 == text_.size() || endsToken(text_[position_ + 1]));
+            last && peek() == u'.' && (m_position + 1 == m_text.size() || endsToken(m_text[m_position + 1]));
         if (dot) {
             take();
             skipBlanks();
-            if (atEnd() || peek() == u')') fail(u"nothing after the dot", line_);
+            if (atEnd() || peek() == u')') fail(u"nothing after the dot", m_line);
             last->cdr = form();
             skipBlanks();
             if (atEnd()) fail(u"the list that opens here is not closed", opened);
-            if (take() != u')') fail(u"more than one form after the dot", line_);
+            if (take() != u')') fail(u"more than one form after the dot", m_line);
             return Value::of(first);
         }
-        Cons* cell = machine_.heap.cons(form(), Value::nil(), {file_, line});
+        Cons* cell = m_machine.heap.cons(form(), Value::nil(), {m_file, line});
         if (last) last->cdr = Value::of(cell);
         if (!first) first = cell;
         last = cell;
@@ -112,13 +112,13 @@ Value Reader::list() {
 }
 
 Value Reader::string() {
-    uint32_t opened = line_;
+    uint32_t opened = m_line;
     std::u16string text;
     take();
     while (true) {
         if (atEnd()) fail(u"the string that opens here is not closed", opened);
         char16_t c = take();
-        if (c == u'"') return Value::of(machine_.heap.string(std::move(text)));
+        if (c == u'"') return Value::of(m_machine.heap.string(std::move(text)));
         if (c == u'\\' && !atEnd())
             appendEscape(text);
         else
@@ -159,22 +159,22 @@ void Reader::appendEscape(std::u16string& text) {
 
 // The character behind `\U`, where a plus sign and four hexadecimal digits follow.
 std::optional<char16_t> Reader::takeUnicode() {
-    if (text_.size() - position_ < 5 || peek() != u'+') return std::nullopt;
+    if (m_text.size() - m_position < 5 || peek() != u'+') return std::nullopt;
     uint32_t code = 0;
     for (size_t i = 1; i <= 4; ++i) {
-        int digit = digitValue(text_[position_ + i]);
+        int digit = digitValue(m_text[m_position + i]);
         if (digit >= 16) return std::nullopt;
         code = code << 4 | uint32_t(digit);
     }
-    position_ += 5;
+    m_position += 5;
     return char16_t(code);
 }
 
 Value Reader::atom() {
-    size_t start = position_;
-    while (!atEnd() && !endsToken(peek())) ++position_;
-    std::u16string_view token = text_.substr(start, position_ - start);
-    if (token == u".") fail(u"a dot outside of a list", line_);
+    size_t start = m_position;
+    while (!atEnd() && !endsToken(peek())) ++m_position;
+    std::u16string_view token = m_text.substr(start, m_position - start);
+    if (token == u".") fail(u"a dot outside of a list", m_line);
     bool digits = token.find_first_of(u"0123456789") != token.npos;
     bool signedOrDigit =
         digitValue(token[0]) < 10 || token[0] == u'+' || token[0] == u'-' || token[0] == u'.';
@@ -186,11 +186,11 @@ Value Reader::atom() {
             return Value::real(*number);
         }
     }
-    return machine_.interpreter.symbol(token);
+    return m_machine.interpreter.symbol(token);
 }
 
 void Reader::fail(std::u16string message, uint32_t line) const {
-    if (file_) machine_.setCurrent({file_, line}, nullptr);
+    if (m_file) m_machine.setCurrent({m_file, line}, nullptr);
     throw Error(std::move(message));
 }
 

@@ -25,8 +25,8 @@ class Reader {
     static bool isComplete(std::u16string_view text);
 
   private:
-    bool atEnd() const { return position_ >= text_.size(); }
-    char16_t peek() const { return text_[position_]; }
+    bool atEnd() const { return m_position >= m_text.size(); }
+    char16_t peek() const { return m_text[m_position]; }
     char16_t take();
     void skipBlanks();
     Value form();
@@ -37,12 +37,12 @@ class Reader {
     std::optional<char16_t> takeUnicode();
     [[noreturn]] void fail(std::u16string message, uint32_t line) const;
 
-    Machine& machine_;
-    std::u16string_view text_;
-    size_t position_ = 0;
-    uint32_t line_;
-    uint32_t file_;
-    bool countsLines_;
+    Machine& m_machine;
+    std::u16string_view m_text;
+    size_t m_position = 0;
+    uint32_t m_line;
+    uint32_t m_file;
+    bool m_countsLines;
 };
 
 // Whether the reader takes the text as one word: the name of a symbol, or a number.

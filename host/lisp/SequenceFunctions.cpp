@@ -13,27 +13,27 @@ namespace {
 class Callee {
   public:
     explicit Callee(Call& call, size_t index = 0)
-        : machine_(call.lisp.machine()),
-          function_(machine_.callable(call[index])),
-          kept_(call.lisp, Value::of(function_)) {}
+        : m_machine(call.lisp.machine()),
+          m_function(m_machine.callable(call[index])),
+          m_kept(call.lisp, Value::of(m_function)) {}
 
     Value operator()(Value argument) {
-        Value* base = machine_.top();
-        machine_.push(argument);
-        return machine_.call(function_, base);
+        Value* base = m_machine.top();
+        m_machine.push(argument);
+        return m_machine.call(m_function, base);
     }
     Value operator()(Value first, Value second) {
-        Value* base = machine_.top();
-        machine_.push(first);
-        machine_.push(second);
-        return machine_.call(function_, base);
+        Value* base = m_machine.top();
+        m_machine.push(first);
+        m_machine.push(second);
+        return m_machine.call(m_function, base);
     }
 
   private:
-    Machine& machine_;
-    Function* function_;
+    Machine& m_machine;
+    Function* m_function;
     // A function may redefine itself between two calls.
-    Root kept_;
+    Root m_kept;
 };
 
 Value keepWhere(Call& call, bool kept) {
@@ -81,30 +81,30 @@ Value reduce(Call& call) {
 // range.
 class Merge {
   public:
-    Merge(std::vector<Value>& values, Callee& before) : values_(values), spare_(values), before_(before) {}
+    Merge(std::vector<Value>& values, Callee& before) : m_values(values), m_spare(values), m_before(before) {}
 
     void sort() {
-        for (size_t width = 1; width < values_.size(); width *= 2) {
-            for (size_t start = 0; start < values_.size(); start += 2 * width) merge(start, width);
-            values_.swap(spare_);
+        for (size_t width = 1; width < m_values.size(); width *= 2) {
+            for (size_t start = 0; start < m_values.size(); start += 2 * width) merge(start, width);
+            m_values.swap(m_spare);
         }
     }
 
   private:
     void merge(size_t start, size_t width) {
-        size_t middle = std::min(start + width, values_.size());
-        size_t end = std::min(middle + width, values_.size());
+        size_t middle = std::min(start + width, m_values.size());
+        size_t end = std::min(middle + width, m_values.size());
         size_t left = start, right = middle;
         for (size_t to = start; to < end; ++to) {
             bool takeRight =
-                left == middle || (right < end && !before_(values_[right], values_[left]).isNil());
-            spare_[to] = values_[takeRight ? right++ : left++];
+                left == middle || (right < end && !m_before(m_values[right], m_values[left]).isNil());
+            m_spare[to] = m_values[takeRight ? right++ : left++];
         }
     }
 
-    std::vector<Value>& values_;
-    std::vector<Value> spare_;
-    Callee& before_;
+    std::vector<Value>& m_values;
+    std::vector<Value> m_spare;
+    Callee& m_before;
 };
 
 Value sort(Call& call) {
@@ -115,7 +115,7 @@ Value sort(Call& call) {
     return call.lisp.list(values);
 }
 
-constexpr Definition kFunctions[] = {
+constexpr Definition functions[] = {
     {u"remove-if", removeIf, 2, 2}, {u"remove-if-not", removeIfNot, 2, 2}, {u"some", some, 2, 2},
     {u"every", every, 2, 2},        {u"member-if", memberIf, 2, 2},        {u"reduce", reduce, 2, 3},
     {u"sort", sort, 2, 2},
@@ -123,6 +123,6 @@ constexpr Definition kFunctions[] = {
 
 }  // namespace
 
-void defineSequenceFunctions(Interpreter& lisp) { defineAll(lisp, kFunctions); }
+void defineSequenceFunctions(Interpreter& lisp) { defineAll(lisp, functions); }
 
 }  // namespace lisp

@@ -10,21 +10,21 @@ namespace lisp {
 
 namespace {
 
-constexpr std::u16string_view kBlanks = u" \t\r\n";
+constexpr std::u16string_view BLANKS = u" \t\r\n";
 
 // A text that grows within the bounds of the heap.
 class Growing {
   public:
-    explicit Growing(Call& call) : call_(call) {}
+    explicit Growing(Call& call) : m_call(call) {}
     void add(std::u16string_view part) {
-        call_.lisp.machine().heap.requireRoom(sizeof(char16_t) * (text_.size() + part.size()));
-        text_ += part;
+        m_call.lisp.machine().heap.requireRoom(sizeof(char16_t) * (m_text.size() + part.size()));
+        m_text += part;
     }
-    Value value() const { return call_.lisp.string(text_); }
+    Value value() const { return m_call.lisp.string(m_text); }
 
   private:
-    Call& call_;
-    std::u16string text_;
+    Call& m_call;
+    std::u16string m_text;
 };
 
 Value concatenate(Call& call) {
@@ -102,12 +102,12 @@ Value integerToText(Call& call) { return call.lisp.string(decimal(int64_t(call.i
 
 // The longest start of the text that is a number, after blanks; 0 where there is none.
 double leadingNumber(std::u16string_view text, std::u16string_view letters) {
-    size_t start = text.find_first_not_of(kBlanks);
+    size_t start = text.find_first_not_of(BLANKS);
     if (start == text.npos) return 0;
     text.remove_prefix(start);
     // No number takes more characters, and the search below is quadratic.
-    constexpr size_t kLongest = 400;
-    text = text.substr(0, std::min(text.find_first_not_of(letters), kLongest));
+    constexpr size_t LONGEST = 400;
+    text = text.substr(0, std::min(text.find_first_not_of(letters), LONGEST));
     for (; !text.empty(); text.remove_suffix(1))
         if (auto number = parseReal(text)) return *number;
     return 0;
@@ -144,7 +144,7 @@ Value replace(Call& call) {
 
 Value trimmed(Call& call, bool left, bool right) {
     std::u16string_view text = call.text(0);
-    std::u16string_view blanks = call[1].isNil() ? kBlanks : std::u16string_view(call.text(1));
+    std::u16string_view blanks = call[1].isNil() ? BLANKS : std::u16string_view(call.text(1));
     size_t start = left ? std::min(text.find_first_not_of(blanks), text.size()) : 0;
     size_t end = right ? text.find_last_not_of(blanks) + 1 : text.size();
     return call.lisp.string(end > start ? text.substr(start, end - start) : u"");
@@ -187,7 +187,7 @@ Value equalIgnoringCase(Call& call) {
 Value displayed(Call& call) { return call.lisp.string(call.lisp.display(call[0])); }
 Value printed(Call& call) { return call.lisp.string(call.lisp.print(call[0])); }
 
-constexpr Definition kFunctions[] = {
+constexpr Definition functions[] = {
     {u"strcat", concatenate, 0, -1},
     {u"strlen", length, 0, -1},
     {u"substr", part, 2, 3},
@@ -216,6 +216,6 @@ constexpr Definition kFunctions[] = {
 
 }  // namespace
 
-void defineStringFunctions(Interpreter& lisp) { defineAll(lisp, kFunctions); }
+void defineStringFunctions(Interpreter& lisp) { defineAll(lisp, functions); }
 
 }  // namespace lisp

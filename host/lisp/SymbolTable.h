@@ -17,13 +17,13 @@ class SymbolTable {
     // The same, or null where no one has mentioned the name yet.
     Symbol* find(std::u16string_view name) const;
 
-    auto begin() const { return symbols_.begin(); }
-    auto end() const { return symbols_.end(); }
-    size_t size() const { return symbols_.size(); }
+    auto begin() const { return m_symbols.begin(); }
+    auto end() const { return m_symbols.end(); }
+    size_t size() const { return m_symbols.size(); }
 
   private:
     // The keys view the names of their symbols.
-    std::unordered_map<std::u16string_view, std::unique_ptr<Symbol>> symbols_;
+    std::unordered_map<std::u16string_view, std::unique_ptr<Symbol>> m_symbols;
 };
 
 }  // namespace lisp

@@ -53,8 +53,8 @@ Decoded decodeOne(std::string_view bytes) {
         if ((byte(i) & 0xC0) != 0x80) return {0, 0};
         code = code << 6 | (byte(i) & 0x3F);
     }
-    static constexpr uint32_t kSmallest[] = {0, 0, 0x80, 0x800, 0x10000};
-    if (code < kSmallest[length] || code > 0x10FFFF) return {0, 0};
+    static constexpr uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    if (code < smallest[length] || code > 0x10FFFF) return {0, 0};
     return {code, length};
 }
 

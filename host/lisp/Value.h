@@ -23,38 +23,38 @@ struct File;
 // these between getting a value and its last use needs no Root.
 class Value {
   public:
-    constexpr Value() : bits_(kNil) {}
+    constexpr Value() : m_bits(NIL) {}
 
-    static constexpr Value nil() { return Value(kNil); }
+    static constexpr Value nil() { return Value(NIL); }
     // "No value": nil wherever it is used, but a prompt prints nothing for it.
-    static constexpr Value none() { return Value(kNone); }
-    static constexpr Value truth(bool condition = true) { return Value(condition ? kTruth : kNil); }
-    static constexpr Value integer(int32_t number) { return Value(tagged(kInteger, uint32_t(number))); }
+    static constexpr Value none() { return Value(NONE); }
+    static constexpr Value truth(bool condition = true) { return Value(condition ? TRUTH : NIL); }
+    static constexpr Value integer(int32_t number) { return Value(tagged(INTEGER_TAG, uint32_t(number))); }
     static constexpr Value real(double number) {
-        return number == number ? Value(std::bit_cast<uint64_t>(number)) : Value(kNotANumber);
+        return number == number ? Value(std::bit_cast<uint64_t>(number)) : Value(NOT_A_NUMBER);
     }
-    static Value of(const Cons* object) { return reference(kCons, object); }
-    static Value of(const String* object) { return reference(kString, object); }
-    static Value of(const Symbol* object) { return reference(kSymbol, object); }
-    static Value of(const Function* object) { return reference(kFunction, object); }
-    static Value of(const File* object) { return reference(kFile, object); }
+    static Value of(const Cons* object) { return reference(CONS_TAG, object); }
+    static Value of(const String* object) { return reference(STRING_TAG, object); }
+    static Value of(const Symbol* object) { return reference(SYMBOL_TAG, object); }
+    static Value of(const Function* object) { return reference(FUNCTION_TAG, object); }
+    static Value of(const File* object) { return reference(FILE_TAG, object); }
 
-    constexpr bool isNil() const { return bits_ - kNil <= 1; }
-    constexpr bool isNone() const { return bits_ == kNone; }
-    constexpr bool isTruth() const { return bits_ == kTruth; }
-    constexpr bool isInteger() const { return tag() == kInteger; }
-    constexpr bool isReal() const { return tag() < kInteger; }
-    constexpr bool isNumber() const { return tag() <= kInteger; }
-    constexpr bool isCons() const { return tag() == kCons; }
+    constexpr bool isNil() const { return m_bits - NIL <= 1; }
+    constexpr bool isNone() const { return m_bits == NONE; }
+    constexpr bool isTruth() const { return m_bits == TRUTH; }
+    constexpr bool isInteger() const { return tag() == INTEGER_TAG; }
+    constexpr bool isReal() const { return tag() < INTEGER_TAG; }
+    constexpr bool isNumber() const { return tag() <= INTEGER_TAG; }
+    constexpr bool isCons() const { return tag() == CONS_TAG; }
     constexpr bool isList() const { return isCons() || isNil(); }
-    constexpr bool isString() const { return tag() == kString; }
-    constexpr bool isSymbol() const { return tag() == kSymbol; }
-    constexpr bool isFunction() const { return tag() == kFunction; }
-    constexpr bool isFile() const { return tag() == kFile; }
+    constexpr bool isString() const { return tag() == STRING_TAG; }
+    constexpr bool isSymbol() const { return tag() == SYMBOL_TAG; }
+    constexpr bool isFunction() const { return tag() == FUNCTION_TAG; }
+    constexpr bool isFile() const { return tag() == FILE_TAG; }
 
     // Each reader demands a value of its kind.
-    constexpr int32_t asInteger() const { return int32_t(uint32_t(bits_)); }
-    constexpr double asReal() const { return std::bit_cast<double>(bits_); }
+    constexpr int32_t asInteger() const { return int32_t(uint32_t(m_bits)); }
+    constexpr double asReal() const { return std::bit_cast<double>(m_bits); }
     // An integer or a real.
     constexpr double asNumber() const { return isInteger() ? asInteger() : asReal(); }
     Cons* asCons() const { return pointer<Cons>(); }
@@ -70,31 +70,31 @@ class Value {
     Value car() const;
     Value cdr() const;
 
-    constexpr Value orNil() const { return bits_ == kNone ? nil() : *this; }
+    constexpr Value orNil() const { return m_bits == NONE ? nil() : *this; }
     // The same number or the same object.
     constexpr bool operator==(Value other) const {
-        return bits_ == other.bits_ || (isNil() && other.isNil());
+        return m_bits == other.m_bits || (isNil() && other.isNil());
     }
 
   private:
     // Reals are stored as they are; the patterns above all of theirs carry a tag in the upper 16 bits.
-    static constexpr uint64_t kInteger = 0xFFF9, kCons = 0xFFFA, kString = 0xFFFB, kSymbol = 0xFFFC,
-                              kFunction = 0xFFFD, kFile = 0xFFFE;
-    static constexpr uint64_t kNil = 0xFFFF'0000'0000'0000, kNone = kNil + 1, kTruth = kNil + 2;
-    static constexpr uint64_t kNotANumber = 0x7FF8'0000'0000'0000;
+    static constexpr uint64_t INTEGER_TAG = 0xFFF9, CONS_TAG = 0xFFFA, STRING_TAG = 0xFFFB,
+                              SYMBOL_TAG = 0xFFFC, FUNCTION_TAG = 0xFFFD, FILE_TAG = 0xFFFE;
+    static constexpr uint64_t NIL = 0xFFFF'0000'0000'0000, NONE = NIL + 1, TRUTH = NIL + 2;
+    static constexpr uint64_t NOT_A_NUMBER = 0x7FF8'0000'0000'0000;
 
-    explicit constexpr Value(uint64_t bits) : bits_(bits) {}
+    explicit constexpr Value(uint64_t bits) : m_bits(bits) {}
     static constexpr uint64_t tagged(uint64_t tag, uint64_t payload) { return tag << 48 | payload; }
     static Value reference(uint64_t tag, const void* object) {
         return Value(tagged(tag, reinterpret_cast<uintptr_t>(object)));
     }
-    constexpr uint64_t tag() const { return bits_ >> 48; }
+    constexpr uint64_t tag() const { return m_bits >> 48; }
     template <class T>
     T* pointer() const {
-        return reinterpret_cast<T*>(bits_ & 0x0000'FFFF'FFFF'FFFF);
+        return reinterpret_cast<T*>(m_bits & 0x0000'FFFF'FFFF'FFFF);
     }
 
-    uint64_t bits_;
+    uint64_t m_bits;
 };
 
 // Where a form stands in its source: file numbers count from 1, 0 for none.
@@ -108,24 +108,24 @@ class Elements {
   public:
     class Iterator {
       public:
-        explicit Iterator(Value rest) : rest_(rest) {}
-        Value operator*() const { return rest_.car(); }
+        explicit Iterator(Value rest) : m_rest(rest) {}
+        Value operator*() const { return m_rest.car(); }
         Iterator& operator++() {
-            rest_ = rest_.cdr();
+            m_rest = m_rest.cdr();
             return *this;
         }
-        bool operator==(std::default_sentinel_t) const { return !rest_.isCons(); }
+        bool operator==(std::default_sentinel_t) const { return !m_rest.isCons(); }
 
       private:
-        Value rest_;
+        Value m_rest;
     };
 
-    explicit Elements(Value list) : list_(list) {}
-    Iterator begin() const { return Iterator(list_); }
+    explicit Elements(Value list) : m_list(list) {}
+    Iterator begin() const { return Iterator(m_list); }
     std::default_sentinel_t end() const { return {}; }
 
   private:
-    Value list_;
+    Value m_list;
 };
 
 }  // namespace lisp
