@@ -8,13 +8,17 @@
 
 namespace {
 
+// Each row gets a number of its own as its item data, by which the control can be told to sort the rows.
+LPARAM g_lastNumber = 0;
+
 // Gives the row's index, which is another one where the list sorts its rows; -1 where it takes none.
 int insertItem(const CWnd& list, int index, wchar_t* text) {
     LVITEMW item = {};
-    item.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_INDENT;
+    item.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_INDENT | LVIF_PARAM;
     item.iItem = index;
     item.pszText = text;
     item.iImage = -1;
+    item.lParam = ++g_lastNumber;
     return static_cast<int>(list.sendStraight(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
 }
 

@@ -1,89 +1,89 @@
 #include "src/listctrl/ListSort.h"
 
+#include <algorithm>
+
 #include "src/listctrl/ListCells.h"
 #include "src/platform/mfc/RedrawHold.h"
 
 namespace {
 
-// Focus, selection, cut, drop mark, overlay and state image.
-constexpr UINT TRAVELLING_STATES = 0xFF0F;
-constexpr UINT ROW_FIELDS = LVIF_IMAGE | LVIF_STATE | LVIF_PARAM;
-
-struct Column {
-    std::vector<CString> texts;
-    std::vector<int> images;
-};
-
-// All that goes with the rows, read once; column 0 has the images of the rows.
-class Table {
+// The item data of the rows while the control sorts them by it: a number of its own for each row.
+class RowNumbers {
   public:
-    explicit Table(CListCtrl& list) : m_list(list), m_columns(columnCount(list)), m_rowCount(rowCount(list)) {
-        CellReader reader(list);
-        m_states.reserve(m_rowCount);
-        m_data.reserve(m_rowCount);
-        for (size_t column = 0; column < m_columns.size(); ++column) readColumn(reader, column);
+    explicit RowNumbers(CListCtrl& list) : m_list(list), m_data(rowCount(list)) {
+        LVITEMW item{};
+        item.mask = LVIF_PARAM;
+        for (; item.iItem < static_cast<int>(m_data.size()); ++item.iItem) {
+            m_list.getItem(item);
+            m_data[item.iItem] = item.lParam;
+        }
     }
 
-    const std::vector<CString>& texts(int column) const { return m_columns[column].texts; }
-
-    // Gives the row the content that another one had at first. What is the same is left alone.
-    void write(int row, int from) const {
-        for (size_t column = 0; column < m_columns.size(); ++column) {
-            const Column& cells = m_columns[column];
-            LVITEMW item = itemAt(row, column);
-            if (cells.texts[row] != cells.texts[from]) item.mask |= LVIF_TEXT;
-            if (cells.images[row] != cells.images[from]) item.mask |= LVIF_IMAGE;
-            if (column == 0 && m_states[row] != m_states[from]) item.mask |= LVIF_STATE;
-            if (column == 0 && m_data[row] != m_data[from]) item.mask |= LVIF_PARAM;
-            if (!item.mask) continue;
-            item.pszText = const_cast<wchar_t*>(cells.texts[from].c_str());
-            item.iImage = cells.images[from];
-            item.state = m_states[from];
-            item.lParam = m_data[from];
-            m_list.setItem(item);
+    // Row `order[at]` goes to place `at`. All that a row has moves with it.
+    void sort(const std::vector<int>& order) {
+        const bool numbered = rank(order, m_data);
+        if (!numbered) {
+            std::vector<LPARAM> places(m_data.size());
+            for (size_t row = 0; row < places.size(); ++row) write(row, places[row] = LPARAM(row));
+            rank(order, places);
         }
+        m_list.sendStraight(LVM_SORTITEMS, reinterpret_cast<WPARAM>(this),
+                            reinterpret_cast<LPARAM>(&compare));
+        if (numbered) return;
+        for (size_t row = 0; row < order.size(); ++row) write(row, m_data[order[row]]);
     }
 
   private:
-    static LVITEMW itemAt(int row, size_t column) {
-        LVITEMW item{};
-        item.iItem = row;
-        item.iSubItem = static_cast<int>(column);
-        item.stateMask = TRAVELLING_STATES;
-        return item;
+    static int CALLBACK compare(LPARAM a, LPARAM b, LPARAM numbers) {
+        const auto& self = *reinterpret_cast<const RowNumbers*>(numbers);
+        return self.m_ranks[a - self.m_least] - self.m_ranks[b - self.m_least];
     }
 
-    void readColumn(CellReader& reader, size_t column) {
-        Column& cells = m_columns[column];
-        cells.texts.reserve(m_rowCount);
-        cells.images.reserve(m_rowCount);
-        for (int row = 0; row < m_rowCount; ++row) {
-            LVITEMW item = itemAt(row, column);
-            item.mask = column == 0 ? ROW_FIELDS : LVIF_IMAGE;
-            cells.texts.push_back(reader.read(item));
-            cells.images.push_back(item.iImage);
-            if (column > 0) continue;
-            m_states.push_back(item.state);
-            m_data.push_back(item.lParam);
+    // Finds the place of each row by its number. False where two rows have the same one, or where the numbers
+    // lie so far apart that a table of them would be large.
+    bool rank(const std::vector<int>& order, const std::vector<LPARAM>& numbers) {
+        const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
+        m_least = *least;
+        const auto range = static_cast<size_t>(*most) - static_cast<size_t>(m_least);
+        if (range > 16 * numbers.size() + 65536) return false;
+        m_ranks.assign(range + 1, -1);
+        for (size_t place = 0; place < order.size(); ++place) {
+            int& rank = m_ranks[numbers[order[place]] - m_least];
+            if (rank >= 0) return false;
+            rank = static_cast<int>(place);
         }
+        return true;
+    }
+
+    void write(size_t row, LPARAM data) const {
+        LVITEMW item{};
+        item.mask = LVIF_PARAM;
+        item.iItem = static_cast<int>(row);
+        item.lParam = data;
+        m_list.setItem(item);
     }
 
     CListCtrl& m_list;
-    std::vector<Column> m_columns;
-    std::vector<UINT> m_states;
     std::vector<LPARAM> m_data;
-    int m_rowCount;
+    LPARAM m_least = 0;
+    std::vector<int> m_ranks;  // by number, from the least one on; -1 for a number that no row has
 };
+
+std::vector<CString> textsOf(CListCtrl& list, int column) {
+    CellReader reader(list);
+    std::vector<CString> texts(rowCount(list));
+    for (size_t row = 0; row < texts.size(); ++row) texts[row] = reader.text(static_cast<int>(row), column);
+    return texts;
+}
 
 }  // namespace
 
 bool sortRows(CListCtrl& list, int column, bool ascending, const DistanceParser& parse) {
     if (column >= columnCount(list) || (list.GetStyle() & LVS_OWNERDATA)) return false;
+    const std::vector<int> order = sortedOrder(textsOf(list, column), ascending, parse);
+    if (std::is_sorted(order.begin(), order.end())) return true;
     holdRedraw(list.m_hWnd);
-    const Table table(list);
-    const std::vector<int> order = sortedOrder(table.texts(column), ascending, parse);
-    for (int row = 0; row < static_cast<int>(order.size()); ++row)
-        if (order[row] != row) table.write(row, order[row]);
+    RowNumbers(list).sort(order);
     return true;
 }
 
