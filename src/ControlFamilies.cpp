@@ -7,6 +7,7 @@
 #include "src/grid/WexGrid.h"
 #include "src/listctrl/ListRows.h"
 #include "src/listctrl/WexListCtrl.h"
+#include "src/platform/mfc/RedrawHold.h"
 #include "src/slides/WexSlideImage.h"
 #include "src/tabs/WexTabCtrl.h"
 #include "src/tiles/ListEntries.h"
@@ -30,6 +31,12 @@ void applyEditLimit(const CWnd& edit, const CCtrlInfo& tile) {
     edit.SendMessage(EM_LIMITTEXT, tile.m_editLimit);
 }
 
+// An edit box paints each text that it gets, which takes much longer than to set it.
+void setEditText(CWnd& edit, const CString& text, bool /*byKey*/) {
+    holdRedraw(edit.m_hWnd);
+    edit.SetWindowText(text);
+}
+
 constexpr ControlFamily families[] = {
     {.kind = ControlKind::slideImage, .typeWord = L"Slide", .make = make<WexSlideImage>},
     {.kind = ControlKind::frame, .typeWord = L"Frame", .make = make<WexFrame>},
@@ -48,7 +55,8 @@ constexpr ControlFamily families[] = {
     {.kind = ControlKind::edit,
      .typeWord = L"Edit",
      .make = make<WexEditBox>,
-     .applyMessages = applyEditLimit},
+     .applyMessages = applyEditLimit,
+     .setValue = setEditText},
     {.kind = ControlKind::staticText, .typeWord = L"Static", .make = make<WexStatic>},
     {.kind = ControlKind::listBox,
      .typeWord = L"ListBox",

@@ -6,6 +6,7 @@
 #include "src/platform/host/HostPlugin.h"
 #include "src/platform/host/HostServices.h"
 #include "src/platform/mfc/CWinApp.h"
+#include "src/platform/mfc/RedrawHold.h"
 #include "src/shell/DocData.h"
 #include "src/shell/Module.h"
 #include "src/shell/WexDialogsApp.h"
@@ -35,6 +36,7 @@ __declspec(dllexport) uint32_t pluginGetApiVersion() { return HOST_API_VERSION; 
 __declspec(dllexport) HWND pluginFindWindow(const wchar_t* dialogName, const wchar_t* key, int32_t id) {
     const WexDialog* dialog = runningDialog(dialogName);
     if (!dialog) return nullptr;
+    releaseRedraw();  // who asks for a window is about to look at it, or to work it
     if (!key && id == -1) return dialog->m_hWnd;
     return ::GetDlgItem(dialog->m_hWnd, key ? dialog->idForKey(key) : id);
 }

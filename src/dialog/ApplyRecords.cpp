@@ -29,7 +29,6 @@ void WexDialog::applyRecords() {
         CCtrlInfo& tile = *m_tiles.at(at);
         const int id = tile.m_ctrlId >= 0 ? tile.m_ctrlId : idForKey(tile.m_key);
         if (id == -1) continue;
-        // A dialog that runs again has new windows, but the record of a bare control still names the old one.
         CWnd* control = tile.m_control && tile.m_control->isLive() ? tile.m_control : itemForId(id);
         if (!control) continue;
         computeAnchors(*control, tile);

@@ -50,6 +50,8 @@ bool CSnapDlg::OnInitDialog() {
     return CDialog::OnInitDialog();
 }
 
+void CSnapDlg::runEnded() { m_gripRect = {}; }
+
 StoredPlacement CSnapDlg::stored() const {
     const auto entry = [this](const wchar_t* name) {
         return CWinApp::GetProfileInt(m_registrySection.c_str(), name, 0);

@@ -23,6 +23,7 @@ class CSnapDlg : public CDialog {
   protected:
     const MessageMap& messageMap() const override;
     bool OnInitDialog() override;
+    void runEnded() override;
 
     // The window's rectangle at the start, from the profile and the template.
     PixelRect restorePlacement() const;

@@ -49,7 +49,9 @@ WexDialog::WexDialog(const DialogSource& source, CWnd* parent)
     }
 }
 
-WexDialog::~WexDialog() {
+WexDialog::~WexDialog() { deleteControls(); }
+
+void WexDialog::deleteControls() {
     while (!m_controls.empty()) m_controls.pop_back();
 }
 
@@ -77,7 +79,6 @@ const MessageMap& WexDialog::messageMap() const {
                                 {
                                     on<WM_PAINT, &WexDialog::onPaint>(),
                                     on<WM_SIZE, &WexDialog::onSize>(),
-                                    on<WM_DESTROY, &WexDialog::onDestroy>(),
                                     on<WM_HELP, &WexDialog::onHelp>(),
                                     on<WM_CTLCOLORSTATIC, &WexDialog::onColorStatic>(),
                                     on<WM_ERASEBKGND, &WexDialog::onEraseBackground>(),
@@ -138,11 +139,15 @@ void WexDialog::onSize(UINT type, int width, int height) {
     callLispAction(m_onSizeAction);
 }
 
-// The dialog may run again, and then starts like the first time.
-void WexDialog::onDestroy() {
-    CSnapDlg::onDestroy();
+// A dialog that was closed out of order stays listed and may run again: its records wait for new controls.
+void WexDialog::runEnded() {
+    CSnapDlg::runEnded();
     m_discovered = false;
     m_focusId = -1;
+    m_lastClientRect = m_initialClientRect = {};
+    if (m_deferPos) EndDeferWindowPos(std::exchange(m_deferPos, nullptr));
+    for (size_t at = 0; at < m_tiles.size(); ++at) m_tiles.at(at)->m_control = nullptr;
+    deleteControls();
 }
 
 LRESULT WexDialog::onColorStatic(HDC dc, CWnd* control) {

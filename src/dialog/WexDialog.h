@@ -71,15 +71,17 @@ class WexDialog : public CSnapDlg {
     void DoDataExchange(CDataExchange& exchange) override;
     bool OnInitDialog() override;
     void OnCancel() override;
+    void runEnded() override;
 
   private:
     void onPaint();
     void onSize(UINT type, int width, int height);
-    void onDestroy();
     LRESULT onColorStatic(HDC dc, CWnd* control);
     LRESULT onEraseBackground(HDC dc);
     LRESULT onHelp(HELPINFO* help);
 
+    // From the tail to the head.
+    void deleteControls();
     bool turnPage(int step);
     bool pressByMnemonic(const MSG& message);
     void discover(int id, HWND control);

@@ -16,6 +16,11 @@ void insertColumn(const CWnd& list, int index, const CString& title, int width) 
     list.SendMessage(LVM_INSERTCOLUMNW, index, reinterpret_cast<LPARAM>(&column));
 }
 
+void deleteColumn(const CWnd& list, int column) {
+    holdRedraw(list.m_hWnd);
+    list.SendMessage(LVM_DELETECOLUMN, column);
+}
+
 void applyColumnText(const CWnd& list, const CString& text) {
     if (columnCount(list) > 0) return;
     const auto widthOf = [&](const CString& title) {

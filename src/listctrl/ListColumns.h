@@ -5,6 +5,8 @@
 
 // Puts a left-aligned column at `index`; the width is in device pixels.
 void insertColumn(const CWnd& list, int index, const CString& title, int width);
+// The cells behind it move up. A column that isn't there is passed over.
+void deleteColumn(const CWnd& list, int column);
 // The columns of a column text, for a list that has none yet: columns are never replaced.
 void applyColumnText(const CWnd& list, const CString& text);
 // At most 255 characters are taken. A column that isn't there is passed over.

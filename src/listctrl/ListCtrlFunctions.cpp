@@ -119,7 +119,7 @@ void listDeleteColumn(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const int column = columnArgument(call);
     if (!list || column == -1) return call.retNil();
-    list->SendMessage(LVM_DELETECOLUMN, column);
+    deleteColumn(*list, column);
     call.retVoid();
 }
 

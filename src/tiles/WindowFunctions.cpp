@@ -2,7 +2,6 @@
 
 #include "src/dialog/ParentWindow.h"
 #include "src/dialog/WexDialog.h"
-#include "src/platform/mfc/RedrawHold.h"
 
 namespace {
 
@@ -27,7 +26,6 @@ void alert(LispCall& call) {
     const CString text = call.textOrEmpty();
     const UINT icon = iconOf(call.shortNumber());
     const CWnd* owner = findParentWindow();
-    releaseRedraw();
     MessageBoxW(owner ? owner->m_hWnd : nullptr, text.c_str(), resourceText(TEXT_ALERT_CAPTION).c_str(),
                 MB_OK | icon);
     call.retNil();

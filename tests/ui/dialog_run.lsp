@@ -58,13 +58,13 @@
 (setq depth 0)
 (defun open-deeper ()
   (setq depth (1+ depth))
-  (cond ((< depth 8) (status-of "(open-deeper) (wex_done_dialog depth)"))
+  (cond ((< depth 50) (status-of "(open-deeper) (wex_done_dialog depth)"))
         (T (setq titles (length (ui_dialogs))))))
 
-(test "Actions open dialogs eight deep, and each comes back"
+(test "Actions open dialogs fifty deep, and each comes back"
   '((setq depth 0)
-    (want 8 (open-deeper))
-    (want 7 titles)
+    (want 50 (open-deeper))
+    (want 49 titles)
     (want nil (ui_dialogs))))
 
 (test "A dialog that is made and never started lies in front of the one that runs"
@@ -99,6 +99,18 @@
     (ui_session "ADD_REC" '((want nil (look "Cancel" "enabled")) (ui_size 600 500) (ui_click "OK")))
     (want -1 (wex_start_dialog))
     (want '(INIT INIT SIZE) notes)))
+
+(test "What is said of a dialog between two runs counts in the second, which lays its tiles out anew"
+  '((in-dialog "PICK_DWGS"
+      '(progn (wex_listctrl_setcolumns "LST1" "x\tName") (wex_setresizing "LST1" 63))
+      '((ui_size 700 500)
+        (setq grown (look "LST1" "rect"))
+        (fill "LST1" '("gone"))
+        (wex_new_dialog "PICK_DWGS")))
+    (fill "LST1" '("one" "two"))
+    (ui_session "PICK_DWGS"
+      '((want '("one" "two") (ui_items "LST1")) (want grown (look "LST1" "rect")) (ui_click "Cancel")))
+    (want -1 (wex_start_dialog))))
 
 (test "A point moves nothing, and a name of another type stands for the last one"
   '((want T (wex_new_dialog "CONFIRM_DELREC" (list 10.0 20.0)))

@@ -43,6 +43,11 @@ void clearVisible(std::vector<BYTE>& bytes) {
     std::memcpy(&bytes[at], &style, sizeof style);
 }
 
+HWND lastOwner(HWND window) {
+    while (const HWND owner = GetWindow(window, GW_OWNER)) window = owner;
+    return window;
+}
+
 // The owner takes no input while the object lives.
 class DisabledOwner {
   public:
@@ -117,6 +122,8 @@ int CDialog::DoModal() {
         if (!GetFocus()) ::SetFocus(owner);
     }
     DestroyWindow();
+    releaseRedraw();  // its controls are gone, and their handles may come again
+    runEnded();
     raiseKeptException();
     return m_end.result();
 }
@@ -203,9 +210,14 @@ bool CDialog::OnCommand(UINT id, UINT notification) {
 
 LRESULT CDialog::WindowProc(UINT message, WPARAM w, LPARAM l) {
     if (message == WM_INITDIALOG) return OnInitDialog();
+    if (message == redrawReleaseMessage()) {
+        releaseRedraw();
+        return 0;
+    }
     // Who watches for idle loops of nested dialogs and message boxes stands at the end of the chain of
-    // owners.
+    // owners. It is told at once: passed on from owner to owner the message would nest as deep as the
+    // dialogs do, and the platform sets a limit to that.
     if (message == WM_ENTERIDLE && w == MSGF_DIALOGBOX)
-        if (const HWND owner = ::GetWindow(m_hWnd, GW_OWNER)) return ::SendMessageW(owner, message, w, l);
+        if (const HWND last = lastOwner(m_hWnd); last != m_hWnd) return ::SendMessageW(last, message, w, l);
     return CWnd::WindowProc(message, w, l);
 }

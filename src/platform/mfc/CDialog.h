@@ -73,6 +73,9 @@ class CDialog : public CWnd {
     virtual void OnOK();
     // Ends the dialog with 2.
     virtual void OnCancel();
+    // The run is over and the window gone, but exceptions that were kept are still to be raised. What belongs
+    // to the run goes here, so that the dialog can run again like the first time. Must not throw.
+    virtual void runEnded() {}
 
     // The module of the template; null: by the resource search.
     HMODULE m_templateModule = nullptr;

@@ -27,6 +27,27 @@ TEST_F(RedrawHoldTest, AHeldControlPaintsAnewWhenItIsReleased) {
     EXPECT_FALSE(needsPaint(control)) << "released once";
 }
 
+TEST_F(RedrawHoldTest, AMessageBoxStandsBesideWhatWasHeldBefore) {
+    TestDialog dialog(&owner);
+    bool drawn = false;
+    owner.steps = {[&] { dialog.click(1); }};
+    dialog.ok = [&] {
+        owner.waits = true;
+        const HWND control = CreateWindowW(L"Static", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, dialog.m_hWnd,
+                                           nullptr, nullptr, nullptr);
+        dialog.timer = [&] {
+            drawn = GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE;
+            ::PostMessageW(GetLastActivePopup(dialog.m_hWnd), WM_COMMAND, IDOK, 0);
+        };
+        holdRedraw(control);
+        SetTimer(dialog.m_hWnd, 1, 30, nullptr);
+        MessageBoxW(dialog.m_hWnd, L"Text", L"Box", MB_OK);
+        dialog.EndDialog(IDOK);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_TRUE(drawn);
+}
+
 TEST_F(RedrawHoldTest, WhatIsShownOrHiddenMeanwhileStaysSo) {
     const HWND hidden = make(0), shown = make(WS_VISIBLE);
     holdRedraw(hidden);
