@@ -115,6 +115,13 @@ void LispCall::ret(int number) {
     hostRetInt(number);
 }
 
+void LispCall::retForNow(int number) { hostRetInt(number); }
+
+void LispCall::retLong(int32_t number) {
+    setsResult();
+    hostRetVal(OwnedChain(hostBuildList(HV_LONG, number, 0)).get());
+}
+
 void LispCall::ret(std::span<const int> numbers) {
     if (numbers.empty()) return retNil();
     setsResult();

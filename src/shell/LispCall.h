@@ -73,6 +73,10 @@ class LispCall {
     void retNil();
     void retT();
     void ret(int number);
+    // A number that a later result of the same call replaces.
+    void retForNow(int number);
+    // A node of type HV_LONG, whatever the number.
+    void retLong(int32_t number);
     void ret(const CString& text);
     // A list; nil for none.
     void ret(std::span<const int> numbers);
