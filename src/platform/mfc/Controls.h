@@ -43,10 +43,6 @@ class CTabCtrl : public CWnd {
     DECLARE_DYNAMIC(CTabCtrl)
 };
 
-class CTreeCtrl : public CWnd {
-    DECLARE_DYNAMIC(CTreeCtrl)
-};
-
 class CScrollBar : public CWnd {
     DECLARE_DYNAMIC(CScrollBar)
 
