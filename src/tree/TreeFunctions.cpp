@@ -1,0 +1,214 @@
+#include "src/tree/TreeFunctions.h"
+
+#include "src/dialog/CurrentTile.h"
+#include "src/platform/mfc/RedrawHold.h"
+#include "src/tree/TreeImages.h"
+#include "src/tree/TreeItems.h"
+#include "src/tree/WexTree.h"
+
+namespace {
+
+// An item that no control knows.
+const HTREEITEM UNKNOWN_ITEM = reinterpret_cast<HTREEITEM>(-1);
+
+// One that is no integer is null.
+HTREEITEM itemArgument(LispCall& call, const CWnd* tree) {
+    const HTREEITEM item = handleOf(call.shortOrLong().value_or(0));
+    const auto* wrapper = dynamic_cast<const WexTree*>(tree);
+    return wrapper && wrapper->hasDeleted(item) ? UNKNOWN_ITEM : item;
+}
+
+// The tile and the item that most functions begin with.
+struct Target {
+    CWnd* tree;
+    HTREEITEM item;
+};
+
+Target targetArguments(LispCall& call) {
+    CWnd* tree = controlOf(call.tile());
+    return {tree, itemArgument(call, tree)};
+}
+
+// Whether the function has a tree to work on, and all arguments that it has read.
+bool canWork(const LispCall& call, const CWnd* tree) { return tree && !call.lacksArgument(); }
+
+// Up to two more numbers behind the first image. With a third one the second is passed over.
+TreeItemImages imageArguments(int image, LispCall& call) {
+    TreeItemImages images{image};
+    images.selected = call.shortNumber().value_or(-1);
+    if (const auto alternate = call.shortNumber()) {
+        images.selected = image;
+        images.alternate = *alternate;
+    }
+    return images;
+}
+
+void sendItem(const CWnd& tree, UINT message, WPARAM how, HTREEITEM item) {
+    tree.SendMessage(message, how, reinterpret_cast<LPARAM>(item));
+}
+
+void insertItem(LispCall& call, bool underParent, bool behindPrevious) {
+    CWnd* tree = controlOf(call.tile());
+    const HTREEITEM parent = underParent ? itemArgument(call, tree) : nullptr;
+    const HTREEITEM after = behindPrevious ? itemArgument(call, tree) : TVI_LAST;
+    const CString text = call.textOrEmpty();
+    if (!canWork(call, tree)) return call.retNil();
+    const TreeItemImages images = imageArguments(call.shortNumber().value_or(-1), call);
+    call.retLong(handleNumber(insertTreeItem(*tree, parent, after, text, images)));
+}
+
+// -1 for none, and for one that is deleted.
+void answerItem(LispCall& call, const CWnd* tree, HTREEITEM item) {
+    const auto* wrapper = dynamic_cast<const WexTree*>(tree);
+    if (!item || (wrapper && wrapper->hasDeleted(item)))
+        call.ret(-1);
+    else
+        call.retLong(handleNumber(item));
+}
+
+void deleteItem(CWnd& tree, HTREEITEM item) {
+    if (auto* wrapper = dynamic_cast<WexTree*>(&tree))
+        wrapper->deleteItem(item);
+    else
+        deleteTreeItem(tree, item);
+}
+
+// The code of TVM_EXPAND; nothing for a mode that there isn't.
+std::optional<WPARAM> expandCode(int mode) {
+    switch (mode) {
+        case -1:
+            return TVE_COLLAPSE;
+        case 0:
+            return TVE_TOGGLE;
+        case 1:
+            return TVE_EXPAND;
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+void treeInsertParent(LispCall& call) { insertItem(call, false, false); }
+
+void treeInsertChild(LispCall& call) { insertItem(call, true, false); }
+
+void treeInsertParentAfter(LispCall& call) { insertItem(call, false, true); }
+
+void treeInsertChildAfter(LispCall& call) { insertItem(call, true, true); }
+
+void treeSetItemData(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    const int data = call.shortOrLong().value_or(0);
+    CTreeDataItem* record = canWork(call, tree) ? needTreeRecord(*tree, item) : nullptr;
+    if (record) record->m_data = data;
+    call.retNil();
+}
+
+void treeGetItemData(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    if (call.lacksArgument()) return call.retNil();
+    if (const CTreeDataItem* record = tree ? treeRecord(*tree, item) : nullptr)
+        call.retLong(record->m_data);
+    else
+        call.ret(0);
+}
+
+void treeSetItemText(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    const CString text = call.textOrEmpty();
+    if (canWork(call, tree)) setTreeItemText(*tree, item, text);
+    call.retNil();
+}
+
+void treeGetItemText(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    if (call.lacksArgument()) return call.retNil();
+    call.ret(tree ? treeItemText(*tree, item) : CString());
+}
+
+void treeSetItemImages(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    const int image = call.shortNumber().value_or(-1);
+    if (!canWork(call, tree)) return call.retNil();
+    const TreeItemImages images = imageArguments(image, call);
+    setTreeItemImages(*tree, item, images.image, images.selected);
+    if (CTreeDataItem* record = needTreeRecord(*tree, item)) record->m_alternateImage = images.alternate;
+    call.retNil();
+}
+
+void treeGetItemImages(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    if (!canWork(call, tree)) return call.retNil();
+    const auto shown = treeItem(*tree, item);
+    const CTreeDataItem* record = treeRecord(*tree, item);
+    const auto asShort = [](int number) -> int { return static_cast<int16_t>(number); };
+    const int images[] = {asShort(shown ? shown->image : -1), asShort(shown ? shown->selected : -1),
+                          asShort(record ? record->m_alternateImage : -1)};
+    call.ret(images);
+}
+
+void treeDeleteItem(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    if (canWork(call, tree)) deleteItem(*tree, item);
+    call.retNil();
+}
+
+void treeDeleteAllItems(LispCall& call) {
+    if (CWnd* tree = controlOf(call.tile())) deleteItem(*tree, TVI_ROOT);
+    call.retNil();
+}
+
+void treeSortChildren(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    if (canWork(call, tree)) {
+        holdRedraw(tree->m_hWnd);
+        sendItem(*tree, TVM_SORTCHILDREN, 0, item);
+    }
+    call.retNil();
+}
+
+void treeGetCurSel(LispCall& call) {
+    const CWnd* tree = controlOf(call.tile());
+    answerItem(call, tree, tree ? nextTreeItem(*tree, TVGN_CARET) : nullptr);
+}
+
+void treeSelectItem(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    if (canWork(call, tree)) {
+        releaseRedraw();  // a tree whose redraw is held doesn't scroll
+        sendItem(*tree, TVM_SELECTITEM, TVGN_CARET, item);
+    }
+    call.retNil();
+}
+
+void treeGetParent(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    if (call.lacksArgument()) return call.retNil();
+    answerItem(call, tree, tree ? nextTreeItem(*tree, TVGN_PARENT, item) : nullptr);
+}
+
+// kept: the count is given, and then nil, which stands.
+void treeGetCount(LispCall& call) {
+    if (const CWnd* tree = controlOf(call.tile()))
+        call.retForNow(static_cast<int>(tree->SendMessage(TVM_GETCOUNT)));
+    call.retNil();
+}
+
+void treeExpandItem(LispCall& call) {
+    const auto [tree, item] = targetArguments(call);
+    const bool works = canWork(call, tree);
+    const auto code = expandCode(call.shortNumber().value_or(0));
+    if (works && code) {
+        releaseRedraw();
+        sendItem(*tree, TVM_EXPAND, *code, item);
+    }
+    call.retNil();
+}
+
+void treeSetupImageList(LispCall& call) {
+    CWnd* tree = controlOf(call.tile());
+    const HostValue* icons = call.next();
+    if (canWork(call, tree)) setTreeImages(*tree, icons);
+    call.retNil();
+}
