@@ -131,3 +131,12 @@
 #define IDI_BROWSE                  212
 #define IDI_UP                      1005
 #define IDI_DOWN                    1006
+
+// Pictures of tree items.
+#define IDI_PROJECT                 101
+#define IDI_FOLDER                  102
+#define IDI_FOLDER_OPEN             103
+#define IDI_DRAWING                 104
+#define IDI_PART                    105
+#define IDI_CONNECTOR               106
+#define IDI_TERMINAL                107
