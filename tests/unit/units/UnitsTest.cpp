@@ -177,7 +177,7 @@ double halfAngle(int unit, int precision) {
 TEST(Units, WhatIsShownIsReadAgainToTheLastPlace) {
     std::mt19937 random(20);
     std::uniform_real_distribution<double> mantissa(-1, 1);
-    for (int round = 0; round < 20000; ++round) {
+    for (int round = 0; round < 5000; ++round) {
         const int unit = 1 + static_cast<int>(random() % 5);
         const int precision = static_cast<int>(random() % 9);
         const double value = mantissa(random) * std::pow(10, static_cast<int>(random() % 7));
@@ -204,7 +204,7 @@ TEST(Units, AVisitWithoutTypingChangesNothing) {
         for (int place = 0; place < 12; ++place)
             for (const int side : {-1, 1})
                 values.push_back(quarter * PI / 2 + side * 0.5 * std::pow(10, -place));
-    for (int more = 0; more < 4000; ++more)
+    for (int more = 0; more < 800; ++more)
         values.push_back(mantissa(random) * std::pow(10, static_cast<int>(random() % 24) - 8));
     for (const double value : values) {
         for (int unit = 1; unit <= 5; ++unit) {
