@@ -25,11 +25,13 @@ native_tests() {
     done
 }
 
-# What a target finds in one run is kept for the next; the input that made it fail goes to the logs.
+# What a target finds in one run is kept for the next; the input that made it fail goes to the logs. Some targets
+# have options of their own.
 fuzz() {
-    local found=$root/build/fuzz/corpus/$1
+    local found=$root/build/fuzz/corpus/$1 options=()
+    [ ! -f "tests/fuzz/$1.options" ] || mapfile -t options <"tests/fuzz/$1.options"
     mkdir -p "$found"
-    run "fuzz $1" "$2" -max_total_time="${FUZZ_SECONDS:-20}" -timeout=10 -rss_limit_mb=2048 -verbosity=0 \
+    run "fuzz $1" "$2" -max_total_time="${FUZZ_SECONDS:-20}" -timeout=10 -rss_limit_mb=2048 -verbosity=0 "${options[@]}" \
         -artifact_prefix="$logs/fuzz-$1-" "$found" "tests/fuzz/corpus/$1"
 }
 

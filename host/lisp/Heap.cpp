@@ -1,12 +1,21 @@
 #include "host/lisp/Heap.h"
 
 #include <algorithm>
-#include <bitset>
+#include <array>
+#include <bit>
 
 #include "host/lisp/Error.h"
 #include "host/lisp/Interpreter.h"
 
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__has_feature)
+#define HAS_ADDRESS_SANITIZER __has_feature(address_sanitizer)
+#elif defined(__SANITIZE_ADDRESS__)
+#define HAS_ADDRESS_SANITIZER 1
+#else
+#define HAS_ADDRESS_SANITIZER 0
+#endif
+
+#if HAS_ADDRESS_SANITIZER
 #include <sanitizer/asan_interface.h>
 #else
 #define ASAN_POISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
@@ -19,14 +28,22 @@ namespace lisp {
 struct alignas(32768) Heap::Block {
     static constexpr size_t kCount = 1016;
 
-    std::bitset<1024> marked;
-    std::bitset<1024> used;
+    // A bit for each cons.
+    std::array<uint64_t, 16> marked{};
+    std::array<uint64_t, 16> used{};
     Cons conses[kCount];
 
     static Block* of(const Cons* cons) {
         return reinterpret_cast<Block*>(reinterpret_cast<uintptr_t>(cons) & ~uintptr_t(sizeof(Block) - 1));
     }
-    size_t indexOf(const Cons* cons) const { return size_t(cons - conses); }
+    // Sets the bit of a cons; false where it is set already.
+    bool set(std::array<uint64_t, 16>& bits, const Cons* cons) {
+        const size_t index = size_t(cons - conses);
+        const uint64_t bit = uint64_t(1) << (index % 64);
+        if (bits[index / 64] & bit) return false;
+        bits[index / 64] |= bit;
+        return true;
+    }
 };
 
 Heap::Heap(size_t limit, int64_t& countdown) : limit_(limit), countdown_(countdown) {}
@@ -60,7 +77,7 @@ Cons* Heap::cons(Value car, Value cdr, Place place) {
     ASAN_UNPOISON_MEMORY_REGION(cons, sizeof *cons);
     freeConses_ = reinterpret_cast<Cons*>(cons->code);
     Block* block = Block::of(cons);
-    block->used.set(block->indexOf(cons));
+    block->set(block->used, cons);
     *cons = {place, nullptr, car.orNil(), cdr.orNil()};
     return cons;
 }
@@ -69,11 +86,13 @@ void Heap::addBlock() {
     static_assert(sizeof(Block) == 32768);
     blocks_.push_back(std::make_unique<Block>());
     Block& block = *blocks_.back();
-    for (size_t i = Block::kCount; i-- > 0;) {
-        block.conses[i].code = reinterpret_cast<Code*>(freeConses_);
-        freeConses_ = &block.conses[i];
-        ASAN_POISON_MEMORY_REGION(&block.conses[i], sizeof(Cons));
-    }
+    for (size_t i = Block::kCount; i-- > 0;) release(&block.conses[i]);
+}
+
+void Heap::release(Cons* cons) {
+    cons->code = reinterpret_cast<Code*>(freeConses_);
+    freeConses_ = cons;
+    ASAN_POISON_MEMORY_REGION(cons, sizeof *cons);
 }
 
 template <class T, class... Arguments>
@@ -97,10 +116,7 @@ Code* Heap::code() { return adopt<Code>(sizeof(Code)); }
 void Heap::mark(Value value) {
     if (value.isCons()) {
         Block* block = Block::of(value.asCons());
-        size_t index = block->indexOf(value.asCons());
-        if (block->marked.test(index)) return;
-        block->marked.set(index);
-        greyConses_.push_back(value.asCons());
+        if (block->set(block->marked, value.asCons())) greyConses_.push_back(value.asCons());
     } else if (value.isString()) {
         value.asStringObject()->marked = true;
     } else if (value.isFunction()) {
@@ -148,15 +164,14 @@ void Heap::collect(const std::function<void()>& markRoots) {
 
 void Heap::sweepConses() {
     for (auto& block : blocks_) {
-        for (size_t i = 0; i < Block::kCount; ++i) {
-            if (!block->used.test(i) || block->marked.test(i)) continue;
-            block->conses[i].code = reinterpret_cast<Code*>(freeConses_);
-            freeConses_ = &block->conses[i];
-            ASAN_POISON_MEMORY_REGION(&block->conses[i], sizeof(Cons));
+        for (size_t word = 0; word < block->used.size(); ++word) {
+            const uint64_t kept = block->marked[word];
+            for (uint64_t freed = block->used[word] & ~kept; freed; freed &= freed - 1)
+                release(&block->conses[word * 64 + size_t(std::countr_zero(freed))]);
+            used_ += size_t(std::popcount(kept)) * sizeof(Cons);
         }
         block->used = block->marked;
-        block->marked.reset();
-        used_ += block->used.count() * sizeof(Cons);
+        block->marked = {};
     }
 }
 

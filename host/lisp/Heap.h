@@ -49,6 +49,8 @@ class Heap {
     template <class T, class... Arguments>
     T* adopt(size_t bytes, Arguments&&... arguments);
     void addBlock();
+    // Puts a cons on the list of free ones.
+    void release(Cons* cons);
     void mark(Object* object);
     void markChildren(Object* object);
     void sweepConses();
