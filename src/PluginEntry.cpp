@@ -11,10 +11,20 @@
 #include "src/shell/Module.h"
 #include "src/shell/WexDialogsApp.h"
 
+// The module's own thread-local storage, as the linker lays it out.
+extern "C" const IMAGE_TLS_DIRECTORY _tls_used;
+
 namespace {
 
 CWexDialogsApp g_app(lispFunctions());
 HostDocDataManager g_documentData;
+
+// The run-time's library of threads keeps two handles of each thread that it meets, and closes them only when
+// it hears that the thread ends. Nothing here is of use to it any more.
+void endThreadOfRuntime(HINSTANCE instance) {
+    const auto* callback = reinterpret_cast<const PIMAGE_TLS_CALLBACK*>(_tls_used.AddressOfCallBacks);
+    for (; *callback; ++callback) (*callback)(instance, DLL_THREAD_DETACH, nullptr);
+}
 
 WexDialog* runningDialog(const wchar_t* name) {
     const auto& dialogs = g_dialogs.dialogs();
@@ -41,13 +51,16 @@ __declspec(dllexport) HWND pluginFindWindow(const wchar_t* dialogName, const wch
     return ::GetDlgItem(dialog->m_hWnd, key ? dialog->idForKey(key) : id);
 }
 
-BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds) {
     if (reason == DLL_PROCESS_ATTACH) {
         AfxSetMainWindow([] { return hostGetMainFrame(); });
         g_dialogs.clearCurrent();
         return attachModule(instance);
     }
-    if (reason == DLL_PROCESS_DETACH) return detachModule();
+    if (reason == DLL_PROCESS_DETACH) {
+        if (!processEnds) endThreadOfRuntime(instance);
+        return detachModule();
+    }
     return TRUE;
 }
 }

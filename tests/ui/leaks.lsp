@@ -28,3 +28,17 @@
     (setq before (host_resources))
     (repeat 20 (open-pages))
     (want before (host_resources))))
+
+; A name that the product doesn't have brings the add-ons in.
+(defun load-and-unload ()
+  (wex_new_dialog "NO_SUCH")
+  (ui_alerts)
+  (open-and-close)
+  (host_unload_plugin "WexDialogs.pgx")
+  (host_load_plugin "build/windows/testbin/WexDialogs.pgx"))
+
+(test "So does the plug-in that is loaded and unloaded, with its add-ons"
+  '((repeat 2 (load-and-unload))
+    (setq before (host_resources))
+    (repeat 20 (load-and-unload))
+    (want before (host_resources))))

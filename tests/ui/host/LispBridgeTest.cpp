@@ -1,6 +1,8 @@
 // Lisp calls functions of a plug-in, and the plug-in calls Lisp.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "tests/ui/host/HostProcess.h"
 
 namespace {
@@ -70,6 +72,39 @@ TEST(LispBridge, FunctionsLiveInDocuments) {
                         (host_open_document) (t_messages)
                         (host_unload_plugin) (type t_messages))"),
               "2\n\"133\"\n1\n7\n0\nnil\n1\n\"133443\"\nT\nnil\n");
+}
+
+// What a call gives that may fail, with the error's text in place of a value.
+std::string tried(const std::string& call) { return "(catch-error " + call + " (lambda (e) e)) "; }
+
+TEST(LispBridge, AFunctionThatWasKeptBeyondItsPluginIsAnError) {
+    EXPECT_EQ(values("(progn (setq kept t_two) 1) (host_unload_plugin) " + tried("(kept)")),
+              "1\nT\n\"program.lsp:1: (kept): no plug-in defines t_two any more\"\n");
+}
+
+// Each tells its own messages: the first one has also seen a document open and close.
+TEST(LispBridge, OfTwoPluginsWithTheSameNamesTheNewestIsCalledWhileItIsThere) {
+    const std::filesystem::path first = buildFolder() + L"/tests/testplugin.pgx";
+    const std::filesystem::path second = std::filesystem::temp_directory_path() / L"second.pgx";
+    std::filesystem::copy_file(first, second, std::filesystem::copy_options::overwrite_existing);
+    const auto load = [](const auto& path) {
+        return "(host_load_plugin \"" + path.generic_string() + "\") ";
+    };
+    EXPECT_EQ(
+        values("(host_open_document) (host_close_document) " + load(second) +
+               "(t_messages) (host_unload_plugin) (t_messages) " + load(second) +
+               "(host_unload_plugin \"TestPlugin.pgx\") (t_messages) (t_unbound) " + tried(load(second)) +
+               "(host_unload_plugin) (type t_messages) " + tried("(host_unload_plugin \"second.pgx\")")),
+        "2\n1\nT\n\"13\"\nT\n\"1334\"\nT\nT\n\"13\"\n\"by message\"\n"
+        "\"program.lsp:1: (host_load_plugin): second.pgx is loaded already\"\nT\nnil\n"
+        "\"program.lsp:1: (host_unload_plugin): second.pgx isn't loaded\"\n");
+}
+
+TEST(LispBridge, AListThatIsNestedTooDeeplyIsRefusedInSoManyWords) {
+    EXPECT_EQ(values("(repeat 1000 (setq deep (list deep))) " + tried("(= 1 (length (t_echo deep)))") +
+                     tried("(t_echo (list deep))"))
+                  .substr(2003),
+              "\nT\n\"program.lsp:1: (t_echo): a list is nested deeper than 1,000\"\n");
 }
 
 TEST(LispBridge, APluginStaysWhileOneOfItsFunctionsRuns) {
