@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <cwchar>
+
 namespace {
 
 bool isOf(HWND list, const wchar_t* name) {
@@ -53,6 +55,32 @@ void bareFill(HWND list, const std::vector<std::wstring>& texts) {
 void bareEmpty(HWND list) {
     const bool isListBox = isOf(list, L"ListBox"), isComboBox = isOf(list, L"ComboBox");
     SendMessageW(list, isListBox ? LB_RESETCONTENT : isComboBox ? CB_RESETCONTENT : LVM_DELETEALLITEMS, 0, 0);
+}
+
+void bareNumberRows(HWND list, int column) {
+    LVITEMW item{};
+    wchar_t text[64];
+    const auto rows = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+    for (; item.iItem < rows; ++item.iItem) {
+        LVITEMW cell{};
+        cell.iSubItem = column;
+        cell.pszText = text;
+        cell.cchTextMax = 64;
+        SendMessageW(list, LVM_GETITEMTEXTW, item.iItem, reinterpret_cast<LPARAM>(&cell));
+        item.mask = LVIF_PARAM;
+        item.lParam = static_cast<LPARAM>(std::wcstod(text, nullptr));
+        SendMessageW(list, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    }
+}
+
+void bareSort(HWND list, bool ascending) {
+    const PFNLVCOMPARE compare = [](LPARAM a, LPARAM b, LPARAM up) -> int {
+        return static_cast<int>(up ? a - b : b - a);
+    };
+    SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+    SendMessageW(list, LVM_SORTITEMS, ascending, reinterpret_cast<LPARAM>(compare));
+    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list, nullptr, TRUE);
 }
 
 void bareColumns(HWND list) {

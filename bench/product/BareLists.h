@@ -9,5 +9,9 @@
 // Adds the texts to a list box, a combo box or, the columns separated by tabs, a list view in report view.
 void bareFill(HWND list, const std::vector<std::wstring>& texts);
 void bareEmpty(HWND list);
+// Keeps the number of each row's cell as its item data.
+void bareNumberRows(HWND list, int column);
+// The control's own sort by item data.
+void bareSort(HWND list, bool ascending);
 // Three columns of a list view in report view.
 void bareColumns(HWND list);

@@ -144,6 +144,20 @@ int32_t sort() {
         [&] { SendMessageW(dialog, WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click)); });
 }
 
+// (bench_bare_number id column): the rows of the bare list get that column's numbers as their item data
+int32_t numberBare() {
+    const HWND list = BareDialog::item(argument(0));
+    const int column = argument(1);
+    return timed([=] { bareNumberRows(list, column); });
+}
+
+// (bench_bare_sort id ascending): the control sorts by them, up (1) or down (0)
+int32_t sortBare() {
+    const HWND list = BareDialog::item(argument(0));
+    const bool ascending = argument(1) != 0;
+    return timed([=] { bareSort(list, ascending); });
+}
+
 // (bench_turn id page): a tab control of the running dialog turns to that page, as a click does it
 int32_t turn() {
     const HWND dialog = runningDialog();
@@ -282,6 +296,8 @@ constexpr struct {
     {L"bench_bare_columns", &columnsBare},
     {L"bench_bare_open_table", &openTableBare},
     {L"bench_sort", &sort},
+    {L"bench_bare_number", &numberBare},
+    {L"bench_bare_sort", &sortBare},
     {L"bench_turn", &turn},
     {L"bench_bare_tabs", &tabsBare},
     {L"bench_bare_turn", &turnBare},

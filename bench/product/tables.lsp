@@ -36,20 +36,40 @@
           (append (live-row (strcat name "_by_one_call") 'add-by-one-call live)
                   (live-row (strcat name "_by_many_calls") 'add-by-many-calls live)))))
 
-; The rows as they came are sorted, and then what was sorted is reversed.
-(defun sort-forms (column / forms)
-  (repeat 7
-    (setq forms (append (list '(progn (wex_start_list "TABLE" 3) (add-by-one-call) (wex_listctrl_allowsorting "TABLE" T))
-                              (list 'setq 'first (list 'cons (list 'bench_sort 112 column) 'first))
-                              (list 'setq 'reversed (list 'cons (list 'bench_sort 112 column) 'reversed)))
-                        forms)))
-  (append (list '(setq first nil reversed nil) (list 'bench_sort 112 (rem (1+ column) 3)))
+; The rows as they came are sorted, and then what was sorted is reversed; in turns with the control's own sort of
+; such rows by a number kept in its items.
+(defun refill ()
+  (wex_start_list "TABLE" 3)
+  (add-by-one-call)
+  (wex_listctrl_allowsorting "TABLE" T)
+  (bench_bare_empty 112)
+  (bench_bare_fill 112)
+  (bench_bare_number 112 1))
+
+(defun sort-turn (column)
+  (list '(refill)
+        (list 'setq 'up (list 'cons (list 'bench_sort 112 column) 'up))
+        '(setq bare-up (cons (bench_bare_sort 112 1) bare-up))
+        (list 'setq 'down (list 'cons (list 'bench_sort 112 column) 'down))
+        '(setq bare-down (cons (bench_bare_sort 112 0) bare-down))))
+
+(defun sort-forms (name column n / forms)
+  (repeat n (setq forms (append (sort-turn column) forms)))
+  (append (list '(setq up nil bare-up nil down nil bare-down nil) (list 'bench_sort 112 (rem (1+ column) 3)))
           forms
-          (list (list 'row (strcat "sort_10000_" (nth column '("text" "number" "distance"))) 'first)
-                (list 'row (strcat "sort_10000_" (nth column '("text" "number" "distance")) "_reversed") 'reversed))))
+          (list (list 'versus name 'up 'bare-up) (list 'versus (strcat name "_reversed") 'down 'bare-down))))
+
+(defun measure-sorts (count n)
+  (use-rows count)
+  (wex_new_dialog "BENCH_TABLE")
+  (wex_listctrl_setcolumns "TABLE" "\tText\tNumber\tDistance")
+  (in-dialog "BENCH_TABLE" 3003
+    (append '((bench_bare_columns 112))
+            (apply 'append
+              (mapcar '(lambda (what column) (sort-forms (strcat "sort_" (itoa count) "_" what) column n))
+                      '("text" "number" "distance") '(0 1 2))))))
 
 (measure-filling 10000 9 9)
-(wex_new_dialog "BENCH_TABLE")
-(wex_listctrl_setcolumns "TABLE" "\tText\tNumber\tDistance")
-(in-dialog "BENCH_TABLE" 3003 (append (sort-forms 0) (sort-forms 1) (sort-forms 2)))
+(measure-sorts 10000 7)
 (measure-filling 100000 3 3)
+(measure-sorts 100000 3)
