@@ -1,6 +1,7 @@
 // Where commands and notifications go: the control that sent them, the dialog's map, the dialog's defaults.
 #include <algorithm>
 
+#include "src/platform/mfc/CTreeCtrl.h"
 #include "src/platform/mfc/Controls.h"
 #include "tests/ui/mfc/Support.h"
 
