@@ -1,8 +1,11 @@
 // What the module exports to the host.
 #include <windows.h>
 
+#include <optional>
+
 #include "src/LispFunctions.h"
 #include "src/dialog/WexDialog.h"
+#include "src/platform/gridlib/GridWindowClass.h"
 #include "src/platform/host/HostPlugin.h"
 #include "src/platform/host/HostServices.h"
 #include "src/platform/mfc/CWinApp.h"
@@ -18,6 +21,7 @@ namespace {
 
 CWexDialogsApp g_app(lispFunctions());
 HostDocDataManager g_documentData;
+std::optional<GridWindowClass> g_gridClass;
 
 // The run-time's library of threads keeps two handles of each thread that it meets, and closes them only when
 // it hears that the thread ends. Nothing here is of use to it any more.
@@ -55,9 +59,12 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds) {
     if (reason == DLL_PROCESS_ATTACH) {
         AfxSetMainWindow([] { return hostGetMainFrame(); });
         g_dialogs.clearCurrent();
-        return attachModule(instance);
+        const BOOL attached = attachModule(instance);
+        if (attached) g_gridClass.emplace();
+        return attached;
     }
     if (reason == DLL_PROCESS_DETACH) {
+        g_gridClass.reset();
         if (!processEnds) endThreadOfRuntime(instance);
         return detachModule();
     }

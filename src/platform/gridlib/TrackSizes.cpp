@@ -52,12 +52,14 @@ void TrackSizes::setCount(uint32_t count) {
         m_blocks.resize(std::min<size_t>(m_blocks.size(), count / BLOCK + 1));
     }
     m_count = count;
+    ++m_version;
 }
 
 void TrackSizes::set(uint32_t from, uint32_t to, int32_t size) {
     if (m_count == 0 || from >= m_count || size < 0 || size > LARGEST) return;
     to = std::min(to, m_count - 1);
     if (from > to) return;
+    ++m_version;
     reach(to / BLOCK);
     for (size_t block = from / BLOCK; block <= to / BLOCK; ++block)
         setWithin(block, block == from / BLOCK ? from % BLOCK : 0,
@@ -72,8 +74,9 @@ int64_t TrackSizes::offset(uint32_t at) const {
     const size_t block = at / BLOCK;
     int64_t sum = int64_t{at} * m_default;
     for (size_t i = std::min(block, m_excess.size()); i > 0; i &= i - 1) sum += m_excess[i - 1];
-    if (block < m_blocks.size())
-        for (uint32_t i = 0; i < at % BLOCK; ++i) sum += sizeIn(m_blocks[block], i) - m_default;
+    if (block >= m_blocks.size()) return sum;
+    if (!m_blocks[block].sizes) return sum + int64_t{at % BLOCK} * (sizeIn(m_blocks[block], 0) - m_default);
+    for (uint32_t i = 0; i < at % BLOCK; ++i) sum += sizeIn(m_blocks[block], i) - m_default;
     return sum;
 }
 

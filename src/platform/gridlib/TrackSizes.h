@@ -24,6 +24,10 @@ class TrackSizes {
     // The one that covers the pixel at that offset: 0 below 0, count() from total() on.
     uint32_t at(int64_t offset) const;
 
+    // Another one after each change of count or sizes, so that who has measured can tell whether it still
+    // holds.
+    uint64_t version() const { return m_version; }
+
     static constexpr int32_t LARGEST = 0x7FFF;
 
   private:
@@ -41,6 +45,7 @@ class TrackSizes {
 
     int32_t m_default;
     uint32_t m_count = 1;
+    uint64_t m_version = 0;
     // Up to the last block in which a size differs from the default.
     std::vector<Block> m_blocks;
     // A Fenwick tree over the blocks: by how much their sums exceed those of default sizes.

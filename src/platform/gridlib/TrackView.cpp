@@ -16,8 +16,18 @@ int TrackView::start(uint32_t at, uint32_t first) const {
 
 int TrackView::end(uint32_t at) const { return at == 0 ? headerEnd() : start(at + 1, first()); }
 
-// The smallest one with which the last one's end is in view.
 uint32_t TrackView::lastFirst() const {
+    // Everything that is measured in a view begins with this question.
+    const Measured now{m_sizes.version(), m_length, m_dots};
+    if (now != m_measured) {
+        m_measured = now;
+        m_lastFirst = measureLastFirst();
+    }
+    return m_lastFirst;
+}
+
+// The smallest one with which the last one's end is in view.
+uint32_t TrackView::measureLastFirst() const {
     if (last() <= 1) return 1;
     const int64_t room = std::max(0, m_length - headerEnd());
     const int64_t hidden = m_sizes.total() - room * 96 / m_dots;

@@ -21,7 +21,7 @@ class TrackView {
     uint32_t first() const;
     // Whether that changed anything.
     bool setFirst(int64_t first);
-    uint32_t lastFirst() const;
+    uint32_t lastFirst() const;  // the largest that first() can be
 
     int headerEnd() const { return start(1, 1); }
     // Where it begins and ends. What is scrolled away begins before headerEnd(); what is far away in either
@@ -44,9 +44,19 @@ class TrackView {
   private:
     int64_t scaledOffset(int64_t offset) const { return offset * m_dots / 96; }
     int start(uint32_t at, uint32_t first) const;
+    uint32_t measureLastFirst() const;
 
     const TrackSizes& m_sizes;
     int m_dots = 96;
     int m_length = 0;
     uint32_t m_first = 1;
+
+    // The last answer of lastFirst, and what it was measured from.
+    struct Measured {
+        uint64_t version;
+        int length, dots;
+        bool operator==(const Measured&) const = default;
+    };
+    mutable Measured m_measured{~uint64_t{0}, 0, 0};
+    mutable uint32_t m_lastFirst = 1;
 };

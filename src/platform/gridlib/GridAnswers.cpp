@@ -1,0 +1,98 @@
+// What a grid's window tells who asks it by message: the host's drive, assistive programs.
+#include <algorithm>
+
+#include "src/platform/gridlib/CGXGridWnd.h"
+#include "src/platform/gridlib/CellKind.h"
+#include "src/platform/gridlib/GridAccessible.h"
+
+bool CGXGridWnd::answer(GridQuestion question, void* record) {
+    switch (question) {
+        case GridQuestion::Table:
+            tell(*static_cast<GridTableLook*>(record));
+            return true;
+        case GridQuestion::Cell:
+            return tell(*static_cast<GridCellLook*>(record));
+        case GridQuestion::Show: {
+            const auto& at = *static_cast<const GridPlace*>(record);
+            if (!m_table.has(at.row, at.column)) return false;
+            if (m_rows.reveal(at.row) | m_cols.reveal(at.column)) {
+                invalidateAll();
+                wantBars();
+                placeEditor();
+            }
+            return true;
+        }
+    }
+    return false;
+}
+
+void CGXGridWnd::tell(GridTableLook& table) {
+    table.rows = GetRowCount();
+    table.columns = GetColCount();
+    table.hasCurrent = m_selection.hasCurrent();
+    table.current = {m_selection.current().row, m_selection.current().col};
+    table.first = {m_rows.first(), m_cols.first()};
+    m_toldAreas.clear();
+    for (const CGXRange& range : m_selection.ranges())
+        if (const auto cells = m_table.within(range)) {
+            const bool isWhole = range.kind == CGXRange::rows || range.kind == CGXRange::table;
+            const uint32_t left = isWhole ? std::min(1u, cells->right) : cells->left;
+            m_toldAreas.push_back({cells->top, left, cells->bottom, cells->right});
+        }
+    table.areas = m_toldAreas.data();
+    table.areaCount = static_cast<uint32_t>(m_toldAreas.size());
+}
+
+bool CGXGridWnd::tell(GridCellLook& cell) {
+    const CellPlace at{cell.at.row, cell.at.column};
+    if (!m_table.has(at.row, at.col)) return false;
+    const ShownCell shown = shownCell(scene(), at);
+    const auto isInView = [](const TrackView& view, uint32_t from, uint32_t to) {
+        return from == 0 || (to >= view.first() && from <= view.lastInView());
+    };
+    RECT rect{};
+    if (isInView(m_rows, shown.cells.top, shown.cells.bottom) &&
+        isInView(m_cols, shown.cells.left, shown.cells.right)) {
+        const RECT client = GetClientRect();
+        IntersectRect(&rect, &shown.rect, &client);
+    }
+    cell.rect = {rect.left, rect.top, rect.right, rect.bottom};
+
+    const CGXStyle style = m_table.style(at.row, at.col);
+    const CellLook& look = style.look();
+    cell.isEdited = m_open && m_open->at == at;
+    m_toldText = cell.isEdited ? m_open->text : shownText(style);
+    m_toldChoices.clear();
+    for (const CString& choice : style.choices()) {
+        if (!m_toldChoices.empty()) m_toldChoices += L'\n';
+        m_toldChoices += choice;
+    }
+    cell.text = m_toldText.c_str();
+    cell.choices = m_toldChoices.c_str();
+    cell.controlType = look.control.value_or(CONTROL_EDIT);
+    cell.readOnly = look.readOnly.value_or(false);
+    cell.wraps = look.wrap.value_or(false);
+    cell.merge = look.merge.value_or(MERGE_NOT);
+    cell.alignment = look.horizontal.value_or(ALIGN_LEFT);
+    const CellColors colors = cellColors(scene(), style);
+    cell.interior = colors.interior;
+    cell.textColor = colors.text;
+    cell.places = look.places.value_or(-1);
+    cell.width = GetColWidth(at.col);
+    cell.height = GetRowHeight(at.row);
+    return true;
+}
+
+LRESULT CGXGridWnd::onGetObject(WPARAM w, LPARAM l) {
+    return static_cast<LONG>(l) == OBJID_CLIENT ? gridObject(m_hWnd, w) : Default();
+}
+
+LRESULT CGXGridWnd::onMoveTo(WPARAM row, LPARAM col) {
+    moveTo({static_cast<uint32_t>(row), static_cast<uint32_t>(col)}, false);
+    return 0;
+}
+
+LRESULT CGXGridWnd::onCellAt(WPARAM x, LPARAM y) {
+    const CellPlace at = hit({static_cast<LONG>(x), static_cast<LONG>(y)});
+    return static_cast<LRESULT>(uint64_t{at.row} << 32 | at.col);
+}

@@ -1,0 +1,16 @@
+// Messages and timers of a grid's window to itself.
+#pragma once
+
+#include <windows.h>
+
+// The scroll bars are set once for all that changed since the last turn of the message loop.
+constexpr UINT WM_GRID_UPDATE_BARS = WM_USER + 1;
+
+// From the grid's accessible object. A cell becomes the current one, as a person moves to it: row, column.
+constexpr UINT WM_GRID_MOVE_TO = WM_USER + 2;
+// The cell at a place of the client area, x and y: the row in the upper 32 bits, the column in the lower.
+constexpr UINT WM_GRID_CELL_AT = WM_USER + 3;
+
+// Scrolls while a drag is held outside of the window.
+constexpr UINT_PTR TIMER_DRAG = 1;
+constexpr UINT DRAG_MILLISECONDS = 50;

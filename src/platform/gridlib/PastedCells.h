@@ -1,0 +1,17 @@
+// Where pasted cells go. Portable.
+#pragma once
+
+#include <vector>
+
+#include "src/platform/gridlib/CellsText.h"
+#include "src/platform/gridlib/GridTable.h"
+
+struct PastedCells {
+    std::vector<GridTable::Entry> entries;
+    size_t outside = 0;  // how many cells the table has no place for
+};
+
+// The rows' cells from the top left corner of `selected` on; a single cell goes to each of the selected ones,
+// of which there are at most `most`.
+PastedCells pastedCells(const GridTable& table, const CGXRange& selected, const CellRows& rows,
+                        uint64_t most);

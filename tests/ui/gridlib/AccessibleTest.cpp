@@ -1,0 +1,97 @@
+// What an assistive program reads of a grid and does with it.
+#include <oleacc.h>
+
+#include "tests/ui/gridlib/Support.h"
+
+namespace {
+
+class AccessibleTest : public GridTest {
+  protected:
+    AccessibleTest() {
+        CoInitialize(nullptr);
+        fill(20, 2);
+        AccessibleObjectFromWindow(grid.m_hWnd, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
+                                   reinterpret_cast<void**>(&client));
+    }
+    ~AccessibleTest() override {
+        if (client) client->Release();
+        CoUninitialize();
+    }
+
+    static VARIANT child(long id) {
+        VARIANT child;
+        child.vt = VT_I4;
+        child.lVal = id;
+        return child;
+    }
+    // The child of a cell, as a client finds it: by going through the table.
+    VARIANT cell(uint32_t row, uint32_t col) {
+        VARIANT at;
+        client->accNavigate(NAVDIR_FIRSTCHILD, child(CHILDID_SELF), &at);
+        for (uint32_t i = 0; i < row; ++i) client->accNavigate(NAVDIR_DOWN, at, &at);
+        for (uint32_t i = 0; i < col; ++i) client->accNavigate(NAVDIR_RIGHT, at, &at);
+        return at;
+    }
+    template <class Get>
+    std::wstring text(Get get, const VARIANT& of) {
+        BSTR text = nullptr;
+        (client->*get)(of, &text);
+        const std::wstring copy = text ? text : L"";
+        SysFreeString(text);
+        return copy;
+    }
+    template <class Get>
+    long number(Get get, const VARIANT& of) {
+        VARIANT number;
+        (client->*get)(of, &number);
+        return number.lVal;
+    }
+
+    IAccessible* client = nullptr;
+};
+
+TEST_F(AccessibleTest, EachCellHasTextHeadersPlaceRoleAndState) {
+    ASSERT_NE(client, nullptr);
+    long count = 0;
+    client->get_accChildCount(&count);
+    EXPECT_EQ(count, 21 * 3);
+    EXPECT_EQ(number(&IAccessible::get_accRole, child(CHILDID_SELF)), ROLE_SYSTEM_TABLE);
+
+    grid.SetStyleRange(CGXRange(2, 1), CGXStyle().SetReadOnly(true));
+    press(2, 1);
+    const VARIANT at = cell(2, 1);
+    EXPECT_EQ(text(&IAccessible::get_accValue, at), L"2:1");
+    EXPECT_EQ(text(&IAccessible::get_accName, at), L"2:0, 0:1");
+    EXPECT_EQ(text(&IAccessible::get_accDescription, at), L"Row 2, column 1");
+    EXPECT_EQ(number(&IAccessible::get_accRole, at), ROLE_SYSTEM_CELL);
+    EXPECT_EQ(number(&IAccessible::get_accRole, cell(2, 0)), ROLE_SYSTEM_ROWHEADER);
+    EXPECT_EQ(number(&IAccessible::get_accRole, cell(0, 1)), ROLE_SYSTEM_COLUMNHEADER);
+    const long state = number(&IAccessible::get_accState, at);
+    EXPECT_TRUE(state & STATE_SYSTEM_SELECTED);
+    EXPECT_TRUE(state & STATE_SYSTEM_FOCUSED);
+    EXPECT_TRUE(state & STATE_SYSTEM_READONLY);
+    EXPECT_TRUE(number(&IAccessible::get_accState, cell(20, 1)) & STATE_SYSTEM_OFFSCREEN);
+
+    long left, top, width, height;
+    client->accLocation(&left, &top, &width, &height, at);
+    VARIANT found;
+    EXPECT_EQ(client->accHitTest(left + 1, top + 1, &found), S_OK);
+    EXPECT_EQ(found.lVal, at.lVal);
+    EXPECT_EQ(client->accHitTest(left, top + 2000, &found), S_FALSE);
+}
+
+TEST_F(AccessibleTest, ClientMovesTheCurrentCellAsAPersonDoes) {
+    grid.events.clear();
+    client->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, cell(15, 2));
+    EXPECT_EQ(grid.takeEvents(), Events{L"select 15 2 15 2 key"});
+    VARIANT focus;
+    client->get_accFocus(&focus);
+    EXPECT_EQ(focus.lVal, cell(15, 2).lVal);
+    EXPECT_EQ(client->accSelect(SELFLAG_TAKESELECTION, cell(0, 1)), E_INVALIDARG) << "a header";
+
+    grid.DestroyWindow();
+    long count;
+    EXPECT_EQ(client->get_accChildCount(&count), E_FAIL) << "it outlives its window";
+}
+
+}  // namespace

@@ -1,0 +1,127 @@
+// A grid's window: what is seen where, and how the mouse and the keyboard select, scroll and size.
+#include "tests/ui/gridlib/Support.h"
+
+namespace {
+
+TEST_F(GridTest, AttachesOnceAndAgainToTheSameWindow) {
+    CWnd other;
+    const HWND window = CreateWindowExW(0, GRID_WINDOW_CLASS, L"", WS_CHILD, 0, 0, 10, 10, parent.m_hWnd,
+                                        nullptr, nullptr, nullptr);
+    ASSERT_NE(window, nullptr);
+    NotingGrid second;
+    EXPECT_TRUE(second.SubclassWindow(window));
+    EXPECT_TRUE(second.SubclassWindow(window));
+    EXPECT_FALSE(second.SubclassWindow(grid.m_hWnd));
+    second.Initialize();
+    ::DestroyWindow(window);
+    EXPECT_FALSE(second.isLive());
+    EXPECT_TRUE(second.SetRowCount(5)) << "without a window it is a table all the same";
+}
+
+TEST_F(GridTest, EachGestureSelectsAndTellsOnce) {
+    fill(50, 4);
+    press(3, 2);
+    EXPECT_EQ(grid.takeEvents(), Events{L"select 3 2 3 2"});
+    press(5, 3, MK_SHIFT);
+    EXPECT_EQ(grid.takeEvents(), Events{L"select 3 2 5 3"});
+    press(7, 0, MK_CONTROL);
+    EXPECT_EQ(grid.takeEvents(), Events{L"select 7 0 7 4"});
+    press(0, 2);
+    EXPECT_EQ(grid.takeEvents(), Events{L"select 1 2 50 2"}) << "the row of headers isn't data";
+
+    const LPARAM from = middle(2, 1), to = middle(4, 2);
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, from);
+    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, to);
+    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, to);
+    grid.SendMessage(WM_LBUTTONUP, 0, to);
+    EXPECT_EQ(grid.takeEvents(), (Events{L"select 2 1 4 2 drag", L"select 2 1 4 2"}));
+
+    key(VK_DOWN);
+    key(VK_RIGHT, VK_SHIFT);
+    key('A', VK_CONTROL);
+    EXPECT_EQ(grid.takeEvents(),
+              (Events{L"select 3 1 3 1 key", L"select 3 1 3 2 key", L"select 1 0 50 4 key"}));
+    grid.SetCurrentCell(9, 0);
+    EXPECT_EQ(grid.takeEvents(), Events()) << "a program knows what it does";
+}
+
+TEST_F(GridTest, ScrollsAMillionRowsByKeysAndShowsWhatIsAskedFor) {
+    grid.SetRowCount(1'000'000);
+    grid.SetColCount(20);
+    pump();
+    GridTableLook table;
+    ASSERT_TRUE(ask(GridQuestion::Table, &table));
+    EXPECT_EQ(table.first.row, 1u);
+    EXPECT_TRUE(table.hasCurrent) << "the focus has come";
+    key(VK_END, VK_CONTROL);
+    pump();
+    ASSERT_TRUE(ask(GridQuestion::Table, &table));
+    EXPECT_EQ(table.current.row, 1'000'000u);
+    EXPECT_EQ(table.current.column, 20u);
+    EXPECT_GT(table.first.row, 999'900u);
+    EXPECT_GT(look(1'000'000, 20).rect.width(), 0);
+    EXPECT_EQ(look(1, 1).rect.width(), 0) << "out of view";
+
+    GridPlace at{500'000, 3};
+    EXPECT_TRUE(ask(GridQuestion::Show, &at));
+    EXPECT_GT(look(500'000, 3).rect.height(), 0);
+    SCROLLINFO bar{};
+    bar.cbSize = sizeof bar;
+    bar.fMask = SIF_ALL;
+    pump();
+    GetScrollInfo(grid.m_hWnd, SB_VERT, &bar);
+    EXPECT_EQ(bar.nMax, 1'000'000);
+    ASSERT_TRUE(ask(GridQuestion::Table, &table));
+    EXPECT_EQ(bar.nPos, static_cast<int>(table.first.row));
+
+    grid.SetRowCount(3);
+    EXPECT_GT(look(3, 3).rect.width(), 0) << "what remains is in view";
+    at = {4, 0};
+    EXPECT_FALSE(ask(GridQuestion::Show, &at));
+}
+
+TEST_F(GridTest, MergedCellsAreOnePlace) {
+    fill(5, 3);
+    grid.SetMergeCellsMode(1, true);
+    grid.SetStyleRange(CGXRange(2, 0, 2, 2), CGXStyle().SetValue(L"one").SetMergeCell(MERGE_ALONG_ROW));
+    const PixelRect merged = look(2, 1).rect;
+    EXPECT_EQ(merged, look(2, 0).rect);
+    EXPECT_EQ(merged.right, look(1, 2).rect.right);
+    press(2, 2);
+    EXPECT_EQ(grid.takeEvents(), Events{L"select 2 0 2 3"}) << "its row";
+    press(1, 1);
+    key(VK_DOWN);
+    key(VK_DOWN);
+    EXPECT_EQ(grid.currentCell(), (CellPlace{3, 0}));
+}
+
+TEST_F(GridTest, ColumnsAreSizedByDragAndFitByDoubleClick) {
+    fill(5, 3);
+    grid.SetValueRange(CGXRange(2, 1), L"a text that is much longer than its column is wide");
+    const PixelRect head = look(0, 1).rect;
+    const auto at = [&](int x) { return MAKELPARAM(x, head.top + 4); };
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at(head.right - 1));
+    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(head.right + 29));
+    grid.SendMessage(WM_LBUTTONUP, 0, at(head.right + 29));
+    EXPECT_EQ(look(0, 1).rect.width(), head.width() + 30);
+    const int right = look(0, 1).rect.right;
+    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, at(right - 1));
+    grid.SendMessage(WM_LBUTTONUP, 0, at(right - 1));
+    EXPECT_GT(look(0, 1).width, 200);
+    EXPECT_EQ(grid.takeEvents(), Events()) << "nothing was selected";
+}
+
+TEST_F(GridTest, PaintsWhatACellSays) {
+    fill(5, 3);
+    grid.SetStyleRange(CGXRange(2, 2), CGXStyle().SetInterior(RGB(10, 200, 30)).SetValue(L""));
+    pump();
+    UpdateWindow(grid.m_hWnd);
+    const ClientDC dc(grid.m_hWnd);
+    const PixelRect rect = look(2, 2).rect;
+    EXPECT_EQ(GetPixel(dc, rect.left + 5, rect.top + 5), static_cast<COLORREF>(RGB(10, 200, 30)));
+    EXPECT_NE(GetPixel(dc, rect.right - 1, rect.top + 5), static_cast<COLORREF>(RGB(10, 200, 30)))
+        << "its line";
+    EXPECT_EQ(GetPixel(dc, look(2, 3).rect.right + 10, rect.top + 5), GetSysColor(COLOR_WINDOW)) << "behind";
+}
+
+}  // namespace
