@@ -1,0 +1,242 @@
+; Trees: items as Lisp makes and asks them, and what a person's clicks and keys do and tell.
+
+; A session in a dialog with a tree, whose events are noted as (item reason). The forms of `make` come first.
+(defun in-tree (make session)
+  (setq notes nil)
+  (in-dialog "DRAWING_FOLDER_FILTER_SEL" '(wex_action_tile "TREE" "(note (list (atoi $value) $reason))")
+    (append make '((told)) session)))
+
+(defun told (/ was) (setq was notes notes nil) was)
+(defun top (text) (wex_tree_insertparent "TREE" text))
+(defun under (parent text) (wex_tree_insertchild "TREE" parent text))
+(defun images (item) (wex_tree_getitemimages "TREE" item))
+(defun shown () (ui_items "TREE"))
+(defun selection () (wex_tree_getcursel "TREE"))
+
+; The first folder holds b and a, the second one c.
+(setq folders '((setq one (top "One") b (under one "b") a (under one "a") two (top "Two") c (under two "c"))))
+
+(test "Items stand last of all, last below a parent, or behind another one; behind one of another parent they stand last"
+  '((in-tree folders
+      '((setq three (wex_tree_insertparentafter "TREE" one "One and a half")
+              d (wex_tree_insertchildafter "TREE" one b "between")
+              e (wex_tree_insertchildafter "TREE" one c "strayed"))
+        (want '("One" "One and a half" "Two") (shown))
+        (foreach item (list one two) (wex_tree_expanditem "TREE" item 1))
+        (want '("One" "\tb" "\tbetween" "\ta" "\tstrayed" "One and a half" "Two" "\tc") (shown))
+        (want (list -1 one one two)
+              (mapcar '(lambda (item) (wex_tree_getparent "TREE" item)) (list one b d c)))
+        (want 0 (under 5 "below what is no item"))))))
+
+(test "Sorting orders the children of one item by their texts, without regard to case, and not what is below them"
+  '((in-tree '((setq above (top "x") kids (mapcar '(lambda (text) (under above text)) '("pear" "Fig" "apple")))
+               (foreach text '("z" "y") (under (car kids) text))
+               (foreach item (list above (car kids)) (wex_tree_expanditem "TREE" item 1)))
+      '((want nil (wex_tree_sortchildren "TREE" above))
+        (want '("x" "\tapple" "\tFig" "\tpear" "\t\tz" "\t\ty") (shown))))))
+
+(test "An item keeps its text, whatever its length, and its data"
+  '((in-tree folders
+      '((setq long-text (apply 'strcat (mapcar '(lambda (i) "0123456789") (range 300))))
+        (foreach text (list "renamed & more" long-text "")
+          (want nil (wex_tree_setitemtext "TREE" b text))
+          (want text (wex_tree_getitemtext "TREE" b)))
+        (foreach data '(70000 -7 0) (wex_tree_setitemdata "TREE" b data) (want data (wex_tree_getitemdata "TREE" b)))
+        (want 0 (wex_tree_getitemdata "TREE" a))
+        (wex_tree_setitemdata "TREE" a "no number")
+        (want 0 (wex_tree_getitemdata "TREE" a))
+        (wex_tree_setitemtext "TREE" a 5)
+        (want "" (wex_tree_getitemtext "TREE" a))))))
+
+(test "Of three images the second is the first; one that is no number is passed over"
+  '((in-tree
+      '((setq items (mapcar '(lambda (numbers) (apply 'wex_tree_insertparent (append '("TREE" "x") numbers)))
+                            '(nil (4) (4 9) (4 9 5) (4 "9" 5) ("4" 9) (4 9 -1) (4 9 -2)))))
+      '((want '((-1 -1 -1) (4 -1 -1) (4 9 -1) (4 4 5) (4 4 5) (-1 9 -1) (4 4 -1) (4 4 -1)) (mapcar 'images items))
+        (setq item (car items))
+        (want '((4 -1 -1) (4 9 -1) (4 4 5) (4 4 -2) (-1 -1 -1))
+              (mapcar '(lambda (numbers) (apply 'wex_tree_setitemimages (append (list "TREE" item) numbers)) (images item))
+                      '((4) (4 9) (4 9 5) (4 9 -2) ("4"))))))))
+
+(test "The image and the alternate one trade places when the person opens or closes the item, and when Lisp first opens it"
+  '((in-tree
+      '((setq folder (wex_tree_insertparent "TREE" "folder" 4 4 5) plain (wex_tree_insertparent "TREE" "plain" 1 2)
+              noted (wex_tree_insertparent "TREE" "with data" 1 2))
+        (foreach item (list folder plain noted) (under item "x"))
+        (wex_tree_setitemdata "TREE" noted 5))
+      '((ui_expand "TREE" folder)
+        (want '(5 5 4) (images folder))
+        (ui_expand "TREE" folder)
+        (want '(4 4 5) (images folder))
+        (foreach mode '(1 -1 0)
+          (wex_tree_expanditem "TREE" plain mode) (want '(1 2 -1) (images plain))
+          (wex_tree_expanditem "TREE" noted mode) (want '(-1 -1 1) (images noted)))))))
+
+(test "Opening: -1 closes, 0 and no mode toggle, 1 opens, another mode does nothing"
+  '((in-tree folders
+      '((want '(("One" "\tb" "\ta" "Two") ("One" "Two") ("One" "\tb" "\ta" "Two") ("One" "\tb" "\ta" "Two") ("One" "Two") ("One" "Two"))
+              (mapcar '(lambda (mode) (want nil (apply 'wex_tree_expanditem (append (list "TREE" one) mode))) (shown))
+                      '((1) (0) nil (2) (-1) (-1))))))))
+
+(test "Each event tells the item and its reason; a click beside all items tells 0"
+  '((in-tree folders
+      '((ui_pick "TREE" one)
+        (want (list (list one 13) (list one 10)) (told))
+        (ui_expand "TREE" two)
+        (want (list (list two 13) (list two 15) (list two 16)) (told))
+        (ui_rclick "TREE" c)
+        (want (list (list c 11)) (told))
+        (ui_dblclick "TREE" c)
+        (want (list (list c 13) (list c 10) (list c 12)) (told))
+        (ui_click "TREE")
+        (want '((0 13)) (told))
+        (wex_tree_selectitem "TREE" a)
+        (want (list (list one 15) (list one 16) (list a 10)) (told))
+        (want a (selection))))))
+
+(test "A tree of the style for it opens what is clicked, and tells that too; Lisp is told keys in lower case"
+  '((setq notes nil)
+    (in-dialog "ODD_TREES" '(wex_action_tile "SINGLE" "(note (list $key $value $reason))")
+      '((setq above (wex_tree_insertparent "SINGLE" "above") x (wex_tree_insertchild "SINGLE" above "x"))
+        (ui_pick "SINGLE" above)
+        (want (mapcar '(lambda (reason) (list "single" (itoa above) reason)) '(13 10 14 15 16)) (told))))))
+
+(test "Typing the begin of a name goes to its item"
+  '((in-tree '((setq item (top "loom") least (top "last") more (top "more")) (ui_pick "TREE" more))
+      '((ui_char "la")
+        (want least (selection))))))
+
+(test "Keys: arrows, Home and End, + - * of the number pad"
+  '((in-tree
+      '((setq folder (wex_tree_insertparent "TREE" "folder" 4 4 5) inner (wex_tree_insertchild "TREE" folder "inner" 4 4 5)
+              x (under inner "x") least (top "last"))
+        (ui_pick "TREE" folder))
+      '((ui_key "PLUS") (want (list (list folder 15) (list folder 16)) (told))
+        (ui_key "PLUS") (want nil (told))
+        (ui_key "STAR") (want (list (list inner 15) (list inner 16)) (told))
+        (want '((5 5 4) (5 5 4)) (mapcar 'images (list folder inner)))
+        (mapcar 'ui_key '("DOWN" "DOWN" "LEFT" "LEFT"))
+        (want (list (list inner 10) (list x 10) (list inner 10) (list inner 15) (list inner 16)) (told))
+        (ui_key "END") (ui_key "HOME")
+        (want (list (list least 10) (list folder 10)) (told))
+        (mapcar 'ui_key '("HOME" "MINUS" "MINUS"))
+        (want '((4 4 5) (4 4 5)) (mapcar 'images (list folder inner)))))))
+
+; Runs `how` once, in that event, when `prepare` is done and `act` brings the event about.
+(defun in-event (way how check)
+  (setq armed nil event (car way))
+  (run-dialog "ODD_TREES"
+    '(wex_action_tile "SINGLE" "(if (and armed (= $reason event)) (progn (setq armed nil item (atoi $value)) (eval how)))")
+    (append
+      '((setq above (wex_tree_insertparent "SINGLE" "above" 1 1 2) inner (wex_tree_insertchild "SINGLE" above "inner")
+              x (wex_tree_insertchild "SINGLE" inner "x") rest (wex_tree_insertparent "SINGLE" "rest"))
+        (ui_pick "SINGLE" rest))
+      (list (cadr way) '(setq armed T) (caddr way))
+      check)))
+
+(setq ways '((13 nil (ui_pick "SINGLE" above)) (10 nil (ui_pick "SINGLE" above)) (14 nil (ui_pick "SINGLE" above))
+             (15 nil (ui_pick "SINGLE" above)) (16 nil (ui_pick "SINGLE" above)) (12 nil (ui_dblclick "SINGLE" above))
+             (11 nil (ui_rclick "SINGLE" above)) (13 nil (ui_expand "SINGLE" above)) (16 nil (ui_expand "SINGLE" above))
+             (15 nil (wex_tree_selectitem "SINGLE" x)) (16 nil (wex_tree_selectitem "SINGLE" x))
+             (15 (ui_pick "SINGLE" above) (ui_key "STAR")) (16 (ui_pick "SINGLE" above) (ui_key "MINUS"))
+             (10 nil (ui_key "UP")) (15 (ui_pick "SINGLE" above) (ui_key "LEFT"))))
+
+(test "Any event may delete its item: it is gone for the action at once, and the others stay"
+  '((foreach way ways
+      (in-event way
+        '(progn (wex_tree_deleteitem "SINGLE" item)
+                (want '("" -1 0 (-1 -1 -1))
+                      (list (wex_tree_getitemtext "SINGLE" item) (wex_tree_getparent "SINGLE" item)
+                            (wex_tree_insertchild "SINGLE" item "x") (wex_tree_getitemimages "SINGLE" item))))
+        '((want nil armed)
+          (want "" (wex_tree_getitemtext "SINGLE" item))
+          (want "rest" (wex_tree_getitemtext "SINGLE" rest))
+          (ui_click "Cancel"))))))
+
+(test "Any event may delete all items and make new ones"
+  '((foreach way ways
+      (in-event way
+        '(progn (wex_tree_deleteallitems "SINGLE")
+                (want -1 (wex_tree_getcursel "SINGLE"))
+                (setq new (wex_tree_insertparent "SINGLE" "new") child (wex_tree_insertchild "SINGLE" new "child"))
+                (wex_tree_deleteitem "SINGLE" child))
+        '((want '("new") (ui_items "SINGLE")) (ui_click "Cancel"))))))
+
+(test "Any event may end the dialog"
+  '((foreach way ways
+      (want 7 (in-event way '(wex_done_dialog 7) nil)))))
+
+(test "A deleted item hands the selection on, and that is told; all items deleted select nothing"
+  '((in-tree folders
+      '((foreach item (list one b a) (wex_tree_selectitem "TREE" b))
+        (told)
+        (foreach next (list a one two)
+          (wex_tree_deleteitem "TREE" (selection))
+          (want next (selection)))
+        (want (list (list a 10) (list one 10) (list two 10)) (told))
+        (wex_tree_deleteallitems "TREE")
+        (want '(nil -1) (list (shown) (selection)))))))
+
+(test "A mistyped item is null, which deletes all and makes a parent the top; a missing one changes nothing"
+  '((in-tree folders
+      '((want nil (wex_tree_deleteitem "TREE"))
+        (want '("One" "Two") (shown))
+        (under "One" "top")
+        (want '("One" "Two" "top") (shown))
+        (wex_tree_deleteitem "TREE" "One")
+        (want nil (shown))))))
+
+; Arguments behind the tile; a place is what Lisp then gives with all of them and no such tile, and with the last missing.
+(test "Without a tile or an argument each function gives what it is to give"
+  '((setq calls '((wex_tree_insertparent ("x") nil nil) (wex_tree_insertchild (1 "x") nil nil)
+                  (wex_tree_insertparentafter (1 "x") nil nil) (wex_tree_insertchildafter (1 2 "x") nil nil)
+                  (wex_tree_setitemdata (1 2) nil nil) (wex_tree_getitemdata (1) 0 nil)
+                  (wex_tree_setitemtext (1 "x") nil nil) (wex_tree_getitemtext (1) "" nil)
+                  (wex_tree_setitemimages (1 2) nil nil) (wex_tree_getitemimages (1) nil nil)
+                  (wex_tree_deleteitem (1) nil nil) (wex_tree_sortchildren (1) nil nil) (wex_tree_selectitem (1) nil nil)
+                  (wex_tree_getparent (1) -1 nil) (wex_tree_expanditem (1) nil nil) (wex_tree_setupimagelist (101) nil nil)))
+    (defun ask (tile arguments) (apply (car call) (cons tile arguments)))
+    (foreach call calls
+      (want (list (car call) (caddr call)) (list (car call) (ask "NOWHERE" (cadr call)))))
+    (in-tree nil
+      '((foreach call calls
+          (setq short (reverse (cdr (reverse (cadr call)))))
+          (want (list (car call) (caddr call)) (list (car call) (ask "NOWHERE" (cadr call))))
+          (foreach tile '("NOWHERE" "TREE")
+            (want (list (car call) (nth 3 call)) (list (car call) (ask tile short)))))
+        (want '(-1 nil nil) (mapcar '(lambda (name) (apply name '("NOWHERE")))
+                              '(wex_tree_getcursel wex_tree_getcount wex_tree_deleteallitems)))
+        (top "x")
+        (want '(-1 nil) (list (wex_tree_getcursel 117) (wex_tree_getcount "TREE")))
+        (want '(-1 "" 0) (list (wex_tree_getparent "TREE" 5) (wex_tree_getitemtext "TREE" 5) (wex_tree_getitemdata "TREE" 5)))))
+    (want nil (ui_alerts))
+    (wex_tree_getcount)
+    (want 1 (length (ui_alerts)))))
+
+(test "A tile that is no tree takes the calls, and stays as it is"
+  '((in-tree nil
+      '((want '(0 0 "" -1)
+              (list (wex_tree_insertparent "COUNT" "x") (wex_tree_getitemdata "COUNT" 1) (wex_tree_getitemtext "COUNT" 1)
+                    (wex_tree_getcursel "COUNT")))
+        (want '(-1 -1 -1) (wex_tree_getitemimages "COUNT" 1))
+        (wex_tree_setitemdata "COUNT" 1 2)
+        (wex_tree_setupimagelist "COUNT" 101)
+        (want "" (ui_text "COUNT"))))))
+
+(test "Icons come by number and by name, alone or in a list; one that isn't found takes no number"
+  '((in-tree nil
+      '((want nil (wex_tree_setupimagelist "TREE" '(102 "NOWHERE" 5 "PROJECT")))
+        (setq items (mapcar '(lambda (image) (wex_tree_insertparent "TREE" "x" image image)) '(0 1 -1)))
+        (want '(0 1 -1) (look "TREE" "images"))
+        (ui_shot "tree_icons.png")
+        (setq first-picture (mapcar '(lambda (row) (ui_pixel "TREE" 30 (+ 8 (* row 16)))) '(0 1 2)))
+        (want nil (apply '= first-picture))
+        (wex_tree_setupimagelist "TREE" 102 "PROJECT")
+        (want first-picture (mapcar '(lambda (row) (ui_pixel "TREE" 30 (+ 8 (* row 16)))) '(0 1 2)))))))
+
+(test "The handles of 20,000 items come back from Lisp as they were"
+  '((in-tree nil
+      '((setq names nil)
+        (setq many (mapcar '(lambda (i) (top (itoa i))) (range 20000)))
+        (want nil (member 0 many))
+        (foreach i '(0 9999 19999) (want (itoa i) (wex_tree_getitemtext "TREE" (nth i many))))))))
