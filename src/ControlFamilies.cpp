@@ -7,7 +7,6 @@
 #include "src/grid/WexGrid.h"
 #include "src/listctrl/ListRows.h"
 #include "src/listctrl/WexListCtrl.h"
-#include "src/platform/mfc/RedrawHold.h"
 #include "src/slides/WexSlideImage.h"
 #include "src/tabs/WexTabCtrl.h"
 #include "src/tiles/ListEntries.h"
@@ -31,12 +30,6 @@ void applyEditLimit(const CWnd& edit, const CCtrlInfo& tile) {
     edit.SendMessage(EM_LIMITTEXT, tile.m_editLimit);
 }
 
-// An edit box paints each text that it gets, which takes much longer than to set it.
-void setEditText(CWnd& edit, const CString& text, bool /*byKey*/) {
-    holdRedraw(edit.m_hWnd);
-    edit.SetWindowText(text);
-}
-
 constexpr ControlFamily families[] = {
     {.kind = ControlKind::slideImage, .typeWord = L"Slide", .make = make<WexSlideImage>},
     {.kind = ControlKind::frame, .typeWord = L"Frame", .make = make<WexFrame>},
@@ -55,8 +48,7 @@ constexpr ControlFamily families[] = {
     {.kind = ControlKind::edit,
      .typeWord = L"Edit",
      .make = make<WexEditBox>,
-     .applyMessages = applyEditLimit,
-     .setValue = setEditText},
+     .applyMessages = applyEditLimit},
     {.kind = ControlKind::staticText, .typeWord = L"Static", .make = make<WexStatic>},
     {.kind = ControlKind::listBox,
      .typeWord = L"ListBox",
