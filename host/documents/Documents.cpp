@@ -4,20 +4,10 @@
 #include <utility>
 
 #include "host/lisp/Error.h"
+#include "host/lisp/Reader.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
 #include "src/platform/base/Text.h"
-
-namespace {
-
-// Whether Lisp reads this text as one symbol.
-bool isSymbolName(const std::wstring& name) {
-    constexpr std::wstring_view delimiters = L"()'\";";
-    const auto parts = [&](wchar_t c) { return c <= L' ' || delimiters.find(c) != std::wstring_view::npos; };
-    return !name.empty() && std::none_of(name.begin(), name.end(), parts);
-}
-
-}  // namespace
 
 void Documents::open() {
     if (!m_documents.empty()) {
@@ -88,7 +78,7 @@ HWND Documents::findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id
 }
 
 bool Documents::define(const std::wstring& name, int code) {
-    if (!m_current || !isSymbolName(name)) return false;
+    if (!m_current || !lisp::isWord(lispText(name))) return false;
     const std::wstring key = toLower(name);
     Plugin* const owner = caller();
     LispFunction& function = m_functions[key];

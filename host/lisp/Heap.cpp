@@ -26,12 +26,12 @@ namespace lisp {
 
 // Aligned to its size, so that the block of a cons is found by its address.
 struct alignas(32768) Heap::Block {
-    static constexpr size_t kCount = 1016;
+    static constexpr size_t CONS_COUNT = 1016;
 
     // A bit for each cons.
     std::array<uint64_t, 16> marked{};
     std::array<uint64_t, 16> used{};
-    Cons conses[kCount];
+    Cons conses[CONS_COUNT];
 
     static Block* of(const Cons* cons) {
         return reinterpret_cast<Block*>(reinterpret_cast<uintptr_t>(cons) & ~uintptr_t(sizeof(Block) - 1));
@@ -46,36 +46,36 @@ struct alignas(32768) Heap::Block {
     }
 };
 
-Heap::Heap(size_t limit, int64_t& countdown) : limit_(limit), countdown_(countdown) {}
+Heap::Heap(size_t limit, int64_t& countdown) : m_limit(limit), m_countdown(countdown) {}
 
 Heap::~Heap() {
-    for (auto& block : blocks_) ASAN_UNPOISON_MEMORY_REGION(block->conses, sizeof block->conses);
-    while (objects_) {
-        Object* next = objects_->next;
-        destroy(objects_);
-        objects_ = next;
+    for (auto& block : m_blocks) ASAN_UNPOISON_MEMORY_REGION(block->conses, sizeof block->conses);
+    while (m_objects) {
+        Object* next = m_objects->next;
+        destroy(m_objects);
+        m_objects = next;
     }
 }
 
 void Heap::charge(size_t bytes) {
-    bool full = bytes > limit_ || used_ > limit_ - bytes;
+    bool full = bytes > m_limit || m_used > m_limit - bytes;
     // What the failed program leaves behind is garbage.
-    if (full) threshold_ = 0;
-    if (full || used_ + bytes >= threshold_) countdown_ = 0;
+    if (full) m_threshold = 0;
+    if (full || m_used + bytes >= m_threshold) m_countdown = 0;
     if (full) throw Error(u"out of memory");
-    used_ += bytes;
+    m_used += bytes;
 }
 
 void Heap::requireRoom(size_t bytes) const {
-    if (bytes > limit_ || used_ > limit_ - bytes) throw Error(u"out of memory");
+    if (bytes > m_limit || m_used > m_limit - bytes) throw Error(u"out of memory");
 }
 
 Cons* Heap::cons(Value car, Value cdr, Place place) {
     charge(sizeof(Cons));
-    if (!freeConses_) addBlock();
-    Cons* cons = freeConses_;
+    if (!m_freeConses) addBlock();
+    Cons* cons = m_freeConses;
     ASAN_UNPOISON_MEMORY_REGION(cons, sizeof *cons);
-    freeConses_ = reinterpret_cast<Cons*>(cons->code);
+    m_freeConses = reinterpret_cast<Cons*>(cons->code);
     Block* block = Block::of(cons);
     block->set(block->used, cons);
     *cons = {place, nullptr, car.orNil(), cdr.orNil()};
@@ -84,14 +84,14 @@ Cons* Heap::cons(Value car, Value cdr, Place place) {
 
 void Heap::addBlock() {
     static_assert(sizeof(Block) == 32768);
-    blocks_.push_back(std::make_unique<Block>());
-    Block& block = *blocks_.back();
-    for (size_t i = Block::kCount; i-- > 0;) release(&block.conses[i]);
+    m_blocks.push_back(std::make_unique<Block>());
+    Block& block = *m_blocks.back();
+    for (size_t i = Block::CONS_COUNT; i-- > 0;) release(&block.conses[i]);
 }
 
 void Heap::release(Cons* cons) {
-    cons->code = reinterpret_cast<Code*>(freeConses_);
-    freeConses_ = cons;
+    cons->code = reinterpret_cast<Code*>(m_freeConses);
+    m_freeConses = cons;
     ASAN_POISON_MEMORY_REGION(cons, sizeof *cons);
 }
 
@@ -99,8 +99,8 @@ template <class T, class... Arguments>
 T* Heap::adopt(size_t bytes, Arguments&&... arguments) {
     charge(bytes);
     T* object = new T(std::forward<Arguments>(arguments)...);
-    object->next = objects_;
-    objects_ = object;
+    object->next = m_objects;
+    m_objects = object;
     return object;
 }
 
@@ -116,7 +116,7 @@ Code* Heap::code() { return adopt<Code>(sizeof(Code)); }
 void Heap::mark(Value value) {
     if (value.isCons()) {
         Block* block = Block::of(value.asCons());
-        if (block->set(block->marked, value.asCons())) greyConses_.push_back(value.asCons());
+        if (block->set(block->marked, value.asCons())) m_greyConses.push_back(value.asCons());
     } else if (value.isString()) {
         value.asStringObject()->marked = true;
     } else if (value.isFunction()) {
@@ -129,7 +129,7 @@ void Heap::mark(Value value) {
 void Heap::mark(Object* object) {
     if (!object || object->marked) return;
     object->marked = true;
-    greyObjects_.push_back(object);
+    m_greyObjects.push_back(object);
 }
 
 void Heap::markChildren(Object* object) {
@@ -140,35 +140,35 @@ void Heap::markChildren(Object* object) {
 
 void Heap::collect(const std::function<void()>& markRoots) {
     markRoots();
-    for (Root* root = firstRoot_; root; root = root->m_next) mark(root->m_value);
-    while (!greyConses_.empty() || !greyObjects_.empty()) {
-        if (!greyConses_.empty()) {
-            Cons* cons = greyConses_.back();
-            greyConses_.pop_back();
+    for (Root* root = m_firstRoot; root; root = root->m_next) mark(root->m_value);
+    while (!m_greyConses.empty() || !m_greyObjects.empty()) {
+        if (!m_greyConses.empty()) {
+            Cons* cons = m_greyConses.back();
+            m_greyConses.pop_back();
             mark(cons->code);
             mark(cons->car);
             mark(cons->cdr);
         } else {
-            Object* object = greyObjects_.back();
-            greyObjects_.pop_back();
+            Object* object = m_greyObjects.back();
+            m_greyObjects.pop_back();
             markChildren(object);
         }
     }
-    used_ = 0;
+    m_used = 0;
     sweepConses();
     sweepObjects();
     // Near the limit more often, but not at every step.
-    size_t room = limit_ - std::min(limit_, used_);
-    threshold_ = std::min(std::max(size_t(8) << 20, used_ * 2), used_ + std::max(room / 2, limit_ / 64));
+    size_t room = m_limit - std::min(m_limit, m_used);
+    m_threshold = std::min(std::max(size_t(8) << 20, m_used * 2), m_used + std::max(room / 2, m_limit / 64));
 }
 
 void Heap::sweepConses() {
-    for (auto& block : blocks_) {
+    for (auto& block : m_blocks) {
         for (size_t word = 0; word < block->used.size(); ++word) {
             const uint64_t kept = block->marked[word];
             for (uint64_t freed = block->used[word] & ~kept; freed; freed &= freed - 1)
                 release(&block->conses[word * 64 + size_t(std::countr_zero(freed))]);
-            used_ += size_t(std::popcount(kept)) * sizeof(Cons);
+            m_used += size_t(std::popcount(kept)) * sizeof(Cons);
         }
         block->used = block->marked;
         block->marked = {};
@@ -176,11 +176,11 @@ void Heap::sweepConses() {
 }
 
 void Heap::sweepObjects() {
-    for (Object** link = &objects_; *link;) {
+    for (Object** link = &m_objects; *link;) {
         Object* object = *link;
         if (object->marked) {
             object->marked = false;
-            used_ += sizeOf(object);
+            m_used += sizeOf(object);
             link = &object->next;
         } else {
             *link = object->next;

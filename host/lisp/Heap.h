@@ -35,13 +35,13 @@ class Heap {
     void requireRoom(size_t bytes) const;
 
     // So much was made since the last collection that another is worth its time.
-    bool wantsCollection() const { return used_ >= threshold_; }
+    bool wantsCollection() const { return m_used >= m_threshold; }
     // `markRoots` calls mark() for every value to keep.
     void collect(const std::function<void()>& markRoots);
     void mark(Value value);
 
-    size_t used() const { return used_; }
-    Root*& roots() { return firstRoot_; }
+    size_t used() const { return m_used; }
+    Root*& roots() { return m_firstRoot; }
 
   private:
     struct Block;
@@ -58,17 +58,17 @@ class Heap {
     static size_t sizeOf(const Object* object);
     static void destroy(Object* object);
 
-    size_t limit_;
-    int64_t& countdown_;
-    size_t used_ = 0;
-    size_t threshold_ = size_t(8) << 20;
-    std::vector<std::unique_ptr<Block>> blocks_;
-    Cons* freeConses_ = nullptr;
-    Object* objects_ = nullptr;
-    Root* firstRoot_ = nullptr;
+    size_t m_limit;
+    int64_t& m_countdown;
+    size_t m_used = 0;
+    size_t m_threshold = size_t(8) << 20;
+    std::vector<std::unique_ptr<Block>> m_blocks;
+    Cons* m_freeConses = nullptr;
+    Object* m_objects = nullptr;
+    Root* m_firstRoot = nullptr;
     // Marked, children still to be marked.
-    std::vector<Cons*> greyConses_;
-    std::vector<Object*> greyObjects_;
+    std::vector<Cons*> m_greyConses;
+    std::vector<Object*> m_greyObjects;
 };
 
 }  // namespace lisp
