@@ -39,6 +39,17 @@
     (want T (wcmatch (car notes) "*Confirm_DelRecDlgEvents.lsp"))
     (want nil (findfile (car notes)))))
 
+(test "The event file begins with the three bytes that mark it as UTF-8"
+  '((setq kept c:wex_loadlisp)
+    (defun c:wex_loadlisp (path / file characters)
+      (setq file (open path "r") characters 0)
+      (while (read-char file) (setq characters (1+ characters)))
+      (close file)
+      (note (- (file-size path) characters)))
+    (run-dialog "CONFIRM_DELREC" '(wex_action_tile "OK" "(exit)") '((ui_close)))
+    (setq c:wex_loadlisp kept)
+    (want '(3) notes)))
+
 (test "Two dialogs of one name without a start between them share one text"
   '((wex_new_dialog "CONFIRM_DELREC")
     (wex_action_tile "OK" "(wex_done_dialog 1)")

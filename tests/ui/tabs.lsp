@@ -147,7 +147,9 @@
         (ui_key "CTRL+PAGEUP" "BOTH")
         (want '("BOTH") (focused '("NAME" "TAB" "BOTH")))
         (ui_key "RIGHT" "TAB")
-        (want '((1) ("LIST") ("TAB")) (list (look "TAB" "selected") (shown '("NAME" "LIST")) (focused '("TAB" "BOTH"))))))))
+        (want '((1) ("LIST") ("TAB")) (list (look "TAB" "selected") (shown '("NAME" "LIST")) (focused '("TAB" "BOTH"))))
+        (ui_key "CTRL+PAGEUP")
+        (want '((0) ("TAB")) (list (look "TAB" "selected") (focused (cons "TAB" first-page))))))))
 
 (test "Of two tab controls the keys turn the one on which the focus is; a tab that has no room is scrolled to"
   '((in-tabs "(progn (add-pages) (wex_tab_add \"TAB2\" \"Here\") (wex_tab_add \"TAB2\" \"There\" \"THERE\"))"

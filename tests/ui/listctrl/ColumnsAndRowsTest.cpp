@@ -20,9 +20,6 @@ class ColumnsAndRows : public testing::Test {
     ~ColumnsAndRows() override { releaseRedraw(); }
 
     int columnWidth(int column) { return static_cast<int>(list.SendMessage(LVM_GETCOLUMNWIDTH, column)); }
-    int textWidth(const wchar_t* text) {
-        return static_cast<int>(list.SendMessage(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text)));
-    }
     HDITEMW head(int column) {
         HDITEMW item{};
         item.mask = HDI_FORMAT | HDI_LPARAM;
@@ -33,14 +30,6 @@ class ColumnsAndRows : public testing::Test {
     CWnd parent;
     CListCtrl list;
 };
-
-TEST_F(ColumnsAndRows, AColumnIsHalfAsWideAgainAsItsTitle) {
-    applyColumnText(list, L"\tName\tManufacturer\tA  ");
-    EXPECT_EQ(columnWidth(0), static_cast<int>(textWidth(L"Name") * 1.5 + 10));
-    EXPECT_EQ(columnWidth(1), static_cast<int>(textWidth(L"Manufacturer") * 1.5 + 10));
-    EXPECT_EQ(columnWidth(2), static_cast<int>(textWidth(L"A") * 1.5 + 10) + 12);
-    EXPECT_EQ(head(1).fmt & HDF_JUSTIFYMASK, HDF_LEFT);
-}
 
 TEST_F(ColumnsAndRows, ARenamedColumnKeepsItsArrow) {
     insertColumn(list, 0, L"Name", 50);

@@ -74,18 +74,6 @@ TEST(DialogTemplate, readsTheExtendedKind) {
     EXPECT_EQ(dialog->controls[1].text, L"");
 }
 
-TEST(DialogTemplate, readsTheOlderKind) {
-    const auto dialog = parseDialogTemplate(olderDialog());
-    ASSERT_TRUE(dialog);
-    EXPECT_EQ(dialog->title, L"Old");
-    EXPECT_EQ(dialog->fontName, L"Helv");
-    ASSERT_EQ(dialog->controls.size(), 1u);
-    EXPECT_EQ(dialog->controls[0].id, 0xFFFF);
-    EXPECT_EQ(dialog->controls[0].className, L"Static");
-    EXPECT_EQ(dialog->controls[0].exStyle, 4u);
-    EXPECT_EQ(dialog->controls[0].width, 3);
-}
-
 TEST(DialogTemplate, refusesWhateverEndsTooEarly) {
     for (const auto& whole : {extendedDialog(), olderDialog()})
         for (size_t length = 0; length < whole.size(); ++length) {
