@@ -119,7 +119,10 @@ void LispCall::retForNow(int number) { hostRetInt(number); }
 
 void LispCall::retLong(int32_t number) {
     setsResult();
-    hostRetVal(OwnedChain(hostBuildList(HV_LONG, number, 0)).get());
+    HostValue node{};
+    node.type = HV_LONG;
+    node.value.longValue = number;
+    hostRetVal(&node);
 }
 
 void LispCall::ret(std::span<const int> numbers) {

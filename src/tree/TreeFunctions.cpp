@@ -14,7 +14,7 @@ const HTREEITEM UNKNOWN_ITEM = reinterpret_cast<HTREEITEM>(-1);
 // One that is no integer is null.
 HTREEITEM itemArgument(LispCall& call, const CWnd* tree) {
     const HTREEITEM item = handleOf(call.shortOrLong().value_or(0));
-    const auto* wrapper = dynamic_cast<const WexTree*>(tree);
+    const auto* wrapper = WexTree::of(tree);
     return wrapper && wrapper->hasDeleted(item) ? UNKNOWN_ITEM : item;
 }
 
@@ -59,7 +59,7 @@ void insertItem(LispCall& call, bool underParent, bool behindPrevious) {
 
 // -1 for none, and for one that is deleted.
 void answerItem(LispCall& call, const CWnd* tree, HTREEITEM item) {
-    const auto* wrapper = dynamic_cast<const WexTree*>(tree);
+    const auto* wrapper = WexTree::of(tree);
     if (!item || (wrapper && wrapper->hasDeleted(item)))
         call.ret(-1);
     else
@@ -67,7 +67,7 @@ void answerItem(LispCall& call, const CWnd* tree, HTREEITEM item) {
 }
 
 void deleteItem(CWnd& tree, HTREEITEM item) {
-    if (auto* wrapper = dynamic_cast<WexTree*>(&tree))
+    if (auto* wrapper = WexTree::of(&tree))
         wrapper->deleteItem(item);
     else
         deleteTreeItem(tree, item);

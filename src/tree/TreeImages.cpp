@@ -24,7 +24,7 @@ void addIcon(const CImageList& images, const wchar_t* name, int side) {
 }  // namespace
 
 void setTreeImages(CWnd& tree, const HostValue* icons) {
-    auto* wrapper = dynamic_cast<WexTree*>(&tree);
+    auto* wrapper = WexTree::of(&tree);
     if (!wrapper) return;
     const int side = imageSide(tree);
     CImageList images;

@@ -77,7 +77,7 @@ HTREEITEM insertTreeItem(CWnd& tree, HTREEITEM parent, HTREEITEM after, const CS
     item.pszText = const_cast<wchar_t*>(text.c_str());
     item.iImage = images.image;
     item.iSelectedImage = images.selected;
-    auto* wrapper = dynamic_cast<WexTree*>(&tree);
+    auto* wrapper = WexTree::of(&tree);
     if (wrapper && images.alternate >= 0) {
         CTreeDataItem& record = wrapper->addRecord();
         record.m_alternateImage = images.alternate;
@@ -97,13 +97,13 @@ HTREEITEM insertTreeItem(CWnd& tree, HTREEITEM parent, HTREEITEM after, const CS
 }
 
 CTreeDataItem* treeRecord(const CWnd& tree, HTREEITEM item) {
-    const auto* wrapper = dynamic_cast<const WexTree*>(&tree);
+    const auto* wrapper = WexTree::of(&tree);
     const auto known = wrapper ? treeItem(tree, item) : std::nullopt;
     return known ? wrapper->recordOf(known->parameter) : nullptr;
 }
 
 CTreeDataItem* needTreeRecord(CWnd& tree, HTREEITEM item) {
-    auto* wrapper = dynamic_cast<WexTree*>(&tree);
+    auto* wrapper = WexTree::of(&tree);
     const auto known = wrapper ? treeItem(tree, item) : std::nullopt;
     if (!known) return nullptr;
     if (CTreeDataItem* record = wrapper->recordOf(known->parameter)) return record;

@@ -15,6 +15,12 @@ class WexTree : public CTreeCtrl, public TileControl {
     DECLARE_DYNAMIC(WexTree)
 
   public:
+    // The wrapper of a tree tile; null for any other window. Asked for each item that Lisp makes.
+    static WexTree* of(CWnd* wnd) {
+        return wnd && wnd->IsKindOf(RUNTIME_CLASS(WexTree)) ? static_cast<WexTree*>(wnd) : nullptr;
+    }
+    static const WexTree* of(const CWnd* wnd) { return of(const_cast<CWnd*>(wnd)); }
+
     CWnd& wnd() override { return *this; }
 
     // --- records of items. The tree's; they go with its window, not with their items.

@@ -18,6 +18,7 @@ class CTreeCtrl : public CWnd {
 
   private:
     void onGetDispInfo(NMHDR* header);
+    void onDeleteItem(NMHDR* header);
 
     CutTextTip m_tip;
 };
