@@ -38,6 +38,24 @@ void addRows(HWND list, const std::vector<std::wstring>& texts) {
     for (const std::wstring& text : texts) addRow(list, row++, text);
 }
 
+HTREEITEM addItem(HWND tree, HTREEITEM parent, const std::wstring& text) {
+    TVINSERTSTRUCTW insert{};
+    insert.hParent = parent;
+    insert.hInsertAfter = TVI_LAST;
+    insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    insert.item.pszText = const_cast<wchar_t*>(text.c_str());
+    insert.item.iSelectedImage = 1;
+    return reinterpret_cast<HTREEITEM>(
+        SendMessageW(tree, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
+}
+
+LPARAM firstItem(HWND tree) { return SendMessageW(tree, TVM_GETNEXTITEM, TVGN_ROOT, 0); }
+
+void addItems(HWND tree, const std::vector<std::wstring>& texts) {
+    const HTREEITEM above = addItem(tree, nullptr, L"All");
+    for (const std::wstring& text : texts) addItem(tree, above, text);
+}
+
 }  // namespace
 
 void bareFill(HWND list, const std::vector<std::wstring>& texts) {
@@ -46,15 +64,31 @@ void bareFill(HWND list, const std::vector<std::wstring>& texts) {
         addEntries(list, LB_ADDSTRING, texts);
     else if (isOf(list, L"ComboBox"))
         addEntries(list, CB_ADDSTRING, texts);
+    else if (isOf(list, WC_TREEVIEWW))
+        addItems(list, texts);
     else
         addRows(list, texts);
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    if (isOf(list, WC_TREEVIEWW)) bareTreeOpen(list, true);
     InvalidateRect(list, nullptr, TRUE);
 }
 
 void bareEmpty(HWND list) {
+    if (isOf(list, WC_TREEVIEWW)) {
+        SendMessageW(list, TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
+        return;
+    }
     const bool isListBox = isOf(list, L"ListBox"), isComboBox = isOf(list, L"ComboBox");
     SendMessageW(list, isListBox ? LB_RESETCONTENT : isComboBox ? CB_RESETCONTENT : LVM_DELETEALLITEMS, 0, 0);
+}
+
+void bareTreeSort(HWND tree) {
+    SendMessageW(tree, TVM_SORTCHILDREN, 0, firstItem(tree));
+    InvalidateRect(tree, nullptr, TRUE);
+}
+
+void bareTreeOpen(HWND tree, bool open) {
+    SendMessageW(tree, TVM_EXPAND, open ? TVE_EXPAND : TVE_COLLAPSE, firstItem(tree));
 }
 
 void bareNumberRows(HWND list, int column) {

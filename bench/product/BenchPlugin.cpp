@@ -131,6 +131,25 @@ int32_t openTableBare() {
     }));
 }
 
+// (bench_bare_open_tree id): a dialog whose tree 112 is filled before it shows
+int32_t openTreeBare() {
+    return giveReal(
+        bareOpenAndClose(argument(0), [](HWND dialog) { bareFill(GetDlgItem(dialog, 112), g_texts); }));
+}
+
+// (bench_bare_tree_sort id)
+int32_t sortTreeBare() {
+    const HWND tree = BareDialog::item(argument(0));
+    return timed([=] { bareTreeSort(tree); });
+}
+
+// (bench_bare_tree_open id open): opens the first item for 1, closes it for 0
+int32_t openItemBare() {
+    const HWND tree = BareDialog::item(argument(0));
+    const bool open = argument(1);
+    return timed([=] { bareTreeOpen(tree, open); });
+}
+
 // (bench_sort id column): the head of a column of the running dialog's list control is clicked
 int32_t sort() {
     const HWND dialog = runningDialog();
@@ -295,6 +314,9 @@ constexpr struct {
     {L"bench_bare_fill", &fillBare},
     {L"bench_bare_columns", &columnsBare},
     {L"bench_bare_open_table", &openTableBare},
+    {L"bench_bare_open_tree", &openTreeBare},
+    {L"bench_bare_tree_sort", &sortTreeBare},
+    {L"bench_bare_tree_open", &openItemBare},
     {L"bench_sort", &sort},
     {L"bench_bare_number", &numberBare},
     {L"bench_bare_sort", &sortBare},
