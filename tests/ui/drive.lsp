@@ -23,6 +23,15 @@
         (want T (look "LST1" "focus"))
         (want '("2") notes)))))
 
+(test "Typing where the focus is already doesn't click there"
+  '((in-list
+      '((ui_pick "LST1" 0)
+        (setq notes nil)
+        ; The character selects a row, and only a click or a key is told.
+        (ui_type "LST1" "g")
+        (want '(2) (selected "LST1"))
+        (want nil notes)))))
+
 (test "Shift and Ctrl are held for a key and for a click, and let go behind it"
   '((in-list
       '((ui_pick "LST1" 0)

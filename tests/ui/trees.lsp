@@ -240,3 +240,22 @@
         (setq many (mapcar '(lambda (i) (top (itoa i))) (range 20000)))
         (want nil (member 0 many))
         (foreach i '(0 9999 19999) (want (itoa i) (wex_tree_getitemtext "TREE" (nth i many))))))))
+
+; A tree of 40 items, two of them with children, which is opened, sorted, scrolled and cut.
+(setq building
+  '((setq tops (mapcar '(lambda (i) (top (itoa (- 140 i)))) (range 40)))
+    (foreach place '(5 35) (foreach i (range 12) (under (nth place tops) (strcat "child " (itoa (- 90 i))))))
+    (wex_tree_expanditem "TREE" (nth 35 tops) 1)
+    (wex_tree_sortchildren "TREE" (nth 35 tops))
+    (top "one more")
+    (wex_tree_selectitem "TREE" (nth 20 tops))
+    (wex_tree_deleteitem "TREE" (nth 3 tops))
+    (under (nth 5 tops) "and one more")
+    (wex_tree_expanditem "TREE" (nth 5 tops))))
+(defun picture (/ colors)
+  (foreach y (range 44) (foreach x (range 20) (setq colors (cons (ui_pixel "TREE" (* x 9) (* y 5)) colors))))
+  colors)
+
+(test "A tree that was changed at a stroke looks like one that was drawn after each change"
+  '((in-tree nil (append building '((setq slowly (picture)))))
+    (in-tree nil (list (cons 'progn building) '(want T (equal slowly (picture)))))))

@@ -1,0 +1,93 @@
+// A tree's window: its records go with it, and what is too long for it shows whole under the pointer.
+#include <gtest/gtest.h>
+
+#include "src/tree/TreeItems.h"
+#include "src/tree/WexTree.h"
+#include "tests/ui/tree/LiveObjects.h"
+
+namespace {
+
+struct TreeWindowTest : testing::Test {
+    TreeWindowTest() {
+        parent.CreateEx(0, L"Static", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, RECT{0, 0, 200, 200}, nullptr,
+                        0);
+    }
+
+    HWND makeTree() const {
+        return CreateWindowW(WC_TREEVIEWW, L"", WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS, 0, 0, 100, 100,
+                             parent.m_hWnd, nullptr, nullptr, nullptr);
+    }
+
+    CWnd parent;
+};
+
+constexpr TreeItemImages WITH_ALTERNATE{1, 1, 2};
+
+// Opens and closes trees with items that have records; gives how many objects are left.
+long leftBehind(const TreeWindowTest& test, int rounds, void (*further)(WexTree&)) {
+    const long before = liveObjects();
+    for (int round = 0; round < rounds; ++round) {
+        WexTree tree;
+        tree.SubclassWindow(test.makeTree());
+        const HTREEITEM above = insertTreeItem(tree, nullptr, TVI_LAST, L"above", WITH_ALTERNATE);
+        needTreeRecord(tree, insertTreeItem(tree, above, TVI_LAST, L"below", {}))->m_data = round;
+        tree.deleteItem(above);
+        if (further) further(tree);
+        ::DestroyWindow(tree.m_hWnd);
+    }
+    return liveObjects() - before;
+}
+
+TEST_F(TreeWindowTest, AThousandTreesWithRecordsLeaveNothing) {
+    leftBehind(*this, 10, nullptr);
+    EXPECT_EQ(leftBehind(*this, 1000, nullptr), 0);
+    static CTreeDataItem* leaked = nullptr;
+    EXPECT_EQ(leftBehind(*this, 1, [](WexTree&) { leaked = new CTreeDataItem; }), 1) << "a leak is seen";
+    delete leaked;
+}
+
+TEST_F(TreeWindowTest, RecordsGoWithTheWindowAndNotWithTheirItems) {
+    WexTree tree;
+    tree.SubclassWindow(makeTree());
+    const HTREEITEM item = insertTreeItem(tree, nullptr, TVI_LAST, L"item", WITH_ALTERNATE);
+    const LPARAM parameter = treeItem(tree, item)->parameter;
+    ASSERT_TRUE(parameter);
+    tree.deleteItem(item);
+    EXPECT_EQ(tree.recordOf(parameter)->m_alternateImage, 2);
+    ::DestroyWindow(tree.m_hWnd);
+    EXPECT_EQ(tree.recordOf(parameter), nullptr);
+}
+
+// The tip that Wine's tree leaves to us; Windows has its own way to it.
+TEST_F(TreeWindowTest, ACutTextShowsWholeWhereThePointerRests) {
+    WexTree tree;
+    tree.SubclassWindow(makeTree());
+    insertTreeItem(tree, nullptr, TVI_LAST, L"short", {});
+    insertTreeItem(tree, nullptr, TVI_LAST, L"a text & that is much too long for a tree as narrow as this",
+                   {});
+    tree.SendMessage(WM_SETREDRAW, TRUE);
+    const auto tip = reinterpret_cast<HWND>(tree.SendMessage(TVM_GETTOOLTIPS));
+    const auto rows = static_cast<int>(tree.SendMessage(TVM_GETITEMHEIGHT));
+    const auto rest = [&](int row) {
+        const LPARAM at = MAKELPARAM(30, row * rows + rows / 2);
+        tree.SendMessage(WM_MOUSEMOVE, 0, at);
+        tree.SendMessage(WM_MOUSEHOVER, 0, at);
+        return IsWindowVisible(tip) != FALSE;
+    };
+    EXPECT_FALSE(rest(0));
+    EXPECT_TRUE(rest(1));
+    wchar_t shown[128] = {};
+    TTTOOLINFOW tool = {};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.hwnd = tree.m_hWnd;
+    tool.uId = 1;
+    tool.lpszText = shown;
+    SendMessageW(tip, TTM_GETTEXTW, 128, reinterpret_cast<LPARAM>(&tool));
+    EXPECT_STREQ(shown, L"a text & that is much too long for a tree as narrow as this");
+    EXPECT_FALSE(rest(0));
+    EXPECT_TRUE(rest(1));
+    tree.SendMessage(WM_KEYDOWN, VK_DOWN);
+    EXPECT_FALSE(IsWindowVisible(tip));
+}
+
+}  // namespace
