@@ -42,18 +42,3 @@
     (setq before (host_resources))
     (repeat 20 (load-and-unload))
     (want before (host_resources))))
-
-(defun open-tree ()
-  (in-dialog "DRAWING_FOLDER_FILTER_SEL"
-    '(wex_action_tile "TREE" "(wex_tree_deleteitem \"TREE\" (atoi $value))")
-    '((wex_tree_setupimagelist "TREE" "FOLDER" "FOLDER_OPEN")
-      (wex_tree_setupimagelist "TREE" 102 103)
-      (setq folder (wex_tree_insertparent "TREE" "folder" 0 0 1))
-      (wex_tree_setitemdata "TREE" (wex_tree_insertchild "TREE" folder "item") 5)
-      (ui_expand "TREE" folder))))
-
-(test "So do dialogs with a tree, its images and items that an action deletes"
-  '((repeat 5 (open-tree))
-    (setq before (host_resources))
-    (repeat 20 (open-tree))
-    (want before (host_resources))))
