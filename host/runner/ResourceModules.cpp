@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "host/services/ProgramFolder.h"
 #include "src/platform/base/AddOns.h"
 #include "src/platform/base/DialogResources.h"
 #include "src/platform/base/Text.h"
@@ -28,12 +29,6 @@ std::optional<ResourceModule> load(const std::filesystem::path& path) {
             module.templates[id] = readTemplate(module.handle.get(), found);
     }
     return module;
-}
-
-std::filesystem::path programFolder() {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
-    return std::filesystem::path(path).parent_path();
 }
 
 bool hasNamesake(const Paths& paths, const std::filesystem::path& name) {

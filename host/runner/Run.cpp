@@ -20,6 +20,7 @@
 #include "host/runner/Terminal.h"
 #include "host/runner/Watchdog.h"
 #include "host/services/Host.h"
+#include "host/services/ProgramFolder.h"
 #include "host/services/Texts.h"
 #include "src/platform/base/DialogResources.h"
 
@@ -29,12 +30,6 @@ constexpr int LISP_ERROR = 1;
 constexpr int BAD_USAGE = 2;
 
 constexpr wchar_t GREETING[] = L"Type a Lisp expression, or the name of a command.\n";
-
-std::filesystem::path programFolder() {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
-    return std::filesystem::path(path).parent_path();
-}
 
 void reportError(const std::wstring& text) {
     host().console().error(text);

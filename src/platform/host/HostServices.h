@@ -24,6 +24,21 @@ HOST_API HWND hostGetMainFrame();
 HOST_API double hostMonitorDpiXScale(HMONITOR monitor);
 HOST_API double hostMonitorDpiYScale(HMONITOR monitor);
 
+// Loads modules of managed code. The order of the functions is the order of their slots.
+class HostManagedHost {
+  public:
+    virtual void notCalled() = 0;
+    // Loads the module of that file name, which GetModuleHandle finds from then on. 0 on success, otherwise
+    // the system's error code.
+    virtual int32_t loadModule(const wchar_t* fileName) = 0;
+
+  protected:
+    ~HostManagedHost() = default;
+};
+
+// The host's own, which lives as long as the process; null in a host without managed code.
+HOST_API HostManagedHost* hostGetManagedHost();
+
 HOST_API int hostMemFileCreate(const wchar_t* path, const wchar_t* text, bool overwrite, bool unicode);
 HOST_API int hostMemFileDelete(const wchar_t* path);
 
