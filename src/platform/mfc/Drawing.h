@@ -76,6 +76,13 @@ class PaintDC : public CDC {
     PAINTSTRUCT m_paint{};
 };
 
+// A device context that was created, and is deleted.
+class OwnedDC : public CDC {
+  public:
+    explicit OwnedDC(HDC dc) : CDC(dc) {}
+    ~OwnedDC() { ::DeleteDC(m_hDC); }
+};
+
 // A picture in memory of that size in pixels, of the same kind as `like`: what is drawn on it can be shown in
 // one go, without flicker. Coordinates are those of the picture.
 class MemoryDC : public CDC {
