@@ -135,9 +135,9 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     GridLook m_look;
     HFONT m_font = nullptr;  // borrowed from who set it
     CellEditor m_editor{*this};
-    CString m_textBefore;    // of the open cell, in the table
-    CString m_textToldLast;  // of the open cell, by the last event
-    std::vector<CellPlace> m_refused;
+    CString m_textBefore;              // of the open cell, in the table
+    CString m_textToldLast;            // of the open cell, by the last event
+    std::vector<CellPlace> m_refused;  // in order
 
     // What will be painted anyway: further changes there need no call of the platform.
     std::vector<RECT> m_pending;

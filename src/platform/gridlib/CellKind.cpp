@@ -4,14 +4,9 @@
 
 #include "src/platform/gridlib/NumberFormat.h"
 
-namespace {
-
 bool showsPlaces(const CellLook& look) { return look.format == FORMAT_PLACES && look.places; }
 
-}  // namespace
-
-CellKind cellKind(const CGXStyle& style) {
-    const CellLook& look = style.look();
+CellKind cellKind(const CellLook& look) {
     switch (look.control.value_or(CONTROL_EDIT)) {
         case CONTROL_HEADER:
             return CellKind::header;
@@ -31,9 +26,9 @@ CellKind cellKind(const CGXStyle& style) {
     return look.wrap.value_or(false) ? CellKind::wrappedText : CellKind::text;
 }
 
-bool isEditable(const CGXStyle& style) {
-    if (style.look().readOnly.value_or(false)) return false;
-    switch (cellKind(style)) {
+bool isEditable(const CellLook& look) {
+    if (look.readOnly.value_or(false)) return false;
+    switch (cellKind(look)) {
         case CellKind::text:
         case CellKind::wrappedText:
         case CellKind::choice:

@@ -7,11 +7,16 @@
 
 enum class CellKind { header, text, wrappedText, choice, check, reading, face, pushFace };
 
-// `style` with all that it inherits.
-CellKind cellKind(const CGXStyle& style);
+// Looks and styles are with all that they inherit.
+CellKind cellKind(const CellLook& look);
+inline CellKind cellKind(const CGXStyle& style) { return cellKind(style.look()); }
 
 // Whether a person may change the cell.
-bool isEditable(const CGXStyle& style);
+bool isEditable(const CellLook& look);
+inline bool isEditable(const CGXStyle& style) { return isEditable(style.look()); }
+
+// Whether numbers are shown with decimal places of the look's.
+bool showsPlaces(const CellLook& look);
 
 // Whether a person may give the cell that value: one of its choices, a tick or none, a number where the cell
 // shows decimal places. An empty text is fine but for a check.

@@ -1,9 +1,11 @@
 // Where a cell is. Portable.
 #pragma once
 
+#include <compare>
 #include <cstdint>
 
 struct CellPlace {
     uint32_t row = 0, col = 0;
-    bool operator==(const CellPlace&) const = default;
+    // Row by row.
+    auto operator<=>(const CellPlace&) const = default;
 };

@@ -37,9 +37,9 @@ const CellText& CellStore::text(uint32_t row, uint32_t col) const {
     return column && row % BAND < column->texts.size() ? column->texts[row % BAND] : none;
 }
 
-const CellLook& CellStore::look(uint32_t row, uint32_t col) const {
+LookPool::Id CellStore::lookId(uint32_t row, uint32_t col) const {
     const Column* column = find(row, col);
-    return m_looks[column && row % BAND < column->looks.size() ? column->looks[row % BAND] : LookPool::NONE];
+    return column && row % BAND < column->looks.size() ? column->looks[row % BAND] : LookPool::NONE;
 }
 
 void CellStore::setLook(Column& column, size_t at, LookPool::Id id) {

@@ -16,7 +16,9 @@ class CellStore {
   public:
     const CellText& text(uint32_t row, uint32_t col) const;
     // Valid until the next change.
-    const CellLook& look(uint32_t row, uint32_t col) const;
+    const CellLook& look(uint32_t row, uint32_t col) const { return m_looks[lookId(row, col)]; }
+    // Equal looks have equal ids.
+    LookPool::Id lookId(uint32_t row, uint32_t col) const;
 
     // Puts the style's attributes over those of the cell.
     void apply(uint32_t row, uint32_t col, const CGXStyle& style);

@@ -1,156 +1,279 @@
 #include "src/platform/gridlib/GridPainter.h"
 
 #include <algorithm>
+#include <unordered_map>
+#include <utility>
 
 #include "src/platform/gridlib/CellKind.h"
+#include "src/platform/gridlib/MergedView.h"
 
 namespace {
 
-// One cell, or merged ones, with all that drawing them needs.
-struct Drawn {
-    CGXStyle style;
-    CellKind kind;
-    RECT rect;  // without the lines
-    CellColors colors;
-    bool isHeader = false;  // looks as the theme's headers do
-};
+constexpr COLORREF REFUSED = RGB(200, 0, 0);
 
 bool isOnFace(CellKind kind) {
     return kind == CellKind::header || kind == CellKind::face || kind == CellKind::pushFace;
 }
 
+int shownFrom(const TrackView& view, uint32_t at) {
+    return at == 0 ? 0 : std::max(view.start(at), view.headerEnd());
+}
+
+CellColors colorsOf(const GridScene& scene, const CellLook& look, CellKind kind) {
+    const bool onFace = isOnFace(kind) || !scene.isEnabled;
+    CellColors colors;
+    colors.interior = look.interior.value_or(onFace ? scene.look.face : scene.look.window);
+    colors.text = look.textColor.value_or(onFace ? scene.look.faceText : scene.look.text);
+    if (!scene.isEnabled) colors.text = scene.look.grayText;
+    return colors;
+}
+
+RECT shownRect(const GridScene& scene, const CGXRange& cells) {
+    return {shownFrom(scene.cols, cells.left), shownFrom(scene.rows, cells.top), scene.cols.end(cells.right),
+            scene.rows.end(cells.bottom)};
+}
+
+// What drawing needs of a look, found once for all cells that have it.
+struct DrawnLook {
+    CGXStyle style;  // that of one of the cells
+    CellKind kind;
+    CellColors colors;
+    bool isHeader;  // looks as the theme's headers do
+    bool isEditable, wraps, showsPlaces;
+    uint8_t alignment;
+};
+
+struct LookHash {
+    size_t operator()(const GridTable::LookKey& key) const {
+        const size_t inherited =
+            std::hash<const void*>()(key.ofRow) * 31 + std::hash<const void*>()(key.ofColumn);
+        return (inherited * 31 + key.own) * 2 + key.isHeader;
+    }
+};
+
+// A row or column of which something has to be drawn.
+struct Track {
+    uint32_t at;
+    int from, to;
+};
+
+// Each call of the platform counts: a cell is drawn by one of them where it can be.
 class Painter {
   public:
     Painter(HDC dc, const RECT& area, const GridScene& scene)
-        : m_dc(dc), m_area(area), m_scene(scene), m_look(scene.look), m_font(dc, scene.look.font()) {
+        : m_dc(dc),
+          m_area(area),
+          m_scene(scene),
+          m_look(scene.look),
+          m_table(scene.grid.table()),
+          m_current(scene.grid.currentCell()),
+          m_font(dc, scene.look.font()),
+          m_merged(m_table, {scene.rows.first(), scene.cols.first()}, {scene.view.bottom, scene.view.right}),
+          m_drawn(m_merged.blockCount()),
+          m_base(scene.isEnabled ? scene.look.window : scene.look.face) {
         SetTextAlign(dc, TA_LEFT | TA_TOP);
+        SetBkMode(dc, TRANSPARENT);
+        for (const CGXRange& range : scene.grid.selection().ranges())
+            if (range.touches(scene.view)) m_selected.push_back(range);
+        const auto& ranges = scene.grid.selection().ranges();
+        m_currentIsAlone =
+            ranges.size() == 1 && ranges[0].top == ranges[0].bottom && ranges[0].left == ranges[0].right;
     }
 
     void paint() {
-        fillRect(m_dc, m_area, m_look.workspace);
-        const CGXRange& view = m_scene.view;
-        fillLines(view);
-        for (uint32_t row = 0; row <= view.bottom; row = row ? row + 1 : m_scene.rows.first())
-            for (uint32_t col = 0; col <= view.right; col = col ? col + 1 : m_scene.cols.first())
-                paintAt({row, col});
+        fill(m_area, m_look.workspace);
+        const auto rows = tracks(m_scene.rows, m_scene.view.bottom, m_area.top, m_area.bottom);
+        const auto cols = tracks(m_scene.cols, m_scene.view.right, m_area.left, m_area.right);
+        if (rows.empty() || cols.empty()) return;
+        fillBase(rows, cols);
+        for (const Track& row : rows)
+            for (const Track& col : cols) paintAt(row, col);
     }
 
   private:
-    // The lines are what the cells leave of this.
-    void fillLines(const CGXRange& view) {
-        const RECT cells{0, 0, m_scene.cols.end(view.right), m_scene.rows.end(view.bottom)};
-        fillRect(m_dc, cells, m_look.line);
-    }
-
-    void paintAt(CellPlace at) {
-        const ShownCell shown = shownCell(m_scene, at);
-        // Merged cells are drawn once: with the first of them in view.
-        const auto firstShown = [](uint32_t from, uint32_t first) {
-            return from == 0 ? 0 : std::max(from, first);
-        };
-        if (at.row != firstShown(shown.cells.top, m_scene.rows.first()) ||
-            at.col != firstShown(shown.cells.left, m_scene.cols.first()))
-            return;
-        RECT common;
-        if (!IntersectRect(&common, &shown.rect, &m_area)) return;
-        draw(drawn(shown), shown.cells);
-        if (shown.cells.contains(m_scene.grid.currentCell().row, m_scene.grid.currentCell().col))
-            frame(shown.rect);
-    }
-
-    Drawn drawn(const ShownCell& shown) const {
-        Drawn cell;
-        cell.style = m_scene.grid.table().style(shown.cells.top, shown.cells.left);
-        cell.kind = cellKind(cell.style);
-        cell.rect = shown.rect;
-        const int line = m_scene.grid.table().param().IsNewGridLineMode() ? 1 : m_look.scaled(1);
-        if (cell.kind != CellKind::header) cell.rect.right -= line, cell.rect.bottom -= line;
-        cell.colors = cellColors(m_scene, cell.style);
-        cell.isHeader = cell.kind == CellKind::header && !cell.style.look().interior;
-        const bool isCurrent = m_scene.grid.currentCell() == CellPlace{shown.cells.top, shown.cells.left};
-        const auto& ranges = m_scene.grid.selection().ranges();
-        const bool isAlone =
-            ranges.size() == 1 && ranges[0].top == ranges[0].bottom && ranges[0].left == ranges[0].right;
-        // A current cell alone keeps its colour: its frame tells enough.
-        if (m_scene.grid.selection().contains(shown.cells.top, shown.cells.left) && !(isCurrent && isAlone)) {
-            cell.isHeader = false;
-            cell.colors.interior = m_look.selected(cell.colors.interior);
-            if (m_look.isHighContrast()) cell.colors.text = m_look.highlightText;
+    static std::vector<Track> tracks(const TrackView& view, uint32_t last, int from, int to) {
+        std::vector<Track> tracks;
+        for (uint32_t at = 0; at <= last; at = at ? at + 1 : view.first()) {
+            const Track track{at, view.start(at), view.end(at)};
+            if (track.from >= to) break;
+            if (track.to > from && track.to > track.from) tracks.push_back(track);
         }
-        return cell;
+        return tracks;
     }
 
-    void draw(const Drawn& cell, const CGXRange& cells) {
-        RECT inner = cell.rect;
-        if (cell.isHeader)
-            m_look.drawHeader(m_dc, cell.rect);
-        else
-            fillRect(m_dc, cell.rect, cell.colors.interior);
-        if (cell.kind == CellKind::pushFace) m_look.drawRaised(m_dc, cell.rect);
-        if (cell.kind == CellKind::check) {
-            m_look.drawTick(m_dc, cell.rect, isTicked(cell.style),
-                            m_scene.isEnabled && isEditable(cell.style));
+    // Empty cells and the lines around them, on which the others are drawn.
+    void fillBase(const std::vector<Track>& rows, const std::vector<Track>& cols) {
+        const RECT cells{cols.front().from, rows.front().from, cols.back().to, rows.back().to};
+        fill(cells, m_base);
+        const int line = lineWidth();
+        for (const Track& row : rows) fill({cells.left, row.to - line, cells.right, row.to}, m_look.line);
+        for (const Track& col : cols) fill({col.to - line, cells.top, col.to, cells.bottom}, m_look.line);
+    }
+
+    int lineWidth() const { return m_table.param().IsNewGridLineMode() ? 1 : m_look.scaled(1); }
+
+    void paintAt(const Track& row, const Track& col) {
+        const size_t block = m_merged.blockAt(row.at, col.at);
+        if (m_drawn[block]) return;
+        m_drawn[block] = true;
+        const CGXRange& cells = m_merged.block(block);
+        const bool isMerged = cells.top != cells.bottom || cells.left != cells.right;
+        RECT rect{col.from, row.from, col.to, row.to};
+        if (isMerged) rect = shownRect(m_scene, cells);
+        drawCell(cells, rect, isMerged);
+        if (m_scene.hasFocus && cells.contains(m_current.row, m_current.col)) frame(rect);
+    }
+
+    const DrawnLook& lookOf(uint32_t row, uint32_t col) {
+        const GridTable::LookKey key = m_table.lookKey(row, col);
+        if (m_lastLook && key == m_lastKey) return *m_lastLook;
+        m_lastKey = key;
+        const auto [at, isNew] = m_looks.try_emplace(key);
+        DrawnLook& drawn = at->second;
+        m_lastLook = &drawn;
+        if (!isNew) return drawn;
+        drawn.style = m_table.style(row, col);
+        const CellLook& look = drawn.style.look();
+        drawn.kind = cellKind(look);
+        drawn.colors = colorsOf(m_scene, look, drawn.kind);
+        drawn.isHeader = drawn.kind == CellKind::header && !look.interior;
+        drawn.isEditable = isEditable(look);
+        drawn.wraps = look.wrap.value_or(false);
+        drawn.showsPlaces = showsPlaces(look);
+        drawn.alignment = look.horizontal.value_or(ALIGN_LEFT);
+        return drawn;
+    }
+
+    // A current cell alone keeps its colour: its frame tells enough.
+    bool isSelected(const CGXRange& cells) const {
+        if (m_currentIsAlone && m_current == CellPlace{cells.top, cells.left}) return false;
+        return std::any_of(m_selected.begin(), m_selected.end(),
+                           [&](const CGXRange& range) { return range.contains(cells.top, cells.left); });
+    }
+
+    void drawCell(const CGXRange& cells, RECT rect, bool isMerged) {
+        const DrawnLook& look = lookOf(cells.top, cells.left);
+        CellColors colors = look.colors;
+        const bool selected = !m_selected.empty() && isSelected(cells);
+        if (selected) {
+            colors.interior = m_look.selected(colors.interior);
+            if (m_look.isHighContrast()) colors.text = m_look.highlightText;
+        }
+        bool isFilled = colors.interior == m_base && !isMerged;
+        if (look.isHeader && !selected) {
+            m_look.drawHeader(m_dc, rect);
+            m_background = CLR_INVALID;
+            isFilled = true;
+        } else if (look.kind != CellKind::header) {
+            rect.right -= lineWidth();
+            rect.bottom -= lineWidth();
+        }
+        const auto needFill = [&] {
+            if (!std::exchange(isFilled, true)) fill(rect, colors.interior);
+        };
+        if (look.kind == CellKind::pushFace) {
+            needFill();
+            m_look.drawRaised(m_dc, rect);
+        }
+        if (look.kind == CellKind::check) {
+            needFill();
+            const CGXStyle style = m_table.style(cells.top, cells.left);
+            m_look.drawTick(m_dc, rect, isTicked(style), m_scene.isEnabled && look.isEditable);
+            m_background = CLR_INVALID;
         } else {
-            if (cell.kind == CellKind::choice && isEditable(cell.style))
+            RECT inner = rect;
+            if (look.kind == CellKind::choice && look.isEditable) {
+                needFill();
                 inner.right -= m_look.drawDropArrow(m_dc, inner);
-            drawText(cell, inner);
+                m_background = CLR_INVALID;
+            }
+            drawText(cells, look, colors, inner, isFilled);
         }
         const auto& refused = m_scene.refused;
-        if (std::find(refused.begin(), refused.end(), CellPlace{cells.top, cells.left}) != refused.end())
-            drawRefusal(cell.rect);
+        if (std::binary_search(refused.begin(), refused.end(), CellPlace{cells.top, cells.left}))
+            drawRefusal(rect);
     }
 
-    void drawText(const Drawn& cell, const RECT& inner) {
-        const CString text = shownText(cell.style);
+    // The cell's background too, where it isn't filled yet.
+    void drawText(const CGXRange& cells, const DrawnLook& look, CellColors colors, const RECT& inner,
+                  bool isFilled) {
+        std::wstring_view text = m_table.value(cells.top, cells.left);
+        CString formatted;
+        if (look.showsPlaces) text = formatted = shownText(m_table.style(cells.top, cells.left));
         RECT rect = inner;
         rect.left += m_look.margin();
         rect.right -= m_look.margin();
-        if (text.empty() || rect.left >= rect.right) return;
-        SetTextColor(m_dc, cell.colors.text);
-        const uint8_t alignment = cell.style.look().horizontal.value_or(ALIGN_LEFT);
-        const int width = m_look.textWidth(m_dc, text);
-        const bool hasLines = text.find(L'\n') != CString::npos;
-        SetBkMode(m_dc, TRANSPARENT);
-        if (hasLines || (cell.style.look().wrap.value_or(false) && width > rect.right - rect.left)) {
-            const UINT align = alignment == ALIGN_RIGHT    ? DT_RIGHT
-                               : alignment == ALIGN_CENTER ? DT_CENTER
-                                                           : DT_LEFT;
-            const UINT breaks = cell.style.look().wrap.value_or(false) ? DT_WORDBREAK | DT_EDITCONTROL : 0;
+        if (text.empty() || rect.left >= rect.right) {
+            if (!isFilled) fill(inner, colors.interior);
+            return;
+        }
+        if (colors.text != m_textColor) SetTextColor(m_dc, m_textColor = colors.text);
+        const auto length = static_cast<UINT>(text.size());
+        const int room = rect.right - rect.left, width = m_look.textWidth(m_dc, text);
+        if (text.find(L'\n') != text.npos || (look.wraps && width > room)) {
+            if (!isFilled) fill(inner, colors.interior);
             rect.top += 1;
-            DrawTextW(m_dc, text.data(), static_cast<int>(text.size()), &rect, align | breaks | DT_NOPREFIX);
+            const UINT breaks = look.wraps ? DT_WORDBREAK | DT_EDITCONTROL : 0;
+            DrawTextW(m_dc, text.data(), static_cast<int>(length), &rect,
+                      alignFlag(look.alignment) | breaks | DT_NOPREFIX);
             return;
         }
         int x = rect.left;
-        if (alignment == ALIGN_RIGHT) x = rect.right - width;
-        if (alignment == ALIGN_CENTER) x = std::max<int>(rect.left, (rect.left + rect.right - width) / 2);
+        if (look.alignment == ALIGN_RIGHT) x = rect.right - width;
+        if (look.alignment == ALIGN_CENTER) x = std::max<int>(rect.left, rect.left + (room - width) / 2);
         const int y = std::max<int>(inner.top, (inner.top + inner.bottom - m_look.lineHeight()) / 2);
-        ExtTextOutW(m_dc, x, y, ETO_CLIPPED, &rect, text.data(), static_cast<UINT>(text.size()), nullptr);
+        if (!isFilled) setBackground(colors.interior);
+        // Too long a text ends before the margin, as it begins behind one.
+        const bool fits = width <= room;
+        if (!fits && !isFilled) fill(inner, colors.interior);
+        ExtTextOutW(m_dc, x, y, fits && !isFilled ? ETO_CLIPPED | ETO_OPAQUE : ETO_CLIPPED,
+                    fits ? &inner : &rect, text.data(), length, nullptr);
+    }
+
+    static UINT alignFlag(uint8_t alignment) {
+        return alignment == ALIGN_RIGHT ? DT_RIGHT : alignment == ALIGN_CENTER ? DT_CENTER : DT_LEFT;
+    }
+
+    void setBackground(COLORREF color) {
+        if (color != m_background) SetBkColor(m_dc, m_background = color);
+    }
+    void fill(const RECT& rect, COLORREF color) {
+        setBackground(color);
+        ExtTextOutW(m_dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
     }
 
     // A corner in red.
     void drawRefusal(const RECT& rect) {
         const int side = m_look.scaled(6);
-        for (int i = 0; i < side; ++i) {
-            const RECT dash{rect.right - side + i, rect.top + i, rect.right, rect.top + i + 1};
-            fillRect(m_dc, dash, RGB(200, 0, 0));
-        }
+        for (int i = 0; i < side; ++i)
+            fill({rect.right - side + i, rect.top + i, rect.right, rect.top + i + 1}, REFUSED);
     }
 
-    void frame(RECT rect) {
-        if (!m_scene.hasFocus) return;
+    void frame(const RECT& rect) {
         const int thick = m_look.scaled(2);
         const COLORREF color = m_look.isHighContrast() ? m_look.text : m_look.highlight;
-        fillRect(m_dc, {rect.left, rect.top, rect.right, rect.top + thick}, color);
-        fillRect(m_dc, {rect.left, rect.bottom - thick, rect.right, rect.bottom}, color);
-        fillRect(m_dc, {rect.left, rect.top, rect.left + thick, rect.bottom}, color);
-        fillRect(m_dc, {rect.right - thick, rect.top, rect.right, rect.bottom}, color);
+        fill({rect.left, rect.top, rect.right, rect.top + thick}, color);
+        fill({rect.left, rect.bottom - thick, rect.right, rect.bottom}, color);
+        fill({rect.left, rect.top, rect.left + thick, rect.bottom}, color);
+        fill({rect.right - thick, rect.top, rect.right, rect.bottom}, color);
     }
 
     HDC m_dc;
     const RECT& m_area;
     const GridScene& m_scene;
     const GridLook& m_look;
-    SelectedObject m_font;
+    const GridTable& m_table;
+    const CellPlace m_current;
+    const SelectedObject m_font;
+    const MergedView m_merged;
+    std::vector<bool> m_drawn;  // of the merged blocks
+    std::vector<CGXRange> m_selected;
+    bool m_currentIsAlone;
+    const COLORREF m_base;                                           // of a cell without a look
+    COLORREF m_background = CLR_INVALID, m_textColor = CLR_INVALID;  // as the device context has them
+    std::unordered_map<GridTable::LookKey, DrawnLook, LookHash> m_looks;
+    GridTable::LookKey m_lastKey{};
+    const DrawnLook* m_lastLook = nullptr;
 };
 
 }  // namespace
@@ -165,21 +288,11 @@ ShownCell shownCell(const GridScene& scene, CellPlace at) {
     within.bottom = std::max(within.bottom, at.row);
     within.right = std::max(within.right, at.col);
     const CGXRange cells = scene.grid.table().merged(at.row, at.col, within);
-    const auto from = [](const TrackView& view, uint32_t at) {
-        return at == 0 ? 0 : std::max(view.start(at), view.headerEnd());
-    };
-    return {cells,
-            {from(scene.cols, cells.left), from(scene.rows, cells.top), scene.cols.end(cells.right),
-             scene.rows.end(cells.bottom)}};
+    return {cells, shownRect(scene, cells)};
 }
 
 CellColors cellColors(const GridScene& scene, const CGXStyle& style) {
-    const bool onFace = isOnFace(cellKind(style)) || !scene.isEnabled;
-    CellColors colors;
-    colors.interior = style.look().interior.value_or(onFace ? scene.look.face : scene.look.window);
-    colors.text = style.look().textColor.value_or(onFace ? scene.look.faceText : scene.look.text);
-    if (!scene.isEnabled) colors.text = scene.look.grayText;
-    return colors;
+    return colorsOf(scene, style.look(), cellKind(style));
 }
 
 void paintGrid(HDC dc, const RECT& area, const GridScene& scene) { Painter(dc, area, scene).paint(); }

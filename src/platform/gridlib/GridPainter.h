@@ -13,7 +13,7 @@ struct GridScene {
     const GridLook& look;
     bool isEnabled;
     bool hasFocus;
-    // Cells that refused what was last given to them.
+    // Cells that refused what was last given to them, in order.
     const std::vector<CellPlace>& refused;
     // The cells that are in view, headers included: from row and column 0 on, of which those between the
     // headers and the first ones in view don't show.

@@ -1,4 +1,6 @@
 // Copying and pasting in a grid's window.
+#include <algorithm>
+
 #include "src/platform/gridlib/CGXGridWnd.h"
 #include "src/platform/gridlib/GridClipboard.h"
 #include "src/platform/gridlib/PastedCells.h"
@@ -33,6 +35,7 @@ void CGXGridWnd::paste() {
     const PastedCells pasted = pastedCells(m_table, *cells, *rows, MOST_CELLS);
     m_refused.clear();
     const std::vector<CellPlace> changed = m_table.enter(pasted.entries, m_refused);
+    std::sort(m_refused.begin(), m_refused.end());
     invalidateAll();
     const size_t refused = m_refused.size() + pasted.outside;
     OnPasted(pasted.entries.size() - m_refused.size(), refused);

@@ -69,6 +69,14 @@ CGXStyle GridTable::style(uint32_t row, uint32_t col) const {
     return own;
 }
 
+GridTable::LookKey GridTable::lookKey(uint32_t row, uint32_t col) const {
+    const auto find = [](const std::map<uint32_t, CGXStyle>& styles, uint32_t at) {
+        const auto found = styles.empty() ? styles.end() : styles.find(at);
+        return found == styles.end() ? nullptr : &found->second;
+    };
+    return {m_cells.lookId(row, col), find(m_rowStyles, row), find(m_colStyles, col), row == 0 || col == 0};
+}
+
 std::wstring_view GridTable::value(uint32_t row, uint32_t col) const {
     if (!has(row, col)) return {};
     if (m_cells.look(row, col).hasValue) return m_cells.text(row, col).view();
@@ -124,7 +132,6 @@ bool GridTable::mergesAlongRow(uint32_t row, uint32_t col) const {
     return attribute(row, col, &CellLook::merge, uint8_t{MERGE_NOT}) & MERGE_ALONG_ROW;
 }
 
-// The cells of that row that read as one with that cell.
 CGXRange GridTable::run(uint32_t row, uint32_t col, const CGXRange& within) const {
     CGXRange run(row, col);
     const std::wstring_view text = value(row, col);
@@ -137,21 +144,27 @@ CGXRange GridTable::run(uint32_t row, uint32_t col, const CGXRange& within) cons
     return run;
 }
 
-bool GridTable::mergesDown(uint32_t row, const CGXRange& run) const {
+bool GridTable::mergesDown(const CGXRange& run) const {
     for (uint32_t col = run.left; col <= run.right; ++col)
-        if (!(attribute(row, col, &CellLook::merge, uint8_t{MERGE_NOT}) & MERGE_DOWN_COLUMN)) return false;
+        if (!(attribute(run.top, col, &CellLook::merge, uint8_t{MERGE_NOT}) & MERGE_DOWN_COLUMN))
+            return false;
     return true;
+}
+
+bool GridTable::joinsDown(const CGXRange& upper, const CGXRange& lower) const {
+    if (upper.left != lower.left || upper.right != lower.right) return false;
+    const std::wstring_view text = value(upper.top, upper.left);
+    return !text.empty() && value(lower.top, lower.left) == text && mergesDown(upper) && mergesDown(lower);
 }
 
 CGXRange GridTable::merged(uint32_t row, uint32_t col, const CGXRange& within) const {
     if (!m_merging || !has(row, col)) return CGXRange(row, col);
-    CGXRange all = run(row, col, within);
+    const CGXRange own = run(row, col, within);
+    CGXRange all = own;
     const std::wstring_view text = value(row, col);
-    if (text.empty() || !mergesDown(row, all)) return all;
+    if (text.empty() || !mergesDown(own)) return all;
     const auto joins = [&](uint32_t other) {
-        if (value(other, all.left) != text || !mergesDown(other, all)) return false;
-        const CGXRange otherRun = run(other, all.left, within);
-        return otherRun.left == all.left && otherRun.right == all.right;
+        return value(other, own.left) == text && joinsDown(own, run(other, own.left, within));
     };
     while (all.top > within.top && joins(all.top - 1)) --all.top;
     while (all.bottom < std::min(within.bottom, rowCount()) && joins(all.bottom + 1)) ++all.bottom;

@@ -53,6 +53,14 @@ class GridTable {
     CGXStyle ownStyle(uint32_t row, uint32_t col) const;
     // With what the cell inherits.
     CGXStyle style(uint32_t row, uint32_t col) const;
+    // Cells with equal keys have the same style but for the value, until the table changes.
+    struct LookKey {
+        LookPool::Id own;
+        const CGXStyle *ofRow, *ofColumn;
+        bool isHeader;
+        bool operator==(const LookKey&) const = default;
+    };
+    LookKey lookKey(uint32_t row, uint32_t col) const;
     std::wstring_view value(uint32_t row, uint32_t col) const;
 
     // Puts the style's attributes over those of the range: of cells, or of rows, columns or the table as
@@ -71,6 +79,10 @@ class GridTable {
     // runs as wide as each other merge down where all their cells have that other bit.
     CGXRange merged(uint32_t row, uint32_t col, const CGXRange& within) const;
     CGXRange merged(uint32_t row, uint32_t col) const { return merged(row, col, CGXRange::ofTable()); }
+    // The cells of that row that read as one with that cell.
+    CGXRange run(uint32_t row, uint32_t col, const CGXRange& within) const;
+    // Whether two runs, the second in the row below the first, read as one.
+    bool joinsDown(const CGXRange& upper, const CGXRange& lower) const;
 
     // --- what a person does
 
@@ -93,8 +105,7 @@ class GridTable {
     Value attribute(uint32_t row, uint32_t col, std::optional<Value> CellLook::*which, Value otherwise) const;
     bool refuses(uint32_t row, uint32_t col) const;
     bool mergesAlongRow(uint32_t row, uint32_t col) const;
-    bool mergesDown(uint32_t row, const CGXRange& run) const;
-    CGXRange run(uint32_t row, uint32_t col, const CGXRange& within) const;
+    bool mergesDown(const CGXRange& run) const;
     void write(CellPlace at, const CellText& text);
     std::vector<CellPlace> play(const EditHistory::Step* step, bool back);
 
