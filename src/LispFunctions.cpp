@@ -3,6 +3,8 @@
 #include <array>
 
 #include "src/dialog/DialogFunctions.h"
+#include "src/grid/CellFunctions.h"
+#include "src/grid/GridFunctions.h"
 #include "src/listctrl/ListCtrlFunctions.h"
 #include "src/listctrl/SelectionFunctions.h"
 #include "src/platform/host/HostServices.h"
@@ -67,13 +69,13 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_setminresizing", withArguments<setMinResizing>},
     {L"wex_setmaxresizing", withArguments<setMaxResizing>},
     {L"wex_settitlebar", withArguments<setTitleBar>},
-    {L"wex_grid_setrowcolumns", notBuiltYet},
-    {L"wex_grid_setcell", notBuiltYet},
-    {L"wex_grid_getcell", notBuiltYet},
-    {L"wex_grid_clearcells", notBuiltYet},
+    {L"wex_grid_setrowcolumns", withArguments<gridSetRowColumns>},
+    {L"wex_grid_setcell", withArguments<gridSetCell>},
+    {L"wex_grid_getcell", withArguments<gridGetCell>},
+    {L"wex_grid_clearcells", withArguments<gridClearCells>},
     {L"wex_tab_add", withArguments<tabAdd>},
-    {L"wex_grid_setrowheight", notBuiltYet},
-    {L"wex_grid_setcolumnwidth", notBuiltYet},
+    {L"wex_grid_setrowheight", withArguments<gridSetRowHeight>},
+    {L"wex_grid_setcolumnwidth", withArguments<gridSetColumnWidth>},
     {L"wex_tree_insertparent", withArguments<treeInsertParent>},
     {L"wex_tree_insertchild", withArguments<treeInsertChild>},
     {L"wex_tree_insertparentafter", withArguments<treeInsertParentAfter>},
@@ -95,17 +97,17 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_tree_setupimagelist", withArguments<treeSetupImageList>},
     {L"wex_edit_setasnumeric", withArguments<editSetAsNumeric>},
     {L"wex_edit_setasangular", withArguments<editSetAsAngular>},
-    {L"wex_grid_sortcolbytext", notBuiltYet},
+    {L"wex_grid_sortcolbytext", withArguments<gridSortColByText>},
     {L"wex_movecontrol", withArguments<moveControl>},
     {L"wex_start_controlmove", withArguments<startControlMove>},
     {L"wex_end_controlmove", withAnyArguments<endControlMove>},
     {L"wex_enable_dialog", withAnyArguments<enableDialog>},
-    {L"wex_grid_getcolumncount", notBuiltYet},
-    {L"wex_grid_setrow", notBuiltYet},
+    {L"wex_grid_getcolumncount", withArguments<gridGetColumnCount>},
+    {L"wex_grid_setrow", withArguments<gridSetRow>},
     {L"wex_edit_seteditlimit", withArguments<editSetEditLimit>},
-    {L"wex_grid_addrow", notBuiltYet},
-    {L"wex_grid_getrowcount", notBuiltYet},
-    {L"wex_grid_setjustification", notBuiltYet},
+    {L"wex_grid_addrow", withArguments<gridAddRow>},
+    {L"wex_grid_getrowcount", withArguments<gridGetRowCount>},
+    {L"wex_grid_setjustification", withArguments<gridSetJustification>},
     {L"wex_alert", withArguments<alert>},
     {L"wex_fp_setupdatasrc", notBuiltYet},
     {L"wex_fp_cleardatasrc", notBuiltYet},

@@ -78,6 +78,12 @@ std::optional<int> LispCall::shortOrLong() { return read(shortOrLongOf); }
 
 std::optional<int> LispCall::shortOrReal() { return read(shortOrRealOf); }
 
+int LispCall::wholeNumber() {
+    const HostValue* node = next();
+    if (!node) return 0;
+    return node->type == HV_REAL ? truncated(node->value.realValue) : shortOrLongOf(*node).value_or(0);
+}
+
 std::optional<WholePoint> LispCall::point() { return read(pointOf); }
 
 bool LispCall::isTrue() {
@@ -88,6 +94,16 @@ bool LispCall::isTrue() {
 bool LispCall::isTrueOrShort() {
     const HostValue* node = next();
     return node && (node->type == HV_TRUE || node->type == HV_SHORT);
+}
+
+bool LispCall::isTrueOrNotZero() {
+    const HostValue* node = next();
+    return node && (node->type == HV_TRUE || shortOf(*node).value_or(0) != 0);
+}
+
+bool LispCall::isThereAndNotNil() {
+    const HostValue* node = next();
+    return node && node->type != HV_NIL;
 }
 
 bool LispCall::isNeitherNilNorZero() {

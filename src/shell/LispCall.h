@@ -59,6 +59,8 @@ class LispCall {
     std::optional<int> shortOrLong();
     // A real is truncated.
     std::optional<int> shortOrReal();
+    // A short, a long, or a real truncated; 0 for any other node.
+    int wholeNumber();
     // Both numbers truncated; nothing for any other node.
     std::optional<WholePoint> point();
 
@@ -66,6 +68,10 @@ class LispCall {
     bool isTrue();
     // T, or a short of any value.
     bool isTrueOrShort();
+    // T, or a short that isn't 0.
+    bool isTrueOrNotZero();
+    // Anything but nil; a missing node isn't there.
+    bool isThereAndNotNil();
     // Anything but nil and 0; a missing node too.
     bool isNeitherNilNorZero();
 

@@ -38,6 +38,8 @@ int detachModule();
 
 // Texts of the resource module by string id, "" where it is missing.
 enum TextId : UINT {
+    TEXT_TRUE = 100,
+    TEXT_FALSE = 101,
     TEXT_ALERT_CAPTION = 102,
     TEXT_NO_LIST_OPEN = 106,
     TEXT_NOT_A_LIST_CONTROL = 107,

@@ -1,0 +1,94 @@
+#include "src/grid/CellFunctions.h"
+
+#include "src/grid/CalledRow.h"
+#include "src/grid/CellCode.h"
+#include "src/grid/EditBracket.h"
+#include "src/grid/GridArgument.h"
+#include "src/shell/Module.h"
+
+namespace {
+
+constexpr int NO_COLUMN = -1;
+constexpr int NEW_ROW = -1;
+
+// What the value makes of the cell; an empty style for a value that no cell takes.
+CGXStyle cellStyle(const HostValue& value, int row, int code, const std::optional<CString>& choices) {
+    switch (value.type) {
+        case HV_SHORT:
+            return CGXStyle().SetValue(value.value.shortValue);
+        case HV_LONG:
+            return CGXStyle().SetValue(value.value.longValue);
+        case HV_REAL:
+        case HV_ANGLE:
+        case HV_ORIENT:
+            return numberCellStyle(value.value.realValue, code);
+        case HV_STRING:
+            if (row == 0) return CGXStyle().SetValue(value.value.stringValue);
+            return textCellStyle(value.value.stringValue, code, choices, GetSysColor(COLOR_3DFACE));
+        case HV_TRUE:
+            return CGXStyle().SetValue(resourceText(TEXT_TRUE));
+        case HV_NIL:
+            return CGXStyle().SetValue(resourceText(TEXT_FALSE));
+        default:
+            return CGXStyle();
+    }
+}
+
+void setCell(WexGrid& grid, int row, int column, int code, const CGXStyle& style) {
+    const EditBracket bracket(*grid.GetParam());
+    const bool wasLocked = grid.LockUpdate(true);
+    const CGXRange cell(static_cast<uint32_t>(row), static_cast<uint32_t>(column));
+    if (column == 0 && row >= 1 && code != CONTROL_FACE_PUSH)
+        grid.SetStyleRange(
+            cell, CGXStyle().SetInterior(GetSysColor(COLOR_WINDOW)).SetTextColor(GetSysColor(COLOR_BTNTEXT)),
+            0, 0, 2);
+    grid.SetStyleRange(cell, style, 0, 0, 2);
+    grid.LockUpdate(wasLocked);
+}
+
+int writeRow(WexGrid& grid, const CString& text, int row, bool merges, int verticalCode) {
+    const EditBracket bracket(*grid.GetParam());
+    return buildGridRow(grid, text, row, merges, verticalCode, rowCellStyle(GetSysColor(COLOR_WINDOW)));
+}
+
+}  // namespace
+
+void gridSetCell(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const int row = call.wholeNumber(), column = call.wholeNumber();
+    const int code = call.shortOrLong().value_or(NO_CODE);
+    const HostValue* value = call.next();
+    if (!grid || !value || column == NO_COLUMN || grid->GetColCount() == 0) return call.retNil();
+    setCell(*grid, row, column, code, cellStyle(*value, row, code, call.text()));
+    grid->Redraw(2, true);
+    call.retVoid();
+}
+
+void gridGetCell(LispCall& call) {
+    const WexGrid* grid = gridArgument(call);
+    const int row = call.wholeNumber(), column = call.wholeNumber();
+    if (!grid || call.lacksArgument()) return call.retNil();
+    call.ret(grid->GetValueRowCol(static_cast<uint32_t>(row), static_cast<uint32_t>(column)));
+}
+
+void gridSetRow(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const int row = call.wholeNumber();
+    const CString text = call.textOrEmpty();
+    const bool works = grid && !call.lacksArgument();
+    const bool merges = call.isThereAndNotNil();
+    // kept: a merge flag, also nil, needs the vertical code behind it; wex_grid_addrow does without
+    const bool hasFlag = !call.lacksArgument();
+    const int verticalCode = call.shortOrLong().value_or(NO_VERTICAL_CODE);
+    call.retNil();
+    if (works && !(hasFlag && call.lacksArgument())) writeRow(*grid, text, row, merges, verticalCode);
+}
+
+void gridAddRow(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const CString text = call.textOrEmpty();
+    if (!grid || call.lacksArgument()) return call.retNil();
+    const bool merges = call.isThereAndNotNil();
+    const int verticalCode = call.shortOrLong().value_or(NO_VERTICAL_CODE);
+    call.ret(writeRow(*grid, text, NEW_ROW, merges, verticalCode));
+}

@@ -1,0 +1,106 @@
+#include "src/grid/GridFunctions.h"
+
+#include "src/dialog/CurrentTile.h"
+#include "src/grid/EditBracket.h"
+#include "src/grid/GridArgument.h"
+#include "src/grid/StyleSort.h"
+
+namespace {
+
+uint32_t placeArgument(LispCall& call) { return static_cast<uint32_t>(call.wholeNumber()); }
+
+uint8_t alignmentNamed(const CString& code) {
+    if (code == L"C") return ALIGN_CENTER;
+    return code == L"R" ? ALIGN_RIGHT : ALIGN_LEFT;
+}
+
+}  // namespace
+
+void gridSetRowColumns(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const int rows = call.wholeNumber();
+    int columns = call.wholeNumber();
+    if (!grid || call.lacksArgument()) return call.retNil();
+    if (columns == 0) columns = 1;
+    const UndoPause pause(*grid->GetParam());
+    grid->SetRowCount(static_cast<uint32_t>(rows), 2);
+    grid->SetColCount(columns < 1 ? 0 : static_cast<uint32_t>(columns - 1), 2);
+    // kept: a single row's header stays as it is
+    if (rows >= 2 && columns >= 1) {
+        const CGXStyle header = CGXStyle()
+                                    .SetControl(CONTROL_STATIC)
+                                    .SetReadOnly(true)
+                                    .SetValue(L"")
+                                    .SetInterior(GetSysColor(COLOR_WINDOW));
+        grid->SetStyleRange(CGXRange(1, 0, static_cast<uint32_t>(rows), 0), header, 0, 0, 2);
+    }
+    call.retVoid();
+}
+
+void gridSetRowHeight(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const uint32_t row = placeArgument(call);
+    const auto height = call.shortNumber();
+    if (!grid || call.lacksArgument()) return call.retNil();
+    if (height) grid->SetRowHeight(row, row, *height, nullptr, 2, 0);
+    call.retVoid();
+}
+
+void gridSetColumnWidth(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const uint32_t column = placeArgument(call);
+    const auto width = call.shortNumber();
+    if (!grid || call.lacksArgument()) return call.retNil();
+    if (width) grid->SetColWidth(column, column, *width, nullptr, 2, 0);
+    call.retVoid();
+}
+
+void gridGetColumnCount(LispCall& call) {
+    if (const WexGrid* grid = gridArgument(call))
+        call.ret(static_cast<int>(grid->GetColCount()));
+    else
+        call.retNil();
+}
+
+void gridGetRowCount(LispCall& call) {
+    CWnd* control = controlOf(call.tile());
+    if (!control) return call.retNil();
+    const WexGrid* grid = gridOf(control);
+    call.ret(grid ? static_cast<int>(grid->GetRowCount()) : 0);
+}
+
+void gridClearCells(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const uint32_t top = placeArgument(call), left = placeArgument(call);
+    const uint32_t bottom = placeArgument(call), right = placeArgument(call);
+    if (!grid || call.lacksArgument()) return call.retNil();
+    const bool styles = call.isTrueOrNotZero();
+    const EditBracket bracket(*grid->GetParam());
+    if (grid->GetColCount() > 0) grid->ClearCells(CGXRange(top, left, bottom, right), styles);
+    call.retVoid();
+}
+
+void gridSetJustification(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const int column = call.wholeNumber();
+    const uint8_t alignment = alignmentNamed(call.textOrEmpty());
+    const bool works = grid && !call.lacksArgument() && column >= 0;
+    call.retNil();
+    if (!works) return;
+    const auto aligned = static_cast<uint32_t>(column);
+    grid->setJustification(aligned, alignment);
+    const EditBracket bracket(*grid->GetParam());
+    const uint32_t rows = grid->GetRowCount();
+    // kept: the last row is left out
+    if (rows > 0)
+        grid->SetStyleRange(CGXRange(0, aligned, rows - 1, aligned),
+                            CGXStyle().SetHorizontalAlignment(alignment), 0, 0, 2);
+}
+
+void gridSortColByText(LispCall& call) {
+    WexGrid* grid = gridArgument(call);
+    const int column = call.wholeNumber();
+    if (!grid || call.lacksArgument()) return call.retNil();
+    sortRowsByText(*grid, column, call.isTrueOrNotZero(), 1, -1);
+    call.retVoid();
+}

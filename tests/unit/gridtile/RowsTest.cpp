@@ -1,0 +1,162 @@
+// Rows of a grid as texts with tabs fill them.
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "src/grid/CalledRow.h"
+#include "src/grid/ListRows.h"
+
+namespace {
+
+constexpr uint32_t PAPER = 0xABCDEF;
+
+// A table without rows, whose read-only cells take what programs write.
+class Table : public CGXGridCore {
+  public:
+    explicit Table(uint32_t columns) {
+        SetColCount(columns);
+        GetParam()->SetLockReadOnly(false);
+    }
+
+    CGXStyle cell(uint32_t row, uint32_t column) const {
+        CGXStyle style;
+        GetStyleRowCol(row, column, style, 2, 0);
+        return style;
+    }
+    // The cells' texts and behind each its bits of merging and its alignment, or - for none: "a10|b0-".
+    std::wstring row(uint32_t row) const {
+        std::wstring line;
+        for (uint32_t column = 0; column <= GetColCount(); ++column) {
+            const CGXStyle style = cell(row, column);
+            if (column > 0) line += L'|';
+            line += style.GetValue();
+            line += style.look().merge ? std::to_wstring(*style.look().merge) : L"-";
+            line += style.look().horizontal ? std::to_wstring(*style.look().horizontal) : L"-";
+        }
+        return line;
+    }
+};
+
+int called(Table& table, const wchar_t* text, int row, bool merges = false, int verticalCode = -1) {
+    return buildGridRow(table, text, row, merges, verticalCode, rowCellStyle(PAPER));
+}
+
+TEST(CalledRowTest, FieldsGoIntoTheirColumnsAndOneFieldIntoAll) {
+    Table table(2);
+    EXPECT_EQ(called(table, L"a\tb\tc", -1), 1);
+    EXPECT_EQ(called(table, L"a", -1), 2);
+    EXPECT_EQ(called(table, L"", -1), 3);
+    EXPECT_EQ(called(table, L"a\t\tc\td\te", -1), 4);
+    EXPECT_EQ(called(table, L"\tb\t", -1), 5);
+    EXPECT_EQ(table.row(1), L"a0-|b0-|c0-");
+    EXPECT_EQ(table.row(2), L"a1-|a1-|a1-");
+    EXPECT_EQ(table.row(3), L" 1-| 1-| 1-");
+    EXPECT_EQ(table.row(4), L"a0-|--|c0-");
+    EXPECT_EQ(table.row(5), L"0-|b0-|--");
+    EXPECT_EQ(table.GetRowHeight(4), 16);
+    const CGXStyle cell = table.cell(1, 1);
+    const CellLook& look = cell.look();
+    EXPECT_EQ(look.control, CONTROL_STATIC);
+    EXPECT_EQ(look.readOnly, true);
+    EXPECT_EQ(look.wrap, true);
+    EXPECT_EQ(look.interior, PAPER);
+}
+
+TEST(CalledRowTest, CodesTellHowCellsMerge) {
+    Table table(1);
+    called(table, L"a\tb", -1, true);
+    called(table, L"a\tb", -1, true, 0);
+    called(table, L"a\tb", -1, false, 1);
+    called(table, L"---\tx", -1, true);
+    called(table, L"---", -1, false, 1);
+    EXPECT_EQ(table.row(1), L"a1-|b1-");
+    EXPECT_EQ(table.row(2), L"a3-|b1-");
+    EXPECT_EQ(table.row(3), L"a2-|b2-");
+    EXPECT_EQ(table.row(4), L"---0-|x0-");
+    EXPECT_EQ(table.row(5), L"---3-|---3-");
+}
+
+TEST(CalledRowTest, ARowIsWrittenOverAndOneOutsideIsLeftOut) {
+    Table table(1);
+    called(table, L"a\tb", -1);
+    EXPECT_EQ(called(table, L"c\t", 1), 1);
+    EXPECT_EQ(called(table, L"x\ty", 7), 7);
+    EXPECT_EQ(called(table, L"x\ty", -5), -5);
+    EXPECT_EQ(called(table, L"head", 0), 0);
+    EXPECT_EQ(table.GetRowCount(), 1u);
+    EXPECT_EQ(table.row(1), L"c0-|b0-");
+    EXPECT_EQ(table.row(0), L"head1-|head1-");
+}
+
+// Ends the list, as wex_end_list does: the spare row goes.
+void listed(Table& table, CStringArray& lines, bool merges = false, int keyColumn = -1,
+            std::map<uint32_t, uint8_t> alignments = {}) {
+    addListRows(
+        table, lines,
+        {merges, keyColumn, [&](uint32_t column) { return alignments[column]; }, rowCellStyle(PAPER)});
+    table.SetRowCount(table.GetRowCount() - 1);
+}
+
+TEST(ListRowsTest, OneFieldFillsTheRowAndTwoReachTheLastColumn) {
+    Table table(3);
+    table.SetRowCount(1);
+    CStringArray lines{L"a", L"a\tb", L"a\tb\tc", L"", L" a \t b", L"   ", L" \tb\tc", L"CD\nEF\t"};
+    listed(table, lines, true, -1, {{0, 2}, {2, 1}});
+    EXPECT_EQ(table.GetRowCount(), 8u);
+    EXPECT_EQ(table.row(1), L"a10|a10|a10|a10");
+    EXPECT_EQ(table.row(2), L"a10|a10|a10|b10");
+    EXPECT_EQ(table.row(3), L"a02|b10|c11|--");
+    EXPECT_EQ(table.row(4), L" 10| 10| 10| 10");
+    EXPECT_EQ(table.row(5), L"a10|a10|a10|b10");
+    EXPECT_EQ(table.row(6), L"10|10|10|10");
+    EXPECT_EQ(table.row(7), L" 02|b10|c11|--");
+    EXPECT_EQ(table.row(8), L"CD\nEF10|CD\nEF10|CD\nEF10|CD\nEF10");
+    EXPECT_EQ(table.GetRowHeight(3), 16);
+}
+
+TEST(ListRowsTest, ARuleDoesNotMergeItsFields) {
+    Table table(2);
+    table.SetRowCount(1);
+    CStringArray lines{L"---\tx\ty", L"---"};
+    listed(table, lines, true);
+    EXPECT_EQ(table.row(1), L"---00|x00|y00");
+    EXPECT_EQ(table.row(2), L"---10|---10|---10");
+}
+
+TEST(ListRowsTest, WithoutASpareRowTheFirstLineLandsOnTheHeaders) {
+    Table table(1);
+    CStringArray lines{L"a", L"b"};
+    listed(table, lines);
+    EXPECT_EQ(table.GetRowCount(), 1u);
+    EXPECT_EQ(table.row(0), L"a10|a10");
+    EXPECT_EQ(table.row(1), L"b10|b10");
+}
+
+TEST(ListRowsTest, ContinuationLinesFoldAndMakeTheRowHigher) {
+    const struct {
+        CStringArray lines;
+        int keyColumn;
+        CStringArray left;
+        std::vector<int> heights;
+    } cases[] = {
+        {{L"AB\tCD", L"\tEF"}, 0, {L"CD\nEF\t"}, {30}},
+        {{L"A\tCD", L"\tEF"}, 0, {L"A\tCD", L"\tEF"}, {16, 16}},
+        {{L"AB\tCD", L"\tEF", L"\tGH"}, 0, {L""}, {44}},
+        {{L"AB\tCD", L"\tEF"}, -1, {L"AB\tCD", L"\tEF"}, {16, 16}},
+        {{L"no tab", L"\tEF"}, 0, {L"no tab", L"\tEF"}, {16, 16}},
+        {{L"AB\tCD", L"", L"\tEF"}, 0, {L"AB\tCD", L"", L"\tEF"}, {16, 16, 16}},
+        {{L"ab\tKEY\tgh", L"xx\t\tyy", L"cd\tKEY\tij"}, 1, {L"ab\nxx\tgh\nyy\t", L"cd\tKEY\tij"}, {30, 16}},
+    };
+    for (const auto& wanted : cases) {
+        Table table(2);
+        table.SetRowCount(1);
+        CStringArray lines = wanted.lines;
+        listed(table, lines, false, wanted.keyColumn);
+        EXPECT_EQ(lines, wanted.left);
+        std::vector<int> heights;
+        for (uint32_t row = 1; row <= table.GetRowCount(); ++row) heights.push_back(table.GetRowHeight(row));
+        EXPECT_EQ(heights, wanted.heights);
+    }
+}
+
+}  // namespace
