@@ -1,5 +1,7 @@
 #include "host/drive/Mouse.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <deque>
 #include <vector>
@@ -19,6 +21,15 @@ struct Posted {
 };
 
 bool isRelease(UINT message) { return message == WM_LBUTTONUP || message == WM_RBUTTONUP; }
+
+// How often a click is played again, should other programs keep taking it away.
+constexpr int MOST_REPEATS = 20;
+
+bool isButton(HWND window) {
+    wchar_t name[32] = {};
+    GetClassNameW(window, name, ARRAYSIZE(name));
+    return lstrcmpiW(name, WC_BUTTONW) == 0 && !(SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_STATIC);
+}
 
 // The dialog that a window stands in; the list of a combo box has one as its owner.
 HWND dialogOf(HWND window) {
@@ -44,6 +55,15 @@ class PostedMouse {
         if (!m_hook) m_hook = SetWindowsHookExW(WH_GETMESSAGE, &messageHook, nullptr, GetCurrentThreadId());
         m_waiting.push_back(posted);
         posted.post();
+    }
+
+    // Down and up are posted together: list and tree views run a loop of their own on the first until they
+    // see the second.
+    void postClick(const Posted& press, const Posted& release) {
+        m_click = {press, release};
+        m_repeats = 0;
+        post(press);
+        post(release);
     }
 
     void deliverHeld(HWND going) {
@@ -76,15 +96,35 @@ class PostedMouse {
         const bool isStopped = isBlocked(posted.window, nullptr);
         const bool isMove = posted.message == WM_MOUSEMOVE;
         if (!isMove && !isRelease(posted.message)) m_pressLost = isStopped;
-        if (!m_pressLost && !isStopped) return;
-        if (!m_pressLost && !isMove) m_held.push_back(posted);
+        if (!m_pressLost && !isStopped && !playsAgain(posted)) return;
+        if (!m_pressLost && isStopped && !isMove) m_held.push_back(posted);
         message.message = WM_NULL;
+    }
+
+    // Another program whose window came to the front has taken the mouse from a button between press and
+    // release, so that nothing would be clicked.
+    bool playsAgain(const Posted& release) {
+        if (release != m_click.release) return false;
+        const Posted press = m_click.press;
+        m_click = {};
+        if (GetCapture() == release.window || !isButton(release.window) || m_repeats == MOST_REPEATS)
+            return false;
+        ++m_repeats;
+        SetForegroundWindow(dialogOf(release.window));
+        m_click = {press, release};
+        post(press);
+        post(release);
+        return true;
     }
 
     std::deque<Posted> m_waiting;
     std::vector<Posted> m_held;
     HHOOK m_hook = nullptr;
     bool m_pressLost = false;
+    struct {
+        Posted press, release;
+    } m_click{};        // the last one
+    int m_repeats = 0;  // of it
 };
 
 PostedMouse& mouse() {
@@ -118,11 +158,10 @@ void hold(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONDOWN, MK_LBUTTON
 
 void letGo(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONUP, keys); }
 
-// Down and up are posted together: list and tree views run a loop of their own on the first until they see
-// the second.
 void click(const Spot& spot, WPARAM keys) {
-    post(spot, WM_LBUTTONDOWN, MK_LBUTTON | keys);
-    post(spot, WM_LBUTTONUP, keys);
+    const LPARAM at = MAKELPARAM(spot.point.x, spot.point.y);
+    mouse().postClick({spot.window, WM_LBUTTONDOWN, MK_LBUTTON | keys, at},
+                      {spot.window, WM_LBUTTONUP, keys, at});
 }
 
 void doubleClick(const Spot& spot, WPARAM keys) {

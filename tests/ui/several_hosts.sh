@@ -13,8 +13,8 @@ left_folders() { find "$WINEPREFIX/drive_c/users" -name 'wexhost-*' -type d; }
 cat >"$work/many.lsp" <<'LISP'
 (setq started 0)
 (repeat 60
-  ; No click: another host's window that comes to the front takes the mouse away from a button.
-  (ui_session "CONFIRM_DELREC" '((wex_done_dialog 1)))
+  ; Another host's window that comes to the front takes the mouse away from a button that is being pressed.
+  (ui_session "CONFIRM_DELREC" '((ui_click "OK")))
   (wex_new_dialog "CONFIRM_DELREC")
   (wex_setaction_oninit "(setq started (1+ started))")
   (wex_start_dialog))
