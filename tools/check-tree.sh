@@ -30,6 +30,9 @@ files '*.h' '*.cpp' ':!resources' | xargs -P2 -n20 clang-format --dry-run -Werro
 # What isn't below the families of controls is one.
 families=$(cd src && ls -d */ | grep -vxE '(platform|buttons|shell|dialog)/' | tr -d /)
 any_family="src/($(paste -sd'|' <<<"$families"))/"
+may_not_include store '(src|host)/' 'src/platform/(host|base)/' 'the store knows the plug-in by its interface only'
+may_not_include host 'store/' 'store/DataAccess.h' 'the host knows the store by its interface only'
+may_not_include src 'store/' '-' 'the plug-in knows the store by its interface only'
 may_not_include host 'src/' 'src/platform/(host|base)/' "of the plug-in's source the host sees the interface only"
 may_not_include src 'host/' '-' 'the plug-in knows the host by its interface only'
 may_not_include src/platform 'src/' 'src/platform/' 'the platform is below the subsystems'

@@ -8,8 +8,11 @@ packages=(
     g++ libc6-dev g++-mingw-w64-x86-64-posix mingw-w64-tools           # native and Windows compilers
     clang libclang-rt-14-dev clang-format googletest python3           # fuzzing, format, tests
     wine wine64 fonts-wine fonts-liberation xvfb xauth util-linux      # running
+    sqlite3 libsqlite3-dev unixodbc odbc-postgresql postgresql-15      # databases
     "$@"
 )
+# It may have come from elsewhere.
+command -v npm >/dev/null || packages+=(npm)
 
 missing=()
 installed=$(dpkg-query -W -f '${db:Status-Abbrev}${Package}\n' | sed -n 's/^ii //p')

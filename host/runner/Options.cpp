@@ -2,6 +2,8 @@
 
 #include <cwchar>
 
+#include "host/services/DataChoice.h"
+
 namespace {
 
 class Parser {
@@ -45,6 +47,13 @@ class Parser {
             fail(option + L": " + text + L" is no number of seconds");
     }
 
+    void takeData(const std::wstring& option) {
+        m_options.data = operand(option);
+        if (!m_options.error.empty()) return;
+        const std::wstring wrong = parseDataChoice(m_options.data).error;
+        if (!wrong.empty()) fail(option + L": " + wrong);
+    }
+
     void takeOperand(const std::wstring& argument) {
         if (m_options.checkDialogs) {
             m_options.modules.push_back(argument);
@@ -67,6 +76,8 @@ class Parser {
             m_options.checkDialogs = true;
         } else if (argument == L"--timeout") {
             takeTimeout(argument);
+        } else if (argument == L"--data") {
+            takeData(argument);
         } else if (argument == L"--support") {
             m_options.supportFolders.push_back(operand(argument));
         } else if (argument == L"--shots") {
@@ -100,6 +111,7 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --headless         nobody is there: play the programs' sessions, answer all alerts
   --play             play the programs' sessions where the person can watch
   --timeout SECONDS  give up after that time; inf for never
+  --data DATABASE    open it for the programs: FILE.sqlite, or odbc:CONNECT STRING
   --support DIR      look for Lisp files in DIR too; may be given several times
   --shots DIR        where ui_shot writes its pictures (the working folder)
   --plugin PATH      the plug-in to load (WexDialogs.pgx beside wexhost.exe)

@@ -21,6 +21,7 @@ struct Options {
     double timeoutSeconds = 0;  // 0: no limit
     std::wstring shotsFolder;
     std::wstring plugin;
+    std::wstring data;  // which database is open at the start; empty for none
     std::vector<std::wstring> supportFolders;
     std::vector<Step> steps;
     std::vector<std::wstring> modules;  // the operands of --check-dialogs

@@ -11,6 +11,7 @@
 #include "host/drive/Player.h"
 #include "host/drive/UiFunctions.h"
 #include "host/runner/CheckDialogs.h"
+#include "host/runner/DataFunctions.h"
 #include "host/runner/HostFiles.h"
 #include "host/runner/HostFunctions.h"
 #include "host/runner/MainFrame.h"
@@ -55,6 +56,15 @@ void loadPlugin(const std::wstring& named) {
     }
 }
 
+void openChosenData(const std::wstring& choice) {
+    if (choice.empty()) return;
+    try {
+        if (!openData(choice)) host().fail(LISP_ERROR);
+    } catch (const lisp::Error& error) {
+        reportError(wideText(error.text()));
+    }
+}
+
 HWND makeMainFrame() {
     static MainFrame& frame = *new MainFrame;
     return frame.window();
@@ -78,6 +88,7 @@ void makeTempFolder() {
 // A plug-in of which a function is being called can't be unloaded.
 void endHost() {
     if (!CallFrame::current()) documents().closeAll();
+    closeData();
     tempFolder().reset();
 }
 
@@ -92,7 +103,9 @@ void startHost(const Options& options) {
     lisp.setFileAccess(filesFor(options));
     defineHostFunctions(lisp);
     defineUiFunctions(lisp, systemPath(options.shotsFolder).wstring());
+    defineDataFunctions(lisp);
     documents().open();
+    openChosenData(options.data);
     loadPlugin(options.plugin);
 }
 
@@ -155,7 +168,9 @@ void workTerminal() {
 void work(const Options& options) {
     startHost(options);
     for (const Options::Step& step : options.steps) {
-        if (!runStep(step)) break;
+        const bool isDone = runStep(step);
+        if (!step.isExpression) rollBackLeftover(step.text);
+        if (!isDone) break;
     }
     if (options.interactive) {
         workTerminal();

@@ -35,6 +35,8 @@ TEST(Options, OperandsOfTheDialogCheckAreModules) {
 TEST(Options, WhatIsWrongIsNamed) {
     EXPECT_EQ(parse({L"--nope"}).error, L"--nope is no option");
     EXPECT_EQ(parse({L"--shots"}).error, L"--shots needs an operand");
+    EXPECT_EQ(parse({L"--data", L"odbc:x"}).error, L"--data: odbc: x is no NAME=VALUE");
+    EXPECT_EQ(parse({L"--data", L"x.sqlite", L"a.lsp"}).data, L"x.sqlite");
     EXPECT_EQ(parse({L"--timeout", L"2.5"}).timeoutSeconds, 2.5);
     EXPECT_EQ(parse({L"--headless"}).error, L"--headless needs a program, -e or -i");
     EXPECT_EQ(parse({L"--headless", L"-i"}).error, L"");
