@@ -8,6 +8,7 @@
 #include "src/listctrl/ListCtrlFunctions.h"
 #include "src/listctrl/SelectionFunctions.h"
 #include "src/platform/host/HostServices.h"
+#include "src/records/RecordFunctions.h"
 #include "src/tabs/TabFunctions.h"
 #include "src/tiles/EditFunctions.h"
 #include "src/tiles/ListFunctions.h"
@@ -109,17 +110,17 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_grid_getrowcount", withArguments<gridGetRowCount>},
     {L"wex_grid_setjustification", withArguments<gridSetJustification>},
     {L"wex_alert", withArguments<alert>},
-    {L"wex_fp_setupdatasrc", notBuiltYet},
-    {L"wex_fp_cleardatasrc", notBuiltYet},
-    {L"wex_fp_getcount", notBuiltYet},
-    {L"wex_fp_getitem", notBuiltYet},
-    {L"wex_fp_setitem", notBuiltYet},
-    {L"wex_fp_additem", notBuiltYet},
-    {L"wex_fp_remitem", notBuiltYet},
-    {L"wex_fp_getadded", notBuiltYet},
-    {L"wex_fp_getmodified", notBuiltYet},
-    {L"wex_fp_getdeleted", notBuiltYet},
-    {L"wex_fp_savedb", notBuiltYet},
+    {L"wex_fp_setupdatasrc", withAnyArguments<recordsSetUp>},
+    {L"wex_fp_cleardatasrc", withAnyArguments<recordsClear>},
+    {L"wex_fp_getcount", withAnyArguments<recordsGetCount>},
+    {L"wex_fp_getitem", withAnyArguments<recordsGetItem>},
+    {L"wex_fp_setitem", withAnyArguments<recordsSetItem>},
+    {L"wex_fp_additem", withAnyArguments<recordsAddItem>},
+    {L"wex_fp_remitem", withAnyArguments<recordsRemoveItem>},
+    {L"wex_fp_getadded", withAnyArguments<recordsGetAdded>},
+    {L"wex_fp_getmodified", withAnyArguments<recordsGetModified>},
+    {L"wex_fp_getdeleted", withAnyArguments<recordsGetDeleted>},
+    {L"wex_fp_savedb", withAnyArguments<recordsForgetChanges>},
 };
 static_assert(std::size(rows) == 94);
 

@@ -22,6 +22,7 @@ class Rows : public RowSource {
   public:
     int rowCount() override { return MILLION; }
     CString field(int row, int field) override { return fieldText(row, field); }
+    int find(const CString&, bool, int, int) override { return -1; }
 };
 
 INT_PTR CALLBACK bareProcedure(HWND, UINT message, WPARAM, LPARAM l) {

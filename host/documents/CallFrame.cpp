@@ -10,10 +10,6 @@
 
 namespace {
 
-lisp::Error failure(const std::u16string& why) {
-    return lisp::Error(u"the plug-in's function failed: " + why);
-}
-
 int32_t run(const PluginFunction& function) {
     if (function.handler) return function.handler();
     if (!function.plugin) throw lisp::Error(u"no handler is bound to this function");
@@ -66,8 +62,8 @@ lisp::Value callPluginFunction(lisp::Call& call) {
     } catch (const lisp::Error&) {
         throw;
     } catch (const std::exception& error) {
-        throw failure(lispText(wideFromUtf8(error.what())));
+        throw lisp::Error(lispText(wideFromUtf8(error.what())));
     } catch (...) {
-        throw failure(u"an exception of an unknown kind");
+        throw lisp::Error(u"the plug-in's function failed: an exception of an unknown kind");
     }
 }

@@ -141,14 +141,17 @@ Value wait(Call& call) {
 // (ui_text tile)
 Value textOfTile(Call& call) { return text(call, textOf(Tile(call, 0).window())); }
 
-// (ui_items tile)
+// (ui_items tile [first [count]])
 Value items(Call& call) {
     const Tile tile(call, 0);
     if (const auto grid = gridOf(tile.window())) return gridRows(call.lisp, *grid);
     const auto items = itemsOf(tile.window());
     if (!items) tile.fail(L"it is no list");
     lisp::ListBuilder list(call.lisp);
-    for (int i = 0; i < items->count(); ++i)
+    const int first = call.has(1) ? std::max(call.integer(1), 0) : 0;
+    const int beyond = items->count() - first;
+    const int end = first + (call.has(2) ? std::min(call.integer(2), beyond) : beyond);
+    for (int i = first; i < end; ++i)
         if (const auto line = items->line(i)) list.add(text(call, *line));
     return list.list();
 }
@@ -219,7 +222,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_session", &session, 2, 2}, {u"ui_type", &type, 2, 2},       {u"ui_key", &key, 1, 2},
     {u"ui_char", &character, 1, 2},  {u"ui_close", &close, 0, 0},     {u"ui_size", &size, 2, 2},
     {u"ui_drag", &drag, 3, 3},       {u"ui_wait", &wait, 1, 1},       {u"ui_text", &textOfTile, 1, 1},
-    {u"ui_items", &items, 1, 1},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
+    {u"ui_items", &items, 1, 3},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
     {u"ui_box", &box, 0, 0},         {u"ui_cell", &cellLook, 3, 3},   {u"ui_columns", &columns, 1, 1},
     {u"ui_title", &title, 0, 0},     {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},
     {u"ui_shot", &shot, 1, 1},

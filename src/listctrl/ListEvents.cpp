@@ -47,6 +47,7 @@ const MessageMap& WexListCtrl::messageMap() const {
                                     onReflectedNotify<LVN_ITEMCHANGED, &WexListCtrl::onItemChange>(),
                                     onReflectedNotify<LVN_INSERTITEM, &WexListCtrl::onItemChange>(),
                                     onReflectedNotify<LVN_GETDISPINFOW, &WexListCtrl::onGetDispInfo>(),
+                                    onReflectedNotify<LVN_ODFINDITEMW, &WexListCtrl::onFindItem>(),
                                 });
     return map;
 }

@@ -1,14 +1,14 @@
 #include "src/listctrl/WexListCtrl.h"
 
+#include <algorithm>
 #include <iterator>
 
 #include "src/dialog/WexDialog.h"
+#include "src/listctrl/ListCells.h"
 #include "src/listctrl/ListColumns.h"
 #include "src/listctrl/RowSelection.h"
 
 IMPLEMENT_DYNAMIC(WexListCtrl, CListCtrl)
-
-RowSource* g_rowSource = nullptr;
 
 namespace {
 
@@ -50,6 +50,22 @@ void WexListCtrl::onGetDispInfo(NMHDR* header) {
     if (column >= std::size(sourceFields)) return;
     const CString text = m_dataSource->field(item.iItem, sourceFields[column]);
     lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
+}
+
+// The list asks where typing leads, since it can't search rows that it doesn't have.
+LRESULT WexListCtrl::onFindItem(NMHDR* header) {
+    constexpr LRESULT notFound = -1;
+    constexpr UINT subString = 0x4;  // LVFI_SUBSTRING, another word for LVFI_PARTIAL
+    const auto& search = *reinterpret_cast<const NMLVFINDITEMW*>(header);
+    const UINT flags = search.lvfi.flags;
+    const bool byBeginning = flags & (LVFI_PARTIAL | subString);
+    const bool byText = (byBeginning || (flags & LVFI_STRING)) && search.lvfi.psz;
+    if (!m_dataSource || !byText) return notFound;
+    const CString text = search.lvfi.psz;
+    const int count = rowCount(*this);
+    const int start = std::clamp(search.iStart, 0, count);
+    const int found = m_dataSource->find(text, !byBeginning, start, count);
+    return found < 0 && (flags & LVFI_WRAP) ? m_dataSource->find(text, !byBeginning, 0, start) : found;
 }
 
 bool showsRecords(const CWnd& list) {

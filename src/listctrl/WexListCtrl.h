@@ -1,8 +1,8 @@
 // A list control: a table with a header, which selects whole rows and shows them selected without the focus.
 #pragma once
 
+#include "src/dialog/RowSource.h"
 #include "src/dialog/TileControl.h"
-#include "src/listctrl/RowSource.h"
 #include "src/platform/mfc/Controls.h"
 
 class WexListCtrl : public CListCtrl, public TileControl {
@@ -35,6 +35,7 @@ class WexListCtrl : public CListCtrl, public TileControl {
 
   private:
     void onGetDispInfo(NMHDR* header);
+    LRESULT onFindItem(NMHDR* header);
 
     // --- mouse and keys (ListEvents.cpp)
 

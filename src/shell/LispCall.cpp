@@ -72,6 +72,14 @@ std::vector<CString> LispCall::texts() {
     return texts;
 }
 
+std::vector<CString> LispCall::listTexts() {
+    std::vector<CString> texts;
+    const HostValue* node = next();
+    if (!node || node->type != HV_LIST_BEGIN) return texts;
+    while ((node = next()) && node->type == HV_STRING) texts.emplace_back(node->value.stringValue);
+    return texts;
+}
+
 std::optional<int> LispCall::shortNumber() { return read(shortOf); }
 
 std::optional<int> LispCall::shortOrLong() { return read(shortOrLongOf); }
@@ -151,6 +159,11 @@ void LispCall::ret(std::span<const int> numbers) {
         chain->next = rest;
     }
     hostRetList(chain.get());
+}
+
+void LispCall::retList(const HostValue* chain) {
+    setsResult();
+    hostRetList(chain);
 }
 
 void LispCall::ret(const CString& text) {

@@ -53,6 +53,8 @@ class LispCall {
     CString textOrDecimal();
     // One string, or those of a list up to the first element that is none.
     std::vector<CString> texts();
+    // The strings of a list up to the first element that is none; none for any other node.
+    std::vector<CString> listTexts();
 
     // The number of a short; nothing for any other node.
     std::optional<int> shortNumber();
@@ -75,6 +77,8 @@ class LispCall {
     // Anything but nil and 0; a missing node too.
     bool isNeitherNilNorZero();
 
+    // The call sets no result, which the host takes for no value.
+    void retNone() { setsResult(); }
     void retVoid();
     void retNil();
     void retT();
@@ -86,6 +90,8 @@ class LispCall {
     void ret(const CString& text);
     // A list; nil for none.
     void ret(std::span<const int> numbers);
+    // The elements of the chain, which remains the caller's, as a list; nil for none.
+    void retList(const HostValue* chain);
 
   private:
     void setsResult() { ++m_results; }

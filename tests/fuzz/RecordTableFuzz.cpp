@@ -1,5 +1,5 @@
-// Any calls on a record table do what they do on the plain one. The first two bytes are the store's count and its
-// rows, the others four for each call: what, which record (two), and the text that is written.
+// Any calls on a record table do what they do on the plain one. The first two bytes are the store's count and
+// its rows, the others four for each call: what, which record (two), and the text that is written.
 #include <cstdint>
 #include <cstdlib>
 

@@ -59,7 +59,7 @@ TEST(LispBridge, AnErrorInACallbackIsReportedAndThePluginGoesOn) {
 TEST(LispBridge, WhatAPluginThrowsIsALispErrorThatSaysWhere) {
     EXPECT_EQ(
         values("(catch-error (t_throw) (lambda (e) e)) (catch-error (t_throw5) (lambda (e) e)) (t_two)"),
-        "\"program.lsp:1: (t_throw): the plug-in's function failed: out of wire\"\n"
+        "\"program.lsp:1: (t_throw): out of wire\"\n"
         "\"program.lsp:1: (t_throw5): the plug-in's function failed: an exception of an unknown kind\"\n"
         "\"the last one\"\n");
 }

@@ -32,6 +32,12 @@ class Rows : public RowSource {
         if (row % 2 && field == 3) return {};
         return std::to_wstring(row) + L"." + std::to_wstring(field);
     }
+    int find(const CString& text, bool whole, int from, int end) override {
+        searches.push_back({text, whole, from, end});
+        return from <= 700 && 700 < end ? 700 : -1;
+    }
+
+    std::vector<std::tuple<CString, bool, int, int>> searches;
 };
 
 // The dialog with its list of four columns, up on the screen, painted.
@@ -113,6 +119,25 @@ TEST_F(SourceRows, AreSelectedByTheirState) {
     EXPECT_EQ(shown.selected().size(), 2u);
     shown.dialog.setValueByKey(L"table", L"-1");
     EXPECT_EQ(shown.selected(), std::vector<int>());
+}
+
+TEST_F(SourceRows, AreSearchedByTheirSource) {
+    Shown shown(DIALOG_OF_ROWS);
+    const auto search = [&](UINT flags, int start) {
+        LVFINDINFOW what{};
+        what.flags = flags;
+        what.psz = L"7";
+        return shown.list().SendMessage(LVM_FINDITEMW, start, reinterpret_cast<LPARAM>(&what));
+    };
+    EXPECT_EQ(search(LVFI_STRING, -1), 700);
+    EXPECT_EQ(search(LVFI_PARTIAL, 900), -1);
+    EXPECT_EQ(search(LVFI_PARTIAL | LVFI_WRAP, 900), 700);
+    EXPECT_EQ(search(LVFI_PARAM, 0), -1) << "rows of a source have no data";
+    const std::vector<std::tuple<CString, bool, int, int>> asked = {{L"7", true, 0, MILLION},
+                                                                    {L"7", false, 900, MILLION},
+                                                                    {L"7", false, 900, MILLION},
+                                                                    {L"7", false, 0, 900}};
+    EXPECT_EQ(rows.searches, asked);
 }
 
 TEST_F(SourceRows, AreNotAskedForByListsOfOtherDialogs) {

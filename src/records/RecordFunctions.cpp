@@ -1,0 +1,123 @@
+#include "src/records/RecordFunctions.h"
+
+#include <windows.h>
+
+#include "src/records/DataStoreServices.h"
+#include "src/records/RecordSource.h"
+#include "src/records/ResultChain.h"
+#include "src/records/WexRecordTable.h"
+
+namespace {
+
+// kept: of every record that is added, whatever the table's columns.
+constexpr size_t FIELDS_OF_ADDED = 5;
+
+// Shows that the program is at work while the store reads.
+class WaitCursor {
+  public:
+    ~WaitCursor() { SetCursor(m_before); }
+    WaitCursor() = default;
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+  private:
+    HCURSOR m_before = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+};
+
+// kept: -1 stands for no number, where any other bad one is an error.
+std::optional<int> recordNumber(LispCall& call) {
+    const std::optional<int> number = call.shortOrLong();
+    return number == -1 ? std::nullopt : number;
+}
+
+std::wstring_view textAt(const std::vector<CString>& texts, size_t at) {
+    return at < texts.size() ? std::wstring_view(texts[at]) : std::wstring_view();
+}
+
+template <class Records, class RecordOf>
+void retRecords(LispCall& call, const Records& records, RecordOf recordOf) {
+    ResultChain chain;
+    for (const auto& entry : records) chain.appendRecord(recordOf(entry));
+    call.retList(chain.get());
+}
+
+void retTracked(LispCall& call, TrackedRecords WexRecordTable::*records) {
+    if (!g_recordTable) return call.retVoid();
+    retRecords(call, (*g_recordTable).*records, [](const auto& entry) { return entry.second; });
+}
+
+}  // namespace
+
+void recordsSetUp(LispCall& call) {
+    call.retVoid();
+    if (g_recordTable) return;
+    HostDataStore* store = newDataStore();
+    if (!store) return;
+    g_recordTable = std::make_unique<WexRecordTable>(*store);
+    g_rowSource = &g_recordSource;
+    if (!call.hasArguments()) return;
+    const std::vector<CString> names = call.listTexts();
+    const WaitCursor waiting;
+    g_recordTable->setUp(textAt(names, 0), textAt(names, 1), textAt(names, 2));
+}
+
+void recordsClear(LispCall& call) {
+    g_rowSource = nullptr;
+    g_recordTable.reset();
+    call.retVoid();
+}
+
+void recordsGetCount(LispCall& call) { call.retLong(g_recordTable ? g_recordTable->Count() : 0); }
+
+void recordsGetItem(LispCall& call) {
+    const std::optional<int> number = recordNumber(call);
+    if (!number || !g_recordTable) return call.retVoid();
+    const Record* record = g_recordTable->At(*number);
+    ResultChain fields;
+    if (record) fields.appendFields(*record);
+    call.retList(fields.get());
+}
+
+void recordsSetItem(LispCall& call) {
+    const std::optional<int> number = recordNumber(call);
+    if (!number) return call.retVoid();
+    call.retNone();
+    const std::vector<CString> texts = call.listTexts();
+    if (!g_recordTable || call.lacksArgument()) return;
+    const Record* before = g_recordTable->At(*number);
+    if (!before) throw WexIndexError();
+    const Record after(before->size(), [&](size_t at) {
+        return at < texts.size() ? std::wstring_view(texts[at]) : before->field(at);
+    });
+    g_recordTable->Update(*number, after);
+}
+
+void recordsAddItem(LispCall& call) {
+    if (!call.hasArguments()) return call.retVoid();
+    call.retNone();
+    if (!g_recordTable) return;
+    const std::vector<CString> texts = call.listTexts();
+    g_recordTable->Add({FIELDS_OF_ADDED, [&](size_t at) { return textAt(texts, at); }});
+}
+
+void recordsRemoveItem(LispCall& call) {
+    const std::optional<int> number = recordNumber(call);
+    if (!number) return call.retVoid();
+    call.retNone();
+    if (g_recordTable) g_recordTable->Remove(*number);
+}
+
+void recordsGetAdded(LispCall& call) { retTracked(call, &WexRecordTable::m_added); }
+
+void recordsGetModified(LispCall& call) { retTracked(call, &WexRecordTable::m_modified); }
+
+void recordsGetDeleted(LispCall& call) {
+    if (!g_recordTable) return call.retVoid();
+    retRecords(call, g_recordTable->m_deleted, [](const Record& record) { return record; });
+}
+
+void recordsForgetChanges(LispCall& call) {
+    if (!g_recordTable) return call.retVoid();
+    g_recordTable->forgetChanges();
+    call.retNone();
+}
