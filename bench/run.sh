@@ -1,10 +1,10 @@
 #!/bin/bash
-# Usage: bench/run.sh     measures the product beside the bare platform, and the Lisp and the trees beside those of others
+# Usage: bench/run.sh     measures the product beside the bare platform, and the Lisp, trees and grids beside those of others
 # A line is    key  min X  med Y ms  n=N
 # or           key  min X  med Y ms  bare min X  med Y ms  ratio min R  med R  n=N    ours and the bare platform's in turns
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-"$root/tools/install-packages.sh" lua5.4 tk8.6 >&2
+"$root/tools/install-packages.sh" lua5.4 tk8.6 tk-table >&2
 "$root/tools/build.sh" windows >&2
 . "$root/tools/wine-env.sh"
 # Each call of Wine's server wakes another process. On a virtual machine, waking another processor costs several times
@@ -19,15 +19,17 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
 {
     lua5.4 "$root/bench/lisp/peer.lua"
     wish8.6 "$root/bench/product/peer.tcl"
+    wish8.6 "$root/bench/product/grids.tcl"
     wine64 "$built/bench/lisp/lisp_bench.exe"
     # 1933 is the dialog of 31 controls that dialogs.lsp opens.
     wine64 "$built/bench/dialog/dialog_bench.exe" "$built/bin/WexDialogsRes.dll" 1933
     wine64 "$built/testbin/source_bench.exe"
+    wine64 "$built/bench/grid/grid_bench.exe"
     cd "$root/bench/product"
     wine64 "$built/testbin/wexhost.exe" --headless --timeout 300 \
         -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \
         -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" \
-        rows.lsp dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp trees.lsp
+        rows.lsp dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp trees.lsp grids.lsp
 } | tr -d '\r' | tee "$rows"
 
 # ratio OURS THEIRS: of the medians

@@ -1,11 +1,17 @@
 #include "src/grid/GridFunctions.h"
 
+#include <algorithm>
+
 #include "src/dialog/CurrentTile.h"
 #include "src/grid/EditBracket.h"
 #include "src/grid/GridArgument.h"
 #include "src/grid/StyleSort.h"
 
 namespace {
+
+// Larger tables are refused: each row has a header, and a row's text may fill all columns.
+constexpr int MOST_ROWS = 16'000'000;
+constexpr int MOST_COLUMNS = 65'535;
 
 uint32_t placeArgument(LispCall& call) { return static_cast<uint32_t>(call.wholeNumber()); }
 
@@ -18,13 +24,13 @@ uint8_t alignmentNamed(const CString& code) {
 
 void gridSetRowColumns(LispCall& call) {
     WexGrid* grid = gridArgument(call);
-    const int rows = call.wholeNumber();
-    int columns = call.wholeNumber();
+    const int rows = call.wholeNumber(), given = call.wholeNumber();
     if (!grid || call.lacksArgument()) return call.retNil();
-    if (columns == 0) columns = 1;
+    const int columns = given == 0 ? 1 : given;
     const UndoPause pause(*grid->GetParam());
-    grid->SetRowCount(static_cast<uint32_t>(rows), 2);
-    grid->SetColCount(columns < 1 ? 0 : static_cast<uint32_t>(columns - 1), 2);
+    if (rows >= 0 && rows <= MOST_ROWS) grid->SetRowCount(static_cast<uint32_t>(rows), 2);
+    const int lastColumn = std::max(columns, 1) - 1;
+    if (lastColumn <= MOST_COLUMNS) grid->SetColCount(static_cast<uint32_t>(lastColumn), 2);
     // kept: a single row's header stays as it is
     if (rows >= 2 && columns >= 1) {
         const CGXStyle header = CGXStyle()

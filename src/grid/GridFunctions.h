@@ -6,7 +6,8 @@
 #include "src/shell/LispCall.h"
 
 // (wex_grid_setrowcolumns tile rows columns) -> no value; nil without a grid or an argument. The count of
-// columns includes that of the headers. From two rows on, the rows' headers are emptied.
+// columns includes that of the headers. From two rows on, the rows' headers are emptied. A negative or huge
+// count changes nothing.
 void gridSetRowColumns(LispCall& call);
 
 // (wex_grid_setrowheight tile row height) -> no value; nil without a grid or an argument. Pixels at 96 dots

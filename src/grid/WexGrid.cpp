@@ -14,8 +14,7 @@ const CRuntimeClass* WexGrid::GetRuntimeClass() const { return &runtimeClass; }
 
 CObject* WexGrid::CreateObject() { return new WexGrid; }
 
-// The grid draws without the frame of the template, and shows whatever that says.
-void WexGrid::discovered(WexDialog&, CCtrlInfo&) {
+void WexGrid::begin() {
     ShowWindow(SW_SHOWNORMAL);
     EnableWindow(true);
     ModifyStyle(WS_BORDER, 0);

@@ -20,10 +20,13 @@ class WexGrid : public CGXGridWnd, public TileControl {
     }
 
     CWnd& wnd() override { return *this; }
-    void discovered(WexDialog& dialog, CCtrlInfo& tile) override;
+    void discovered(WexDialog&, CCtrlInfo&) override { begin(); }
     void applyRecord(CCtrlInfo& tile) override;
     bool laidOut() override { return true; }
 
+    // Makes the attached control ready: shown, enabled and without the frame of the template, whatever that
+    // says.
+    void begin();
     // The rows that wait in the record become rows of the table, the first one in the place of the last row;
     // lines that go on with others leave the record.
     void addLines(CCtrlInfo& tile);

@@ -18,7 +18,7 @@
   '((in-dialog "EDIT_NONWD_ATTRS" nil
       '((want '(0 0) (counts))
         (foreach way '(((10 5) (10 4)) ((10 0) (10 0)) ((10 -3) (10 0)) ((3.9 3.9) (3 2)) (("x" T) (0 0)) ((7 2) (7 1))
-                       ((-1 2) (7 1)) ((40000 2) (40000 1)))
+                       ((-1 2) (7 1)) ((40000 2) (40000 1)) ((2000000000 2000000000) (40000 1)))
           (want nil (apply 'wex_grid_setrowcolumns (cons "LST" (car way))))
           (want (cadr way) (counts)))))))
 

@@ -59,3 +59,20 @@
     (setq before (host_resources))
     (repeat 20 (open-tree))
     (want before (host_resources))))
+
+(defun open-grid ()
+  (in-dialog "EDIT_NONWD_ATTRS"
+    '(progn (wex_start_list "LST") (wex_add_list '("a\tb\tc" "d\te\tf")) (wex_end_list)
+            (wex_setaction_oninit "(wex_grid_setrowcolumns \"LST\" 1 4)"))
+    '((repeat 50 (wex_grid_addrow "LST" "a\tb\tc"))
+      (wex_grid_setrowcolumns "LST" 80 4)
+      (wex_grid_setcell "LST" 60 1 100 "text")
+      (wex_grid_setcell "LST" 60 2 52500 "red" "red\ngreen")
+      (ui_pick "LST" 60 1) (ui_type "LST" "x") (ui_key "TAB") (ui_type "LST" "g") (ui_key "ENTER")
+      (ui_key "CTRL+A") (ui_key "CTRL+C") (ui_key "CTRL+Z"))))
+
+(test "So do dialogs with a filled grid, edited, copied and taken back"
+  '((repeat 5 (open-grid))
+    (setq before (host_resources))
+    (repeat 100 (open-grid))
+    (want before (host_resources))))
