@@ -7,7 +7,7 @@ root=$PWD
 logs=$root/build/test-logs
 bin=$root/build/windows/bin
 
-tools/install-packages.sh
+tools/install-packages.sh imagemagick libwmf-bin # these read exported slides
 . tools/wine-env.sh
 . tools/test-report.sh
 rm -rf "$logs"

@@ -1,5 +1,6 @@
 // Slides as pictures that other programs show.
 #include <array>
+#include <vector>
 
 #include "src/platform/mfc/Drawing.h"
 #include "src/slides/CSlideObject.h"

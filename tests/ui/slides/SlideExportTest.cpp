@@ -1,0 +1,172 @@
+// Exported slides, as the platform's picture service reads them back. The files stay in the folder
+// WEX_EXPORTS, if that is set, for other programs to look at.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+#include <ocidl.h>
+#include <olectl.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "src/slides/DibBlock.h"
+#include "tests/ui/slides/Canvas.h"
+#include "tests/ui/slides/QuarterSlide.h"
+
+namespace {
+
+using Bytes = std::vector<uint8_t>;
+
+class SlideExport : public testing::Test {
+  protected:
+    SlideExport() {
+        if (const char* folder = std::getenv("WEX_EXPORTS"))
+            m_folder = folder;
+        else
+            m_own = m_folder = std::filesystem::temp_directory_path() / L"wex-slide-exports";
+        std::filesystem::create_directories(m_folder);
+    }
+    ~SlideExport() override {
+        if (!m_own.empty()) std::filesystem::remove_all(m_own);
+    }
+
+    CString path(const wchar_t* name) const { return (m_folder / name).wstring(); }
+
+  private:
+    std::filesystem::path m_folder, m_own;
+};
+
+Bytes bytesOf(const CString& path) {
+    std::ifstream file(std::filesystem::path(path.c_str()), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The picture of a file, drawn over all of a white canvas.
+struct Shown : Canvas {
+    Shown(const CString& path, int width, int height) : Canvas(width, height) {
+        const RECT all{0, 0, width, height};
+        FillRect(dc(), &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+        const Bytes bytes = bytesOf(path);
+        const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+        std::memcpy(GlobalLock(memory), bytes.data(), bytes.size());
+        GlobalUnlock(memory);
+        IStream* stream = nullptr;
+        CreateStreamOnHGlobal(memory, TRUE, &stream);
+        IPicture* picture = nullptr;
+        OleLoadPicture(stream, static_cast<LONG>(bytes.size()), FALSE, IID_IPicture,
+                       reinterpret_cast<void**>(&picture));
+        stream->Release();
+        if (!picture) return;
+        OLE_XSIZE_HIMETRIC cx;
+        OLE_YSIZE_HIMETRIC cy;
+        picture->get_Width(&cx);
+        picture->get_Height(&cy);
+        picture->Render(dc(), 0, 0, width, height, 0, cy, cx, -cy, &all);
+        picture->Release();
+        isLoaded = true;
+    }
+
+    bool isLoaded = false;
+};
+
+uint32_t u32(const Bytes& bytes, size_t at) {
+    uint32_t value;
+    std::memcpy(&value, &bytes.at(at + 3) - 3, 4);
+    return value;
+}
+
+TEST_F(SlideExport, AsBitmapHasTheSizeThatTheCodeTells) {
+    const OpenSlide slide = quarter();
+    const SIZE sizes[] = {{100, 50}, {16, 15}, {24, 23}, {32, 32}};
+    for (int code = 0; code < 4; ++code) {
+        const CString file = path(L"size.bmp");
+        ASSERT_EQ(slide.SaveBmp(file, code), 1);
+        const Bytes bytes = bytesOf(file);
+        const uint32_t rowBytes = (sizes[code].cx + 3) / 4 * 4;
+        EXPECT_EQ(bytes.size(), 14 + 40 + 1024 + rowBytes * sizes[code].cy);
+        EXPECT_EQ(u32(bytes, 2), bytes.size());
+        EXPECT_EQ(u32(bytes, 10), 14u + 40 + 1024);
+        EXPECT_EQ(u32(bytes, 18), static_cast<uint32_t>(sizes[code].cx));
+        EXPECT_EQ(u32(bytes, 22), static_cast<uint32_t>(sizes[code].cy));
+        EXPECT_EQ(u32(bytes, 26), 0x00080001u);
+    }
+}
+
+TEST_F(SlideExport, AsBitmapIsWhiteAndColorsOnBlack) {
+    // The middle is red whatever the shape of the screen's pixels, as are no corner and no edge.
+    const OpenSlide slide(MadeSlide({1, true}, 60, 60)
+                              .color(1)
+                              .fill({{20, 20}, {40, 20}, {40, 40}, {20, 40}})
+                              .color(0)
+                              .vector(18, 30, 42, 30)
+                              .end());
+    const CString file = path(L"slide.BMP");
+    ASSERT_EQ(slide.SaveBmp(file, 0), 1);
+    const Shown shown(file, 60, 60);
+    ASSERT_TRUE(shown.isLoaded);
+    for (int edge = 0; edge < 60; ++edge)
+        for (const COLORREF color :
+             {shown.at(edge, 0), shown.at(edge, 59), shown.at(0, edge), shown.at(59, edge)})
+            EXPECT_EQ(color, BLACK);
+    EXPECT_EQ(shown.at(30, 26), RED);
+    EXPECT_EQ(shown.at(30, 34), RED);
+    int white = 0;
+    for (int y = 0; y < 60; ++y) white += shown.at(30, y) == WHITE;
+    EXPECT_EQ(white, 1);
+}
+
+TEST_F(SlideExport, AsMetafileIsPlaceableAndBlackAndColorsOnWhite) {
+    const CString file = path(L"slide.wmf");
+    ASSERT_EQ(quarter().SaveWmf(file), 1);
+    const Bytes bytes = bytesOf(file);
+    EXPECT_EQ(u32(bytes, 0), 0x9AC6CDD7u);
+    EXPECT_EQ(u32(bytes, 4), 0u);
+    EXPECT_EQ(u32(bytes, 8), 100u << 16);
+    EXPECT_EQ(u32(bytes, 12) & 0xFFFF, 50u);
+    EXPECT_EQ(u32(bytes, 12) >> 16, static_cast<uint32_t>(GetDeviceCaps(ClientDC(nullptr), LOGPIXELSX)));
+    EXPECT_EQ(u32(bytes, 16), 0u);
+    uint16_t checksum = 0;
+    for (size_t at = 0; at <= 20; at += 2) checksum ^= static_cast<uint16_t>(bytes[at] | bytes[at + 1] << 8);
+    EXPECT_EQ(checksum, 0);
+    // Behind it stands a metafile in memory, version 3, of the length that it tells itself in 16-bit words.
+    EXPECT_EQ(u32(bytes, 22), 0x00090001u);
+    EXPECT_EQ(u32(bytes, 28) * 2, bytes.size() - 22);
+
+    const Shown shown(file, 200, 100);
+    ASSERT_TRUE(shown.isLoaded);
+    EXPECT_EQ(shown.at(2, 97), RED);
+    EXPECT_EQ(shown.at(95, 55), RED);
+    EXPECT_EQ(shown.at(104, 97), WHITE);
+    EXPECT_EQ(shown.at(20, 45), WHITE);
+    EXPECT_EQ(shown.at(150, 97), WHITE);
+    int green = 0, black = 0;
+    for (int y = 0; y < 50; ++y)
+        for (int x = 0; x < 200; ++x) {
+            green += shown.at(x, y) == GREEN;
+            black += shown.at(x, y) == BLACK;
+        }
+    EXPECT_GT(green, 190);
+    EXPECT_GT(black, 0);
+}
+
+TEST_F(SlideExport, NeedsAnImageWithExtentsAndTheRightExtension) {
+    const OpenSlide flat(MadeSlide({2, true}, 0, 5).end());
+    for (const CSlideObject& slide : {CSlideObject(), CSlideObject(flat)}) {
+        EXPECT_EQ(slide.SaveBmp(path(L"none.bmp"), 1), 0);
+        EXPECT_EQ(slide.SaveWmf(path(L"none.wmf")), 0);
+    }
+    EXPECT_EQ(quarter().SaveBmp(path(L"none.wmf"), 1), 0);
+    EXPECT_EQ(quarter().SaveWmf(path(L"none.bmp")), 0);
+    EXPECT_EQ(quarter().SaveBmp(path(L"no\\folder.bmp"), 1), 0);
+    EXPECT_EQ(quarter().SaveWmf(path(L"no\\folder.wmf")), 0);
+    EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(path(L"none.bmp").c_str())));
+
+    const UniqueBitmap bitmap(CreateBitmap(8, 8, 1, 1, nullptr));
+    EXPECT_FALSE(dibBlock(bitmap.get(), ClientDC(nullptr), BI_RGB).empty());
+    EXPECT_TRUE(dibBlock(bitmap.get(), ClientDC(nullptr), BI_BITFIELDS).empty());
+    EXPECT_TRUE(dibBlock(nullptr, ClientDC(nullptr), BI_RGB).empty());
+}
+
+}  // namespace
