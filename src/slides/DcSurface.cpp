@@ -16,13 +16,31 @@ SlideTool select(HDC dc, SlideTool tool, int stock) {
     return ::SelectObject(dc, tool ? static_cast<HGDIOBJ>(tool) : ::GetStockObject(stock));
 }
 
+// Knows nothing of a metafile, and of a context that also turns or shears.
+PixelGrid gridOf(HDC dc) {
+    SIZE window, viewport;
+    if (::GetObjectType(dc) == OBJ_METADC || ::GetGraphicsMode(dc) != GM_COMPATIBLE ||
+        !::GetWindowExtEx(dc, &window) || !::GetViewportExtEx(dc, &viewport))
+        return {};
+    return {{window.cx, window.cy}, {viewport.cx, viewport.cy}};
+}
+
 }  // namespace
 
-void DcSurface::SetMapMode(SlideMapMode mode) { ::SetMapMode(m_dc, static_cast<int>(mode)); }
+void DcSurface::SetMapMode(SlideMapMode mode) {
+    ::SetMapMode(m_dc, static_cast<int>(mode));
+    m_grid.reset();
+}
 
-void DcSurface::SetWindowExt(SlideSize extent) { ::SetWindowExtEx(m_dc, extent.cx, extent.cy, nullptr); }
+void DcSurface::SetWindowExt(SlideSize extent) {
+    ::SetWindowExtEx(m_dc, extent.cx, extent.cy, nullptr);
+    m_grid.reset();
+}
 
-void DcSurface::SetViewportExt(SlideSize extent) { ::SetViewportExtEx(m_dc, extent.cx, extent.cy, nullptr); }
+void DcSurface::SetViewportExt(SlideSize extent) {
+    ::SetViewportExtEx(m_dc, extent.cx, extent.cy, nullptr);
+    m_grid.reset();
+}
 
 void DcSurface::SetViewportOrg(SlidePoint origin) { ::SetViewportOrgEx(m_dc, origin.x, origin.y, nullptr); }
 
@@ -37,6 +55,11 @@ void DcSurface::SetBkColor(uint32_t color) { ::SetBkColor(m_dc, color); }
 uint32_t DcSurface::SetTextColor(uint32_t color) { return ::SetTextColor(m_dc, color); }
 
 uint32_t DcSurface::GetTextColor() { return ::GetTextColor(m_dc); }
+
+bool DcSurface::AreApart(SlidePoint a, SlidePoint b) {
+    if (!m_grid) m_grid = gridOf(m_dc);
+    return m_grid->areApart(a, b);
+}
 
 bool DcSurface::LPtoDP(std::span<SlidePoint> points) {
     return ::LPtoDP(m_dc, asPoints(points), countOf(points)) != FALSE;

@@ -1,12 +1,15 @@
 // A device context as what a slide is drawn on.
 #pragma once
 
+#include <optional>
+
 #include "src/platform/mfc/Drawing.h"
+#include "src/slides/SlideMapping.h"
 #include "src/slides/SlideSurface.h"
 
 class DcSurface final : public SlideSurface {
   public:
-    // The context is borrowed.
+    // The context is borrowed. While it is drawn on, its mapping changes through the surface only.
     explicit DcSurface(const CDC& dc) : m_dc(dc) {}
 
     void SetMapMode(SlideMapMode mode) override;
@@ -19,6 +22,7 @@ class DcSurface final : public SlideSurface {
     uint32_t SetTextColor(uint32_t color) override;
     uint32_t GetTextColor() override;
 
+    bool AreApart(SlidePoint a, SlidePoint b) override;
     bool LPtoDP(std::span<SlidePoint> points) override;
     bool DPtoLP(std::span<SlidePoint> points) override;
 
@@ -35,4 +39,6 @@ class DcSurface final : public SlideSurface {
 
   private:
     HDC m_dc;
+    // Nothing: not known since the mapping has changed.
+    std::optional<PixelGrid> m_grid;
 };

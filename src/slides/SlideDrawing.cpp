@@ -122,17 +122,20 @@ class Drawing {
     // From b to a, so that the pen rests on a. A line within one pixel is made to reach the next, since a
     // line leaves its last pixel out.
     void segment(SlidePoint a, SlidePoint b) {
-        SlidePoint pixels[] = {a, b};
-        const bool hasDevice = m_surface.LPtoDP(pixels);
-        if (pixels[0] == pixels[1]) {
-            const std::span second(&pixels[1], 1);
-            second[0].x = wrapped(int64_t{second[0].x} + 1);
-            if (hasDevice) m_surface.DPtoLP(second);
-            b = second[0];
-        }
-        m_surface.MoveTo(b);
+        m_surface.MoveTo(m_surface.AreApart(a, b) ? b : besides(a, b));
         m_surface.LineTo(a);
         m_last = a;
+    }
+
+    // b, or the next pixel where b is in the pixel of a. Without a device, units count as pixels.
+    SlidePoint besides(SlidePoint a, SlidePoint b) {
+        SlidePoint pixels[] = {a, b};
+        const bool hasDevice = m_surface.LPtoDP(pixels);
+        if (pixels[0] != pixels[1]) return b;
+        const std::span second(&pixels[1], 1);
+        second[0].x = wrapped(int64_t{second[0].x} + 1);
+        if (hasDevice) m_surface.DPtoLP(second);
+        return second[0];
     }
 
     void fill(const SlideRecordReader& records, const SlideRecord& record) {

@@ -39,6 +39,9 @@ class SlideSurface {
     virtual uint32_t SetTextColor(uint32_t color) = 0;
     virtual uint32_t GetTextColor() = 0;
 
+    // True only where the two surely land on different pixels: who just compares them needs no conversion
+    // then, which on a device costs as much as drawing the line between them.
+    virtual bool AreApart(SlidePoint a, SlidePoint b) = 0;
     // Convert in place; false where the surface has no device, as a metafile.
     virtual bool LPtoDP(std::span<SlidePoint> points) = 0;
     virtual bool DPtoLP(std::span<SlidePoint> points) = 0;

@@ -23,6 +23,7 @@ class TestSurface : public SlideSurface {
     void SetBkColor(uint32_t) override {}
     uint32_t SetTextColor(uint32_t color) override { return std::exchange(m_textColor, color); }
     uint32_t GetTextColor() override { return m_textColor; }
+    bool AreApart(SlidePoint, SlidePoint) override { return false; }
     bool LPtoDP(std::span<SlidePoint>) override { return true; }
     bool DPtoLP(std::span<SlidePoint>) override { return true; }
     void MoveTo(SlidePoint) override {}

@@ -248,6 +248,19 @@ TEST(SlideMapping, WithFitFillsTheWidthOrTheHeight) {
               begin + "SetViewportExt 120,-60; GetViewportExt; GetViewportExt; SetViewportOrg 0,59");
 }
 
+TEST(SlideMapping, TellsPointsApartThatCannotShareAPixel) {
+    // Three units a pixel across, three pixels a unit up.
+    const PixelGrid grid({300, 100}, {100, -300});
+    EXPECT_TRUE(grid.areApart({10, 5}, {16, 5}));
+    EXPECT_FALSE(grid.areApart({10, 5}, {15, 5}));
+    EXPECT_TRUE(grid.areApart({10, 5}, {10, 4}));
+    EXPECT_FALSE(grid.areApart({10, 5}, {10, 5}));
+    EXPECT_FALSE(grid.areApart({0, 0}, {INT32_MIN, 5}));
+    for (const PixelGrid& unknowing :
+         {PixelGrid(), PixelGrid({0, 0}, {10, 10}), PixelGrid({1, 1}, {INT32_MIN, 0})})
+        EXPECT_FALSE(unknowing.areApart({0, 0}, {1000, 1000}));
+}
+
 TEST(SlideMapping, HasTheArithmeticOf32Bits) {
     EXPECT_EQ(fittedExtent(100, 10, {0, -10}), std::nullopt);
     EXPECT_EQ(fittedExtent(100, 10, {100, 0}), std::nullopt);
