@@ -1,6 +1,7 @@
 #include "host/runner/CheckDialogs.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 
 #include "host/runner/DialogFindings.h"
@@ -30,10 +31,16 @@ bool knowsClass(const std::wstring& name) {
            GetClassInfoExW(GetModuleHandleW(nullptr), name.c_str(), &info) != 0;
 }
 
+bool isFolder(const std::wstring& path) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(path, ignored);
+}
+
 class DialogCheck {
   public:
     explicit DialogCheck(const ResourceModules& modules) : m_modules(modules) {
-        for (const std::wstring& path : modules.missing) find(path, L"can't be loaded");
+        for (const std::wstring& path : modules.missing)
+            find(path, isFolder(path) ? L"is a folder: name the modules in it" : L"can't be loaded");
         for (const ResourceModule& module : modules.inPlace)
             for (const auto& [id, text] : module.keyLists) note(module, id, std::wstring(keyListName(text)));
         const std::optional<ResourceModule> own = ownResourceModule();

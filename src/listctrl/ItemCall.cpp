@@ -1,11 +1,14 @@
 #include "src/listctrl/ItemCall.h"
 
+#include "src/shell/ValueOf.h"
+
 namespace {
 
 // Takes a short where the chain has one.
 void readNumber(const HostValue*& node, int& number) {
-    if (!node || node->type != HV_SHORT) return;
-    number = node->value.shortValue;
+    const auto found = node ? shortOf(*node) : std::nullopt;
+    if (!found) return;
+    number = *found;
     node = node->next;
 }
 
@@ -16,6 +19,6 @@ std::optional<ItemCall> itemCallFrom(const HostValue* arguments) {
     readNumber(arguments, call.row);
     readNumber(arguments, call.column);
     if (!arguments) return std::nullopt;
-    if (arguments->type == HV_STRING) call.text = arguments->value.stringValue;
+    if (const wchar_t* text = textOf(*arguments)) call.text = text;
     return call;
 }

@@ -5,17 +5,13 @@
 
 #include "src/shell/HostNumber.h"
 #include "src/shell/LispInvoke.h"
+#include "src/shell/ValueOf.h"
 
 namespace {
 
 std::optional<CString> stringOf(const HostValue& node) {
-    if (node.type != HV_STRING) return std::nullopt;
-    return CString(node.value.stringValue);
-}
-
-std::optional<int> shortOf(const HostValue& node) {
-    if (node.type != HV_SHORT) return std::nullopt;
-    return node.value.shortValue;
+    const wchar_t* text = textOf(node);
+    return text ? std::optional<CString>(text) : std::nullopt;
 }
 
 std::optional<int> shortOrLongOf(const HostValue& node) {

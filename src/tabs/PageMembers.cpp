@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "src/platform/base/CInvalidArgException.h"
+#include "src/shell/ValueOf.h"
 
 namespace {
 
@@ -16,8 +17,8 @@ std::vector<CWnd*> membersOf(const HostValue* arguments, const ControlLookup& fi
     std::vector<CWnd*> members;
     CWnd* found = nullptr;
     for (const HostValue* node = arguments; node; node = node->next) {
-        if (node->type == HV_STRING) found = find.byKey(node->value.stringValue);
-        if (node->type == HV_SHORT) found = find.byId(node->value.shortValue);
+        if (const wchar_t* key = textOf(*node)) found = find.byKey(key);
+        if (const auto id = shortOf(*node)) found = find.byId(*id);
         if (found) members.push_back(found);
     }
     return members;

@@ -4,6 +4,7 @@
 
 #include "src/platform/host/HostServices.h"
 #include "src/shell/Module.h"
+#include "src/shell/ValueOf.h"
 #include "src/tree/WexTree.h"
 
 namespace {
@@ -30,10 +31,10 @@ void setTreeImages(CWnd& tree, const HostValue* icons) {
     CImageList images;
     images.Create(side, side, ILC_COLOR8 | ILC_MASK, 1, 1);
     for (; icons; icons = icons->next) {
-        if (icons->type == HV_SHORT)
-            addIcon(images, MAKEINTRESOURCEW(static_cast<WORD>(icons->value.shortValue)), side);
-        else if (icons->type == HV_STRING)
-            addIcon(images, icons->value.stringValue, side);
+        if (const auto number = shortOf(*icons))
+            addIcon(images, MAKEINTRESOURCEW(static_cast<WORD>(*number)), side);
+        else if (const wchar_t* name = textOf(*icons))
+            addIcon(images, name, side);
     }
     wrapper->setImages(std::move(images));
 }

@@ -30,6 +30,7 @@ const MessageMap& WexTree::messageMap() const {
     static const MessageMap map(CTreeCtrl::messageMap(),
                                 {
                                     onReflectedNotify<NM_CLICK, &WexTree::onClick>(),
+                                    onReflectedNotify<NM_CUSTOMDRAW, &WexTree::onCustomDraw>(),
                                     onReflectedNotify<NM_DBLCLK, &WexTree::onDoubleClick>(),
                                     onReflectedNotify<NM_RCLICK, &WexTree::onRightClick>(),
                                     onReflectedNotify<TVN_ITEMEXPANDEDW, &WexTree::onItemExpanded>(),
@@ -76,6 +77,8 @@ void WexTree::deleteItem(HTREEITEM item) {
 }
 
 void WexTree::deleteLater(HTREEITEM item) {
+    // An alert or a dialog of the action may stand before the item goes.
+    Invalidate();
     if (!item || item == TVI_ROOT) return m_deleted.addAll();
     const HTREEITEM inherits[] = {nextTreeItem(*this, TVGN_NEXT, item),
                                   nextTreeItem(*this, TVGN_PARENT, item),
@@ -112,6 +115,16 @@ void WexTree::swapImages(HTREEITEM item) const {
 // Each answer of 1 keeps the control from working on the item that it told of.
 
 LRESULT WexTree::onClick(NMHDR*) { return tellLispOfClick(TREE_CLICKED); }
+
+// Until the control has done with what is deleted, its place is empty.
+LRESULT WexTree::onCustomDraw(NMHDR* header) {
+    const NMCUSTOMDRAW& draw = reinterpret_cast<const NMTVCUSTOMDRAW*>(header)->nmcd;
+    if (m_deleted.none()) return CDRF_DODEFAULT;
+    if (draw.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+    const bool isGone =
+        draw.dwDrawStage == CDDS_ITEMPREPAINT && hasDeleted(reinterpret_cast<HTREEITEM>(draw.dwItemSpec));
+    return isGone ? CDRF_SKIPDEFAULT : CDRF_DODEFAULT;
+}
 
 LRESULT WexTree::onDoubleClick(NMHDR*) { return tellLispOfClick(TREE_DOUBLE_CLICKED); }
 

@@ -55,6 +55,7 @@ class WexTree : public CTreeCtrl, public TileControl {
     void swapImages(HTREEITEM item) const;
 
     LRESULT onClick(NMHDR* header);
+    LRESULT onCustomDraw(NMHDR* header);
     LRESULT onDoubleClick(NMHDR* header);
     LRESULT onRightClick(NMHDR* header);
     LRESULT onItemExpanded(NMHDR* header);

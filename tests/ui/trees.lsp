@@ -259,3 +259,41 @@
 (test "A tree that was changed at a stroke looks like one that was drawn after each change"
   '((in-tree nil (append building '((setq slowly (picture)))))
     (in-tree nil (list (cons 'progn building) '(want T (equal slowly (picture)))))))
+
+; A program that shows an earlier run, or makes a new one.
+(defun choose-run (session)
+  (run-dialog "DSPPREV_RUNNEW"
+    '(progn (wex_set_tile "NEW" "1")
+            (wex_mode_tile "RUNS" 1) (wex_mode_tile "DELETE" 1)
+            (wex_action_tile "NEW" "(mapcar '(lambda (tile) (wex_mode_tile tile 1)) '(\"RUNS\" \"DELETE\"))")
+            (wex_action_tile "PREVIOUS" "(mapcar '(lambda (tile) (wex_mode_tile tile 0)) '(\"RUNS\" \"DELETE\"))")
+            (wex_action_tile "DELETE" "(wex_tree_deleteitem \"RUNS\" (wex_tree_getcursel \"RUNS\"))")
+            (wex_action_tile "OK" "(progn (note (wex_tree_getitemtext \"RUNS\" (wex_tree_getcursel \"RUNS\"))) (wex_done_dialog 1))")
+            (wex_setaction_oninit
+              "(foreach day '(\"Monday\" \"Tuesday\") (wex_tree_insertchild \"RUNS\" (wex_tree_insertparent \"RUNS\" day) (strcat day \" 9:00\")))"))
+    session))
+
+(test "Of earlier runs in a tree one is chosen and another deleted; the tree can't be worked while a new run is to be made"
+  '((want 1 (choose-run
+      '((want nil (look "RUNS" "enabled"))
+        (want T (catch-error (progn (ui_pick "RUNS" "Monday") nil) '(lambda (message) T)))
+        (ui_click "PREVIOUS")
+        (ui_pick "RUNS" "Monday")
+        (ui_click "DELETE")
+        (ui_expand "RUNS" "Tuesday")
+        (ui_pick "RUNS" '("Tuesday" "Tuesday 9:00"))
+        (want '("Tuesday" "\tTuesday 9:00") (ui_items "RUNS"))
+        (ui_shot "runs.png")
+        (ui_click "OK"))))
+    (want '("Tuesday 9:00") notes)))
+
+(test "The dialogs with trees grow with their windows: the tree takes the room, and the buttons follow the corner"
+  '((foreach row '(("DRAWING_FOLDER_FILTER_SEL" "TREE") ("PICK_BY_SEC" "SEC") ("DSPPREV_RUNNEW" "RUNS"))
+      (setq tree (cadr row))
+      (in-dialog (car row) '(progn (wex_setresizing tree 63) (wex_setresizing "OK" 75) (wex_setresizing "Cancel" 75))
+        '((ui_size 800 700)
+          (setq before (mapcar '(lambda (tile) (look tile "rect")) (list tree "OK" "Cancel")))
+          (ui_size 860 740)
+          (want (mapcar '(lambda (was change) (mapcar '+ was change)) before '((0 0 60 40) (60 40 0 0) (60 40 0 0)))
+                (mapcar '(lambda (tile) (look tile "rect")) (list tree "OK" "Cancel")))
+          (ui_shot (strcat "grown-" tree ".png")))))))

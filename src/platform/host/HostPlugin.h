@@ -13,7 +13,8 @@
 //   HWND     pluginFindWindow(const wchar_t* dialog, const wchar_t* key, int32_t id)
 //            the window of a tile of the newest running dialog of that name (any case; null: of any name), by
 //            `key` or, where that is null, by control id; the dialog's own window where `key` is null and
-//            `id` is -1. Null where there is none.
+//            `id` is -1. Null where there is none. Who asks is about to look at the window or to work it, so
+//            all that the plug-in has held back from the screen is drawn first.
 constexpr const char* PLUGIN_ENTRY_POINT = "pluginEntryPoint";
 constexpr const char* PLUGIN_GET_API_VERSION = "pluginGetApiVersion";
 constexpr const char* PLUGIN_FIND_WINDOW = "pluginFindWindow";

@@ -58,8 +58,11 @@ TEST(CheckDialogs, goesOnAfterAModuleThatIsNoneAndTellsWhatIsTaken) {
 
     const HostRun all = startHost(L"checkbin", {L"--check-dialogs"});
     const HostRun twin = startHost(L"checkbin", {L"--check-dialogs", (folder / L"Twin.dll").wstring()});
+    const HostRun inFolder = startHost(L"checkbin", {L"--check-dialogs", addOns.wstring()});
     fs::remove_all(folder);
     EXPECT_EQ(all.status, 1u);
+    EXPECT_NE(inFolder.output.find("WexDialogs.d: is a folder: name the modules in it"), std::string::npos)
+        << inFolder.output;
     EXPECT_NE(all.output.find("Broken.dll: can't be loaded"), std::string::npos) << all.output;
     EXPECT_NE(all.output.find("ODD_MISTAKES: key \"b\" stands twice"), std::string::npos) << all.output;
     EXPECT_EQ(all.output.find("ODD_KINDS: is in"), std::string::npos) << all.output;

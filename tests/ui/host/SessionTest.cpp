@@ -25,19 +25,6 @@ std::string shown(const std::string& forms) {
     return run.output;
 }
 
-TEST(Session, EditBoxesAndCheckBoxesBehaveAsUnderAHand) {
-    EXPECT_EQ(shown(R"((ui_type "edit" "Hello") (show (ui_text "edit"))
-                       (ui_type 110 "grün") (show (ui_text 110))
-                       (ui_type "edit" "") (show (ui_text "edit"))
-                       (ui_click "check") (show (list (look "check" "checked") (look "check" "focus")))
-                       (ui_key "SPACE") (show (look "check" "checked"))
-                       (ui_key "Alt+C" "edit") (show (list (look "check" "checked") (look "check" "focus")))
-                       (ui_key "shift+tab") (show (look "edit" "focus"))
-                       (ui_type "edit" "abc") (ui_key "END") (ui_key "shift+left") (ui_key "x")
-                       (show (ui_text "edit")))"),
-              "\"Hello\"\n\"grün\"\n\"\"\n(T T)\nnil\n(T T)\nT\n\"abx\"\n");
-}
-
 // Those of lists are picked in the sessions of the dialogs that have them.
 TEST(Session, BranchesOfATreeArePickedByTextByHandleAndByPath) {
     EXPECT_EQ(shown(R"((show (ui_items "tree"))
@@ -123,17 +110,6 @@ TEST(Session, FormsThatWereNeverReachedAreTold) {
     const HostRun never = runProgram("(ui_session \"NEVER\" '((ui_title)))");
     EXPECT_EQ(never.status, 1U);
     EXPECT_EQ(never.errors, "session \"NEVER\": its dialog was never opened\n");
-}
-
-// The whole window with its caption, in the folder of the command line; PNG files begin like this and tell
-// their size at byte 16.
-TEST(Session, APictureShowsTheWholeWindow) {
-    const HostRun run = runProgram(
-        "(ui_session \"everything\" '((ui_size 400 300) (setq path (ui_shot \"every.png\")) (ui_close)))"
-        "(t_dialog) (setq file (open path \"r\")) (princ path) (close file)",
-        {L"--shots", L"C:\\"});
-    EXPECT_EQ(run.errors, "");
-    EXPECT_EQ(run.output, "C:\\every.png");
 }
 
 std::string contentOf(const char* path) {

@@ -29,12 +29,4 @@ TEST_F(ModuleStateTest, CurrentModuleComesFirstAndTheChainBehind) {
     EXPECT_EQ(findDialog(1), nullptr);
 }
 
-TEST_F(ModuleStateTest, StringsAreEmptyWithoutAModuleAndCutAtTheBuffer) {
-    EXPECT_EQ(loadString(program, 1), L"0123456789");
-    EXPECT_EQ(loadString(program, 1, 5), L"0123");
-    EXPECT_EQ(loadString(program, 2), L"");
-    EXPECT_EQ(loadString(nullptr, 1), L"");
-    EXPECT_EQ(loadIcon(1), nullptr);
-}
-
 }  // namespace

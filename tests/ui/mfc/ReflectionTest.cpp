@@ -97,49 +97,4 @@ TEST_F(ReflectionTest, AnswerOfANotificationReachesTheControl) {
     EXPECT_TRUE(tree.SendMessage(TVM_SELECTITEM, TVGN_CARET, item));
 }
 
-// What a handler gets of a message, as text.
-class Unpacking : public CWnd {
-  public:
-    std::wstring got;
-    const MessageMap& messageMap() const override {
-        static const MessageMap map(CWnd::messageMap(), {
-                                                            on<WM_SIZE, &Unpacking::onSize>(),
-                                                            on<WM_NCHITTEST, &Unpacking::onHitTest>(),
-                                                            on<WM_MOUSEWHEEL, &Unpacking::onWheel>(),
-                                                            on<WM_SETTEXT, &Unpacking::onSetText>(),
-                                                        });
-        return map;
-    }
-
-  private:
-    void onSize(UINT type, int width, int height) { note({static_cast<int>(type), width, height}); }
-    LRESULT onHitTest(POINT at) {
-        note({at.x, at.y});
-        return HTCAPTION;
-    }
-    LRESULT onWheel(UINT keys, int turn, POINT at) {
-        note({static_cast<int>(keys), turn, at.x, at.y});
-        return 0;
-    }
-    LRESULT onSetText() { return Default(); }
-    void note(std::initializer_list<long> numbers) {
-        got.clear();
-        for (const long number : numbers) got += std::to_wstring(number) + L" ";
-    }
-};
-
-TEST_F(ReflectionTest, ParametersComeUnpacked) {
-    Unpacking window;
-    ASSERT_TRUE(window.CreateEx(0, L"Static", L"", WS_CHILD, RECT{}, owner.m_hWnd, 0));
-    window.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 200));
-    EXPECT_EQ(window.got, L"2 300 200 ");
-    // Points left of the primary monitor are negative.
-    EXPECT_EQ(window.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-5, 7)), HTCAPTION);
-    EXPECT_EQ(window.got, L"-5 7 ");
-    window.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), MAKELPARAM(1, -2));
-    EXPECT_EQ(window.got, L"4 -120 1 -2 ");
-    window.SetWindowText(L"passed on");
-    EXPECT_EQ(window.GetWindowText(), L"passed on");
-}
-
 }  // namespace

@@ -1,6 +1,10 @@
 // A tree's window: its records go with it, and what is too long for it shows whole under the pointer.
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include "src/platform/mfc/Drawing.h"
+#include "src/platform/mfc/RedrawHold.h"
 #include "src/tree/TreeItems.h"
 #include "src/tree/WexTree.h"
 #include "tests/ui/tree/LiveObjects.h"
@@ -56,6 +60,50 @@ TEST_F(TreeWindowTest, RecordsGoWithTheWindowAndNotWithTheirItems) {
     EXPECT_EQ(tree.recordOf(parameter)->m_alternateImage, 2);
     ::DestroyWindow(tree.m_hWnd);
     EXPECT_EQ(tree.recordOf(parameter), nullptr);
+}
+
+// Asks as a program's action does, while the control is at work on a message.
+class Acting : public WexTree {
+  public:
+    std::function<void()> act;
+    const MessageMap& messageMap() const override {
+        static const MessageMap map(WexTree::messageMap(), {on<WM_USER, &Acting::onUser>()});
+        return map;
+    }
+
+  private:
+    void onUser() { act(); }
+};
+
+// The colours of the rows' texts differ from the background.
+bool isDrawn(HWND tree, int row, int height) {
+    UpdateWindow(tree);
+    const ClientDC dc(tree);
+    for (int x = 0; x < 100; ++x)
+        for (int y = row * height; y < (row + 1) * height; ++y)
+            if (GetPixel(dc, x, y) != GetSysColor(COLOR_WINDOW)) return true;
+    return false;
+}
+
+TEST_F(TreeWindowTest, WhatAnActionDeletesIsNotDrawnWhileItsAlertStands) {
+    Acting tree;
+    tree.SubclassWindow(makeTree());
+    const HTREEITEM first = insertTreeItem(tree, nullptr, TVI_LAST, L"first", {});
+    insertTreeItem(tree, nullptr, TVI_LAST, L"second", {});
+    releaseRedraw();
+    const auto height = static_cast<int>(tree.SendMessage(TVM_GETITEMHEIGHT));
+    ASSERT_TRUE(isDrawn(tree.m_hWnd, 0, height) && isDrawn(tree.m_hWnd, 1, height));
+    bool wasDrawn = true, wasOtherDrawn = false;
+    tree.act = [&] {
+        tree.deleteItem(first);
+        wasDrawn = isDrawn(tree.m_hWnd, 0, height);
+        wasOtherDrawn = isDrawn(tree.m_hWnd, 1, height);
+    };
+    tree.SendMessage(WM_USER);
+    EXPECT_FALSE(wasDrawn);
+    EXPECT_TRUE(wasOtherDrawn);
+    releaseRedraw();
+    EXPECT_TRUE(isDrawn(tree.m_hWnd, 0, height)) << "the next item has moved up";
 }
 
 // The tip that Wine's tree leaves to us; Windows has its own way to it.

@@ -28,13 +28,6 @@ TEST(ControlKind, FollowsClassStyleAndCaptionInOrder) {
     EXPECT_EQ(kind(L"msctls_progress32"), ControlKind::unknown);
 }
 
-TEST(ImageButton, CaptionTest) {
-    for (const auto* caption : {L"<<", L"More >>", L"Sort ^", L"Sort v", L"PICK", L"browse"})
-        EXPECT_TRUE(isImageButtonCaption(caption, captions)) << caption;
-    for (const auto* caption : {L"Sortv", L"Sort V", L"Pick it", L"Search", L"v", L""})
-        EXPECT_FALSE(isImageButtonCaption(caption, captions)) << caption;
-}
-
 struct LookRow {
     const wchar_t* caption;
     const wchar_t* text;

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <limits>
 
 #include "src/dialog/Anchors.h"
 
@@ -38,20 +37,6 @@ TEST(Placement, IsCuredOfImpossibleValues) {
     EXPECT_EQ(restored({1289, 1033, 0, 0}), (PixelRect{100, 100, 1380, 1124}));
     EXPECT_EQ(restored({300, 200, 10, 10}, {0.3, 0.3}).width(), 200)
         << "a scale that rounds to nothing counts as 1";
-}
-
-TEST(Placement, SurvivesAnyNumberInTheProfile) {
-    constexpr int LOW = std::numeric_limits<int>::min(), HIGH = std::numeric_limits<int>::max();
-    const PixelRect screen{0, 0, SCREEN_WIDTH, SCREEN_HEIGHT};
-    for (const int size : {LOW, -100'000, 100'000, HIGH})
-        for (const int place : {LOW, -100'000, 0, 1000, HIGH}) {
-            const PixelRect rect = restored({size, size, place, place}, {3, 3});
-            EXPECT_TRUE(rect.left < screen.right && rect.right > 0 && rect.top < screen.bottom &&
-                        rect.bottom > 0)
-                << size << " at " << place;
-        }
-    EXPECT_EQ(placementToStore(current, {0, 0, LOW, LOW}, {2, 2}).x, 500);
-    EXPECT_EQ(placementToStore(current, {0, 0, LOW, HIGH}, {3, 3}).y, 715'828'149);
 }
 
 // The last place that counts as on the screen or in the work area, and the first that doesn't, on each side.

@@ -19,19 +19,6 @@ TEST(Options, FilesAndExpressionsKeepTheirOrder) {
     EXPECT_EQ(options.error, L"");
 }
 
-TEST(Options, SessionsPlayOnlyWhereNobodyWorksTheProgram) {
-    EXPECT_FALSE(parse({L"-i", L"a.lsp"}).playsSessions());
-    EXPECT_TRUE(parse({L"--play"}).playsSessions());
-    EXPECT_TRUE(parse({L"--headless", L"a.lsp"}).playsSessions());
-}
-
-TEST(Options, OperandsOfTheDialogCheckAreModules) {
-    const Options options = parse({L"--check-dialogs", L"a.dll", L"b.dll"});
-    EXPECT_TRUE(options.checkDialogs);
-    EXPECT_EQ(options.modules, (std::vector<std::wstring>{L"a.dll", L"b.dll"}));
-    EXPECT_TRUE(options.steps.empty());
-}
-
 TEST(Options, WhatIsWrongIsNamed) {
     EXPECT_EQ(parse({L"--nope"}).error, L"--nope is no option");
     EXPECT_EQ(parse({L"--shots"}).error, L"--shots needs an operand");

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <vector>
 
 #include "tests/unit/lisp/Session.h"
 
@@ -104,6 +105,19 @@ TEST(Reading, KnowsTheSyntax) {
     EXPECT_EQ(session.run("\n(read \"(\")"),
               "error: example:2: (read): the list that opens here is not closed");
     EXPECT_EQ(session.run("(list (read \"nil\") (read \"t\") 'nil 't)"), "(nil T nil T)");
+}
+
+// Of exactly its size, so that a look behind the end is seen.
+TEST(Reading, ATextMayBreakOffAnywhere) {
+    const std::u16string whole = u"(a . \"\\U+20AC\\101\") ;| b |; 'c ;d\n";
+    for (size_t length = 0; length <= whole.size(); ++length) {
+        const std::vector<char16_t> cut(whole.begin(), whole.begin() + length);
+        Session session;
+        try {
+            session.lisp.read({cut.data(), cut.size()});
+        } catch (const lisp::Error&) {
+        }
+    }
 }
 
 TEST(Reading, WhatIsPrintedReadsBack) {

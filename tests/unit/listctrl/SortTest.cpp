@@ -8,20 +8,6 @@ namespace {
 
 using Cells = std::vector<CString>;
 
-std::vector<CString> sorted(const std::vector<CString>& cells, bool ascending) {
-    std::vector<CString> result;
-    for (const int row : sortedOrder(cells, ascending, parseDistance)) result.push_back(cells[row]);
-    return result;
-}
-
-TEST(CellOrder, DistancesAreComparedByValueAndTextsByCodeUnits) {
-    EXPECT_EQ(sorted({L"10", L"9", L"100"}, true), Cells({L"9", L"10", L"100"}));
-    EXPECT_EQ(sorted({L"10", L"9", L"100"}, false), Cells({L"100", L"10", L"9"}));
-    EXPECT_EQ(sorted({L"b", L"B", L"a", L""}, true), Cells({L"", L"B", L"a", L"b"}));
-    EXPECT_EQ(sorted({L"20", L"1'-6\"", L"2'", L"17.5"}, true), Cells({L"17.5", L"1'-6\"", L"20", L"2'"}));
-    EXPECT_EQ(sorted({L"10", L"9", L""}, true), Cells({L"", L"9", L"10"}));
-}
-
 // Reads any text in any unit, or fails at it, each time in its own way.
 std::optional<double> parseOddly(const std::wstring& text, int unit) {
     const size_t number = std::hash<std::wstring>()(text + std::to_wstring(unit)) % 97;
