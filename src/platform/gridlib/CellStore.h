@@ -20,7 +20,7 @@ class CellStore {
     // Equal looks have equal ids.
     LookPool::Id lookId(uint32_t row, uint32_t col) const;
 
-    // Puts the style's attributes over those of the cell.
+    // Puts the style's attributes, of which it has any, over those of the cell.
     void apply(uint32_t row, uint32_t col, const CGXStyle& style);
     // Takes the value of each cell in the rectangle (corners included) that `may` allows, and with `looks`
     // the look too. Visits only cells that have something.
@@ -31,17 +31,20 @@ class CellStore {
     void dropRows(uint32_t from);
     void dropColumns(uint32_t from);
 
-  private:
+    // How many rows a band has.
     static constexpr uint32_t BAND = 256;
 
+  private:
     struct Column {
+        uint32_t col;
         std::vector<CellText> texts;
         std::vector<LookPool::Id> looks;
     };
-    using Band = std::map<uint32_t, Column>;
+    using Band = std::vector<Column>;  // in the order of the columns
 
+    static size_t position(const Band& band, uint32_t col);
     const Column* find(uint32_t row, uint32_t col) const;
-    Band& band(uint32_t row);
+    Column& make(uint32_t row, uint32_t col);
     void setLook(Column& column, size_t at, LookPool::Id id);
     void forget(Column& column, size_t from);
 
@@ -57,12 +60,12 @@ void CellStore::clear(uint32_t top, uint32_t left, uint32_t bottom, uint32_t rig
     for (auto band = m_bands.lower_bound(top / BAND); band != m_bands.end() && band->first <= bottom / BAND;
          ++band) {
         auto& columns = band->second;
-        for (auto at = columns.lower_bound(left); at != columns.end() && at->first <= right; ++at) {
-            Column& column = at->second;
+        for (size_t at = position(columns, left); at < columns.size() && columns[at].col <= right; ++at) {
+            Column& column = columns[at];
             const size_t cells = std::max(column.texts.size(), column.looks.size());
             for (size_t i = 0; i < cells; ++i) {
                 const uint32_t row = band->first * BAND + static_cast<uint32_t>(i);
-                if (row < top || row > bottom || !may(row, at->first)) continue;
+                if (row < top || row > bottom || !may(row, column.col)) continue;
                 if (i < column.texts.size()) column.texts[i] = CellText();
                 if (i >= column.looks.size()) continue;
                 CellLook rest = looks ? CellLook() : m_looks[column.looks[i]];

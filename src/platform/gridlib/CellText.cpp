@@ -1,51 +1,71 @@
 #include "src/platform/gridlib/CellText.h"
 
-#include <cstring>
 #include <new>
+
+#include "src/platform/gridlib/TextMemory.h"
+
+namespace {
+
+// Of all grids. Never destroyed, as texts of static duration may outlive it.
+TextMemory& textMemory() {
+    static auto& memory = *new TextMemory;
+    return memory;
+}
+
+}  // namespace
 
 // The letters follow it in the same piece of memory.
 struct CellText::Shared {
-    size_t owners;
-    size_t length;
+    uint32_t owners;
+    uint32_t length;
 
     wchar_t* letters() { return reinterpret_cast<wchar_t*>(this + 1); }
     std::wstring_view view() { return {letters(), length}; }
+    static size_t bytes(size_t length) { return sizeof(Shared) + length * sizeof(wchar_t); }
 };
 
 CellText::Shared* CellText::shared() const {
-    Shared* shared;
-    std::memcpy(&shared, m_bytes, sizeof shared);
-    return shared;
+    return reinterpret_cast<Shared*>(static_cast<uintptr_t>(words()[0]));
 }
 
 CellText::CellText(std::wstring_view text) {
     if (text.size() <= SHORT_LENGTH) {
-        if (!text.empty()) std::memcpy(m_bytes, text.data(), text.size() * sizeof(wchar_t));
-        m_bytes[LENGTH_AT] = static_cast<std::byte>(text.size());
+        // Letter by letter into words: bytes that are written one by one and read as words wait for each
+        // other.
+        constexpr size_t IN_WORD = sizeof(uint64_t) / sizeof(wchar_t);
+        constexpr int BITS = 8 * sizeof(wchar_t);
+        Words words{};
+        for (size_t i = 0; i < text.size(); ++i) {
+            const auto letter = static_cast<uint64_t>(text[i]) & (~uint64_t{0} >> (64 - BITS));
+            words[i / IN_WORD] |= letter << BITS * static_cast<int>(i % IN_WORD);
+        }
+        words[1] |= uint64_t{text.size()} << LENGTH_SHIFT;
+        setWords(words);
         return;
     }
-    void* memory = ::operator new(sizeof(Shared) + text.size() * sizeof(wchar_t));
-    auto* shared = new (memory) Shared{1, text.size()};
+    if (text.size() > LONGEST) text = text.substr(0, LONGEST);
+    void* memory = textMemory().take(Shared::bytes(text.size()));
+    auto* shared = new (memory) Shared{1, static_cast<uint32_t>(text.size())};
     std::memcpy(shared->letters(), text.data(), text.size() * sizeof(wchar_t));
-    std::memcpy(m_bytes, &shared, sizeof shared);
-    m_bytes[LENGTH_AT] = LONG;
+    setWords({reinterpret_cast<uintptr_t>(shared), LONG << LENGTH_SHIFT});
 }
 
 CellText::CellText(const CellText& other) noexcept {
-    std::memcpy(m_bytes, other.m_bytes, sizeof m_bytes);
+    setWords(other.words());
     if (isLong()) ++shared()->owners;
 }
 
 void CellText::release() {
-    if (--shared()->owners == 0) ::operator delete(shared());
+    Shared* text = shared();
+    if (--text->owners == 0) textMemory().giveBack(text, Shared::bytes(text->length));
 }
 
 std::wstring_view CellText::view() const {
     if (isLong()) return shared()->view();
-    return {reinterpret_cast<const wchar_t*>(m_bytes), static_cast<size_t>(m_bytes[LENGTH_AT])};
+    return {reinterpret_cast<const wchar_t*>(m_bytes), static_cast<size_t>(words()[1] >> LENGTH_SHIFT)};
 }
 
 bool CellText::operator==(const CellText& other) const {
-    if (std::memcmp(m_bytes, other.m_bytes, sizeof m_bytes) == 0) return true;
+    if (words() == other.words()) return true;
     return isLong() && other.isLong() && shared()->view() == other.shared()->view();
 }

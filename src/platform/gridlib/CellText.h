@@ -2,8 +2,11 @@
 // that a text written to each cell of a row exists once. Portable. One thread only, as all of the grid.
 #pragma once
 
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <utility>
 
@@ -22,24 +25,39 @@ class CellText {
     }
 
     std::wstring_view view() const;
-    bool empty() const { return m_bytes[LENGTH_AT] == std::byte{0}; }
+    bool empty() const { return words()[1] >> LENGTH_SHIFT == 0; }
     bool operator==(const CellText& other) const;
 
-    void swap(CellText& other) noexcept { std::swap(m_bytes, other.m_bytes); }
+    void swap(CellText& other) noexcept {
+        const Words own = words();
+        setWords(other.words());
+        other.setWords(own);
+    }
 
   private:
     struct Shared;
-    static constexpr size_t LENGTH_AT = 15;
-    static constexpr size_t SHORT_LENGTH = LENGTH_AT / sizeof(wchar_t);
-    static constexpr std::byte LONG{0xFF};
+    using Words = std::array<uint64_t, 2>;
+    static constexpr size_t SHORT_LENGTH = (sizeof(Words) - 1) / sizeof(wchar_t);
+    static constexpr int LENGTH_SHIFT = 56;
+    static constexpr uint64_t LONG = 0xFF;
+    static constexpr size_t LONGEST = 0x7FFFFFFF;
 
-    bool isLong() const { return m_bytes[LENGTH_AT] == LONG; }
+    bool isLong() const { return words()[1] >> LENGTH_SHIFT == LONG; }
+    // All 16 bytes at a time, which is many times faster than byte by byte.
+    Words words() const {
+        Words words;
+        std::memcpy(words.data(), m_bytes, sizeof m_bytes);
+        return words;
+    }
+    void setWords(Words words) { std::memcpy(m_bytes, words.data(), sizeof m_bytes); }
     Shared* shared() const;
     void release();
 
-    // A short text's letters, or the address of a shared one; the last byte is the length, or LONG. What
+    // A short text's letters, or the address of a shared one; the upmost byte is the length, or LONG. What
     // isn't used is 0, so that short texts compare as a whole.
-    alignas(void*) std::byte m_bytes[16] = {};
+    alignas(uint64_t) std::byte m_bytes[sizeof(Words)] = {};
 };
 
 static_assert(sizeof(CellText) == 16);
+// The letters are the first bytes.
+static_assert(std::endian::native == std::endian::little);
