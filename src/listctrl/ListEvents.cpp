@@ -39,6 +39,7 @@ const MessageMap& WexListCtrl::messageMap() const {
                                     on<WM_RBUTTONDOWN, &WexListCtrl::onRightDown>(),
                                     on<WM_LBUTTONDBLCLK, &WexListCtrl::onLeftDoubleClick>(),
                                     on<WM_KEYDOWN, &WexListCtrl::onKeyDown>(),
+                                    on<WM_CHAR, &WexListCtrl::onChar>(),
                                     on<WM_KILLFOCUS, &WexListCtrl::onKillFocus>(),
                                     onRaw<LVM_DELETEALLITEMS, &WexListCtrl::onDeleteAll>(),
                                     onReflectedNotify<NM_DBLCLK, &WexListCtrl::onDoubleClick>(),
@@ -59,7 +60,10 @@ bool WexListCtrl::pressRow(POINT at) {
     if (row < 0) return false;
     // A list that hasn't learned that it lost the focus doesn't take it back by itself.
     if (::GetFocus() != m_hWnd) SetFocus();
-    if (isLive()) Default();
+    if (isLive()) {
+        const SelectionMove move(*this);
+        Default();
+    }
     if (isLive()) m_lastRow = row;
     return isLive();
 }
@@ -145,6 +149,13 @@ void WexListCtrl::onKeyDown(UINT key, UINT /*flags*/) {
         if (key == 'C' || key == VK_INSERT) copySelectedRows(*this);
         if (column >= 0 && column < 9 && column < columnCount(*this) && hasClickableHeads()) sortBy(column);
     }
+    const SelectionMove move(*this);
+    Default();
+}
+
+// Typing leads to the row that begins so.
+void WexListCtrl::onChar(UINT /*character*/, UINT /*flags*/) {
+    const SelectionMove move(*this);
     Default();
 }
 

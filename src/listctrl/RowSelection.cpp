@@ -23,6 +23,14 @@ void setRowState(const CWnd& list, int row, UINT state, UINT mask) {
         list.SendMessage(LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(&item));
 }
 
+// One row of a list without items, which may have a million.
+bool selectsOneOfMany(const CWnd& list) {
+    constexpr DWORD styles = LVS_OWNERDATA | LVS_SINGLESEL;
+    return (list.GetStyle() & styles) == styles;
+}
+
+bool isSelected(const CWnd& list, int row) { return list.SendMessage(LVM_GETITEMSTATE, row, LVIS_SELECTED); }
+
 int nextSelectedRow(const CWnd& list, int from) {
     return static_cast<int>(list.SendMessage(LVM_GETNEXTITEM, from, LVNI_SELECTED));
 }
@@ -32,11 +40,18 @@ int selectedCount(const CWnd& list) { return static_cast<int>(list.SendMessage(L
 
 }  // namespace
 
-int firstSelectedRow(const CWnd& list) { return selectedCount(list) > 0 ? nextSelectedRow(list, -1) : -1; }
+int firstSelectedRow(const CWnd& list) {
+    const int count = selectedCount(list);
+    if (count == 0) return -1;
+    // A single one is mostly where the last selection was made, and needn't be looked for among a million.
+    const auto mark = static_cast<int>(list.SendMessage(LVM_GETSELECTIONMARK));
+    return count == 1 && mark >= 0 && isSelected(list, mark) ? mark : nextSelectedRow(list, -1);
+}
 
 std::vector<int> selectedRows(const CWnd& list) {
     std::vector<int> rows;
     int left = selectedCount(list);
+    if (left == 1) return {firstSelectedRow(list)};
     for (int at = -1; left > 0 && (at = nextSelectedRow(list, at)) >= 0; --left) rows.push_back(at);
     return rows;
 }
@@ -44,11 +59,23 @@ std::vector<int> selectedRows(const CWnd& list) {
 void selectRow(const CWnd& list, int row) {
     if (row < 0 || row >= list.SendMessage(LVM_GETITEMCOUNT)) return;
     const UINT state = hasItems(list) ? LVIS_SELECTED : LVIS_SELECTED | LVIS_FOCUSED;
+    const SelectionMove move(list);
     setRowState(list, row, state, state);
+    if (!hasItems(list)) list.SendMessage(LVM_SETSELECTIONMARK, 0, row);
     releaseRedraw();  // a list whose redraw is held doesn't scroll
     list.SendMessage(LVM_ENSUREVISIBLE, row, TRUE);
 }
 
 void clearSelection(const CWnd& list) {
     for (const int row : selectedRows(list)) setRowState(list, row, 0, LVIS_SELECTED);
+}
+
+SelectionMove::SelectionMove(const CWnd& list)
+    : m_list(list), m_row(selectsOneOfMany(list) ? firstSelectedRow(list) : -1) {
+    if (m_row >= 0) setRowState(list, m_row, 0, LVIS_SELECTED);
+}
+
+SelectionMove::~SelectionMove() {
+    if (m_row >= 0 && m_list.isLive() && firstSelectedRow(m_list) < 0)
+        setRowState(m_list, m_row, LVIS_SELECTED, LVIS_SELECTED);
 }

@@ -51,6 +51,7 @@ class WexListCtrl : public CListCtrl, public TileControl {
     LRESULT onDeleteAll(WPARAM w, LPARAM l);
     bool hasClickableHeads() const;
     void onKeyDown(UINT key, UINT flags);
+    void onChar(UINT character, UINT flags);
     void onKillFocus(CWnd* to);
     void noteArrow(WPARAM key);
     void pressOk();

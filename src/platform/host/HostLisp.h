@@ -25,7 +25,7 @@ HOST_API int hostGetFunCode();
 // the call ends. A list arrives flat between HV_LIST_BEGIN and HV_LIST_END, nested ones too.
 HOST_API HostValue* hostGetArgs();
 
-// Each sets the result of the call at hand; the last one holds. A call that sets none has no value.
+// Each sets the result of the call; the last one holds. Without any it is nil, or no value after RESULT_SET.
 HOST_API int hostRetVoid();
 HOST_API int hostRetNil();
 HOST_API int hostRetT();

@@ -68,7 +68,8 @@ void setRows(const HostValue* at) {
     g_rows.clear();
     int depth = 0;
     for (; at && (depth > 0 || at->type == HV_LIST_BEGIN || at->type == HV_NIL); at = at->next) {
-        if (at->type == HV_LIST_BEGIN && ++depth == 2) g_rows.emplace_back();
+        const bool isEmptyRow = at->type == HV_NIL && depth == 1;
+        if ((at->type == HV_LIST_BEGIN && ++depth == 2) || isEmptyRow) g_rows.emplace_back();
         if (at->type == HV_LIST_END) --depth;
         if (at->type == HV_STRING) g_rows.back().emplace_back(at->value.stringValue);
     }

@@ -1,0 +1,183 @@
+; The record table as a program sees it: what each function gives, what it asks the data store, and what goes wrong. The
+; rows come from a store in memory, which is told by store_rows and tells by store_log what it was asked.
+
+(host_load_plugin "build/windows/tests/teststore/WEXDATASTOREMGDREV.dll")
+
+(setq catalog '(("P1" "ACME" "Relay" "10A" "7") ("P2" "ACME" "Lamp" "" "3") ("P3" "Bolt" "Fuse" "2A" "")))
+
+; A fresh table of those rows.
+(defun with-rows (rows)
+  (wex_fp_cleardatasrc)
+  (store_rows rows)
+  (wex_fp_setupdatasrc '("project" "Parts" "PN"))
+  (store_log))
+(defun records () (mapcar 'wex_fp_getitem (range (wex_fp_getcount))))
+(defun first-fields (records) (mapcar 'car records))
+(defun changes () (mapcar 'first-fields (list (wex_fp_getadded) (wex_fp_getmodified) (wex_fp_getdeleted))))
+
+(defun no-value (form) (want (list form nil) (list form (eval form))))
+(defun out-of-range (form / text)
+  (setq text (catch-error (progn (eval form) "no error")))
+  (if (not (string-search text ": Index Out of Range.")) (want (list form "Index Out of Range.") text)))
+
+(test "Without a table every function is harmless"
+  '((want 0 (wex_fp_getcount))
+    (foreach form '((wex_fp_getitem 0) (wex_fp_setitem 0 '("x")) (wex_fp_additem '("x")) (wex_fp_remitem 0)
+                    (wex_fp_getadded) (wex_fp_getmodified) (wex_fp_getdeleted) (wex_fp_savedb) (wex_fp_cleardatasrc))
+      (no-value form))
+    (want nil (store_log))
+    (want nil (ui_alerts))))
+
+(test "A setup asks for the count and then for the rows"
+  '((store_rows catalog)
+    (no-value '(wex_fp_setupdatasrc '("project" "Parts" "PN")))
+    (want '("services" "store" "needs database?" "needs database?" "count [Parts]" "SELECT * FROM [Parts] ORDER BY [PN]")
+          (store_log))
+    (want 3 (wex_fp_getcount))
+    (want catalog (records))
+    (want nil (store_log))))
+
+(test "A second setup changes nothing until the table is cleared"
+  '((with-rows catalog)
+    (store_rows '(("other")))
+    (no-value '(wex_fp_setupdatasrc '("project" "Others" "PN")))
+    (want catalog (records))
+    (want nil (store_log))
+    (no-value '(wex_fp_cleardatasrc))
+    (want 0 (wex_fp_getcount))
+    (wex_fp_setupdatasrc '("" "Oth]ers"))
+    (want '("store" "needs database?" "needs database?" "count [Oth]ers]" "SELECT * FROM [Oth]ers] ORDER BY []") (store_log))
+    (want '(("other")) (records))))
+
+(test "A table without a name stays empty, and so does one whose store needs a database"
+  '((store_rows catalog)
+    (foreach arguments '(nil (nil) ("text") (5) ((1 2 3)) (("project")) (("project" 5 "PN")))
+      (wex_fp_cleardatasrc)
+      (no-value (cons 'wex_fp_setupdatasrc (mapcar '(lambda (a) (list 'quote a)) arguments)))
+      (want nil (remove "needs database?" (cdr (store_log)))))
+    (store_refuse "database")
+    (foreach names '(nil ("" "Parts" "PN"))
+      (wex_fp_cleardatasrc)
+      (wex_fp_setupdatasrc names)
+      (want '("store" "needs database?") (store_log)))
+    (want 3 (wex_fp_getcount))
+    (want '("count []") (store_log))
+    (want nil (wex_fp_getitem 2))
+    (store_refuse)))
+
+(test "Where there is no store there is no table, and the next setup tries again"
+  '((wex_fp_cleardatasrc)
+    (store_rows catalog)
+    (store_refuse "store")
+    (no-value '(wex_fp_setupdatasrc '("" "Parts" "PN")))
+    (want '("store") (store_log))
+    (no-value '(wex_fp_getadded))
+    (store_refuse)
+    (wex_fp_setupdatasrc '("" "Parts" "PN"))
+    (want 3 (wex_fp_getcount))))
+
+(test "Records are read by their numbers"
+  '((with-rows catalog)
+    (want (caddr catalog) (wex_fp_getitem 2))
+    (foreach form '((wex_fp_getitem) (wex_fp_getitem -1) (wex_fp_getitem 1.0) (wex_fp_getitem "1") (wex_fp_getitem nil))
+      (no-value form))
+    (foreach n '(3 -2 32767 40000 -40000 2147483647) (out-of-range (list 'wex_fp_getitem n)))
+    (want 3 (wex_fp_getcount))
+    (with-rows '(("a\tb" "" "line\nend" "grün ⌀ 😀" "'[x]\"")))
+    (want '("a\tb" "" "line\nend" "grün ⌀ 😀" "'[x]\"") (wex_fp_getitem 0))))
+
+(test "A record keeps the fields that no text is given for"
+  '((with-rows catalog)
+    (no-value '(wex_fp_setitem 1 '("P2a" "Bolt")))
+    (want '("P2a" "Bolt" "Lamp" "" "3") (wex_fp_getitem 1))
+    (wex_fp_setitem 1 '("1" "2" "3" "4" "5" "6" "7"))
+    (want '("1" "2" "3" "4" "5") (wex_fp_getitem 1))
+    (wex_fp_setitem 1 '("x" 5 "y"))
+    (want '("x" "2" "3" "4" "5") (wex_fp_getitem 1))
+    (want '(nil ("x") nil) (changes))
+    (wex_fp_setitem 0 nil)
+    (want '(nil ("x" "P1") nil) (changes))))
+
+(test "Setting without a number or without texts does nothing"
+  '((with-rows catalog)
+    (foreach form '((wex_fp_setitem) (wex_fp_setitem -1 '("x")) (wex_fp_setitem "0" '("x")) (wex_fp_setitem 1.5 '("x"))
+                    (wex_fp_setitem 0) (wex_fp_setitem 9))
+      (no-value form))
+    (want '(nil nil nil) (changes))
+    (foreach n '(3 -2 400 -400) (out-of-range (list 'wex_fp_setitem n ''("x"))))
+    (want catalog (records))))
+
+(test "What is added has five fields"
+  '((with-rows catalog)
+    (no-value '(wex_fp_additem '("1" "2" "3" "4" "5" "6" "7")))
+    (foreach argument '(("1" "2") ("1" nil "3") nil 5 "text") (wex_fp_additem argument))
+    (want '(("1" "2" "3" "4" "5") ("1" "2" "" "" "") ("1" "" "" "" "") ("" "" "" "" "") ("" "" "" "" "") ("" "" "" "" ""))
+          (wex_fp_getadded))
+    (want (append catalog (wex_fp_getadded)) (records))
+    (no-value '(wex_fp_additem))
+    (want 9 (wex_fp_getcount))
+    (wex_fp_setitem 3 '("one"))
+    (want '("one" "2" "3" "4" "5") (car (wex_fp_getadded)))
+    (want nil (wex_fp_getmodified))
+    (repeat 6 (wex_fp_remitem 3))
+    (want '(nil nil nil) (changes))))
+
+(test "What is removed is told with its last values"
+  '((with-rows catalog)
+    (wex_fp_setitem 1 '("changed"))
+    (no-value '(wex_fp_remitem 1))
+    (no-value '(wex_fp_remitem 0))
+    (want '(nil nil ("changed" "P1")) (changes))
+    (want '(("P3" "Bolt" "Fuse" "2A" "")) (records))
+    (foreach form '((wex_fp_remitem) (wex_fp_remitem -1) (wex_fp_remitem "0")) (no-value form))
+    (foreach n '(1 2 -2 500 -500) (out-of-range (list 'wex_fp_remitem n)))
+    (want '("P3") (first-fields (records)))))
+
+(test "Saving forgets what was changed and writes nothing"
+  '((with-rows catalog)
+    (wex_fp_additem '("P4"))
+    (wex_fp_remitem 0)
+    (wex_fp_setitem 0 '("p2"))
+    (want '(("P4") ("p2") ("P1")) (changes))
+    (no-value '(wex_fp_savedb))
+    (want '(nil nil nil) (changes))
+    (want '("p2" "P3" "P4") (first-fields (records)))
+    (want nil (store_log))))
+
+(test "Pages are ragged after a deletion, and shift when it is forgotten"
+  '((wex_fp_cleardatasrc)
+    (store_numbered 250)
+    (wex_fp_setupdatasrc '("" "Parts" "PN"))
+    (wex_fp_remitem 0)
+    (want '("P1" "P2" "P100") (first-fields (mapcar 'wex_fp_getitem '(0 1 99))))
+    (want "P248" (car (wex_fp_getitem 247)))
+    ; The last page was loaded when one record was gone: its last row is missing.
+    (want nil (wex_fp_getitem 248))
+    (out-of-range '(wex_fp_setitem 248 '("x")))
+    (wex_fp_savedb)
+    (want nil (wex_fp_getitem 99))
+    (want "P100" (car (wex_fp_getitem 100)))))
+
+(test "A store that says less, more or nothing of its rows"
+  '((foreach said '((1 1 ("P1")) (5 5 ("P1" "P2" "P3" nil nil)) (0 0 nil))
+      (wex_fp_cleardatasrc)
+      (store_rows catalog (car said))
+      (wex_fp_setupdatasrc '("" "Parts" "PN"))
+      (want (cdr said) (list (wex_fp_getcount) (first-fields (records)))))
+    (wex_fp_cleardatasrc)
+    (store_rows catalog -1)
+    (wex_fp_setupdatasrc '("" "Parts" "PN"))
+    (want -1 (wex_fp_getcount))
+    (out-of-range '(wex_fp_getitem 0))))
+
+(test "An error in an action leaves the dialog at work"
+  '((with-rows catalog)
+    (setq told nil)
+    (ui_session "CONFIRM_DELREC" '((ui_click "OK") (ui_click "OK")))
+    (wex_new_dialog "CONFIRM_DELREC")
+    (wex_action_tile "OK" "(catch-error (wex_fp_getitem 3) '(lambda (e) (setq told (cons e told)))) (if (cdr told) (wex_done_dialog 4))")
+    (want 4 (wex_start_dialog))
+    (want 2 (length told))
+    (want nil (ui_alerts))))
+
+(wex_fp_cleardatasrc)
