@@ -1,10 +1,23 @@
 #include "src/grid/WexGrid.h"
 
+#include <uxtheme.h>
+#include <vssym32.h>
+
 #include "src/dialog/EventBridge.h"
 #include "src/grid/EditBracket.h"
 #include "src/grid/ListRows.h"
 #include "src/platform/base/Text.h"
 #include "src/platform/host/HostServices.h"
+#include "src/platform/mfc/Drawing.h"
+
+namespace {
+
+struct CloseTheme {
+    void operator()(HTHEME theme) const { CloseThemeData(theme); }
+};
+using UniqueTheme = drawing::Unique<HTHEME, CloseTheme>;
+
+}  // namespace
 
 const CRuntimeClass WexGrid::runtimeClass = {"WexGrid", RUNTIME_CLASS(CGXGridWnd)};
 
@@ -13,6 +26,29 @@ const CRuntimeClass* WexGrid::GetThisClass() { return &runtimeClass; }
 const CRuntimeClass* WexGrid::GetRuntimeClass() const { return &runtimeClass; }
 
 CObject* WexGrid::CreateObject() { return new WexGrid; }
+
+const MessageMap& WexGrid::messageMap() const {
+    static const MessageMap map(CGXGridWnd::messageMap(), {onRaw<WM_NCPAINT, &WexGrid::onNcPaint>()});
+    return map;
+}
+
+// In the place of the sunken edge of the platform, the frame that edit boxes have under a theme.
+LRESULT WexGrid::onNcPaint(WPARAM region, LPARAM l) {
+    const LRESULT result = DefWindowProc(WM_NCPAINT, region, l);
+    const UniqueTheme theme(IsThemeActive() ? OpenThemeData(m_hWnd, L"EDIT") : nullptr);
+    if (!theme.get() || !(GetExStyle() & WS_EX_CLIENTEDGE)) return result;
+    RECT frame;
+    GetWindowRect(m_hWnd, &frame);
+    OffsetRect(&frame, -frame.left, -frame.top);
+    RECT inside = frame;
+    InflateRect(&inside, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+    const HDC dc = GetWindowDC(m_hWnd);
+    ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
+    DrawThemeBackground(theme.get(), dc, EP_EDITTEXT, IsWindowEnabled(m_hWnd) ? ETS_NORMAL : ETS_DISABLED,
+                        &frame, nullptr);
+    ReleaseDC(m_hWnd, dc);
+    return result;
+}
 
 void WexGrid::begin() {
     ShowWindow(SW_SHOWNORMAL);

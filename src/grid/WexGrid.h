@@ -42,7 +42,12 @@ class WexGrid : public CGXGridWnd, public TileControl {
     bool OnLeftCell(uint32_t row, uint32_t col, uint32_t newRow, uint32_t newCol) override;
     void OnPasted(size_t taken, size_t refused) override;
 
+  protected:
+    const MessageMap& messageMap() const override;
+
   private:
+    LRESULT onNcPaint(WPARAM region, LPARAM l);
+
     // Of the columns that have one: the number of a column may be any.
     std::map<uint32_t, uint8_t> m_columnJustification;
 };
