@@ -37,15 +37,13 @@ LRESULT WexGrid::onNcPaint(WPARAM region, LPARAM l) {
     const LRESULT result = DefWindowProc(WM_NCPAINT, region, l);
     const UniqueTheme theme(IsThemeActive() ? OpenThemeData(m_hWnd, L"EDIT") : nullptr);
     if (!theme.get() || !(GetExStyle() & WS_EX_CLIENTEDGE)) return result;
-    RECT frame;
-    GetWindowRect(m_hWnd, &frame);
+    RECT frame = GetWindowRect();
     OffsetRect(&frame, -frame.left, -frame.top);
     RECT inside = frame;
     InflateRect(&inside, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
     const HDC dc = GetWindowDC(m_hWnd);
     ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
-    DrawThemeBackground(theme.get(), dc, EP_EDITTEXT, IsWindowEnabled(m_hWnd) ? ETS_NORMAL : ETS_DISABLED,
-                        &frame, nullptr);
+    DrawThemeBackground(theme.get(), dc, EP_EDITTEXT, ETS_NORMAL, &frame, nullptr);
     ReleaseDC(m_hWnd, dc);
     return result;
 }

@@ -231,3 +231,13 @@
         (wex_grid_setrowcolumns "LST" 2 1)
         (put 1 0 -1 "y")
         (want "" (text-of 1 0))))))
+
+(test "The grids of the product's dialogs grow with their windows"
+  '((foreach pair '(("CONNECTOR_PINS_IN_USE" . "LST") ("INSERT_SEC_TRM_CAT_PINGRID" . "PINS") ("INSERT_SEC_TRM_PINGRID" . "PINS")
+                    ("EDIT_NONWD_ATTRS" . "LST") ("XREF_SETUP_TABLE" . "COLS"))
+      (setq tile (cdr pair))
+      (in-dialog (car pair) '(wex_setresizing tile 63)
+        '((wex_grid_setrowcolumns tile 20 3)
+          (setq before (look tile "rect"))
+          (ui_drag "GRIP" 50 40)
+          (want '(0 0 50 40) (mapcar '- (look tile "rect") before)))))))
