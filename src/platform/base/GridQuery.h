@@ -31,6 +31,10 @@ struct GridPlace {
 // the last one.
 struct GridArea {
     uint32_t top = 0, left = 0, bottom = 0, right = 0;
+
+    bool contains(GridPlace at) const {
+        return at.row >= top && at.row <= bottom && at.column >= left && at.column <= right;
+    }
 };
 
 struct GridTableLook {

@@ -50,7 +50,7 @@ const MessageMap& CGXGridWnd::messageMap() const {
                                     onRaw<WM_SYSKEYDOWN, &CGXGridWnd::onSysKeyDown>(),
                                     on<WM_CHAR, &CGXGridWnd::onChar>(),
                                     onRaw<WM_GETOBJECT, &CGXGridWnd::onGetObject>(),
-                                    onRaw<WM_GRID_MOVE_TO, &CGXGridWnd::onMoveTo>(),
+                                    onRaw<WM_GRID_SELECT, &CGXGridWnd::onSelect>(),
                                     onRaw<WM_GRID_CELL_AT, &CGXGridWnd::onCellAt>(),
                                 });
     return map;

@@ -91,6 +91,7 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     void dragBorder(POINT at);
     void endGesture();
     void fitColumn(uint32_t col);
+    void fitRow(uint32_t row);
 
     // --- GridKeys.cpp
     LRESULT onGetDlgCode(WPARAM w, LPARAM l);
@@ -100,6 +101,8 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     bool moveByKey(UINT key, bool control, bool shift);
     bool commandByKey(UINT key, bool control, bool shift);
     CellPlace neighbour(CellPlace from, UINT key, bool control) const;
+    // The column of a cell that up and down stay in.
+    uint32_t columnOf(CellPlace at) const { return at == m_column.current ? m_column.col : at.col; }
     void moveTo(CellPlace to, bool extend);
     void tellSelection(bool dragging, bool key);
 
@@ -127,7 +130,7 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     void tell(GridTableLook& table);
     bool tell(GridCellLook& cell);
     LRESULT onGetObject(WPARAM w, LPARAM l);
-    LRESULT onMoveTo(WPARAM row, LPARAM col);
+    LRESULT onSelect(WPARAM place, LPARAM flags);
     LRESULT onCellAt(WPARAM x, LPARAM y);
 
     TrackView m_rows{m_table.heights()};
@@ -148,7 +151,13 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     Gesture m_gesture = Gesture::none;
     CellPlace m_pressed;  // the cell, or the column or row that is sized
     int m_pressedAt = 0;  // where its border was taken, in pixels from its start
-    bool m_wasCurrent = false;
+    POINT m_draggedTo{};
+    // The column in which up and down go on from the current cell, which may be several merged ones.
+    struct Column {
+        CellPlace current;
+        uint32_t col;
+    };
+    Column m_column{};
     int m_wheelRest = 0;
 
     // What was told last to who asked.

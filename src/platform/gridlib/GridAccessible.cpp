@@ -8,6 +8,7 @@
 
 #include "src/platform/base/GridQuery.h"
 #include "src/platform/gridlib/GridMessages.h"
+#include "src/platform/gridlib/SelectedChildren.h"
 
 namespace {
 
@@ -156,12 +157,17 @@ class GridAccessible final : public IAccessible {
                                          : CHILDID_SELF);
         return S_OK;
     }
-    // The first selected cell.
     HRESULT STDMETHODCALLTYPE get_accSelection(VARIANT* children) override {
         GridTableLook table;
         children->vt = VT_EMPTY;
         if (!ask(GridQuestion::Table, table) || table.areaCount == 0) return S_FALSE;
-        setChild(children, childOf(table.areas[0].top, table.areas[0].left, table.columns));
+        const GridArea& first = table.areas[0];
+        if (table.areaCount == 1 && first.top == first.bottom && first.left == first.right) {
+            setChild(children, childOf(first.top, first.left, table.columns));
+        } else {
+            children->vt = VT_UNKNOWN;
+            children->punkVal = selectedChildren({table.areas, table.areas + table.areaCount}, table.columns);
+        }
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE accHitTest(long x, long y, VARIANT* child) override {
@@ -202,8 +208,8 @@ class GridAccessible final : public IAccessible {
         GridPlace at;
         if (!isCell(child, at) || at.row == 0) return E_INVALIDARG;
         if (flags & SELFLAG_TAKEFOCUS) SetFocus(m_grid);
-        SendMessageW(m_grid, WM_GRID_MOVE_TO, at.row, static_cast<LPARAM>(at.column));
-        return S_OK;
+        const WPARAM place = uint64_t{at.row} << 32 | at.column;
+        return SendMessageW(m_grid, WM_GRID_SELECT, place, flags) ? S_OK : S_FALSE;
     }
 
     // --- what cells don't have
@@ -250,10 +256,8 @@ class GridAccessible final : public IAccessible {
     }
 
     static bool isSelected(const GridTableLook& table, GridPlace at) {
-        return std::any_of(table.areas, table.areas + table.areaCount, [&](const GridArea& area) {
-            return at.row >= area.top && at.row <= area.bottom && at.column >= area.left &&
-                   at.column <= area.right;
-        });
+        return std::any_of(table.areas, table.areas + table.areaCount,
+                           [&](const GridArea& area) { return area.contains(at); });
     }
 
     // The child at that place of the client area; the table itself where there is no cell.

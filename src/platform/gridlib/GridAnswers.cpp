@@ -1,4 +1,6 @@
 // What a grid's window tells who asks it by message: the host's drive, assistive programs.
+#include <oleacc.h>
+
 #include <algorithm>
 
 #include "src/platform/gridlib/CGXGridWnd.h"
@@ -87,9 +89,22 @@ LRESULT CGXGridWnd::onGetObject(WPARAM w, LPARAM l) {
     return static_cast<LONG>(l) == OBJID_CLIENT ? gridObject(m_hWnd, w) : Default();
 }
 
-LRESULT CGXGridWnd::onMoveTo(WPARAM row, LPARAM col) {
-    moveTo({static_cast<uint32_t>(row), static_cast<uint32_t>(col)}, false);
-    return 0;
+LRESULT CGXGridWnd::onSelect(WPARAM place, LPARAM flags) {
+    const CellPlace at{static_cast<uint32_t>(place >> 32), static_cast<uint32_t>(place)};
+    if (at.row == 0 || !m_table.has(at.row, at.col)) return 0;
+    if (!(flags & (SELFLAG_ADDSELECTION | SELFLAG_REMOVESELECTION))) {
+        moveTo(at, flags & SELFLAG_EXTENDSELECTION);
+        return 1;
+    }
+    const bool adds = flags & SELFLAG_ADDSELECTION;
+    if (m_selection.contains(at.row, at.col) == adds) return 1;
+    // A cell is taken from the selection only where it is a range by itself: ranges have no holes.
+    const auto& ranges = m_selection.ranges();
+    if (!adds && std::find(ranges.begin(), ranges.end(), CGXRange(at.row, at.col)) == ranges.end()) return 0;
+    m_selection.begin(CGXRange::cells, at, true);
+    selectionMoved(true);
+    tellSelection(false, true);
+    return 1;
 }
 
 LRESULT CGXGridWnd::onCellAt(WPARAM x, LPARAM y) {

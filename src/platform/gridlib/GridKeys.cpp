@@ -15,6 +15,13 @@ uint32_t nextShown(const TrackSizes& sizes, uint32_t from, int step, uint32_t lo
     return from;
 }
 
+// The one nearest to `at` that isn't hidden, in that direction first.
+uint32_t shownNear(const TrackSizes& sizes, uint32_t at, int step, uint32_t lowest) {
+    if (sizes.size(at) > 0) return at;
+    const uint32_t next = nextShown(sizes, at, step, lowest);
+    return next != at ? next : nextShown(sizes, at, -step, lowest);
+}
+
 }  // namespace
 
 // Tab, Enter and Esc are the dialog's, as long as no cell is open.
@@ -76,26 +83,32 @@ bool CGXGridWnd::commandByKey(UINT key, bool control, bool shift) {
 CellPlace CGXGridWnd::neighbour(CellPlace from, UINT key, bool control) const {
     const CGXRange cells = m_table.merged(from.row, from.col);
     const uint32_t lastRow = GetRowCount(), lastCol = GetColCount();
-    const auto paged = [&](int64_t row) {
-        return static_cast<uint32_t>(std::clamp<int64_t>(row, 1, lastRow));
+    const TrackSizes &heights = m_table.heights(), &widths = m_table.widths();
+    const uint32_t col = columnOf(from);
+    const auto paged = [&](int64_t pages) {
+        const int64_t row = from.row + pages * m_rows.page();
+        return shownNear(heights, static_cast<uint32_t>(std::clamp<int64_t>(row, 1, lastRow)),
+                         pages < 0 ? -1 : 1, 1);
     };
+    const uint32_t topRow = shownNear(heights, 1, 1, 1), bottomRow = shownNear(heights, lastRow, -1, 1);
+    const uint32_t rightCol = shownNear(widths, lastCol, -1, 0);
     switch (key) {
         case VK_UP:
-            return {control ? 1 : nextShown(m_table.heights(), cells.top, -1, 1), from.col};
+            return {control ? topRow : nextShown(heights, cells.top, -1, 1), col};
         case VK_DOWN:
-            return {control ? lastRow : nextShown(m_table.heights(), cells.bottom, 1, 1), from.col};
+            return {control ? bottomRow : nextShown(heights, cells.bottom, 1, 1), col};
         case VK_LEFT:
-            return {from.row, control ? 0 : nextShown(m_table.widths(), cells.left, -1, 0)};
+            return {from.row, control ? 0 : nextShown(widths, cells.left, -1, 0)};
         case VK_RIGHT:
-            return {from.row, control ? lastCol : nextShown(m_table.widths(), cells.right, 1, 0)};
+            return {from.row, control ? rightCol : nextShown(widths, cells.right, 1, 0)};
         case VK_PRIOR:
-            return {paged(int64_t{from.row} - m_rows.page()), from.col};
+            return {paged(-1), col};
         case VK_NEXT:
-            return {paged(int64_t{from.row} + m_rows.page()), from.col};
+            return {paged(1), col};
         case VK_HOME:
-            return {control ? 1 : from.row, std::min(1u, lastCol)};
+            return {control ? topRow : from.row, shownNear(widths, std::min(1u, lastCol), 1, 0)};
         case VK_END:
-            return {control ? lastRow : from.row, lastCol};
+            return {control ? bottomRow : from.row, rightCol};
         default:
             return from;
     }
@@ -115,13 +128,16 @@ void CGXGridWnd::moveTo(CellPlace to, bool extend) {
     const CellPlace current = m_selection.current();
     if (!extend) {
         const CGXRange merged = m_table.merged(to.row, to.col);
+        const uint32_t col = to.col;
         to = {merged.top, merged.left};
-        if (to == current && m_selection.ranges().size() == 1 && m_selection.extent() == to) return;
+        const bool isAlone = m_selection.ranges().size() == 1 && m_selection.contains(to.row, to.col);
+        if (to == current && isAlone && m_selection.extent() == to) return;
         if (to != current && m_selection.hasCurrent() &&
             !OnLeftCell(current.row, current.col, to.row, to.col))
             return;
         if (!m_table.has(to.row, to.col)) return;
         m_selection.begin(CGXRange::cells, to);
+        m_column = {to, col};
         selectionMoved(true);
         if (merged != CGXRange(to.row, to.col)) m_selection.extend({merged.bottom, merged.right});
     } else {

@@ -6,8 +6,9 @@
 // The scroll bars are set once for all that changed since the last turn of the message loop.
 constexpr UINT WM_GRID_UPDATE_BARS = WM_USER + 1;
 
-// From the grid's accessible object. A cell becomes the current one, as a person moves to it: row, column.
-constexpr UINT WM_GRID_MOVE_TO = WM_USER + 2;
+// From the grid's accessible object. Selects a cell as a person does: the row in the upper 32 bits, the
+// column in the lower; the SELFLAGs that say how. 0 where that can't be.
+constexpr UINT WM_GRID_SELECT = WM_USER + 2;
 // The cell at a place of the client area, x and y: the row in the upper 32 bits, the column in the lower.
 constexpr UINT WM_GRID_CELL_AT = WM_USER + 3;
 

@@ -13,6 +13,9 @@ constexpr int BORDER_REACH = 4;
 constexpr int32_t SMALLEST_TRACK = 6;
 // How many rows decide how wide a column is made to fit.
 constexpr uint32_t FITTED_ROWS = 2000;
+constexpr int LARGEST_FIT = 1000;
+// How many columns right of the view decide how high a row is made to fit.
+constexpr uint32_t FITTED_COLUMNS = 100;
 
 // The column whose right border is near, or the row whose lower border is; 0 included, -1 for none.
 int64_t borderNear(const TrackView& view, int pixel, int reach) {
@@ -20,6 +23,13 @@ int64_t borderNear(const TrackView& view, int pixel, int reach) {
     if (at <= view.last() && view.end(at) - pixel <= reach) return at;
     if (at == 0 || pixel - view.start(std::min(at, view.last() + 1)) > reach) return -1;
     return at == view.first() ? 0 : int64_t{at} - 1;
+}
+
+// The largest size that is wholly in view behind the header, at 96 dots per inch: what a person makes larger
+// could no longer be made smaller, as its border would never come into view.
+int32_t room(const TrackView& view) {
+    const int pixels = std::max(0, view.length() - view.headerEnd());
+    return std::max(MulDiv(pixels, USER_DEFAULT_SCREEN_DPI, view.scale()), SMALLEST_TRACK);
 }
 
 }  // namespace
@@ -81,12 +91,12 @@ void CGXGridWnd::OnLButtonDown(UINT keys, POINT at) {
     const CellPlace place = hit(at);
     if (!m_table.has(place.row, place.col) || GetRowCount() == 0) return;
     const CellPlace current = m_selection.current();
-    m_wasCurrent = place == current;
-    const bool leaves = m_selection.hasCurrent() && !m_wasCurrent && !(keys & MK_SHIFT);
+    const bool leaves = m_selection.hasCurrent() && place != current && !(keys & MK_SHIFT);
     if (leaves && !OnLeftCell(current.row, current.col, place.row, place.col)) return;
     m_pressed = place;
     m_gesture = Gesture::selecting;
     beginSelection(place, keys & MK_SHIFT, keys & MK_CONTROL);
+    if (!(keys & MK_SHIFT)) m_column = {place, std::min(m_cols.at(at.x), GetColCount())};
     SetCapture(m_hWnd);
     selectionMoved(false);
 }
@@ -106,7 +116,7 @@ void CGXGridWnd::dragBorder(POINT at) {
     const uint32_t track = ofColumn ? m_pressed.col : m_pressed.row;
     const int size = (ofColumn ? at.x : at.y) + m_pressedAt - view.start(track);
     const int32_t unscaled =
-        std::max(SMALLEST_TRACK, MulDiv(size, USER_DEFAULT_SCREEN_DPI, m_look.dotsPerInch()));
+        std::clamp(MulDiv(size, USER_DEFAULT_SCREEN_DPI, m_look.dotsPerInch()), SMALLEST_TRACK, room(view));
     if (ofColumn)
         SetColWidth(track, track, unscaled);
     else
@@ -116,6 +126,7 @@ void CGXGridWnd::dragBorder(POINT at) {
 void CGXGridWnd::onMouseMove(UINT, POINT at) {
     if (m_gesture == Gesture::none) return;
     if (m_gesture != Gesture::selecting) return dragBorder(at);
+    m_draggedTo = at;
     const RECT client = GetClientRect();
     if (PtInRect(&client, at))
         KillTimer(m_hWnd, TIMER_DRAG);
@@ -126,16 +137,17 @@ void CGXGridWnd::onMouseMove(UINT, POINT at) {
 
 // A drag that is held outside scrolls on, the faster the farther it is.
 void CGXGridWnd::onTimer(UINT_PTR) {
-    POINT at;
-    GetCursorPos(&at);
-    ScreenToClient(m_hWnd, &at);
     const auto step = [](int pixel, int length, int header) -> int64_t {
         const int beyond = pixel < header ? pixel - header : std::max(0, pixel - length + 1);
         return beyond / 16 + (beyond > 0) - (beyond < 0);
     };
     if (m_gesture != Gesture::selecting) return;
-    scrollTo(m_rows.first() + step(at.y, m_rows.length(), m_rows.headerEnd()),
-             m_cols.first() + step(at.x, m_cols.length(), m_cols.headerEnd()));
+    // Whole rows are taken from their headers, which isn't left of the columns; the same with columns.
+    const POINT at = m_draggedTo;
+    const auto kind = m_selection.ranges().empty() ? CGXRange::cells : m_selection.ranges().back().kind;
+    const int64_t down = kind == CGXRange::columns ? 0 : step(at.y, m_rows.length(), m_rows.headerEnd());
+    const int64_t right = kind == CGXRange::rows ? 0 : step(at.x, m_cols.length(), m_cols.headerEnd());
+    scrollTo(m_rows.first() + down, m_cols.first() + right);
     dragTo(at);
 }
 
@@ -163,7 +175,9 @@ void CGXGridWnd::onLButtonUp(UINT, POINT at) {
 
 void CGXGridWnd::onLButtonDblClk(UINT keys, POINT at) {
     CellPlace track;
-    if (borderAt(at, track) == Gesture::sizingColumn) return fitColumn(track.col);
+    const Gesture border = borderAt(at, track);
+    if (border == Gesture::sizingColumn) return fitColumn(track.col);
+    if (border == Gesture::sizingRow) return fitRow(track.row);
     const CellPlace place = hit(at);
     if (!m_table.has(place.row, place.col)) return;
     // The second press of a fast pair is one all the same, on a cell that ticks or on another cell.
@@ -201,5 +215,20 @@ void CGXGridWnd::fitColumn(uint32_t col) {
     measure(0);
     for (uint64_t row = first; row <= last; ++row) measure(static_cast<uint32_t>(row));
     const int unscaled = MulDiv(width, USER_DEFAULT_SCREEN_DPI, m_look.dotsPerInch()) + 1;
-    SetColWidth(col, col, std::clamp(unscaled, int{SMALLEST_TRACK}, 1000));
+    SetColWidth(col, col, std::clamp(unscaled, SMALLEST_TRACK, std::min(LARGEST_FIT, room(m_cols))));
+}
+
+void CGXGridWnd::fitRow(uint32_t row) {
+    const ClientDC dc(m_hWnd);
+    const SelectedObject font(dc, m_look.font());
+    int height = m_look.lineHeight();
+    const uint32_t last = std::min(GetColCount(), m_cols.lastInView() + FITTED_COLUMNS);
+    for (uint32_t col = 0; col <= last; ++col) {
+        // A text that spans several rows doesn't tell how high one shall be.
+        const CGXRange merged = m_table.merged(row, col);
+        if (merged.top == merged.bottom) height = std::max(height, fittingHeight(dc, scene(), merged));
+        col = merged.right;
+    }
+    const int unscaled = MulDiv(height, USER_DEFAULT_SCREEN_DPI, m_look.dotsPerInch()) + 1;
+    SetRowHeight(row, row, std::clamp(unscaled, SMALLEST_TRACK, room(m_rows)));
 }

@@ -9,6 +9,8 @@
 
 namespace {
 
+// A width in which only line ends break a text.
+constexpr int UNBROKEN = 100'000;
 constexpr COLORREF REFUSED = RGB(200, 0, 0);
 
 bool isOnFace(CellKind kind) {
@@ -297,12 +299,14 @@ CellColors cellColors(const GridScene& scene, const CGXStyle& style) {
 
 void paintGrid(HDC dc, const RECT& area, const GridScene& scene) { Painter(dc, area, scene).paint(); }
 
-int fittingHeight(HDC dc, const GridScene& scene, CellPlace at) {
-    const CGXStyle style = scene.grid.table().style(at.row, at.col);
-    const int width = scene.cols.scaled(scene.cols.sizes().size(at.col)) - 2 * scene.look.margin();
+int fittingHeight(HDC dc, const GridScene& scene, const CGXRange& cells) {
+    const CGXStyle style = scene.grid.table().style(cells.top, cells.left);
+    const TrackSizes& widths = scene.cols.sizes();
+    const int64_t wide = widths.offset(cells.right + 1) - widths.offset(cells.left);
     const CString text = shownText(style);
     const bool wraps = style.look().wrap.value_or(false);
-    return (wraps ? scene.look.wrappedHeight(dc, text, width) : scene.look.lineHeight()) + 3;
+    const int width = wraps ? scene.cols.scaled(wide) - 2 * scene.look.margin() : UNBROKEN;
+    return scene.look.wrappedHeight(dc, text, width) + 3;
 }
 
 int fittingWidth(HDC dc, const GridScene& scene, CellPlace at) {

@@ -36,6 +36,7 @@ CellColors cellColors(const GridScene& scene, const CGXStyle& style);
 // Draws what lies in `area`, in client pixels, all of it.
 void paintGrid(HDC dc, const RECT& area, const GridScene& scene);
 
-// How high the cell's row must be to show all of its text, how wide its column, in client pixels.
-int fittingHeight(HDC dc, const GridScene& scene, CellPlace at);
+// How high the row of a run of merged cells must be to show all of its text, how wide the column of a cell,
+// in client pixels.
+int fittingHeight(HDC dc, const GridScene& scene, const CGXRange& cells);
 int fittingWidth(HDC dc, const GridScene& scene, CellPlace at);

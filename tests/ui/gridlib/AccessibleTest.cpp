@@ -47,6 +47,20 @@ class AccessibleTest : public GridTest {
         return number.lVal;
     }
 
+    std::vector<long> selectedChildren() {
+        VARIANT selection;
+        client->get_accSelection(&selection);
+        if (selection.vt != VT_UNKNOWN) return {selection.lVal};
+        IEnumVARIANT* children = nullptr;
+        selection.punkVal->QueryInterface(__uuidof(IEnumVARIANT), reinterpret_cast<void**>(&children));
+        selection.punkVal->Release();
+        std::vector<long> ids;
+        ULONG given;
+        for (VARIANT next; children && children->Next(1, &next, &given) == S_OK;) ids.push_back(next.lVal);
+        if (children) children->Release();
+        return ids;
+    }
+
     IAccessible* client = nullptr;
 };
 
@@ -88,6 +102,19 @@ TEST_F(AccessibleTest, ClientMovesTheCurrentCellAsAPersonDoes) {
     client->get_accFocus(&focus);
     EXPECT_EQ(focus.lVal, cell(15, 2).lVal);
     EXPECT_EQ(client->accSelect(SELFLAG_TAKESELECTION, cell(0, 1)), E_INVALIDARG) << "a header";
+
+    client->accSelect(SELFLAG_EXTENDSELECTION, cell(16, 1));
+    client->accSelect(SELFLAG_ADDSELECTION, cell(3, 1));
+    EXPECT_EQ(grid.takeEvents(), (Events{L"select 15 1 16 2 key", L"select 3 1 3 1 key"}));
+    client->accSelect(SELFLAG_ADDSELECTION, cell(16, 2));
+    EXPECT_EQ(grid.takeEvents(), Events()) << "it is selected";
+    EXPECT_EQ(selectedChildren(), (std::vector{cell(15, 1).lVal, cell(15, 2).lVal, cell(16, 1).lVal,
+                                               cell(16, 2).lVal, cell(3, 1).lVal}));
+    EXPECT_EQ(client->accSelect(SELFLAG_REMOVESELECTION, cell(15, 1)), S_FALSE) << "a range has no holes";
+    EXPECT_EQ(client->accSelect(SELFLAG_REMOVESELECTION, cell(3, 1)), S_OK);
+    EXPECT_EQ(selectedChildren().size(), 4u);
+    client->accSelect(SELFLAG_TAKESELECTION, cell(3, 1));
+    EXPECT_EQ(selectedChildren(), std::vector{cell(3, 1).lVal});
 
     grid.DestroyWindow();
     long count;

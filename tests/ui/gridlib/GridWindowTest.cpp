@@ -91,8 +91,40 @@ TEST_F(GridTest, MergedCellsAreOnePlace) {
     EXPECT_EQ(grid.takeEvents(), Events{L"select 2 0 2 3"}) << "its row";
     press(1, 1);
     key(VK_DOWN);
+    EXPECT_EQ(grid.currentCell(), (CellPlace{2, 0}));
     key(VK_DOWN);
-    EXPECT_EQ(grid.currentCell(), (CellPlace{3, 0}));
+    EXPECT_EQ(grid.currentCell(), (CellPlace{3, 1})) << "below merged cells it is in its column again";
+    key(VK_UP);
+    key(VK_RIGHT);
+    EXPECT_EQ(grid.currentCell(), (CellPlace{2, 3}));
+    grid.SetMergeCellsMode(0, true);
+    grid.SetRowHeight(3, 4, 0);
+    key(VK_DOWN);
+    EXPECT_EQ(grid.currentCell(), (CellPlace{5, 3})) << "hidden rows are no place to stand on";
+}
+
+// The timer's message is sent by hand, so that the test waits for no clock.
+TEST_F(GridTest, DragHeldOutsideScrollsOn) {
+    fill(100, 40);
+    const LPARAM outside = MAKELPARAM(700, 390);
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, middle(2, 1));
+    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, outside);
+    for (int i = 0; i < 200; ++i) grid.SendMessage(WM_TIMER, 1);
+    grid.SendMessage(WM_LBUTTONUP, 0, outside);
+    EXPECT_EQ(grid.takeEvents().back(), L"select 2 1 100 40");
+    GridTableLook table;
+    ask(GridQuestion::Table, &table);
+    EXPECT_GT(look(100, 40).rect.width(), 0);
+
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, middle(90, 0));
+    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, 0xFFFF & -200));
+    for (int i = 0; i < 200; ++i) grid.SendMessage(WM_TIMER, 1);
+    grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 0xFFFF & -200));
+    EXPECT_EQ(grid.takeEvents().back(), L"select 1 0 90 40");
+    GridTableLook after;
+    ask(GridQuestion::Table, &after);
+    EXPECT_EQ(after.first.row, 1u);
+    EXPECT_EQ(after.first.column, table.first.column) << "rows are dragged down and up only";
 }
 
 TEST_F(GridTest, ColumnsAreSizedByDragAndFitByDoubleClick) {
@@ -108,7 +140,24 @@ TEST_F(GridTest, ColumnsAreSizedByDragAndFitByDoubleClick) {
     grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, at(right - 1));
     grid.SendMessage(WM_LBUTTONUP, 0, at(right - 1));
     EXPECT_GT(look(0, 1).width, 200);
+    const PixelRect fitted = look(0, 1).rect;
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at(fitted.right - 1));
+    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(fitted.right + 5000));
+    grid.SendMessage(WM_LBUTTONUP, 0, at(fitted.right + 5000));
+    EXPECT_EQ(look(0, 1).rect.right, grid.GetClientRect().right) << "its border can be taken again";
     EXPECT_EQ(grid.takeEvents(), Events()) << "nothing was selected";
+}
+
+TEST_F(GridTest, RowFitsItsWrappedTextByDoubleClick) {
+    fill(5, 3);
+    grid.SetStyleRange(CGXRange(2, 1),
+                       CGXStyle().SetWrapText(true).SetValue(L"several words that need some lines"));
+    const int before = look(1, 1).height;
+    const PixelRect head = look(2, 0).rect;
+    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(head.left + 4, head.bottom - 1));
+    grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(head.left + 4, head.bottom - 1));
+    EXPECT_GT(look(2, 1).height, 2 * before);
+    EXPECT_EQ(look(3, 1).height, before);
 }
 
 TEST_F(GridTest, PaintsWhatACellSays) {
