@@ -2,9 +2,10 @@
 // are selected, and only those that were made.
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
-#include <set>
 #include <utility>
+#include <vector>
 
 #include "src/slides/SlideSurface.h"
 
@@ -36,7 +37,7 @@ class TestSurface : public SlideSurface {
     SlideTool SelectPen(SlideTool pen) override { return select(m_pen, pen); }
     SlideTool SelectBrush(SlideTool brush) override { return select(m_brush, brush); }
     void Destroy(SlideTool tool) override {
-        require(tool != m_pen && tool != m_brush && m_made.erase(tool) == 1);
+        require(tool != m_pen && tool != m_brush && std::erase(m_made, tool) == 1);
     }
 
     size_t lines() const { return m_lines; }
@@ -52,11 +53,12 @@ class TestSurface : public SlideSurface {
   private:
     SlideTool make() {
         const auto tool = reinterpret_cast<SlideTool>(m_next++);
-        m_made.insert(tool);
+        m_made.push_back(tool);
         return tool;
     }
     SlideTool select(SlideTool& selected, SlideTool tool) {
-        require(tool == ownPen() || tool == ownBrush() || m_made.contains(tool));
+        require(tool == ownPen() || tool == ownBrush() ||
+                std::find(m_made.begin(), m_made.end(), tool) != m_made.end());
         return std::exchange(selected, tool);
     }
 
@@ -64,7 +66,7 @@ class TestSurface : public SlideSurface {
     SlideTool m_pen = ownPen();
     SlideTool m_brush = ownBrush();
     uintptr_t m_next = 10;
-    std::set<SlideTool> m_made;
+    std::vector<SlideTool> m_made;
     size_t m_lines = 0;
     size_t m_corners = 0;
 };

@@ -175,6 +175,8 @@ TEST(LibraryFile, OfNoKindOrTooShortOrUnwritableGivesZero) {
     EXPECT_EQ(library.GetCount(), 0u);
     EXPECT_EQ(library.GetOpenFlag(), 1);
     EXPECT_EQ(library.GetFileSize(), 68u);
+    EXPECT_EQ(library.GetFileName(), L"");
+    EXPECT_STREQ(library.GetRuntimeClass()->name, "CSlideLibObject");
     EXPECT_EQ(library.Save(folder.path("l.sld")), 0);
     EXPECT_EQ(library.Save(folder.path("no/folder.slb")), 0);
 }
@@ -231,13 +233,6 @@ TEST(LibraryList, InsertsASecondSlideTwiceAndOwnsItOnce) {
     EXPECT_EQ(names(copy), L"aacs");
     library.Remove(a);
     EXPECT_EQ(names(library), L"cs");
-}
-
-TEST(LibraryList, HasFileNameAndPathOfWhatWasLoadedOnly) {
-    CSlideLibObject library;
-    EXPECT_EQ(library.GetPath(), L"");
-    EXPECT_EQ(library.GetFileName(), L"");
-    EXPECT_STREQ(library.GetRuntimeClass()->name, "CSlideLibObject");
 }
 
 }  // namespace
