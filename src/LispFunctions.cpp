@@ -9,6 +9,7 @@
 #include "src/listctrl/SelectionFunctions.h"
 #include "src/platform/host/HostServices.h"
 #include "src/records/RecordFunctions.h"
+#include "src/slides/ImageFunctions.h"
 #include "src/tabs/TabFunctions.h"
 #include "src/tiles/EditFunctions.h"
 #include "src/tiles/ListFunctions.h"
@@ -37,13 +38,13 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_mode_tile", withArguments<modeTile>},
     {L"wex_get_attr", withAnyArguments<getAttr>},
     {L"wex_get_tile", withArguments<getTile>},
-    {L"wex_start_image", notBuiltYet},
-    {L"wex_vector_image", notBuiltYet},
-    {L"wex_fill_image", notBuiltYet},
+    {L"wex_start_image", withArguments<startImage>},
+    {L"wex_vector_image", withArguments<vectorImage>},
+    {L"wex_fill_image", withArguments<fillImage>},
     {L"wex_dimx_tile", withArguments<dimxTile>},
     {L"wex_dimy_tile", withArguments<dimyTile>},
-    {L"wex_slide_image", notBuiltYet},
-    {L"wex_end_image", notBuiltYet},
+    {L"wex_slide_image", withArguments<slideImage>},
+    {L"wex_end_image", withAnyArguments<endImage>},
     {L"wex_start_list", withArguments<startList>},
     {L"wex_add_list", withArguments<addList>},
     {L"wex_end_list", withAnyArguments<endList>},
@@ -65,7 +66,7 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_listctrl_enabledbclk", withArguments<listEnableDblClick>},
     {L"wex_listctrl_keephighlight", withArguments<listKeepHighlight>},
     {L"wex_listctrl_setitemcount", withArguments<listSetItemCount>},
-    {L"wex_loadpicturefile", notBuiltYet},
+    {L"wex_loadpicturefile", withArguments<loadPictureFile>},
     {L"wex_setresizing", withArguments<setResizing>},
     {L"wex_setminresizing", withArguments<setMinResizing>},
     {L"wex_setmaxresizing", withArguments<setMaxResizing>},

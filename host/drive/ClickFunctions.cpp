@@ -86,12 +86,22 @@ Spot spotOf(Call& call, const Tile& tile, size_t count) {
     return entrySpot(call, tile, call[1], count > 2 ? call.integerOr(2, 0) : 0);
 }
 
-// (ui_click tile [keys])
+// Where to press for "tile [x y]": that point of its client area, or the middle.
+Spot pointOf(Call& call, const Tile& tile) {
+    if (countBeforeKeys(call, 1) < 2) return middleOf(tile.window());
+    const Spot spot{tile.window(), {call.integer(1), call.integer(2)}};
+    if (!isInView(spot))
+        tile.fail(L"point " + std::to_wstring(spot.point.x) + L" " + std::to_wstring(spot.point.y) +
+                  L" lies outside of it");
+    return spot;
+}
+
+// (ui_click tile [x y] [keys])
 template <Press press>
-Value pressMiddle(Call& call) {
+Value pressPoint(Call& call) {
     const Tile tile(call, 0);
     tile.mustBeWorkable();
-    pressWith(press, middleOf(tile.window()), heldKeys(call, 1));
+    pressWith(press, pointOf(call, tile), heldKeys(call, 1));
     return Value::none();
 }
 
@@ -202,9 +212,9 @@ Value header(Call& call) {
 }
 
 constexpr UiFunction FUNCTIONS[] = {
-    {u"ui_click", &pressMiddle<&click>, 1, 2},
-    {u"ui_hold", &pressMiddle<&hold>, 1, 2},
-    {u"ui_release", &pressMiddle<&letGo>, 1, 2},
+    {u"ui_click", &pressPoint<&click>, 1, 4},
+    {u"ui_hold", &pressPoint<&hold>, 1, 4},
+    {u"ui_release", &pressPoint<&letGo>, 1, 4},
     {u"ui_dblclick", &pressEntry<&doubleClick>, 1, 4},
     {u"ui_rclick", &pressEntry<&rightClick>, 1, 4},
     {u"ui_pick", &pick, 2, 6},

@@ -1,9 +1,12 @@
 // The exports of HostServices.h. None lets an exception out: the plug-in has a run-time of its own.
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
+#include <filesystem>
 #include <string>
 
 #include "host/services/DisplayScale.h"
+#include "host/services/DrawingColors.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
 #include "src/platform/host/HostServices.h"
@@ -36,6 +39,14 @@ class File {
     HANDLE m_handle;
 };
 
+// Where the file of that name lies; empty where there is none.
+std::filesystem::path fileNamed(const std::wstring& name) {
+    const auto file = host().lisp().files().find(lispText(name));
+    // A Lisp program is found without its extension, too; other files aren't.
+    if (!file || file->filename() != std::filesystem::path(name).filename()) return {};
+    return std::filesystem::absolute(*file).make_preferred();
+}
+
 }  // namespace
 
 void hostAlert(const wchar_t* text) { host().alerts().show(text ? text : L""); }
@@ -65,6 +76,24 @@ HWND hostGetMainFrame() { return host().mainFrame(); }
 double hostMonitorDpiXScale(HMONITOR monitor) { return displayScale(monitor).x; }
 
 double hostMonitorDpiYScale(HMONITOR monitor) { return displayScale(monitor).y; }
+
+int hostFindFile(const wchar_t* name, wchar_t* found, size_t size) {
+    try {
+        const std::wstring path = fileNamed(name ? name : L"").wstring();
+        if (path.empty() || path.size() >= size) return HOST_ERROR;
+        *std::copy(path.begin(), path.end(), found) = L'\0';
+        return HOST_NORMAL;
+    } catch (const std::exception&) {
+        // Such as a name that no file can have.
+        return HOST_ERROR;
+    }
+}
+
+int hostGetCurrentColors(uint32_t* colors, size_t count) {
+    const size_t known = std::min(count, std::size(DRAWING_COLORS));
+    std::fill(std::copy_n(DRAWING_COLORS, known, colors), colors + count, 0);
+    return HOST_NORMAL;
+}
 
 int hostMemFileCreate(const wchar_t* path, const wchar_t* text, bool overwrite, bool unicode) {
     const DWORD disposition = overwrite ? CREATE_ALWAYS : CREATE_NEW;

@@ -1,15 +1,17 @@
 #include "host/runner/DrawingArea.h"
 
+#include "host/services/DrawingColors.h"
+
 #include <initializer_list>
 
 namespace {
 
-constexpr COLORREF SPACE = RGB(33, 40, 48);
+constexpr COLORREF SPACE = DRAWING_BACKGROUND;
 constexpr COLORREF GRID_LINE = RGB(41, 49, 58);
 constexpr COLORREF GRID_MAIN_LINE = RGB(52, 61, 72);
 constexpr COLORREF AXIS_X = RGB(200, 84, 76);
 constexpr COLORREF AXIS_Y = RGB(96, 176, 96);
-constexpr COLORREF LETTER = RGB(190, 198, 206);
+constexpr COLORREF LETTER = DRAWING_FOREGROUND;
 
 // Pixels at 96 dots per inch.
 constexpr int GRID_STEP = 24;

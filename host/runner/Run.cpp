@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <ole2.h>
+
 #include <exception>
 #include <filesystem>
 #include <vector>
@@ -93,6 +95,8 @@ void endHost() {
 }
 
 void startHost(const Options& options) {
+    // For the services of the platform that plug-ins use on this thread, such as that of pictures.
+    OleInitialize(nullptr);
     host().setMainFrame(&makeMainFrame);
     host().setAtExit(&endHost);
     makeTempFolder();

@@ -17,6 +17,8 @@ class TileRecords {
     CCtrlInfo* forId(int id);
     // The record of that key, made if there is none; null for an empty key. "accept" is "ok".
     CCtrlInfo* forKey(std::wstring_view key);
+    // A new record, whether there is one or not.
+    CCtrlInfo* add(CString key, int id);
     // The control of a record with that id; null where none has one.
     CWnd* controlForId(int id) const;
     // The record whose control is that object; null where there is none.
@@ -26,7 +28,5 @@ class TileRecords {
     CCtrlInfo* at(size_t index) const { return m_records[index].get(); }
 
   private:
-    CCtrlInfo* add(CString key, int id);
-
     std::vector<std::unique_ptr<CCtrlInfo>> m_records;
 };

@@ -115,6 +115,11 @@ bool LispCall::isNeitherNilNorZero() {
     return !node || (node->type != HV_NIL && shortOf(*node) != 0);
 }
 
+bool LispCall::isOneOrNoNumber() {
+    const HostValue* node = next();
+    return node && node->type != HV_NIL && shortOf(*node).value_or(1) == 1;
+}
+
 void LispCall::retVoid() {
     setsResult();
     hostRetVoid();

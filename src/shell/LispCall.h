@@ -76,6 +76,8 @@ class LispCall {
     bool isThereAndNotNil();
     // Anything but nil and 0; a missing node too.
     bool isNeitherNilNorZero();
+    // The short 1, T, or any other node that is neither a short nor nil; false past the last one.
+    bool isOneOrNoNumber();
 
     // The call sets no result, which the host takes for no value.
     void retNone() { setsResult(); }

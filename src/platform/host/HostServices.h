@@ -39,6 +39,14 @@ class HostManagedHost {
 // The host's own, which lives as long as the process; null in a host without managed code.
 HOST_API HostManagedHost* hostGetManagedHost();
 
+// Finds a file by its name: as it stands, then in the host's support folders. HOST_NORMAL with the whole path
+// in `found`, which has room for `size` characters with the NUL; HOST_ERROR where there is no such file or
+// its path has no room there.
+HOST_API int hostFindFile(const wchar_t* name, wchar_t* found, size_t size);
+// The colors of the drawing area, 0x00BBGGRR: the background first. `colors` has room for `count`; what the
+// host has no more of is 0. HOST_ERROR where it knows none.
+HOST_API int hostGetCurrentColors(uint32_t* colors, size_t count);
+
 HOST_API int hostMemFileCreate(const wchar_t* path, const wchar_t* text, bool overwrite, bool unicode);
 HOST_API int hostMemFileDelete(const wchar_t* path);
 

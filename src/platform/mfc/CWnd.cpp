@@ -198,6 +198,7 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM w, LPARAM l) {
         case WM_DRAWITEM:
         case WM_HSCROLL:
         case WM_VSCROLL:
+        case WM_CTLCOLORBTN:
         case WM_CTLCOLORSTATIC:
             if (reflect(message, w, l, result)) return result;
             break;

@@ -23,6 +23,7 @@ using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, Delete>;
 
 using UniqueBitmap = drawing::Unique<HBITMAP, drawing::DeleteGdiObject>;
 using UniqueBrush = drawing::Unique<HBRUSH, drawing::DeleteGdiObject>;
+using UniquePen = drawing::Unique<HPEN, drawing::DeleteGdiObject>;
 using UniqueRegion = drawing::Unique<HRGN, drawing::DeleteGdiObject>;
 // Never for an icon that was loaded with LR_SHARED.
 using UniqueIcon = drawing::Unique<HICON, drawing::DeleteIcon>;
@@ -83,20 +84,24 @@ class OwnedDC : public CDC {
     ~OwnedDC() { ::DeleteDC(m_hDC); }
 };
 
+// A device context in memory, to select a bitmap into.
+class CompatibleDC : public CDC {
+  public:
+    explicit CompatibleDC(HDC like) : CDC(::CreateCompatibleDC(like)) {}
+    ~CompatibleDC() { ::DeleteDC(m_hDC); }
+};
+
 // A picture in memory of that size in pixels, of the same kind as `like`: what is drawn on it can be shown in
 // one go, without flicker. Coordinates are those of the picture.
-class MemoryDC : public CDC {
+class MemoryDC : public CompatibleDC {
   public:
     MemoryDC(HDC like, int width, int height)
-        : CDC(::CreateCompatibleDC(like)),
+        : CompatibleDC(like),
           m_bitmap(::CreateCompatibleBitmap(like, width, height)),
           m_former(::SelectObject(m_hDC, m_bitmap.get())),
           m_width(width),
           m_height(height) {}
-    ~MemoryDC() {
-        ::SelectObject(m_hDC, m_former);
-        ::DeleteDC(m_hDC);
-    }
+    ~MemoryDC() { ::SelectObject(m_hDC, m_former); }
 
     void copyTo(HDC target, int x, int y) const {
         ::BitBlt(target, x, y, m_width, m_height, m_hDC, 0, 0, SRCCOPY);

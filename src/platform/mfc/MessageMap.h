@@ -64,6 +64,7 @@ WEX_UNPACK(WM_HSCROLL, static_cast<UINT>(LOWORD(w)), static_cast<UINT>(static_ca
 WEX_UNPACK(WM_VSCROLL, static_cast<UINT>(LOWORD(w)), static_cast<UINT>(static_cast<short>(HIWORD(w))))
 WEX_UNPACK(WM_TIMER, static_cast<UINT_PTR>(w))
 WEX_UNPACK(WM_ERASEBKGND, reinterpret_cast<HDC>(w))
+WEX_UNPACK(WM_CTLCOLORBTN, reinterpret_cast<HDC>(w), windowOf(static_cast<WPARAM>(l)))
 WEX_UNPACK(WM_CTLCOLORSTATIC, reinterpret_cast<HDC>(w), windowOf(static_cast<WPARAM>(l)))
 WEX_UNPACK(WM_DRAWITEM, reinterpret_cast<DRAWITEMSTRUCT*>(l))
 
@@ -155,6 +156,12 @@ MessageEntry onRaw() {
     return {MessageEntry::Kind::message, Message, &message_map::callRaw<Handler>};
 }
 
+// A message whose parameters don't matter: LRESULT or void().
+template <UINT Message, auto Handler>
+MessageEntry onPlain() {
+    return {MessageEntry::Kind::message, Message, &message_map::callPlain<Handler>};
+}
+
 // A command of that control id, whatever its notification: void().
 template <UINT Id, auto Handler>
 MessageEntry onCommand() {
@@ -173,8 +180,8 @@ MessageEntry onReflectedNotify() {
     return {MessageEntry::Kind::reflectedNotify, Code, &message_map::callNotify<Handler>};
 }
 
-// A message that the parent gets on the control's behalf: WM_DRAWITEM, WM_CTLCOLORSTATIC, WM_HSCROLL,
-// WM_VSCROLL.
+// A message that the parent gets on the control's behalf: WM_DRAWITEM, WM_CTLCOLORBTN,
+// WM_CTLCOLORSTATIC, WM_HSCROLL, WM_VSCROLL.
 template <UINT Message, auto Handler>
 MessageEntry onReflectedMessage() {
     return {MessageEntry::Kind::reflectedMessage, Message, &message_map::callUnpacked<Message, Handler>};

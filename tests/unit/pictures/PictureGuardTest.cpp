@@ -1,0 +1,172 @@
+#include "src/pictures/PictureGuard.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+// The bytes of a file, written low byte first.
+class Bytes {
+  public:
+    Bytes& u8(uint8_t value) {
+        m_bytes.push_back(value);
+        return *this;
+    }
+    Bytes& u16(uint32_t value) { return u8(value & 0xFF).u8(value >> 8 & 0xFF); }
+    Bytes& u32(uint32_t value) { return u16(value & 0xFFFF).u16(value >> 16); }
+    Bytes& zeros(size_t count) {
+        m_bytes.resize(m_bytes.size() + count);
+        return *this;
+    }
+    Bytes& add(const Bytes& other) {
+        m_bytes.insert(m_bytes.end(), other.m_bytes.begin(), other.m_bytes.end());
+        return *this;
+    }
+    size_t size() const { return m_bytes.size(); }
+    bool isSound() const { return isSoundPicture(m_bytes); }
+
+  private:
+    std::vector<uint8_t> m_bytes;
+};
+
+// A record of a metafile: `words` are its parameters.
+Bytes wordRecord(uint32_t function, const std::vector<uint32_t>& words) {
+    Bytes record;
+    record.u32(static_cast<uint32_t>(3 + words.size())).u16(function);
+    for (const uint32_t word : words) record.u16(word);
+    return record;
+}
+
+bool plays(const Bytes& records, uint32_t extraWords = 0) {
+    Bytes file;
+    const Bytes end = wordRecord(0, {});
+    file.u32(0x9AC6CDD7).zeros(18);
+    file.u16(1).u16(9).u16(0x300);
+    file.u32(static_cast<uint32_t>(9 + (records.size() + end.size()) / 2) + extraWords);
+    file.u16(2).u32(0).u16(0);
+    return file.add(records).add(end).isSound();
+}
+
+Bytes enhRecord(uint32_t type, const Bytes& data) {
+    Bytes record;
+    record.u32(type).u32(static_cast<uint32_t>(8 + data.size()));
+    return record.add(data);
+}
+
+bool playsEnhanced(const Bytes& records, uint32_t extraBytes = 0) {
+    const Bytes end = enhRecord(14, Bytes().zeros(12));
+    Bytes file;
+    file.u32(1).u32(88).zeros(32).u32(0x464D4520).u32(0x10000);
+    file.u32(static_cast<uint32_t>(88 + records.size() + end.size()) + extraBytes);
+    file.u32(3).u16(3).zeros(30);
+    return file.add(records).add(end).isSound();
+}
+
+TEST(PictureGuard, LeavesWhatItDoesntKnowToThePlatform) {
+    EXPECT_TRUE(Bytes().isSound());
+    EXPECT_TRUE(Bytes().u32(0x12345678).isSound());
+}
+
+TEST(PictureGuard, RefusesSizesThatNoMemoryHolds) {
+    const auto png = [](uint32_t side) {
+        return Bytes()
+            .u32(0x474E5089)
+            .zeros(12)
+            .u8(0)
+            .u8(side >> 16)
+            .u8(side >> 8 & 0xFF)
+            .u8(0)
+            .u8(0)
+            .u8(side >> 16)
+            .u8(side >> 8 & 0xFF)
+            .u8(0);
+    };
+    EXPECT_TRUE(png(4096).isSound());
+    EXPECT_FALSE(png(0x10000).isSound());
+    const auto bmp = [](uint32_t height) {
+        return Bytes().u16(0x4D42).zeros(12).u32(40).u32(0x4000).u32(height);
+    };
+    EXPECT_TRUE(bmp(0x4000).isSound());
+    EXPECT_TRUE(bmp(0xFFFFC000).isSound());  // counted from the top
+    EXPECT_FALSE(bmp(0x4001).isSound());
+    // The frame comes behind a segment of four bytes.
+    const auto jpeg = [](uint8_t high) {
+        return Bytes()
+            .u16(0xD8FF)
+            .u16(0xE0FF)
+            .u8(0)
+            .u8(4)
+            .u16(0)
+            .u16(0xC0FF)
+            .u8(0)
+            .u8(17)
+            .u8(8)
+            .u8(high)
+            .u8(1)
+            .u8(high)
+            .u8(0);
+    };
+    EXPECT_TRUE(jpeg(16).isSound());
+    EXPECT_FALSE(jpeg(255).isSound());
+}
+
+TEST(PictureGuard, RefusesIconsWhoseImagesLieOutsideOfTheFile) {
+    const auto icon = [](uint32_t size, uint32_t offset) {
+        Bytes file;
+        file.u16(0).u16(1).u16(1).zeros(8).u32(size).u32(offset);
+        return file.u32(40).u32(16).u32(32).zeros(100);
+    };
+    EXPECT_TRUE(icon(112, 22).isSound());
+    EXPECT_FALSE(icon(113, 22).isSound());
+    EXPECT_FALSE(icon(112, 0xFFFFFFF0).isSound());
+    EXPECT_FALSE(Bytes().u16(0).u16(1).u16(9).zeros(30).isSound());
+}
+
+TEST(PictureGuard, WalksTheRecordsOfAMetafile) {
+    EXPECT_TRUE(plays({}));
+    EXPECT_FALSE(plays({}, 1));
+    EXPECT_FALSE(plays(Bytes().u32(0x7FFFFFFF).u16(0x0213)));
+    EXPECT_FALSE(plays(Bytes().u32(0).u16(0x0213)));
+    EXPECT_TRUE(plays(wordRecord(0x041B, {9, 9, 0, 0})));
+    EXPECT_FALSE(plays(wordRecord(0x041B, {9, 9, 0})));  // a rectangle of three numbers
+    EXPECT_TRUE(plays(wordRecord(0x0324, {2, 0, 0, 9, 9})));
+    EXPECT_FALSE(plays(wordRecord(0x0324, {3, 0, 0, 9, 9})));
+    EXPECT_TRUE(plays(wordRecord(0x0538, {2, 1, 1, 0, 0, 9, 9})));
+    EXPECT_FALSE(plays(wordRecord(0x0538, {2, 1, 2, 0, 0, 9, 9})));
+    EXPECT_FALSE(plays(wordRecord(0x0538, {0xFFFF})));
+    EXPECT_TRUE(plays(wordRecord(0x012D, {1})));
+    EXPECT_FALSE(plays(wordRecord(0x012D, {2})));  // there are two objects
+    EXPECT_TRUE(plays(wordRecord(0x0521, {3, 'a', 'b', 0, 0})));
+    EXPECT_FALSE(plays(wordRecord(0x0521, {300, 'a', 'b', 0, 0})));
+}
+
+TEST(PictureGuard, LooksIntoTheBitmapsOfAMetafile) {
+    std::vector<uint32_t> stretch(11);
+    for (const uint32_t word : {40, 0, 2, 0, 2, 0, 1, 24}) stretch.push_back(word);
+    stretch.resize(11 + 20);
+    EXPECT_FALSE(plays(wordRecord(0x0F43, stretch)));
+    stretch.resize(11 + 20 + 8);  // two rows of 8 bytes
+    EXPECT_TRUE(plays(wordRecord(0x0F43, stretch)));
+    stretch[11 + 2] = 0xFFFF;
+    EXPECT_FALSE(plays(wordRecord(0x0F43, stretch)));
+}
+
+TEST(PictureGuard, WalksTheRecordsOfAnEnhancedMetafile) {
+    EXPECT_TRUE(playsEnhanced({}));
+    EXPECT_FALSE(playsEnhanced({}, 1));
+    EXPECT_FALSE(playsEnhanced(Bytes().u32(54).u32(0).zeros(8)));
+    EXPECT_TRUE(playsEnhanced(enhRecord(54, Bytes().zeros(8))));
+    EXPECT_FALSE(playsEnhanced(enhRecord(54, Bytes().zeros(4))));
+    const auto polyline = [](uint32_t count) { return enhRecord(4, Bytes().zeros(16).u32(count).zeros(16)); };
+    EXPECT_TRUE(playsEnhanced(polyline(2)));
+    EXPECT_FALSE(playsEnhanced(polyline(3)));
+    EXPECT_FALSE(playsEnhanced(polyline(0xFFFFFFFF)));
+    const auto pen = [](uint32_t object) { return enhRecord(38, Bytes().u32(object).zeros(16)); };
+    EXPECT_TRUE(playsEnhanced(pen(2)));
+    EXPECT_FALSE(playsEnhanced(pen(3)));  // there are three objects, and 0 is the metafile
+    EXPECT_TRUE(playsEnhanced(enhRecord(37, Bytes().u32(0x80000007))));
+    EXPECT_FALSE(playsEnhanced(enhRecord(37, Bytes().u32(0x00000007))));
+}
+
+}  // namespace
