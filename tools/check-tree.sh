@@ -57,7 +57,7 @@ files 'host/*/*' | grep -vE "^($order)" | tell 'this folder of the host has no p
 files '*.h' ':!resources' | xargs grep -L '^#pragma once' | tell 'no #pragma once'
 files '*.h' '*.cpp' '*.lsp' '*.sh' '*.md' '*.rc' '*.cmake' '*CMakeLists.txt' '*.txt' ':!tests/ui/examples' |
     xargs grep -nE "[[:blank:]]\$|"$'\t'"|^(<<<<<<<|>>>>>>>)|\b(TO""DO|FIX""ME)\b" | tell 'blanks at the end, a tab, or something unfinished'
-files '*.png' ':!docs/images' | tell 'a picture that a session left'
+files '*.png' ':!docs/images' ':!examples/pictures' | tell 'a picture that a session left'
 for script in $(files '*.sh' wexhost .ci/run); do
     bash -n "$script" 2>>"$findings"
 done

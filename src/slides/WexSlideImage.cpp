@@ -47,7 +47,7 @@ const MessageMap& WexSlideImage::messageMap() const {
                                     onPlain<WM_MOUSEMOVE, &WexSlideImage::ignore>(),
                                     onPlain<WM_MOUSELEAVE, &WexSlideImage::ignore>(),
                                     onPlain<BM_SETSTATE, &WexSlideImage::ignore>(),
-                                    onRaw<BM_SETSTYLE, &WexSlideImage::onSetStyle>(),
+                                    onPlain<WM_GETDLGCODE, &WexSlideImage::onGetDlgCode>(),
                                     onRaw<BM_SETCHECK, &WexSlideImage::onShownState>(),
                                     onRaw<WM_SETTEXT, &WexSlideImage::onShownState>(),
                                 });
@@ -253,8 +253,9 @@ LRESULT WexSlideImage::onColorOfChild(HDC dc) {
     return DefWindowProc(WM_CTLCOLORMSGBOX, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(m_hWnd));
 }
 
-// The platform makes the button that has the focus the default one, and would redraw it.
-LRESULT WexSlideImage::onSetStyle(WPARAM style, LPARAM) { return DefWindowProc(BM_SETSTYLE, style, FALSE); }
+// No push button: the dialog would make it the default one while it has the focus, and Enter would reach
+// nobody.
+LRESULT WexSlideImage::onGetDlgCode() { return DLGC_BUTTON | DLGC_STATIC; }
 
 // The button draws its new state at once; the tile's own look then has to come back.
 LRESULT WexSlideImage::onShownState(WPARAM, LPARAM) {

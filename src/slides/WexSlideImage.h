@@ -60,7 +60,7 @@ class WexSlideImage : public CButton, public TileControl {
     LRESULT onColor(HDC dc, CWnd* self);
     LRESULT onColorOfChild(HDC dc);
     void ignore() {}
-    LRESULT onSetStyle(WPARAM style, LPARAM redraw);
+    LRESULT onGetDlgCode();
     LRESULT onShownState(WPARAM w, LPARAM l);
 
     void redraw() const;
