@@ -7,7 +7,6 @@
 #include "src/grid/GridFunctions.h"
 #include "src/listctrl/ListCtrlFunctions.h"
 #include "src/listctrl/SelectionFunctions.h"
-#include "src/platform/host/HostServices.h"
 #include "src/records/RecordFunctions.h"
 #include "src/slides/ImageFunctions.h"
 #include "src/tabs/TabFunctions.h"
@@ -19,13 +18,6 @@
 #include "src/tree/TreeFunctions.h"
 
 namespace {
-
-int32_t notBuiltYet() {
-    const WexLispFunctionRow* row = rowOfCode(lispFunctions(), hostGetFunCode());
-    hostPrintf(L"%ls: not built yet\n", row->name);
-    hostRetNil();
-    return RESULT_SET;
-}
 
 constexpr WexLispFunctionRow rows[] = {
     {L"wex_new_dialog", withArguments<newDialog>},
