@@ -26,6 +26,7 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
     wine64 "$built/testbin/source_bench.exe"
     wine64 "$built/bench/grid/grid_bench.exe"
     wine64 "$built/bench/slides/slide_bench.exe"
+    wine64 "$built/bench/graphics/graphics_bench.exe"
     cd "$root/bench/product"
     wine64 "$built/testbin/wexhost.exe" --headless --timeout 300 \
         -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \

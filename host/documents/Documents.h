@@ -8,14 +8,26 @@
 #include <vector>
 
 #include "host/documents/CallFrame.h"
+#include "host/documents/Database.h"
 #include "host/documents/Plugin.h"
 #include "host/lisp/Interpreter.h"
 #include "src/platform/host/HostPlugin.h"
+
+// What the next entity is made with, and in which block.
+struct DrawingPen {
+    std::u16string block = cad::MODEL_SPACE;
+    uint32_t layer = 0;
+    cad::ColorIndex color = cad::BY_LAYER;
+    cad::LinePattern pattern = cad::LinePattern::continuous;
+    float width = 1.0f;
+};
 
 // A drawing that is open, with the names in lower case of the Lisp functions that plug-ins defined in it.
 class HostDocument {
   public:
     std::set<std::pair<std::wstring, const Plugin*>> functions;
+    Database database;
+    DrawingPen pen;
 };
 
 class Documents final : public HostDocManager {
@@ -28,6 +40,8 @@ class Documents final : public HostDocManager {
     // Closes the current document; the one opened before it becomes current. False where none is open.
     bool close();
     size_t count() const { return m_documents.size(); }
+    // Null where none is open.
+    HostDocument* current() const { return m_current; }
 
     // Loads a plug-in, readies it and tells it of the open documents. Where another plug-in has functions of
     // the same names, those of the new one count until it is unloaded. Throws lisp::Error, also where it is

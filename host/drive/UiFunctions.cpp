@@ -207,15 +207,25 @@ Value alerts(Call& call) {
     return list.list();
 }
 
-// (ui_shot "file.png"): gives the path.
-Value shot(Call& call) {
+// The path of the picture that was taken.
+Value photographed(Call& call, HWND window) {
     namespace fs = std::filesystem;
     const fs::path name = call.lisp.files().resolve(call.text(0));
     const fs::path path = name.is_relative() ? fs::path(g_shotsFolder) / name : name;
     std::error_code ignored;
     fs::create_directories(path.parent_path(), ignored);
-    photograph(runningDialog(), path.wstring());
+    photograph(window, path.wstring());
     return text(call, path.wstring());
+}
+
+// (ui_shot "file.png"): of the dialog.
+Value shot(Call& call) { return photographed(call, runningDialog()); }
+
+// (draw_shot "file.png"): of the main frame with the drawing.
+Value drawShot(Call& call) {
+    const HWND frame = host().mainFrame();
+    RedrawWindow(frame, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    return photographed(call, frame);
 }
 
 constexpr UiFunction FUNCTIONS[] = {
@@ -225,7 +235,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_items", &items, 1, 3},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
     {u"ui_box", &box, 0, 0},         {u"ui_cell", &cellLook, 3, 3},   {u"ui_columns", &columns, 1, 1},
     {u"ui_title", &title, 0, 0},     {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},
-    {u"ui_shot", &shot, 1, 1},
+    {u"ui_shot", &shot, 1, 1},       {u"draw_shot", &drawShot, 1, 1},
 };
 
 }  // namespace

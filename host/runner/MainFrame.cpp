@@ -6,7 +6,6 @@
 #include <initializer_list>
 
 #include "host/drive/IdleWatch.h"
-#include "host/runner/DrawingArea.h"
 #include "host/services/DisplayScale.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
@@ -96,6 +95,7 @@ void MainFrame::createChildren() {
         SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font), FALSE);
         return window;
     };
+    m_drawing = std::make_unique<DrawingWindow>(m_window, m_dpi);
     m_output = child(0, L"EDIT", L"", WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL);
     SendMessageW(m_output, EM_SETLIMITTEXT, 0, 0);
     SendMessageW(m_output, EM_SETMARGINS, EC_LEFTMARGIN, scaled(MARGIN));
@@ -110,6 +110,7 @@ void MainFrame::rescale(int dpi, const RECT& place) {
     for (const HWND child : {m_output, m_label, m_commandLine}) {
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(m_font), TRUE);
     }
+    m_drawing->setDpi(dpi);
     SetWindowPos(m_window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     layOut();
@@ -123,6 +124,7 @@ void MainFrame::layOut() {
     const int lineTop = client.bottom - line - margin;
     const int outputTop = lineTop - margin - scaled(OUTPUT_HEIGHT);
     const int left = margin + scaled(LABEL_WIDTH);
+    MoveWindow(m_drawing->window(), 0, 0, client.right, outputTop, TRUE);
     MoveWindow(m_output, 0, outputTop, client.right, lineTop - margin - outputTop, TRUE);
     MoveWindow(m_label, margin, lineTop, left - margin, line, TRUE);
     MoveWindow(m_commandLine, left, lineTop, client.right - margin - left, line, TRUE);
@@ -132,16 +134,7 @@ void MainFrame::layOut() {
 void MainFrame::paint() {
     PAINTSTRUCT paint;
     const HDC dc = BeginPaint(m_window, &paint);
-    RECT area;
-    RECT output;
-    GetClientRect(m_window, &area);
-    GetWindowRect(m_output, &output);
-    MapWindowPoints(nullptr, m_window, reinterpret_cast<POINT*>(&output), 2);
-    RECT commands = area;
-    commands.top = output.bottom;
-    FillRect(dc, &commands, GetSysColorBrush(COLOR_3DFACE));
-    area.bottom = output.top;
-    paintDrawingArea(dc, area, m_dpi);
+    FillRect(dc, &paint.rcPaint, GetSysColorBrush(COLOR_3DFACE));
     EndPaint(m_window, &paint);
 }
 
@@ -227,6 +220,9 @@ LRESULT CALLBACK MainFrame::windowProc(HWND window, UINT message, WPARAM w, LPAR
             if (reinterpret_cast<HWND>(l) != frame->m_output) break;
             SetBkColor(reinterpret_cast<HDC>(w), PAPER);
             return reinterpret_cast<LRESULT>(frame->m_paper);
+        // The command line has the focus and lets go of it.
+        case WM_MOUSEWHEEL:
+            return SendMessageW(frame->m_drawing->window(), message, w, l);
         case WM_ENTERIDLE:
             if (w == MSGF_DIALOGBOX) IdleWatch::loopIsEmpty(reinterpret_cast<HWND>(l));
             return 0;

@@ -3,9 +3,11 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "host/documents/DrawingWindow.h"
 #include "host/runner/CommandHistory.h"
 #include "host/runner/Prompt.h"
 
@@ -39,6 +41,7 @@ class MainFrame {
     int scaled(int pixels) const { return MulDiv(pixels, m_dpi, USER_DEFAULT_SCREEN_DPI); }
 
     HWND m_window = nullptr;
+    std::unique_ptr<DrawingWindow> m_drawing;
     HWND m_output = nullptr;
     HWND m_label = nullptr;
     HWND m_commandLine = nullptr;

@@ -10,6 +10,7 @@
 
 #include "host/documents/CallFrame.h"
 #include "host/documents/Documents.h"
+#include "host/documents/DrawingFunctions.h"
 #include "host/drive/Player.h"
 #include "host/drive/UiFunctions.h"
 #include "host/runner/CheckDialogs.h"
@@ -106,6 +107,7 @@ void startHost(const Options& options) {
     lisp.setOutput([](std::u16string_view text) { host().console().print(wideText(text)); });
     lisp.setFileAccess(filesFor(options));
     defineHostFunctions(lisp);
+    defineDrawingFunctions(lisp);
     defineUiFunctions(lisp, systemPath(options.shotsFolder).wstring());
     defineDataFunctions(lisp);
     documents().open();
