@@ -100,7 +100,9 @@ const Record* WexRecordTable::At(int32_t n) { return rowAt(recordPlace(n)); }
 const Record* WexRecordTable::peek(int32_t n) const {
     if (n < 0 || n >= m_count) return nullptr;
     const Place place = placeOf(n);
-    if (!isPage(place.page) || !m_pages[place.page].rows.empty()) return rowAt(place);
+    // At makes the page behind the last one, and then loads it.
+    if (place.page < 0 || place.page > std::ssize(m_pages)) return nullptr;
+    if (isPage(place.page) && !m_pages[place.page].rows.empty()) return rowAt(place);
     const int64_t at = static_cast<int64_t>(place.page) * PAGE_ROWS + place.offset;
     const std::vector<Record>& read = m_queryRows.rows();
     if (place.offset < 0 || place.offset >= PAGE_ROWS || at >= m_count) return nullptr;

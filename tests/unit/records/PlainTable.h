@@ -15,12 +15,18 @@ struct PlainTable {
     struct OutOfRange {};
     using Found = std::vector<Fields>::iterator;
 
+    int counted;  // by the store
     int count = -1;
     int pagedUpTo = 0;
     std::vector<Page> pages;
     std::vector<Fields> added, modified, deleted, queried;
 
-    PlainTable(const std::vector<Fields>& rows, int counted) : count(counted), queried(rows) {
+    PlainTable(const std::vector<Fields>& rows, int storeCount) : counted(storeCount), queried(rows) {
+        ask();
+    }
+
+    void ask() {
+        count = counted;
         pages.resize(counted > 0 ? (counted + 99) / 100 : 0);
     }
 
@@ -57,7 +63,7 @@ struct PlainTable {
 
     // Null where the place has no row.
     Fields* at(int n, int* pageOfRow = nullptr) {
-        if (count == -1) pages.clear();  // not counted: the store is asked again
+        if (count == -1) ask();
         if (unsigned(n) >= unsigned(std::max(count, 0))) throw OutOfRange();
         const auto [page, offset] = locate(n);
         if (page < 0 || page >= int(pages.size())) return nullptr;
