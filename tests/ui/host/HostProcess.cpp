@@ -28,20 +28,13 @@ std::wstring quoted(const std::wstring& argument) {
 // A file that the started program takes as one of its standard streams.
 class Stream {
   public:
-    explicit Stream(const wchar_t* name)
-        : m_path(fs::temp_directory_path() / (std::to_wstring(GetCurrentProcessId()) + name)) {
+    explicit Stream(const wchar_t* name) : m_file((std::to_wstring(GetCurrentProcessId()) + name).c_str()) {
         SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-        m_handle = CreateFileW(m_path.c_str(), GENERIC_READ | GENERIC_WRITE,
+        m_handle = CreateFileW(m_file.path.c_str(), GENERIC_READ | GENERIC_WRITE,
                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inherited,
                                CREATE_ALWAYS, 0, nullptr);
     }
-    ~Stream() {
-        CloseHandle(m_handle);
-        // Fails while a service that the first program started still has the file; it is written anew next
-        // time.
-        std::error_code ignored;
-        fs::remove(m_path, ignored);
-    }
+    ~Stream() { CloseHandle(m_handle); }
     Stream(const Stream&) = delete;
     Stream& operator=(const Stream&) = delete;
 
@@ -52,12 +45,12 @@ class Stream {
         SetFilePointer(m_handle, 0, nullptr, FILE_BEGIN);
     }
     std::string text() const {
-        std::ifstream file(m_path, std::ios::binary);
+        std::ifstream file(m_file.path, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
   private:
-    fs::path m_path;
+    TempFile m_file;
     HANDLE m_handle;
 };
 
@@ -112,10 +105,10 @@ HostRun evaluate(const std::wstring& expression) {
 }
 
 HostRun runProgram(const std::string& text, const std::vector<std::wstring>& options) {
-    const fs::path path = fs::temp_directory_path() / L"program.lsp";
-    std::ofstream(path, std::ios::binary) << text;
+    const TempFile program(L"program.lsp");
+    std::ofstream(program.path, std::ios::binary) << text;
     std::vector<std::wstring> arguments = {L"--headless", L"--timeout", TIMEOUT_SECONDS};
     arguments.insert(arguments.end(), options.begin(), options.end());
-    arguments.push_back(path.wstring());
+    arguments.push_back(program.path.wstring());
     return runHost(arguments);
 }

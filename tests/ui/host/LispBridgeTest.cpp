@@ -85,7 +85,8 @@ TEST(LispBridge, AFunctionThatWasKeptBeyondItsPluginIsAnError) {
 // Each tells its own messages: the first one has also seen a document open and close.
 TEST(LispBridge, OfTwoPluginsWithTheSameNamesTheNewestIsCalledWhileItIsThere) {
     const std::filesystem::path first = buildFolder() + L"/tests/testplugin.pgx";
-    const std::filesystem::path second = std::filesystem::temp_directory_path() / L"second.pgx";
+    const TempFile copy(L"second.pgx");
+    const std::filesystem::path& second = copy.path;
     std::filesystem::copy_file(first, second, std::filesystem::copy_options::overwrite_existing);
     const auto load = [](const auto& path) {
         return "(host_load_plugin \"" + path.generic_string() + "\") ";

@@ -112,21 +112,22 @@ TEST(Session, FormsThatWereNeverReachedAreTold) {
     EXPECT_EQ(never.errors, "session \"NEVER\": its dialog was never opened\n");
 }
 
-std::string contentOf(const char* path) {
+std::string contentOf(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 TEST(Session, APictureShowsAlsoWhatLiesOffTheScreen) {
+    const TempFile on(L"on.png"), off(L"off.png");
     const HostRun run = runProgram(
         "(ui_session \"everything\" '((t_move 100 100) (ui_shot \"on.png\") (t_move -100 900) (ui_shot "
         "\"off.png\")"
         "(princ (cdr (assoc \"rect\" (ui_look)))) (ui_close))) (t_dialog)",
-        {L"--shots", L"C:\\"});
+        {L"--shots", on.path.parent_path().wstring()});
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(run.output.find("(-100 900 "), 0U) << run.output;
-    EXPECT_FALSE(contentOf("C:\\on.png").empty());
-    EXPECT_TRUE(contentOf("C:\\on.png") == contentOf("C:\\off.png"));
+    EXPECT_FALSE(contentOf(on.path).empty());
+    EXPECT_TRUE(contentOf(on.path) == contentOf(off.path));
 }
 
 }  // namespace
