@@ -25,10 +25,10 @@ int64_t borderNear(const TrackView& view, int pixel, int reach) {
     return at == view.first() ? 0 : int64_t{at} - 1;
 }
 
-// The largest size that is wholly in view behind the header, at 96 dots per inch: what a person makes larger
-// could no longer be made smaller, as its border would never come into view.
-int32_t room(const TrackView& view) {
-    const int pixels = std::max(0, view.length() - view.headerEnd());
+// The largest size with which it is wholly in view, at 96 dots per inch: what a person makes larger could no
+// longer be made smaller, as its border would never come into view.
+int32_t room(const TrackView& view, uint32_t track) {
+    const int pixels = std::max(0, view.length() - (track == 0 ? 0 : view.headerEnd()));
     return std::max(MulDiv(pixels, USER_DEFAULT_SCREEN_DPI, view.scale()), SMALLEST_TRACK);
 }
 
@@ -115,8 +115,8 @@ void CGXGridWnd::dragBorder(POINT at) {
     const TrackView& view = ofColumn ? m_cols : m_rows;
     const uint32_t track = ofColumn ? m_pressed.col : m_pressed.row;
     const int size = (ofColumn ? at.x : at.y) + m_pressedAt - view.start(track);
-    const int32_t unscaled =
-        std::clamp(MulDiv(size, USER_DEFAULT_SCREEN_DPI, m_look.dotsPerInch()), SMALLEST_TRACK, room(view));
+    const int32_t unscaled = std::clamp(MulDiv(size, USER_DEFAULT_SCREEN_DPI, m_look.dotsPerInch()),
+                                        SMALLEST_TRACK, room(view, track));
     if (ofColumn)
         SetColWidth(track, track, unscaled);
     else
@@ -215,7 +215,7 @@ void CGXGridWnd::fitColumn(uint32_t col) {
     measure(0);
     for (uint64_t row = first; row <= last; ++row) measure(static_cast<uint32_t>(row));
     const int unscaled = MulDiv(width, USER_DEFAULT_SCREEN_DPI, m_look.dotsPerInch()) + 1;
-    SetColWidth(col, col, std::clamp(unscaled, SMALLEST_TRACK, std::min(LARGEST_FIT, room(m_cols))));
+    SetColWidth(col, col, std::clamp(unscaled, SMALLEST_TRACK, std::min(LARGEST_FIT, room(m_cols, col))));
 }
 
 void CGXGridWnd::fitRow(uint32_t row) {
@@ -230,5 +230,5 @@ void CGXGridWnd::fitRow(uint32_t row) {
         col = merged.right;
     }
     const int unscaled = MulDiv(height, USER_DEFAULT_SCREEN_DPI, m_look.dotsPerInch()) + 1;
-    SetRowHeight(row, row, std::clamp(unscaled, SMALLEST_TRACK, room(m_rows)));
+    SetRowHeight(row, row, std::clamp(unscaled, SMALLEST_TRACK, room(m_rows, row)));
 }

@@ -145,6 +145,12 @@ TEST_F(GridTest, ColumnsAreSizedByDragAndFitByDoubleClick) {
     grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(fitted.right + 5000));
     grid.SendMessage(WM_LBUTTONUP, 0, at(fitted.right + 5000));
     EXPECT_EQ(look(0, 1).rect.right, grid.GetClientRect().right) << "its border can be taken again";
+    const int header = look(0, 0).rect.right;
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at(header - 1));
+    for (int x = header; x < 400; x += 50) grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(x - 1));
+    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(400 - 1));
+    grid.SendMessage(WM_LBUTTONUP, 0, at(400 - 1));
+    EXPECT_EQ(look(0, 0).rect.right, 400) << "row headers may be wider than what they leave to the cells";
     EXPECT_EQ(grid.takeEvents(), Events()) << "nothing was selected";
 }
 
