@@ -7,7 +7,7 @@ root=$PWD
 logs=$root/build/test-logs
 bin=$root/build/windows/bin
 
-tools/install-packages.sh imagemagick libwmf-bin # these read exported slides
+tools/install-packages.sh imagemagick libwmf-bin postgresql-15 # readers of exported slides, and a database
 . tools/wine-env.sh
 . tools/test-report.sh
 rm -rf "$logs"

@@ -4,7 +4,7 @@
 # or           key  min X  med Y ms  bare min X  med Y ms  ratio min R  med R  n=N    ours and the bare platform's in turns
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-"$root/tools/install-packages.sh" lua5.4 tk8.6 tk-table >&2
+"$root/tools/install-packages.sh" lua5.4 tk8.6 tk-table postgresql-15 >&2
 "$root/tools/build.sh" windows >&2
 . "$root/tools/wine-env.sh"
 # Each call of Wine's server wakes another process. On a virtual machine, waking another processor costs several times
@@ -32,6 +32,7 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
         -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \
         -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" \
         rows.lsp dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp trees.lsp grids.lsp records.lsp
+    "$root/bench/databases.sh"
 } | tr -d '\r' | tee "$rows"
 
 # ratio OURS THEIRS: of the medians
@@ -43,3 +44,7 @@ ratio() {
 ratio lisp.fib27 lua.fib27
 ratio lisp.million_native_calls lua.million_native_calls
 ratio lisp.million_actions_prepared lua.million_actions_prepared
+for row in count read write_back_10000; do
+    ratio sqlite.$row sqlite3.$row
+    ratio postgres.$row psql.$row
+done

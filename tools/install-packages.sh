@@ -8,7 +8,7 @@ packages=(
     g++ libc6-dev g++-mingw-w64-x86-64-posix mingw-w64-tools           # native and Windows compilers
     clang libclang-rt-14-dev clang-format googletest python3           # fuzzing, format, tests
     wine wine64 fonts-wine fonts-liberation xvfb xauth util-linux      # running
-    sqlite3 libsqlite3-dev unixodbc odbc-postgresql postgresql-15      # databases
+    sqlite3 libsqlite3-dev unixodbc odbc-postgresql                    # databases
     "$@"
 )
 # It may have come from elsewhere.

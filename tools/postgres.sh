@@ -4,7 +4,7 @@
 #   stop_postgres [MODE]   fast (by default), or immediate as when its machine went away; start_postgres_again undoes it
 #   remove_postgres        stops it and removes all of it; for the script's trap
 #
-# The server refuses to be root's: it then belongs to nobody.
+# The server refuses to be root's: it then belongs to nobody. Needs the package postgresql-15.
 
 postgres_bin=$(echo /usr/lib/postgresql/*/bin | tr ' ' '\n' | tail -n 1)
 

@@ -1,5 +1,6 @@
 // The store on a file: what the plug-in reads, what programs change, and what fails.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -182,6 +183,24 @@ TEST_F(StoreTest, WhatCantBeOpenedLeavesTheOpenOne) {
     EXPECT_FALSE(database.openFile(lent(text)));
     EXPECT_EQ(words(), L"file is not a database");
     EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), 1);
+}
+
+TEST_F(StoreTest, AReadOnlyDatabaseIsReadAndNotChanged) {
+    ASSERT_TRUE(open(database));
+    run(L"CREATE TABLE t (a)");
+    database.close();
+    fs::permissions(fs::path(file), fs::perms(0444));
+    fs::permissions(folder, fs::perms(0555));
+    // Root may write everywhere: nobody may not.
+    const uid_t before = geteuid();
+    ASSERT_EQ(before == 0 ? seteuid(65534) : 0, 0);
+    ASSERT_TRUE(open(database));
+    EXPECT_EQ(store.GetRowCount(lent(L"[t]")), 0);
+    EXPECT_TRUE(told.empty());
+    EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), -1);
+    EXPECT_EQ(words(), L"attempt to write a readonly database");
+    ASSERT_EQ(seteuid(before), 0);
+    fs::permissions(folder, fs::perms::owner_all);
 }
 
 TEST_F(StoreTest, AFullDatabaseKeepsWhatItHas) {
