@@ -292,6 +292,15 @@ bool isSoundEnhRecord(uint64_t type, const ByteView& record, uint64_t objects) {
     return type >= std::size(LEAST_BYTES) || record.has(RECORD_HEADER, LEAST_BYTES[type]);
 }
 
+// The size in pixels and in millimeters of the device that it was drawn for: without a sensible one all of it
+// would be scaled beyond measure, and drawing it would never end.
+bool hasSoundDevice(const ByteView& file) {
+    constexpr uint64_t MOST = 100000;
+    for (const uint64_t at : {72, 76, 80, 84})
+        if (file.u32(at) == 0 || file.u32(at) > MOST) return false;
+    return true;
+}
+
 }  // namespace
 
 bool isSoundMetafile(const ByteView& file) {
@@ -315,7 +324,7 @@ bool isSoundEnhMetafile(const ByteView& file) {
     constexpr uint64_t HEADER = 88;
     const uint64_t size = file.u32(48);
     const uint64_t objects = file.u16(56);
-    if (size < HEADER || !file.has(0, size)) return false;
+    if (size < HEADER || !file.has(0, size) || !hasSoundDevice(file)) return false;
     const ByteView meta = file.part(0, size);
     for (uint64_t at = 0; meta.has(at, RECORD_HEADER);) {
         const uint64_t type = meta.u32(at);

@@ -4,6 +4,7 @@
 
 #include <span>
 
+#include "src/pictures/FaultGuard.h"
 #include "src/pictures/PictureGuard.h"
 #include "src/pictures/PicturePlace.h"
 
@@ -74,8 +75,13 @@ ComPtr<IPicture> loadPicture(const wchar_t* path) {
     ComPtr<IPicture> picture;
     const Image image = imageOf(path);
     if (!image.stream) return picture;
-    OleLoadPicture(image.stream.get(), static_cast<LONG>(image.size), FALSE, IID_IPicture, picture.outVoid());
-    return picture ? std::move(picture) : decodeByImagingComponent(*image.stream);
+    const bool isDecoded = withoutFault([&] {
+        OleLoadPicture(image.stream.get(), static_cast<LONG>(image.size), FALSE, IID_IPicture,
+                       picture.outVoid());
+    });
+    if (!isDecoded || picture) return picture;
+    withoutFault([&] { picture = decodeByImagingComponent(*image.stream); });
+    return picture;
 }
 
 void drawPicture(IPicture& picture, HDC dc, SIZE area, bool fit) {
@@ -96,7 +102,9 @@ void drawPicture(IPicture& picture, HDC dc, SIZE area, bool fit) {
     SetStretchBltMode(dc, HALFTONE);
     SetBrushOrgEx(dc, 0, 0, nullptr);
     // The source's height is negative: the units of pictures run upwards.
-    picture.Render(dc, place.left, place.top, place.width(), place.height(), 0, height, width, -height,
-                   &bounds);
+    withoutFault([&] {
+        picture.Render(dc, place.left, place.top, place.width(), place.height(), 0, height, width, -height,
+                       &bounds);
+    });
     RestoreDC(dc, saved);
 }

@@ -59,7 +59,7 @@ bool playsEnhanced(const Bytes& records, uint32_t extraBytes = 0) {
     Bytes file;
     file.u32(1).u32(88).zeros(32).u32(0x464D4520).u32(0x10000);
     file.u32(static_cast<uint32_t>(88 + records.size() + end.size()) + extraBytes);
-    file.u32(3).u16(3).zeros(30);
+    file.u32(3).u16(3).zeros(14).u32(1280).u32(1024).u32(320).u32(256);
     return file.add(records).add(end).isSound();
 }
 

@@ -1,0 +1,268 @@
+// Pictures of every kind, whole, cut off and spoilt, drawn into a bitmap.
+#include "src/pictures/Picture.h"
+
+#include <gtest/gtest.h>
+#include <ole2.h>
+#include <olectl.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using Bytes = std::vector<char>;
+
+constexpr COLORREF UNDER = RGB(255, 0, 255);
+constexpr COLORREF WHITE = RGB(255, 255, 255);
+constexpr COLORREF RED = RGB(220, 30, 30);
+constexpr COLORREF GREEN = RGB(30, 160, 60);
+constexpr COLORREF BLUE = RGB(40, 80, 200);
+constexpr COLORREF YELLOW = RGB(250, 210, 40);
+constexpr COLORREF STEEL = RGB(190, 200, 210);
+
+constexpr const wchar_t* NAMES[] = {L"contactor.bmp", L"contactor.tif", L"lamp.png",  L"switch.gif",
+                                    L"panel.jpg",     L"terminal.ico",  L"motor.wmf", L"coil.emf"};
+
+fs::path pictureFile(const wchar_t* name) { return fs::path(L"examples/pictures") / name; }
+
+Bytes bytesOf(const wchar_t* name) {
+    std::ifstream file(pictureFile(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// A file of its own, gone with the object.
+class PictureFile {
+  public:
+    explicit PictureFile(const Bytes& bytes) {
+        std::ofstream(m_path, std::ios::binary)
+            .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    }
+    ~PictureFile() { fs::remove(m_path); }
+    ComPtr<IPicture> load() const { return loadPicture(m_path.c_str()); }
+    const fs::path& path() const { return m_path; }
+
+  private:
+    fs::path m_path = fs::temp_directory_path() / L"a picture of the tests";
+};
+
+// An area of 100 x 100 pixels of one color, and the picture on it.
+class Drawn {
+  public:
+    Drawn(IPicture& picture, bool fit) : m_dc(CreateCompatibleDC(nullptr)) {
+        BITMAPINFO info{};
+        info.bmiHeader = {sizeof info.bmiHeader, SIDE, -SIDE, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        m_bitmap = CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        m_former = SelectObject(m_dc, m_bitmap);
+        const RECT all = {0, 0, SIDE, SIDE};
+        SetBkColor(m_dc, UNDER);
+        ExtTextOutW(m_dc, 0, 0, ETO_OPAQUE, &all, L"", 0, nullptr);
+        drawPicture(picture, m_dc, {SIDE, SIDE}, fit);
+    }
+    ~Drawn() {
+        SelectObject(m_dc, m_former);
+        DeleteObject(m_bitmap);
+        DeleteDC(m_dc);
+    }
+
+    COLORREF at(int x, int y) const { return GetPixel(m_dc, x, y); }
+    // The smallest rectangle outside of which nothing was drawn.
+    RECT bounds() const {
+        RECT found = {SIDE, SIDE, 0, 0};
+        for (LONG y = 0; y < SIDE; ++y) {
+            for (LONG x = 0; x < SIDE; ++x) {
+                if (at(x, y) == UNDER) continue;
+                found = {std::min(found.left, x), std::min(found.top, y), std::max(found.right, x + 1),
+                         std::max(found.bottom, y + 1)};
+            }
+        }
+        return found;
+    }
+
+  private:
+    static constexpr LONG SIDE = 100;
+
+    HDC m_dc;
+    HBITMAP m_bitmap;
+    HGDIOBJ m_former;
+};
+
+// The decoders and the scaling round in their own ways.
+bool isNear(COLORREF a, COLORREF b) {
+    const auto isClose = [](int x, int y) { return std::abs(x - y) <= 6; };
+    return isClose(GetRValue(a), GetRValue(b)) && isClose(GetGValue(a), GetGValue(b)) &&
+           isClose(GetBValue(a), GetBValue(b));
+}
+
+#define EXPECT_COLOR(wanted, got) \
+    EXPECT_TRUE(isNear(wanted, got)) << std::hex << "wanted " << (wanted) << ", got " << (got)
+
+// Metafiles are drawn by the platform's own conversions: an edge may be a pixel off.
+void expectBounds(const RECT& wanted, const RECT& got) {
+    EXPECT_NEAR(wanted.left, got.left, 1);
+    EXPECT_NEAR(wanted.top, got.top, 1);
+    EXPECT_NEAR(wanted.right, got.right, 1);
+    EXPECT_NEAR(wanted.bottom, got.bottom, 1);
+}
+
+class Pictures : public testing::Test {
+  protected:
+    static void SetUpTestSuite() { OleInitialize(nullptr); }
+    static void TearDownTestSuite() { OleUninitialize(); }
+
+    static ComPtr<IPicture> load(const wchar_t* name) { return loadPicture(pictureFile(name).c_str()); }
+};
+
+TEST_F(Pictures, OfEveryKindAreDrawn) {
+    struct Sample {
+        const wchar_t* name;
+        RECT bounds;
+        COLORREF middle;
+    };
+    const Sample samples[] = {
+        {L"contactor.bmp", {18, 10, 82, 90}, WHITE}, {L"contactor.tif", {18, 10, 82, 90}, WHITE},
+        {L"lamp.png", {36, 36, 64, 64}, RED},        {L"panel.jpg", {0, 12, 100, 88}, STEEL},
+        {L"terminal.ico", {35, 35, 65, 65}, GREEN},  {L"motor.wmf", {0, 12, 100, 88}, BLUE},
+        {L"coil.emf", {0, 12, 100, 88}, GREEN},      {L"switch.gif", {26, 34, 74, 66}, WHITE},
+    };
+    for (const Sample& sample : samples) {
+        SCOPED_TRACE(fs::path(sample.name).string());
+        const ComPtr<IPicture> picture = load(sample.name);
+        ASSERT_TRUE(picture);
+        const Drawn drawn(*picture, false);
+        expectBounds(sample.bounds, drawn.bounds());
+        EXPECT_COLOR(sample.middle, drawn.at(50, 50));
+    }
+}
+
+TEST_F(Pictures, FittedOnesFillTheArea) {
+    const ComPtr<IPicture> picture = load(L"contactor.bmp");
+    const Drawn drawn(*picture, true);
+    expectBounds({0, 0, 100, 100}, drawn.bounds());
+    EXPECT_COLOR(STEEL, drawn.at(0, 0));
+    EXPECT_COLOR(WHITE, drawn.at(50, 50));
+    EXPECT_COLOR(YELLOW, drawn.at(15, 15));
+}
+
+TEST_F(Pictures, ShowWhatLiesUnderThemWhereTheyAreTransparent) {
+    for (const wchar_t* name : {L"lamp.png", L"terminal.ico"}) {
+        SCOPED_TRACE(fs::path(name).string());
+        const ComPtr<IPicture> picture = load(name);
+        const Drawn drawn(*picture, true);
+        EXPECT_EQ(UNDER, drawn.at(2, 2));
+        EXPECT_NE(UNDER, drawn.at(50, 50));
+    }
+}
+
+// Between two fields of color a scaled bitmap has colors of both.
+TEST_F(Pictures, AreScaledSmoothly) {
+    const ComPtr<IPicture> picture = load(L"contactor.bmp");
+    const Drawn drawn(*picture, true);
+    int between = 0;
+    for (int y = 0; y < 100; ++y) {
+        const COLORREF color = drawn.at(50, y);
+        if (!isNear(color, STEEL) && !isNear(color, WHITE) && !isNear(color, RGB(120, 120, 120)) &&
+            !isNear(color, YELLOW))
+            ++between;
+    }
+    EXPECT_GT(between, 0);
+}
+
+TEST_F(Pictures, OfTheImagingComponentAreTheSame) {
+    const Bytes bytes = bytesOf(L"lamp.png");
+    ComPtr<IStream> stream;
+    CreateStreamOnHGlobal(nullptr, TRUE, stream.out());
+    stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
+    const ComPtr<IPicture> picture = decodeByImagingComponent(*stream);
+    ASSERT_TRUE(picture);
+    const Drawn drawn(*picture, false);
+    expectBounds({34, 34, 66, 66}, drawn.bounds());
+    EXPECT_COLOR(RED, drawn.at(50, 50));
+    EXPECT_COLOR(RGB(0, 0, 0), drawn.at(34, 34));
+    // Half of the yellow, on black.
+    EXPECT_COLOR(RGB(125, 105, 20), drawn.at(50, 38));
+}
+
+TEST_F(Pictures, ThatNobodyCanReadAreNone) {
+    EXPECT_FALSE(loadPicture(L""));
+    EXPECT_FALSE(loadPicture(L"examples/pictures"));
+    EXPECT_FALSE(loadPicture(L"examples/pictures/nobody.png"));
+    EXPECT_FALSE(PictureFile({}).load());
+    EXPECT_FALSE(PictureFile(Bytes(100000, 'x')).load());
+    // Metafiles without the header that tells their size.
+    const Bytes metafile = bytesOf(L"motor.wmf");
+    EXPECT_FALSE(PictureFile(Bytes(metafile.begin() + 22, metafile.end())).load());
+}
+
+TEST_F(Pictures, ThatSomebodyHasOpenAreNone) {
+    const PictureFile file(bytesOf(L"lamp.png"));
+    EXPECT_TRUE(file.load());
+    const HANDLE open = CreateFileW(file.path().c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                    nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_FALSE(file.load());
+    CloseHandle(open);
+}
+
+void drawIfAny(const Bytes& bytes) {
+    const ComPtr<IPicture> picture = PictureFile(bytes).load();
+    if (!picture) return;
+    const Drawn asItIs(*picture, false);
+    const Drawn fitted(*picture, true);
+}
+
+TEST_F(Pictures, ThatAreCutOffDoNoHarm) {
+    for (const wchar_t* name : NAMES) {
+        const Bytes whole = bytesOf(name);
+        for (size_t eighth = 0; eighth < 8; ++eighth)
+            drawIfAny(
+                Bytes(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(whole.size() * eighth / 8)));
+    }
+}
+
+TEST_F(Pictures, ThatAreSpoiltDoNoHarm) {
+    std::mt19937 random(1);
+    for (const wchar_t* name : NAMES) {
+        SCOPED_TRACE(fs::path(name).string());
+        const Bytes whole = bytesOf(name);
+        // In the header, where sizes and places stand, and anywhere.
+        for (const size_t reach : {std::min<size_t>(whole.size(), 120), whole.size()}) {
+            for (int time = 0; time < 30; ++time) {
+                Bytes spoilt = whole;
+                for (int change = 0; change < 4; ++change)
+                    spoilt[random() % reach] = static_cast<char>(random());
+                drawIfAny(spoilt);
+            }
+        }
+    }
+}
+
+// 6,000 x 4,000 pixels of one bit, black above and white below.
+TEST_F(Pictures, ThatAreHugeAreDrawn) {
+    constexpr uint32_t WIDTH = 6000, HEIGHT = 4000, ROW = WIDTH / 32 * 4 + 4;
+    Bytes bytes = bytesOf(L"contactor.bmp");
+    bytes.resize(54);
+    const auto put = [&](size_t at, uint32_t number) { memcpy(&bytes[at], &number, sizeof number); };
+    put(10, 62);
+    put(18, WIDTH);
+    put(22, HEIGHT);
+    put(26, 1 | 1 << 16);
+    put(34, ROW * HEIGHT);
+    bytes.resize(62);
+    put(58, 0xFFFFFF);
+    bytes.resize(62 + ROW * HEIGHT / 2, '\xFF');
+    bytes.resize(62 + ROW * HEIGHT);
+    const ComPtr<IPicture> picture = PictureFile(bytes).load();
+    ASSERT_TRUE(picture);
+    const Drawn drawn(*picture, false);
+    expectBounds({0, 17, 100, 83}, drawn.bounds());
+    EXPECT_EQ(RGB(0, 0, 0), drawn.at(50, 30));
+    EXPECT_EQ(WHITE, drawn.at(50, 70));
+}
+
+}  // namespace
