@@ -5,9 +5,10 @@ set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 . "$root/tools/wine-env.sh"
 . "$root/tools/postgres.sh"
-work=$(mktemp -d)
-trap 'remove_postgres; rm -rf "$work"; stop_wine' EXIT
 start_wine headless
+work=$(mktemp -d)
+# In the place of the one of start_wine.
+trap 'remove_postgres; rm -rf "$work"; stop_wine' EXIT
 start_postgres
 built=$root/build/windows
 count=${ROWS:-1000000}

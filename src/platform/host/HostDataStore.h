@@ -41,8 +41,8 @@ class HostDataStore {
     // store reports by itself.
     virtual int32_t GetRowCount(HostText bracketedTable) = 0;
     // Adds one record for each row of the result, one text for each column: NULL is empty, a number its
-    // shortest decimal notation, binary data its hexadecimal digits. Adds nothing where the query fails,
-    // which the store reports by itself.
+    // shortest decimal notation, binary data its hexadecimal digits. Where the query fails,
+    // which the store reports by itself, the rows that came before stay.
     virtual void RunQuery(HostText sql, HostRecordArray* records) = 0;
 
   protected:
