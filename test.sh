@@ -7,7 +7,8 @@ root=$PWD
 logs=$root/build/test-logs
 bin=$root/build/windows/bin
 
-tools/install-packages.sh imagemagick libwmf-bin postgresql-15 # readers of exported slides, and a database
+# Readers of exported slides, a database, and a print server that the test that prints starts, and nobody else.
+tools/install-packages.sh imagemagick libwmf-bin postgresql-15 cups cups-client printer-driver-cups-pdf poppler-utils
 . tools/wine-env.sh
 . tools/test-report.sh
 rm -rf "$logs"

@@ -111,8 +111,8 @@
 #define IDS_FALSE                   101
 #define IDS_ALERT_CAPTION           102
 #define IDS_REPORT_TAB_TABLE        103
-#define IDS_REPORT_TAB_PAGE         104
-#define IDS_REPORT_TAB_DRAWING      105
+#define IDS_REPORT_TAB_DRAWING      104
+#define IDS_REPORT_TAB_BLANK        105
 #define IDS_NO_LIST_OPEN            106
 #define IDS_NOT_A_LIST_CONTROL      107
 #define IDS_NO_SUCH_DIALOG          108
@@ -123,6 +123,9 @@
 #define IDS_BUTTON_CAPTION_A        114
 #define IDS_BUTTON_CAPTION_C        116
 #define IDS_BUTTON_CAPTION_D        117
+#define IDS_REPORT_HELP_TITLE       118
+#define IDS_REPORT_HELP             119
+#define IDS_PDF_NOT_SAVED           120
 
 // Pictures of image buttons.
 #define IDI_ARROWS_LEFT             209

@@ -7,6 +7,8 @@
 #include "src/grid/WexGrid.h"
 #include "src/listctrl/ListRows.h"
 #include "src/listctrl/WexListCtrl.h"
+#include "src/platform/base/DialogResources.h"
+#include "src/report/WexReportTab.h"
 #include "src/slides/WexSlideImage.h"
 #include "src/tabs/WexTabCtrl.h"
 #include "src/tiles/ListEntries.h"
@@ -85,7 +87,14 @@ constexpr bool standInOrder() {
 }
 static_assert(standInOrder(), "a family is found by its place: one row for each ControlKind, in its order");
 
+constexpr ExtraControl REPORT_TAB = {
+    .id = REPORT_TAB_ID, .typeWord = L"SysTabControl32", .resizeCode = 63, .make = make<WexReportTab>};
+
 }  // namespace
+
+const ExtraControl* extraControlOf(const CString& dialogName) {
+    return dialogName == REPORT_DIALOG ? &REPORT_TAB : nullptr;
+}
 
 const ControlFamily& familyOf(ControlKind kind) { return families[static_cast<size_t>(kind)]; }
 

@@ -28,7 +28,7 @@ files '*.h' '*.cpp' ':!resources' | xargs -P2 -n20 clang-format --dry-run -Werro
     sed -n 's/^\([^:]*\):[0-9]*:.* error: .*/\1/p' | sort -u | tell 'clang-format would change it'
 
 # What isn't below the families of controls is one.
-families=$(cd src && ls -d */ | grep -vxE '(platform|buttons|pictures|shell|dialog)/' | tr -d /)
+families=$(cd src && ls -d */ | grep -vxE '(platform|buttons|pictures|preview|shell|dialog)/' | tr -d /)
 any_family="src/($(paste -sd'|' <<<"$families"))/"
 may_not_include store '(src|host)/' 'src/platform/(host|base)/' 'the store knows the plug-in by its interface only'
 may_not_include host 'store/' 'store/DataAccess.h' 'the host knows the store by its interface only'
@@ -40,6 +40,7 @@ may_not_include src/platform/base 'src/platform/(mfc|host)/' '-' 'the base types
 may_not_include src/platform/mfc 'src/platform/host/' '-' 'the class library knows no host'
 may_not_include src/buttons 'src/' 'src/(platform|buttons)/' 'the drawing of buttons knows no dialog'
 may_not_include src/pictures 'src/' 'src/(platform|pictures)/' 'the drawing of pictures knows no dialog'
+may_not_include src/preview 'src/' 'src/(platform|preview)/' 'the drawing preview knows no dialog'
 may_not_include src/shell "$any_family" '-' 'the shell is below the control families'
 may_not_include src/dialog "$any_family" '-' 'control families meet the dialog by virtuals'
 for family in $families; do

@@ -91,6 +91,13 @@ void addGrid(Pairs& look, lisp::Interpreter& lisp, const GridWindow& grid) {
     look.add(u"first", placeList(lisp, table.first));
 }
 
+void addScrollBar(Pairs& look, lisp::Interpreter& lisp, HWND bar) {
+    int first = 0, last = 0;
+    GetScrollRange(bar, SB_CTL, &first, &last);
+    look.add(u"position", number(GetScrollPos(bar, SB_CTL)));
+    look.add(u"range", lisp.list({number(first), number(last)}));
+}
+
 }  // namespace
 
 lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
@@ -107,6 +114,7 @@ lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
     if (const auto items = itemsOf(window); items && items->tree())
         addTree(look, lisp, *items, *items->tree());
     if (const auto grid = gridOf(window)) addGrid(look, lisp, *grid);
+    if (lstrcmpiW(classOf(window).c_str(), WC_SCROLLBARW) == 0) addScrollBar(look, lisp, window);
     return look.list();
 }
 

@@ -5,6 +5,18 @@ namespace {
 // The id of a message box's text.
 constexpr int TEXT_ID = 0xFFFF;
 
+// The platform's cmb13 and edt1.
+constexpr int FILE_NAME_COMBO = 0x47C, FILE_NAME_EDIT = 0x480;
+
+struct NamedButton {
+    std::wstring_view name;
+    int id;
+};
+
+constexpr NamedButton NAMED_BUTTONS[] = {{L"OK", IDOK},        {L"CANCEL", IDCANCEL}, {L"YES", IDYES},
+                                         {L"NO", IDNO},        {L"RETRY", IDRETRY},   {L"ABORT", IDABORT},
+                                         {L"IGNORE", IDIGNORE}};
+
 bool hasClass(HWND window, const wchar_t* name) {
     wchar_t found[64] = {};
     GetClassNameW(window, found, ARRAYSIZE(found));
@@ -62,12 +74,22 @@ BoxLook boxLook(HWND box) {
     return {textOf(box), iconOf(box), owner ? textOf(owner) : std::wstring()};
 }
 
-void answerBox(HWND box) {
-    HWND button = GetDlgItem(box, IDOK);
+int boxButton(std::wstring_view name) {
+    for (const NamedButton& button : NAMED_BUTTONS)
+        if (button.name == name) return button.id;
+    return 0;
+}
+
+void answerBox(HWND box, const BoxAnswer& answer) {
+    // A dialog for files has a combo box for the name, or an edit box.
+    for (const int id : {FILE_NAME_COMBO, FILE_NAME_EDIT})
+        if (const HWND name = GetDlgItem(box, id); name && !answer.text.empty())
+            SetWindowTextW(name, answer.text.c_str());
+    HWND button = GetDlgItem(box, answer.button);
     if (!isShownButton(button)) {
         button = GetWindow(box, GW_CHILD);
         while (button && !isShownButton(button)) button = GetWindow(button, GW_HWNDNEXT);
     }
-    const int id = button ? GetDlgCtrlID(button) : IDOK;
+    const int id = button ? GetDlgCtrlID(button) : answer.button;
     PostMessageW(box, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
 }

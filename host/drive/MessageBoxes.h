@@ -24,9 +24,18 @@ struct BoxLook {
 };
 BoxLook boxLook(HWND box);
 
-// Has the box answered with OK, or with its first button (such as Yes) where it has no OK, as soon as its
-// loop runs.
-void answerBox(HWND box);
+// What a person does with a box.
+struct BoxAnswer {
+    int button = IDOK;
+    // Typed into the box for a file's name; nothing where it is empty.
+    std::wstring text;
+};
+
+// The id of a button by its name in capitals, such as "CANCEL"; 0 for another name.
+int boxButton(std::wstring_view name);
+
+// Has the box answered as soon as its loop runs; where it lacks the button, with its first one (such as Yes).
+void answerBox(HWND box, const BoxAnswer& answer);
 
 // The window's text.
 std::wstring textOf(HWND window);

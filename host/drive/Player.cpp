@@ -154,7 +154,12 @@ void Player::answer(HWND box) {
     m_answered.push_back(box);
     host().alerts().record(boxText(box));
     m_lastBox = boxLook(box);
-    answerBox(box);
+    BoxAnswer answer;
+    if (!m_answers.empty()) {
+        answer = std::move(m_answers.front());
+        m_answers.pop_front();
+    }
+    answerBox(box, answer);
 }
 
 void Player::windowGone(HWND window) {

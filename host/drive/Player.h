@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
@@ -33,6 +34,8 @@ class Player : public DialogObserver {
     // What the form at hand has left to do before the next one.
     Steps& steps() { return m_steps; }
 
+    // Has the next box answered so that nobody has answered yet; those of several calls come in their order.
+    void answerNextBox(BoxAnswer answer) { m_answers.push_back(std::move(answer)); }
     // How the last message box looked that was answered.
     const BoxLook& lastBox() const { return m_lastBox; }
 
@@ -67,6 +70,7 @@ class Player : public DialogObserver {
     std::vector<Run> m_runs;
     std::vector<HWND> m_evaluating;
     std::vector<HWND> m_answered;
+    std::deque<BoxAnswer> m_answers;
     BoxLook m_lastBox;
     Steps m_steps;
     std::optional<IdleWatch> m_watch;

@@ -15,16 +15,24 @@ HWND runningDialog() {
     return dialog;
 }
 
-Tile::Tile(lisp::Call& call, size_t index) : m_dialog(runningDialog()) {
-    const lisp::Value address = call[index];
-    if (!address.isString() && !address.isInteger()) call.expected(index, "a key or a control id");
-    const bool byKey = address.isString();
-    const std::wstring key = byKey ? wideText(address.asString()) : L"";
-    m_name = byKey ? L"\"" + key + L"\"" : std::to_wstring(address.asInteger());
-    // By key the plug-in knows; it answers for its newest dialog, which is this one.
-    m_window =
-        byKey ? documents().findWindow(nullptr, key.c_str(), -1) : GetDlgItem(m_dialog, address.asInteger());
+Tile::Tile(lisp::Call& call, size_t index) : m_dialog(runningDialog()), m_window(m_dialog) {
+    if (!call[index].isCons()) {
+        m_window = find(call, index, call[index], m_dialog);
+    } else {
+        for (const lisp::Value part : lisp::Elements(call[index]))
+            if (m_window) m_window = find(call, index, part, m_window);
+    }
     if (!m_window) fail(L"there is no such tile");
+}
+
+HWND Tile::find(lisp::Call& call, size_t index, lisp::Value address, HWND parent) {
+    const bool byKey = address.isString() && parent == m_dialog;
+    if (!byKey && !address.isInteger()) call.expected(index, "a key or a control id");
+    const std::wstring key = byKey ? wideText(address.asString()) : L"";
+    m_name +=
+        (m_name.empty() ? L"" : L" ") + (byKey ? L"\"" + key + L"\"" : std::to_wstring(address.asInteger()));
+    // By key the plug-in knows; it answers for its newest dialog, which is this one.
+    return byKey ? documents().findWindow(nullptr, key.c_str(), -1) : GetDlgItem(parent, address.asInteger());
 }
 
 void Tile::mustBeWorkable() const {

@@ -7,7 +7,8 @@
 
 #include "host/lisp/Call.h"
 
-// A tile of the innermost running dialog, by key (a string) or control id (an integer).
+// A tile of the innermost running dialog, by key (a string) or control id (an integer); or a window within
+// one, by a list of the tile and the ids that lead to it.
 class Tile {
   public:
     // Argument `index` of the call. Throws lisp::Error where no dialog runs or the dialog has no such tile.
@@ -21,6 +22,9 @@ class Tile {
     [[noreturn]] void fail(const std::wstring& why) const;
 
   private:
+    // The window of that key, or of that id within `parent`; null where there is none.
+    HWND find(lisp::Call& call, size_t index, lisp::Value address, HWND parent);
+
     HWND m_dialog;
     HWND m_window;
     std::wstring m_name;

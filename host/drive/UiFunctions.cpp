@@ -12,6 +12,7 @@
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/Mouse.h"
 #include "host/drive/Player.h"
+#include "host/drive/ScrollFunctions.h"
 #include "host/drive/Shot.h"
 #include "host/drive/Sizing.h"
 #include "host/drive/Tile.h"
@@ -167,6 +168,14 @@ Value pixel(Call& call) { return pixelOf(Tile(call, 0), call.integer(1), call.in
 // (ui_box)
 Value box(Call& call) { return lookOf(call.lisp, player().lastBox()); }
 
+// (ui_answer "BUTTON" ["text"])
+Value answer(Call& call) {
+    const int button = boxButton(wideArgument(call, 0));
+    if (!button) call.expected(0, "OK, CANCEL, YES, NO, RETRY, ABORT or IGNORE");
+    player().answerNextBox({button, call.has(1) ? wideArgument(call, 1) : std::wstring()});
+    return Value::none();
+}
+
 // (ui_columns tile): title, width and direction of each.
 Value columns(Call& call) {
     lisp::ListBuilder list(call.lisp);
@@ -235,7 +244,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_items", &items, 1, 3},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
     {u"ui_box", &box, 0, 0},         {u"ui_cell", &cellLook, 3, 3},   {u"ui_columns", &columns, 1, 1},
     {u"ui_title", &title, 0, 0},     {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},
-    {u"ui_shot", &shot, 1, 1},       {u"draw_shot", &drawShot, 1, 1},
+    {u"ui_shot", &shot, 1, 1},       {u"draw_shot", &drawShot, 1, 1}, {u"ui_answer", &answer, 1, 2},
 };
 
 }  // namespace
@@ -243,7 +252,7 @@ constexpr UiFunction FUNCTIONS[] = {
 void defineUiFunctions(lisp::Interpreter& lisp, const std::wstring& shotsFolder) {
     g_shotsFolder = shotsFolder;
     for (const std::span<const UiFunction> table :
-         {std::span<const UiFunction>(FUNCTIONS), clickFunctions()}) {
+         {std::span<const UiFunction>(FUNCTIONS), clickFunctions(), scrollFunctions()}) {
         for (const UiFunction& function : table)
             lisp.defineNative(function.name, function.function, nullptr, function.minimum, function.maximum);
     }

@@ -89,6 +89,7 @@ void checkKeys(const KeyListText& list, const DialogTemplate& dialog, Words& fou
 std::optional<std::wstring> problemOfId(const KeyListText& list, int id) {
     if (id == UNKNOWN_KEY_ID || id == UNKNOWN_KEY_ID_16)
         return L" is what every unknown key would reach: give it an id of its own";
+    if (isReportControl(toLower(list.name), id)) return std::nullopt;
     if (!isWalkedId(id)) return L" is out of reach: use the ids 1, 2 and 110 to 399";
     if (id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID) return std::nullopt;
     const size_t position = static_cast<size_t>(id) - FIRST_KEY_CONTROL_ID;

@@ -16,6 +16,7 @@ void enable(const CWnd& control, bool enabled) {
 bool WexDialog::OnInitDialog() {
     CSnapDlg::OnInitDialog();
     if (!m_title.IsEmpty()) SetWindowText(m_title);
+    addExtraControl();
     m_initialClientRect = GetClientRect();
     callLispAction(m_onInitAction);
     applyRecords();

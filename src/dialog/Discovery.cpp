@@ -61,6 +61,22 @@ void WexDialog::DoDataExchange(CDataExchange& exchange) {
     m_discovered = true;
 }
 
+// Where the template lacks the control, its record waits in vain.
+void WexDialog::addExtraControl() {
+    const ExtraControl* extra = extraControlOf(m_name);
+    if (!extra) return;
+    CCtrlInfo& tile = *tileForId(extra->id);
+    tile.m_controlType = extra->typeWord;
+    tile.m_resizeCode = extra->resizeCode;
+    const HWND control = ::GetDlgItem(m_hWnd, extra->id);
+    if (!control) return;
+    TileControl& wrapper = *m_controls.emplace_back(extra->make());
+    wrapper.attach(*this, control);
+    tile.m_control = &wrapper.wnd();
+    wrapper.discovered(*this, tile);
+    computeAnchors(wrapper.wnd(), tile);
+}
+
 void WexDialog::discover(int id, HWND control) {
     // A Cancel button without an action stays the plain one that the library handles.
     if (id == CANCEL_CONTROL_ID && tileForId(id)->m_action.IsEmpty()) return;

@@ -33,6 +33,9 @@ class TileControl {
     // stands on its page. False where no page was turned.
     virtual bool turnPage(int /*step*/, HWND /*focus*/) { return false; }
 
+    // A button of the dialog that no tile can be was pressed.
+    virtual void pressed(int /*id*/) {}
+
     // Whether Alt and that letter (lower case) press the control, beside what the platform finds in captions.
     virtual bool hasMnemonic(wchar_t /*letter*/) const { return false; }
 
@@ -74,3 +77,15 @@ struct ControlFamily {
 const ControlFamily& familyOf(ControlKind kind);
 // The family of that type word, or of that window class; null where there is none.
 const ControlFamily* familyOfType(const CString& typeWord);
+
+// A control that one dialog of the product has besides those of its key list. Discovery doesn't look at its
+// id.
+struct ExtraControl {
+    int id;
+    const wchar_t* typeWord;
+    int resizeCode;
+    std::unique_ptr<TileControl> (*make)();
+};
+
+// The one of that dialog, in the module's ControlFamilies.cpp; null where it has none.
+const ExtraControl* extraControlOf(const CString& dialogName);

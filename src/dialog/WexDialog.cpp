@@ -4,6 +4,7 @@
 
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/Pressable.h"
+#include "src/platform/base/DialogResources.h"
 
 IMPLEMENT_DYNAMIC(WexDialog, CSnapDlg)
 
@@ -121,6 +122,16 @@ bool WexDialog::pressByMnemonic(const MSG& message) {
 
 // All ways to cancel end like OK, and the status then tells that no action ended the dialog.
 void WexDialog::OnCancel() { OnOK(); }
+
+// Buttons with the ids that no key can have belong to the dialog's extra control.
+bool WexDialog::OnCommand(UINT id, UINT notification) {
+    if (CSnapDlg::OnCommand(id, notification)) return true;
+    const ExtraControl* extra = extraControlOf(m_name);
+    if (!extra || isWalkedId(static_cast<int>(id))) return false;
+    auto* control = dynamic_cast<TileControl*>(CWnd::FromHandlePermanent(::GetDlgItem(m_hWnd, extra->id)));
+    if (control) control->pressed(static_cast<int>(id));
+    return control != nullptr;
+}
 
 void WexDialog::onPaint() {
     // The control that had the focus may run Lisp when it loses it, so the state is settled first.

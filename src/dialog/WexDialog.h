@@ -71,6 +71,7 @@ class WexDialog : public CSnapDlg {
     void DoDataExchange(CDataExchange& exchange) override;
     bool OnInitDialog() override;
     void OnCancel() override;
+    bool OnCommand(UINT id, UINT notification) override;
     void runEnded() override;
 
   private:
@@ -85,6 +86,7 @@ class WexDialog : public CSnapDlg {
     bool turnPage(int step);
     bool pressByMnemonic(const MSG& message);
     void discover(int id, HWND control);
+    void addExtraControl();
     void applyRecords();
     void computeAnchors(const CWnd& control, CCtrlInfo& tile);
     void placeAtStart();

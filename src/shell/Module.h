@@ -41,6 +41,9 @@ enum TextId : UINT {
     TEXT_TRUE = 100,
     TEXT_FALSE = 101,
     TEXT_ALERT_CAPTION = 102,
+    TEXT_REPORT_TAB = 103,
+    TEXT_DRAWING_TAB = 104,
+    TEXT_EMPTY_TAB = 105,
     TEXT_NO_LIST_OPEN = 106,
     TEXT_NOT_A_LIST_CONTROL = 107,
     TEXT_NO_SUCH_DIALOG = 108,
@@ -51,6 +54,9 @@ enum TextId : UINT {
     TEXT_BUTTON_CAPTION_A = 114,
     TEXT_BUTTON_CAPTION_C = 116,
     TEXT_BUTTON_CAPTION_D = 117,
+    TEXT_REPORT_HELP_TITLE = 118,
+    TEXT_REPORT_HELP = 119,
+    TEXT_PDF_NOT_SAVED = 120,
 };
 
 // A text of the resource module itself, and one through the current resource handle, as inside a

@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 sessions() (
     start_wine "$1"
     wine64 build/windows/testbin/wexhost.exe --headless --timeout 300 -e "(setq scale $2)" tests/support/check.lsp \
-        tests/ui/list_control.lsp tests/ui/tabs.lsp tests/ui/image_buttons.lsp tests/ui/rows.lsp -e '(report-tests)'
+        tests/ui/list_control.lsp tests/ui/tabs.lsp tests/ui/image_buttons.lsp tests/ui/rows.lsp tests/ui/report.lsp -e '(report-tests)'
 )
 
 sessions headless-classic 1.0

@@ -22,6 +22,12 @@ constexpr int FIRST_WALKED_ID = 109;
 constexpr int LAST_WALKED_ID = 399;
 bool isWalkedId(int id);
 
+// The dialog of reports has a tab control and buttons beside those of its keys, with ids of their own.
+constexpr std::wstring_view REPORT_DIALOG = L"report_generator";
+constexpr int REPORT_TAB_ID = 100;
+// Whether the id is one of these in the dialog of that name, which is in lower case.
+bool isReportControl(std::wstring_view dialog, int id);
+
 // The style of a group box that becomes a frame: child, visible, clip-siblings and group box, and no further
 // bit.
 constexpr uint32_t FRAME_STYLE = 0x54000007;

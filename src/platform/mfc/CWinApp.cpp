@@ -6,13 +6,21 @@ namespace {
 
 HWND (*g_findMainWindow)() = nullptr;
 
-std::wstring keyOf(const wchar_t* section) { return std::wstring(L"Software\\WexDialogs\\") + section; }
+constexpr wchar_t APPLICATION[] = L"WexDialogs";
+
+std::wstring keyOf(const wchar_t* section) {
+    return std::wstring(L"Software\\") + APPLICATION + L'\\' + section;
+}
 
 }  // namespace
 
 void AfxSetMainWindow(HWND (*find)()) { g_findMainWindow = find; }
 
 HWND AfxGetMainWindow() { return g_findMainWindow ? g_findMainWindow() : nullptr; }
+
+void AfxMessageBox(const wchar_t* text) {
+    MessageBoxW(GetActiveWindow(), text, APPLICATION, MB_OK | MB_ICONEXCLAMATION);
+}
 
 int CWinApp::GetProfileInt(const wchar_t* section, const wchar_t* entry, int missing) {
     DWORD value = 0;

@@ -8,6 +8,9 @@
 void AfxSetMainWindow(HWND (*find)());
 HWND AfxGetMainWindow();
 
+// Shows the text with an exclamation mark and OK under the application's name, before its active window.
+void AfxMessageBox(const wchar_t* text);
+
 // The profile lies in the registry, under HKEY_CURRENT_USER\Software\WexDialogs.
 class CWinApp {
   public:

@@ -50,5 +50,16 @@ class CScrollBar : public CWnd {
     void GetScrollRange(int& minimum, int& maximum) const {
         ::GetScrollRange(m_hWnd, SB_CTL, &minimum, &maximum);
     }
+    void SetScrollRange(int minimum, int maximum) const {
+        ::SetScrollRange(m_hWnd, SB_CTL, minimum, maximum, TRUE);
+    }
+    int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
+    // The platform keeps it in the range.
     void SetScrollPos(int position) const { ::SetScrollPos(m_hWnd, SB_CTL, position, TRUE); }
+    // The largest position that a bar without a page size can have.
+    int GetScrollLimit() const {
+        int minimum = 0, maximum = 0;
+        GetScrollRange(minimum, maximum);
+        return maximum;
+    }
 };

@@ -23,6 +23,7 @@ using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, Delete>;
 
 using UniqueBitmap = drawing::Unique<HBITMAP, drawing::DeleteGdiObject>;
 using UniqueBrush = drawing::Unique<HBRUSH, drawing::DeleteGdiObject>;
+using UniqueFont = drawing::Unique<HFONT, drawing::DeleteGdiObject>;
 using UniquePen = drawing::Unique<HPEN, drawing::DeleteGdiObject>;
 using UniqueRegion = drawing::Unique<HRGN, drawing::DeleteGdiObject>;
 // Never for an icon that was loaded with LR_SHARED.

@@ -1,0 +1,170 @@
+; The dialog of reports: its pages, its scroll bar, its layout, and the paper that it shows. Run at other scales too: what is in
+; pixels here is so at all of them.
+
+(if (not (boundp 'scale)) (setq scale 1.0))
+(setq tab 100 preview '(100 101) bar '(100 102) drawing '(100 103))
+(setq page-buttons '(3 4 5 6 1 7))
+
+; The size is kept for the next dialog, and the first paint's decides how far the bar goes.
+(defun in-report (session)
+  (run-dialog "Report_Generator" nil (append session '((ui_size 640 560) (ui_click "OK")))))
+(defun rect (tile) (look tile "rect"))
+(defun left (tile) (car (rect tile)))
+(defun top (tile) (cadr (rect tile)))
+(defun width (tile) (caddr (rect tile)))
+(defun height (tile) (cadddr (rect tile)))
+(defun position () (look bar "position"))
+(defun shown () (mapcar '(lambda (part) (look part "visible")) (list preview bar drawing)))
+
+(test "Three tabs: the report with its bar, the drawing, and an empty page"
+  '((in-report
+      '((want '("Report" "Drawing" "Blank") (ui_items tab))
+        (want '(T T nil) (shown))
+        (ui_pick tab 1)
+        (want '(nil nil T) (shown))
+        (ui_pick tab "Blank")
+        (want '(nil nil nil) (shown))
+        (ui_pick tab 0)
+        (want '(T T nil) (shown))
+        (ui_key "CTRL+TAB" tab)
+        (want '((1) (nil nil T)) (list (look tab "selected") (shown)))
+        (ui_key "CTRL+SHIFT+TAB")
+        (want '((0) (T T nil)) (list (look tab "selected") (shown)))))))
+
+(test "No other dialog has them, also with a control of that id"
+  '((in-dialog "ODD_REPORT" nil
+      '((want nil (ui_items tab))
+        (ui_click 3)
+        (want nil (ui_alerts))))))
+
+; The client area of a tab control is its window.
+(defun want-layout (/ x y w h b)
+  (setq x (left tab) y (top tab) w (width tab) h (height tab) b (- (top preview) y))
+  (want (list (+ x 4) (+ y b) (- w 31) (- h b 4)) (rect preview))
+  (want (list (+ x 4) (+ y b) (- w 10) (- h b 6)) (rect drawing))
+  (want (list (+ x w -26) (+ y b) 17 (- h 5 b)) (rect bar))
+  (setq at -1)
+  (foreach id page-buttons
+    (want (list id (+ x (/ (- w 492) 2) (* 82 (setq at (1+ at)))) (+ h 18) 75 23) (cons id (rect id)))))
+
+(test "The parts fill the tab control, and the buttons stand in a row below, from the first paint on and in every size"
+  '((in-report
+      '((want-layout)
+        (ui_size 700 800)
+        (want-layout)
+        (setq wide (width preview))
+        (ui_size 560 500)
+        (want-layout)
+        (want 140 (- wide (width preview)))
+        (ui_pick tab 1)
+        (ui_size 700 600)
+        (ui_pick tab 0)
+        (want-layout)))))
+
+; Colors of the preview at x y within its edge.
+(setq black 0 white 16777215)
+(defun color (x y) (ui_pixel preview (1+ x) (1+ y)))
+(defun ground () (color 3 3))
+
+; The client area is 2 pixels narrower and lower than the window, by its edge.
+(defun page-bottom () (+ 4 (/ (* 22 (- (width preview) 2)) 15)))
+(defun page-right () (- (width preview) 2 19))
+
+(test "Paper on the ground, with a shadow to the right and below, which scroll; the range stays when the size changes"
+  '((in-report
+      '((ui_size 600 540)
+        (want (list white black black) (list (color 20 20) (color 8 20) (color 20 4)))
+        (want T (/= (ground) white))
+        (setq right (page-right))
+        (want (list black (ground) black) (list (color (1- right) 20) (color (+ right 3) 8) (color (+ right 3) 30)))
+        (setq limits (look bar "range"))
+        (want 0 (car limits))
+        (ui_scroll bar "LINEDOWN")
+        (want (list 6 white white) (list (position) (color 20 4) (color 20 0)))
+        (ui_click 6)
+        (want (1- (cadr limits)) (position))
+        (setq bottom (- (page-bottom) (* 10 (position))))
+        (want (list white black) (list (color 20 (- bottom 2)) (color 20 (+ bottom 5))))
+        (want (ground) (color 10 (+ bottom 5)))
+        (want limits (progn (ui_size 900 700) (look bar "range")))))))
+
+(test "The bar's arrows move it by 6, its shaft by 10, its thumb where it is pulled; keys and the wheel above the bar do the same"
+  '((in-report
+      '((ui_click 5)
+        (ui_scroll bar "PAGEDOWN") (want 10 (position))
+        (ui_scroll bar "LINEUP") (want 4 (position))
+        (ui_scroll bar "LINEUP") (want 0 (position))
+        (ui_scroll bar "LINEDOWN") (want 6 (position))
+        (ui_scroll bar "PAGEUP") (want 0 (position))
+        (ui_scroll bar 20) (want T (<= 15 (position) 25))
+        (ui_click 5) (want 0 (position))
+        (ui_key "DOWN" tab) (want 6 (position))
+        (ui_key "PAGEDOWN") (want 16 (position))
+        (ui_key "UP") (want 10 (position))
+        (ui_key "PAGEUP") (want 0 (position))
+        (ui_key "CTRL+END") (want (1- (cadr (look bar "range"))) (position))
+        (ui_key "DOWN") (want (1- (cadr (look bar "range"))) (position))
+        (ui_key "PAGEDOWN") (want (cadr (look bar "range")) (position))
+        (ui_key "CTRL+HOME") (want 0 (position))
+        (ui_wheel bar -2) (want 12 (position))
+        (ui_wheel bar 1) (want 6 (position))
+        (ui_wheel preview -1) (want 6 (position))
+        (ui_wheel tab -1) (want 6 (position))
+        (ui_pick tab 1)
+        (ui_key "DOWN" tab)
+        (ui_pick tab 0) (want 6 (position))))))
+
+; How many points of a line down the page are black: lines and letters.
+(defun blacks (x top bottom) (length (remove-if-not '(lambda (y) (= black (color x y))) (range top bottom))))
+
+(test "The table has frames, 18 rows and 5 columns, and its first row is lower than the others"
+  '((in-report
+      '((ui_size 640 700)
+        (setq dpi (fix (* 96 scale)) x (+ 8 (/ dpi 2)) y (+ 4 (/ dpi 2)) page (- (page-right) 8))
+        (want black (color x y))
+        (want (list black white) (list (color (+ x 50) y) (color (+ x 50) (- y 2))))
+        (setq columns 0)
+        (setq end x)
+        (foreach part '(0.12 0.12 0.12 0.12 0.25)
+          (setq end (fix (+ end (* part page))))
+          (want (list part black) (list part (color end (+ y 3)))))
+        (want white (color (+ end 3) (+ y 3)))
+        ; beside the left edge, before the letters begin
+        (setq lines (remove-if-not '(lambda (at) (= black (color (+ x 1) at))) (range y (- (height preview) 4))))
+        (want T (< (- (cadr lines) (car lines)) (- (caddr lines) (cadr lines))))
+        (want (- (caddr lines) (cadr lines)) (- (cadddr lines) (caddr lines)))))))
+
+(test "A preview higher than its sheet shows ground below it, and its bar has nothing to scroll"
+  '((in-report
+      '((ui_size 300 1000)
+        (want (ground) (color 100 (- (height preview) 20)))
+        (want (ground) (color 100 (+ (page-bottom) 30)))))))
+
+(test "A drawing says that it can't be shown yet; help is in a box; the rest does nothing"
+  '((in-report
+      '((ui_pick tab 1)
+        (ui_click 7)
+        (want 1 (length (ui_alerts)))
+        (want "Report" (cdr (assoc "title" (ui_box))))))
+    (want nil notes)))
+
+(test "The tab control is a tile: its record gives it its title, its mode and its page"
+  '((run-dialog "report_generator"
+      '(progn (wex_set_tile "main_title" "Terminals") (wex_set_tile 100 "1") (wex_set_tile "OK" "Done"))
+      '((want "Terminals" (ui_title))
+        (want '((1) "Done") (list (look tab "selected") (ui_text "OK")))
+        (want "" (wex_get_tile 100))
+        (wex_mode_tile 100 1)
+        (want nil (look tab "enabled"))
+        (ui_click "OK")))))
+
+(test "Dialogs of reports nest and come again, and each begins at the top"
+  '((ui_session "report_generator"
+      '((ui_key "PAGEDOWN" tab)
+        (ui_session "report_generator" '((want 0 (position)) (ui_close)))
+        (wex_new_dialog "report_generator")
+        (wex_start_dialog)
+        (want 10 (position))
+        (ui_close)))
+    (wex_new_dialog "report_generator")
+    (want -1 (wex_start_dialog))))

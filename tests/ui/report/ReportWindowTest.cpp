@@ -1,0 +1,206 @@
+// The preview of a report on windows of its own, and what it asks of a printer.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "src/report/GdiReportSurface.h"
+#include "src/report/SheetLayout.h"
+#include "src/report/WexReportPreview.h"
+
+namespace {
+
+// A picture whose dots the test can read: 32 bits each, rows from the top.
+class Picture {
+  public:
+    Picture(int width, int height) : m_dc(CreateCompatibleDC(nullptr)), m_width(width), m_height(height) {
+        BITMAPINFO info{};
+        info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB};
+        m_bitmap.reset(
+            CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&m_dots), nullptr, 0));
+        SelectObject(m_dc, m_bitmap.get());
+        const RECT all{0, 0, width, height};
+        FillRect(m_dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    }
+    ~Picture() { DeleteDC(m_dc); }
+
+    HDC dc() const { return m_dc; }
+    bool isWhite(int x, int y) const {
+        GdiFlush();
+        return (m_dots[static_cast<size_t>(y) * m_width + x] & 0xFFFFFF) == 0xFFFFFF;
+    }
+    // Whether a rectangle has nothing but white dots.
+    bool isBlank(const PixelRect& rect) const {
+        for (int y = rect.top; y < rect.bottom; ++y)
+            for (int x = rect.left; x < rect.right; ++x)
+                if (!isWhite(x, y)) return false;
+        return true;
+    }
+    void write(const char* path) const {
+        std::FILE* file = std::fopen(path, "wb");
+        ASSERT_TRUE(file);
+        std::fprintf(file, "P5\n%d %d\n255\n", m_width, m_height);
+        GdiFlush();
+        for (int at = 0; at < m_width * m_height; ++at) std::fputc(static_cast<int>(m_dots[at] & 0xFF), file);
+        std::fclose(file);
+    }
+
+  private:
+    HDC m_dc;
+    UniqueBitmap m_bitmap;
+    uint32_t* m_dots = nullptr;
+    int m_width, m_height;
+};
+
+// The platform's pictures have the resolution of the screen; this surface has that of a printer.
+class FineSurface : public GdiReportSurface {
+  public:
+    FineSurface(HDC dc, int dpi, HFONT normal, HFONT bold) : GdiReportSurface(dc, normal, bold), m_dpi(dpi) {}
+    int dpiX() const override { return m_dpi; }
+    int dpiY() const override { return m_dpi; }
+
+  private:
+    int m_dpi;
+};
+
+void drawFine(const Picture& picture, int dpi, const ReportRows& rows, const PixelRect& page) {
+    const UniqueFont normal = makeReportFont(dpi, ReportFont::normal);
+    const UniqueFont bold = makeReportFont(dpi, ReportFont::bold);
+    FineSurface surface(picture.dc(), dpi, normal.get(), bold.get());
+    drawReport(surface, rows, page, 0, L"");
+}
+
+// With WEX_PAGE, the page is written into that file too, for a comparison with what a printer makes of it.
+TEST(ReportSurface, DrawnFineThePageHasItsLinesWhereTheyBelong) {
+    const Picture picture(2479, 3508);
+    drawFine(picture, 300, sampleReport(), {0, 0, 2479, 3508});
+    for (const int x : {150, 447, 744, 1041, 1338, 1957}) EXPECT_FALSE(picture.isWhite(x, 152)) << x;
+    EXPECT_TRUE(picture.isBlank({0, 0, 2479, 150}));
+    EXPECT_TRUE(picture.isBlank({0, 0, 150, 3508}));
+    EXPECT_TRUE(picture.isBlank({1958, 150, 2479, 3300}));
+    if (const char* path = std::getenv("WEX_PAGE")) picture.write(path);
+}
+
+TEST(ReportSurface, TextsStayInNarrowCellsAndInCellsThatAreNone) {
+    std::wstring text(20000, L'W');
+    for (size_t at = 0; at < text.size(); at += 7) text[at] = L" \n\u05D0\u4E00\xD800\u200D\t"[at % 7];
+    for (const double width : {0.0, 0.001, 0.01, 0.1}) {
+        const int columns = width < 0.05 ? 50 : 8;
+        ReportRows rows;
+        rows.push_back(
+            reportRow(std::vector<std::wstring>(columns, text), std::vector<double>(columns, width)));
+        const Picture picture(800, 1100);
+        drawFine(picture, 96, rows, {0, 0, 800, 1000});
+        int right = 48;
+        for (int column = 0; column < columns; ++column) right = static_cast<int>(800 * width + right);
+        EXPECT_TRUE(picture.isBlank({right + 1, 0, 800, 940})) << width;
+        EXPECT_TRUE(picture.isBlank({0, 0, 48, 940})) << width;
+        EXPECT_TRUE(picture.isBlank({0, 48 + 302, 47, 940})) << width;
+    }
+}
+
+// What a printer was asked for, in order.
+class FakePrinter : public PrintJob {
+  public:
+    explicit FakePrinter(int started = 1) : m_started(started) {}
+
+    bool choose(HWND) override { return note(L"choose", m_chosen); }
+    HDC createDC() override {
+        // Its resolution is that of the screen, but it is another device.
+        return note(L"dc", CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr));
+    }
+    int startDoc(HDC, const wchar_t* name) override {
+        return note(std::wstring(L"start ") + name, m_started);
+    }
+    void startPage(HDC) override { note(L"page", 0); }
+    void endPage(HDC) override { note(L"end page", 0); }
+    void endDoc(HDC) override { note(L"end", 0); }
+
+    std::vector<std::wstring> asked;
+    bool m_chosen = true;
+
+  private:
+    template <class Answer>
+    Answer note(const std::wstring& what, Answer answer) {
+        asked.push_back(what);
+        return answer;
+    }
+
+    int m_started;
+};
+
+using Asked = std::vector<std::wstring>;
+
+class Preview : public testing::Test {
+  protected:
+    Preview() {
+        parent.CreateEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, RECT{0, 0, 500, 500}, nullptr, 0);
+        bar.CreateEx(0, L"ScrollBar", L"", WS_CHILD | WS_VISIBLE | SBS_VERT, RECT{480, 0, 497, 400},
+                     parent.m_hWnd, 102);
+        preview.m_scrollBar = &bar;
+        // The edge takes a dot at each side.
+        preview.Create({0, 0, 302, 402}, parent.m_hWnd);
+    }
+    void paint() const { RedrawWindow(preview.m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
+
+    CWnd parent;
+    CScrollBar bar;
+    WexReportPreview preview;
+};
+
+TEST_F(Preview, SetsTheRangeOfItsBarOnceAtTheFirstPaint) {
+    EXPECT_EQ(preview.GetDlgCtrlID(), 101);
+    EXPECT_EQ(preview.GetExStyle() & WS_EX_STATICEDGE, DWORD{WS_EX_STATICEDGE});
+    paint();
+    EXPECT_TRUE(preview.m_scrollRangeSet);
+    EXPECT_EQ(preview.m_pageLines, 43);
+    EXPECT_EQ(bar.GetScrollLimit(), 8);
+    preview.MoveWindow({0, 0, 202, 402});
+    paint();
+    EXPECT_EQ(bar.GetScrollLimit(), 8);
+}
+
+TEST_F(Preview, PrintsInTheOrderOfADocumentWithFontsOfItsOwn) {
+    paint();
+    const HFONT screen = preview.m_fontNormal.get();
+    ASSERT_TRUE(screen);
+    FakePrinter printer;
+    EXPECT_TRUE(preview.Print(printer));
+    EXPECT_EQ(printer.asked,
+              (Asked{L"choose", L"dc", L"start Krvl Electrical Report Table", L"page", L"end page", L"end"}));
+    EXPECT_FALSE(preview.m_fontNormal);
+    EXPECT_FALSE(preview.m_fontBold);
+    EXPECT_EQ(preview.m_printing, 0);
+    paint();
+    EXPECT_TRUE(preview.m_fontNormal);
+}
+
+// Answers the next message box, and keeps what it said.
+std::wstring g_said;
+LRESULT CALLBACK answerBox(int code, WPARAM w, LPARAM l) noexcept {
+    const HWND box = reinterpret_cast<HWND>(w);
+    if (const HWND text = code == HCBT_ACTIVATE ? GetDlgItem(box, 0xFFFF) : nullptr) {
+        wchar_t said[200], title[50];
+        GetWindowTextW(text, said, 200);
+        GetWindowTextW(box, title, 50);
+        g_said = std::wstring(title) + L": " + said;
+        PostMessageW(box, WM_COMMAND, IDOK, 0);
+    }
+    return CallNextHookEx(nullptr, code, w, l);
+}
+
+TEST_F(Preview, TellsThatThePrinterIsNotToBeFoundAndIsAsBefore) {
+    paint();
+    const HHOOK hook = SetWindowsHookExW(WH_CBT, &answerBox, nullptr, GetCurrentThreadId());
+    FakePrinter refusing(-1), cancelled;
+    cancelled.m_chosen = false;
+    EXPECT_FALSE(preview.Print(refusing));
+    EXPECT_FALSE(preview.Print(cancelled));
+    UnhookWindowsHookEx(hook);
+    EXPECT_EQ(g_said, L"WexDialogs: Printing error occurred. Unable to find printer.");
+    EXPECT_EQ(refusing.asked, (Asked{L"choose", L"dc", L"start Krvl Electrical Report Table"}));
+    EXPECT_EQ(cancelled.asked, Asked{L"choose"});
+    EXPECT_TRUE(preview.m_fontNormal);
+}
+
+}  // namespace
