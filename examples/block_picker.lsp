@@ -35,6 +35,7 @@
   (wex_end_list)
   (wex_mode_tile "FILTER" 1)
   (wex_action_tile "LST" "(preview) (setq picked (atoi $value))")
+  (wex_action_tile "OK" "(wex_done_dialog 1)")
   (if (and (= (wex_start_dialog) 1) picked) (nth picked symbols)))
 
 (ui_session "DISP_LOCS_ON_DWG"

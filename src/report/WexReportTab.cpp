@@ -143,6 +143,8 @@ void WexReportTab::showPage() {
     m_preview.ShowWindow(page == PREVIEW_PAGE ? SW_SHOW : SW_HIDE);
     m_scrollBar.ShowWindow(page == PREVIEW_PAGE ? SW_SHOW : SW_HIDE);
     m_drawing.ShowWindow(page == DRAWING_PAGE ? SW_SHOW : SW_HIDE);
+    // Framed once in a dialog: later turns of the page find the view as it was left.
+    if (page == DRAWING_PAGE && !m_drawing.hasView()) m_drawing.showSampleTable();
 }
 
 bool WexReportTab::turnPage(int step, HWND focus) {

@@ -140,7 +140,37 @@
         (want (ground) (color 100 (- (height preview) 20)))
         (want (ground) (color 100 (+ (page-bottom) 30)))))))
 
-(test "A drawing says that it can't be shown yet; help is in a box; the rest does nothing"
+; The middle of the window is in the middle of the block.
+(defun middle () (ui_pixel drawing (/ (width drawing) 2) (/ (height drawing) 2)))
+
+(test "The second page shows the block of that name of the drawing, and the wheel zooms it"
+  '((draw_new)
+    (draw_block "TEST")
+    (draw_color 3)
+    (draw_solid '(4 4) '(6 4) '(6 6) '(4 6))
+    (draw_color 1)
+    (draw_polyline '((0 0) (10 0) (10 10) (0 10)) T)
+    (in-report
+      '((ui_pick tab 1)
+        (want 65280 (middle))
+        (setq beside (ui_pixel drawing (- (/ (width drawing) 2) (/ (height drawing) 8)) (/ (height drawing) 2)))
+        (want nil (= beside 65280))
+        (repeat 5 (ui_wheel drawing 1))
+        (want 65280 (ui_pixel drawing (- (/ (width drawing) 2) (/ (height drawing) 8)) (/ (height drawing) 2)))
+        (ui_pick tab 0)
+        (ui_pick tab 1)
+        (want 65280 (ui_pixel drawing (- (/ (width drawing) 2) (/ (height drawing) 8)) (/ (height drawing) 2)))))
+    (want 2 (draw_count))))
+
+(test "A drawing without that block gets one, once, with a table"
+  '((draw_new)
+    (in-report '((ui_pick tab 1) (ui_pick tab 0) (ui_pick tab 1)))
+    (in-report '((ui_pick tab 1)))
+    (draw_block "test")
+    (want '(1 "test" "test" "") (list (draw_count) (draw_cell 0 0 0) (draw_cell 0 1 1) (draw_cell 0 4 9)))
+    (want '(5 10) (mapcar '(lambda (name) (cdr (assoc name (draw_get 0)))) '("rows" "columns")))))
+
+(test "Help is in a box; the rest does nothing"
   '((in-report
       '((ui_pick tab 1)
         (ui_click 7)
