@@ -366,7 +366,8 @@ class DxfImport {
             const int color = record.whole(62, BY_LAYER);
             entity.color = color > 0 && color < BY_LAYER ? static_cast<ColorIndex>(color) : BY_LAYER;
             entity.pattern = patternOf(record.text(6));
-            block.add(std::move(entity));
+            const bool onPaper = record.whole(67) == 1;
+            (onPaper ? *m_result.drawing.block(PAPER_SPACE) : block).add(std::move(entity));
         }
     }
 

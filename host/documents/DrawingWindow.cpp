@@ -100,6 +100,8 @@ void DrawingWindow::fit(const cad::Block& block, const HostVector3d& direction) 
 
 void DrawingWindow::paint() {
     PAINTSTRUCT paint;
+    // The view brings all of itself to the window, and the axes stand over it.
+    InvalidateRect(m_window, nullptr, FALSE);
     const HDC dc = BeginPaint(m_window, &paint);
     RECT area;
     GetClientRect(m_window, &area);

@@ -27,7 +27,7 @@ bool Camera::setView(const HostPoint3d& position, const HostPoint3d& target, con
     if (!isSize(width) || !isSize(height)) return false;
     const HostVector3d towards = position - target;
     const double distance = towards.length();
-    // Far from the origin a step of 1 may be lost: the camera then stands at its target.
+    // Far from the origin a step of 1 may be lost, and there is no direction to see.
     if (distance <= HOST_TOLERANCE) return false;
     const HostVector3d back = towards * (1.0 / distance);
     const HostVector3d side = up.crossProduct(back);

@@ -95,7 +95,7 @@ void gather(Set& set) {
 class SceneBuilder {
   public:
     SceneBuilder(const cad::Drawing& drawing, const cad::Block& block, GlyphSource& glyphs)
-        : m_drawing(drawing), m_glyphs(glyphs) {
+        : m_glyphs(glyphs) {
         const HostExtents& extents = block.extents();
         if (!extents.isEmpty()) m_scene.origin = HostLineSeg3d{extents.min, extents.max}.midPoint();
         for (const cad::Entity& entity : block.entities()) {
@@ -213,7 +213,6 @@ class SceneBuilder {
         m_scene.texts.push_back(std::move(run));
     }
 
-    const cad::Drawing& m_drawing;
     GlyphSource& m_glyphs;
     Scene m_scene;
     std::map<LineLook, LineSet> m_lines;

@@ -54,6 +54,15 @@ bool isSoundBlit(const ByteView& words, uint64_t bitmapAt, uint64_t wordsWithout
     return isSoundBitmap(words.part(bitmapAt * WORD_SIZE), nullptr);
 }
 
+// The platform reads a font's name up to its end, wherever within the record that is.
+bool hasEndedName(const ByteView& words) {
+    constexpr uint64_t NAME_AT = 9 * WORD_SIZE;
+    for (uint64_t at = NAME_AT; at < words.size(); ++at) {
+        if (words.u8(at) == 0) return true;
+    }
+    return false;
+}
+
 // `words`: the parameters.
 bool isSoundWordRecord(uint64_t function, const ByteView& words, uint64_t objects) {
     // The first digit of most functions counts their words.
@@ -64,8 +73,7 @@ bool isSoundWordRecord(uint64_t function, const ByteView& words, uint64_t object
         case WMF_BRUSH:
             return words.has(0, 4 * WORD_SIZE);
         case WMF_FONT:
-            // Up to the name, which the platform reads with its end.
-            return words.has(0, 9 * WORD_SIZE) && words.u8(words.size() - 1) == 0;
+            return hasEndedName(words);
         case WMF_SELECT:
         case WMF_DELETE:
         case WMF_SELECT_PALETTE:

@@ -31,8 +31,9 @@ PixelRect fitRect(PixelSize target, PixelSize area) {
 }
 
 PixelRect placeOfPicture(PixelSize natural, PixelSize area, bool isMetafile, bool fit) {
-    if (natural.isEmpty() || area.isEmpty()) return {};
+    if (area.isEmpty()) return {};
     if (fit) return fitRect(area, area);
+    if (natural.isEmpty()) return {};
     const bool hasRoom = natural.width <= area.width && natural.height <= area.height;
     if (isMetafile || !hasRoom) return fitRect(natural, area);
     const int32_t left = (area.width - natural.width) / 2;

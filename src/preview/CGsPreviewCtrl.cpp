@@ -71,6 +71,8 @@ bool CGsPreviewCtrl::PreTranslateMessage(MSG& message) {
 // --- painting
 
 void CGsPreviewCtrl::onPaint() {
+    // The view brings all of itself to the window; so all that stands over it is painted too.
+    InvalidateRect(m_hWnd, nullptr, FALSE);
     const PaintDC dc(m_hWnd);
     if (!m_blockName.empty() || m_database) {
         paintView();

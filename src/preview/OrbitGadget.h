@@ -8,7 +8,6 @@ class OrbitGadget : public HostDrawable {
   public:
     explicit OrbitGadget(HostGsView* view = nullptr) : m_view(view) {}
 
-    const wchar_t* isA() const override { return L"OrbitGadget"; }
     HostGsView* view() const { return m_view; }
 
   protected:

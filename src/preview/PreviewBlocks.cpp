@@ -62,6 +62,22 @@ void retSizes(double width, double height) {
     hostRelRb(sizes);
 }
 
+// kept: an empty text adds nothing, and stays open.
+HostExtents entityExtents(HostBlockRecord* record) {
+    HostExtents extents;
+    for (int at = 0; at < record->entityCount(); ++at) {
+        HostEntity* entity = record->openEntity(at);
+        if (!entity) continue;
+        HostExtents own;
+        const bool known = entity->getGeomExtents(&own) == HOST_NORMAL;
+        const bool isText = entity->isKindOf(HostMText::className);
+        if (isText && !*static_cast<HostMText*>(entity)->contents()) continue;
+        if (known) extents.addExt(own);
+        entity->close();
+    }
+    return extents;
+}
+
 HostValue* textNode(const wchar_t* text) {
     HostValue* node = hostNewRb(HV_STRING);
     hostNewString(text, &node->value.stringValue);
@@ -152,24 +168,11 @@ void CGsPreviewCtrl::setUpGraphics(HMODULE resources, bool withModel) {
 }
 
 HostExtents CGsPreviewCtrl::extentsOf(HostBlockRecord* record) const {
+    if (m_blockName != MODEL_SPACE) return entityExtents(record);
     HostExtents extents;
-    if (m_blockName == MODEL_SPACE) {
-        if (const HostDatabase* database = shownDatabase()) {
-            extents.addPoint(database->extmin());
-            extents.addPoint(database->extmax());
-        }
-        return extents;
-    }
-    for (int at = 0; at < record->entityCount(); ++at) {
-        HostEntity* entity = record->openEntity(at);
-        if (!entity) continue;
-        HostExtents own;
-        const bool known = entity->getGeomExtents(&own) == HOST_NORMAL;
-        const bool isText = entity->isKindOf(HostMText::className);
-        // kept: an empty text stays open.
-        if (isText && !*static_cast<HostMText*>(entity)->contents()) continue;
-        if (known) extents.addExt(own);
-        entity->close();
+    if (const HostDatabase* database = shownDatabase()) {
+        extents.addPoint(database->extmin());
+        extents.addPoint(database->extmax());
     }
     return extents;
 }
@@ -343,7 +346,7 @@ void CGsPreviewCtrl::getBlockSize(const CString& name) {
         hostRetNil();
         return;
     }
-    const HostExtents extents = extentsOf(record.get());
+    const HostExtents extents = entityExtents(record.get());
     retSizes(extents.max.x - extents.min.x, extents.max.y - extents.min.y);
 }
 

@@ -84,7 +84,7 @@ void WexReportPreview::deleteFonts() {
 
 bool WexReportPreview::Print(PrintJob& job) {
     if (!job.choose(GetAncestor(m_hWnd, GA_ROOT))) return false;
-    const std::unique_ptr<std::remove_pointer_t<HDC>, DeleteDeviceContext> printer(job.createDC());
+    std::unique_ptr<std::remove_pointer_t<HDC>, DeleteDeviceContext> printer(job.createDC());
     const HDC dc = printer.get();
     if (job.startDoc(dc, DOCUMENT) == START_DOC_FAILED) {
         AfxMessageBox(L"Printing error occurred. Unable to find printer.");
@@ -93,15 +93,19 @@ bool WexReportPreview::Print(PrintJob& job) {
     SetMapMode(dc, MM_TEXT);
     job.startPage(dc);
     m_printing = 1;
-    // Those of the screen don't go to the printer, nor its own to the screen.
+    // Those of the screen don't go to the printer, nor its own to the screen, which may be painted while the
+    // page ends.
     deleteFonts();
-    const struct OwnFonts {
-        WexReportPreview& preview;
-        ~OwnFonts() { preview.deleteFonts(); }
-    } printersFonts{*this};
-    DrawTable(dc, {0, 0, GetDeviceCaps(dc, HORZRES), GetDeviceCaps(dc, VERTRES)}, 0);
+    {
+        const struct OwnFonts {
+            WexReportPreview& preview;
+            ~OwnFonts() { preview.deleteFonts(); }
+        } printersFonts{*this};
+        DrawTable(dc, {0, 0, GetDeviceCaps(dc, HORZRES), GetDeviceCaps(dc, VERTRES)}, 0);
+    }
     job.endPage(dc);
     job.endDoc(dc);
+    printer.reset();
     m_printing = 0;
     return true;
 }

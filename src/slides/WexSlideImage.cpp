@@ -19,8 +19,11 @@ class WexSlideImage::Drawing : public ClientDC {
   public:
     explicit Drawing(WexSlideImage& tile) : ClientDC(tile.m_hWnd), m_tile(tile) {
         if (m_tile.m_isMarked) m_tile.turnMark(*this);
+        // A slide is drawn in coordinates of its own, the mark in pixels.
+        ::SaveDC(m_hDC);
     }
     ~Drawing() {
+        ::RestoreDC(m_hDC, -1);
         if (m_tile.m_hasFocus) m_tile.turnMark(*this);
     }
 
@@ -153,6 +156,8 @@ void WexSlideImage::takeSnapshot() {
 
 void WexSlideImage::LoadPicture(const CString& path, bool fit) {
     m_fit = fit;
+    // Before the next one is read: two large ones would have to be held at once.
+    m_picture.reset();
     m_picture = loadPicture(path.c_str());
     // An older snapshot would hide it.
     m_snapshot.reset();

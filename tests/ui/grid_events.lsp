@@ -70,7 +70,7 @@
                 (want '(2 1) (current))
                 (ui_key "ENTER"))))))
 
-(test "A choice is taken from the list, by its first letter, and by an arrow"
+(test "A choice is taken from the list, by its first letters, and by an arrow"
   '((in-events
       '((ui_pick "LST" 1 2) (told)
         (keys '("ALT+DOWN" "DOWN" "ENTER" "ENTER"))
@@ -79,7 +79,9 @@
         (want '(((2 2 "blue") 7)) (told))
         (keys '("UP" "ENTER"))
         (want '(((2 2 "green") 7) ("3" 4)) (told))
-        (want '("\tt1\tgreen" "\tt2\tgreen" "\tt3\tred") (shown))))))
+        (want '("\tt1\tgreen" "\tt2\tgreen" "\tt3\tred") (shown))
+        (ui_type "LST" "gr")
+        (want '(((3 2 "green") 7)) (told))))))
 
 (test "A box is ticked by a click and by the space bar"
   '((in-events

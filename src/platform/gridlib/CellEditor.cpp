@@ -8,6 +8,9 @@ namespace {
 // Room for the list of choices, below the cell.
 constexpr int SHOWN_CHOICES = 8;
 
+// Letters that follow later, in milliseconds, begin another word.
+constexpr LONG LONGEST_BETWEEN_LETTERS = 1000;
+
 bool isDown(int key) { return GetKeyState(key) < 0; }
 
 }  // namespace
@@ -28,7 +31,7 @@ LRESULT CellEditor::TextField::onGetDlgCode(WPARAM w, LPARAM l) {
 }
 
 LRESULT CellEditor::TextField::onKeyDown(WPARAM key, LPARAM l) {
-    if (key == 'A' && isDown(VK_CONTROL)) return SendMessage(EM_SETSEL, 0, -1);
+    if (key == 'A' && isDown(VK_CONTROL) && !isDown(VK_MENU)) return SendMessage(EM_SETSEL, 0, -1);
     return m_editor.endsBy(key, false) ? 0 : DefWindowProc(WM_KEYDOWN, key, l);
 }
 
@@ -67,8 +70,23 @@ LRESULT CellEditor::ChoiceField::onKeyDown(WPARAM key, LPARAM l) {
     return DefWindowProc(WM_KEYDOWN, key, l);
 }
 
+// Finds the choice that begins with what was typed; one letter again and again goes to the next that begins
+// with it. The platform's own list finds single letters only under Wine.
 LRESULT CellEditor::ChoiceField::onChar(WPARAM c, LPARAM l) {
-    return c == VK_TAB || c == VK_RETURN || c == VK_ESCAPE ? 0 : DefWindowProc(WM_CHAR, c, l);
+    if (c == VK_TAB || c == VK_RETURN || c == VK_ESCAPE) return 0;
+    if (c < L' ') return DefWindowProc(WM_CHAR, c, l);
+    const LONG now = GetMessageTime();
+    if (now - std::exchange(m_typedAt, now) > LONGEST_BETWEEN_LETTERS) m_typed.clear();
+    m_typed += static_cast<wchar_t>(c);
+    const bool isOneLetter = m_typed.find_first_not_of(m_typed[0]) == CString::npos;
+    const CString sought = isOneLetter ? m_typed.substr(0, 1) : m_typed;
+    const LRESULT from = isOneLetter ? SendMessage(CB_GETCURSEL) : CB_ERR;
+    const LRESULT found =
+        SendMessage(CB_FINDSTRING, static_cast<WPARAM>(from), reinterpret_cast<LPARAM>(sought.c_str()));
+    if (found == CB_ERR) return 0;
+    SendMessage(CB_SETCURSEL, static_cast<WPARAM>(found));
+    m_editor.changed();
+    return 0;
 }
 
 // Whether that key ends the editing; then it has.
@@ -135,6 +153,7 @@ bool CellEditor::open(HWND parent, const CGXStyle& style, const CString& text, b
     if (kind == CellKind::choice) {
         if (!create(m_choice, parent, L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL)) return false;
         m_choice.SendMessage(CB_RESETCONTENT);
+        m_choice.forgetTyped();
         for (const CString& choice : style.choices())
             m_choice.SendMessage(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.c_str()));
         m_field = &m_choice;

@@ -65,6 +65,8 @@ class CellEditor {
       public:
         explicit ChoiceField(CellEditor& editor) : m_editor(editor) {}
         const MessageMap& messageMap() const override;
+        // The next letter begins a new search.
+        void forgetTyped() { m_typed.clear(); }
 
       private:
         LRESULT onGetDlgCode(WPARAM w, LPARAM l);
@@ -75,6 +77,9 @@ class CellEditor {
         bool isDropped() const { return SendMessage(CB_GETDROPPEDSTATE) != 0; }
 
         CellEditor& m_editor;
+        // The letters that were typed in quick succession, and when the last one was, in milliseconds.
+        CString m_typed;
+        LONG m_typedAt = 0;
     };
 
     bool create(CWnd& field, HWND parent, const wchar_t* className, DWORD style);

@@ -72,7 +72,8 @@ void CGXGridWnd::closeEditor(End end) {
     const bool hadFocus = m_editor.owns(::GetFocus());
     m_editor.close();
     if (hadFocus) ::SetFocus(m_hWnd);
-    if (end == End::take) {
+    // What wasn't changed is taken as it is, also where it wouldn't be accepted now.
+    if (end == End::take && open.text != m_textBefore) {
         std::vector<CellPlace> refused;
         m_table.enter(entriesFor(open.at, CellText(open.text)), refused);
         if (!refused.empty()) MessageBeep(MB_ICONWARNING);
@@ -149,6 +150,8 @@ void CGXGridWnd::emptySelection() {
                     entries.push_back({{row, col}, CellText(ticks ? tickText(style, false) : L"")});
             }
     }
+    // Ranges may have been selected in any order.
+    std::sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) { return a.at < b.at; });
     m_refused.clear();
     std::vector<CellPlace> refused;
     tellModified(m_table.enter(entries, refused));

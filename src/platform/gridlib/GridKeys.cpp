@@ -28,7 +28,8 @@ uint32_t shownNear(const TrackSizes& sizes, uint32_t at, int step, uint32_t lowe
 LRESULT CGXGridWnd::onGetDlgCode(WPARAM, LPARAM) { return DLGC_WANTARROWS | DLGC_WANTCHARS; }
 
 LRESULT CGXGridWnd::onKeyDown(WPARAM key, LPARAM) {
-    const bool control = isDown(VK_CONTROL), shift = isDown(VK_SHIFT);
+    // AltGr comes as Ctrl and Alt, and writes letters.
+    const bool control = isDown(VK_CONTROL) && !isDown(VK_MENU), shift = isDown(VK_SHIFT);
     const UINT code = static_cast<UINT>(key);
     return commandByKey(code, control, shift) || moveByKey(code, control, shift) ? 0 : Default();
 }

@@ -79,8 +79,11 @@ void CGXGridWnd::beginSelection(CellPlace at, bool extend, bool add) {
 }
 
 void CGXGridWnd::OnLButtonDown(UINT keys, POINT at) {
+    // Either may run Lisp, which may end the dialog.
     closeEditor(End::take);
+    if (!isLive()) return;
     ::SetFocus(m_hWnd);
+    if (!isLive()) return;
     m_gesture = borderAt(at, m_pressed);
     if (m_gesture != Gesture::none) {
         m_pressedAt = m_gesture == Gesture::sizingColumn ? m_cols.end(m_pressed.col) - at.x

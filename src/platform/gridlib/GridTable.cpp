@@ -166,8 +166,11 @@ CGXRange GridTable::merged(uint32_t row, uint32_t col, const CGXRange& within) c
     const auto joins = [&](uint32_t other) {
         return value(other, own.left) == text && joinsDown(own, run(other, own.left, within));
     };
-    while (all.top > within.top && joins(all.top - 1)) --all.top;
-    while (all.bottom < std::min(within.bottom, rowCount()) && joins(all.bottom + 1)) ++all.bottom;
+    // The row of headers merges with no data.
+    const uint32_t first = row == 0 ? 0 : std::max(within.top, 1u);
+    const uint32_t last = row == 0 ? 0 : std::min(within.bottom, rowCount());
+    while (all.top > first && joins(all.top - 1)) --all.top;
+    while (all.bottom < last && joins(all.bottom + 1)) ++all.bottom;
     return all;
 }
 

@@ -44,6 +44,7 @@ TEST(DxfReader, ReadsLayersAndColors) {
     EXPECT_EQ(drawing.rgbOf(drawing.modelSpace().entities()[1]), rgbOf(1));
     EXPECT_FALSE(drawing.layer(drawing.modelSpace().entities()[1].layer).visible);
     EXPECT_EQ(first<Line>(read).end.z, 5.0);
+    EXPECT_EQ(entities("0 LINE|67 1|").drawing.modelSpace().entities().size(), 0u);
     EXPECT_EQ(read.skipped, (std::map<std::string, int>{{"POINT", 1}}));
 }
 
