@@ -166,7 +166,12 @@ void OdbcDatabase::endTransaction(SQLSMALLINT how) {
     if (m_transaction == Transaction::none) throw DatabaseError(L"no transaction is open");
     if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, m_connection.get(), how))) failConnection();
     m_transaction = Transaction::none;
-    setAutomaticCommit(true);
+    // It is done; a connection that can't go on is made anew by the next call.
+    try {
+        setAutomaticCommit(true);
+    } catch (const DatabaseError&) {
+        m_isConnected = false;
+    }
 }
 
 void OdbcDatabase::commit() {
@@ -177,10 +182,12 @@ void OdbcDatabase::commit() {
     endTransaction(SQL_COMMIT);
 }
 
-// What was lost with its connection is rolled back.
+// What was lost with its connection is rolled back, also where the loss shows only now.
 void OdbcDatabase::rollback() {
-    if (m_transaction == Transaction::lost)
-        m_transaction = Transaction::none;
-    else
-        endTransaction(SQL_ROLLBACK);
+    try {
+        if (m_transaction != Transaction::lost) endTransaction(SQL_ROLLBACK);
+    } catch (const DatabaseError&) {
+        if (m_transaction != Transaction::lost) throw;
+    }
+    m_transaction = Transaction::none;
 }

@@ -184,7 +184,14 @@ sqlite3_stmt* SqliteDatabase::kept(std::wstring_view sql) {
     return m_kept.front().statement.get();
 }
 
+bool SqliteDatabase::isAutomatic() const { return sqlite3_get_autocommit(m_connection.get()) != 0; }
+
+void SqliteDatabase::refuseAfterRollback() const {
+    if (hasRolledBack()) throw DatabaseError(L"the database has rolled the transaction back");
+}
+
 int64_t SqliteDatabase::execute(std::wstring_view sql, Parameters parameters) {
+    refuseAfterRollback();
     sqlite3_stmt* const statement = kept(sql);
     const Run run(statement);
     bind(statement, parameters);
@@ -194,10 +201,13 @@ int64_t SqliteDatabase::execute(std::wstring_view sql, Parameters parameters) {
     do result = sqlite3_step(statement);
     while (result == SQLITE_ROW);
     if (result != SQLITE_DONE) fail();
+    // The statement itself may have begun or ended one.
+    m_inTransaction = !isAutomatic();
     return sqlite3_total_changes64(m_connection.get()) == before ? 0 : sqlite3_changes64(m_connection.get());
 }
 
 void SqliteDatabase::query(std::wstring_view sql, Parameters parameters, DataRows& rows) {
+    refuseAfterRollback();
     const Statement statement = prepare(withoutEmptyOrder(sql));
     bind(statement.get(), parameters);
     Row row(statement.get());
@@ -207,12 +217,28 @@ void SqliteDatabase::query(std::wstring_view sql, Parameters parameters, DataRow
         if (!rows.add(fields.data(), fields.size())) return;
     }
     if (result != SQLITE_DONE) fail();
+    m_inTransaction = !isAutomatic();
 }
 
-void SqliteDatabase::begin() { run("BEGIN"); }
+void SqliteDatabase::begin() {
+    refuseAfterRollback();
+    run("BEGIN");
+    m_inTransaction = true;
+}
 
-void SqliteDatabase::commit() { run("COMMIT"); }
+void SqliteDatabase::commit() {
+    if (hasRolledBack()) {
+        m_inTransaction = false;
+        throw DatabaseError(L"the database has rolled the transaction back");
+    }
+    run("COMMIT");
+    m_inTransaction = false;
+}
 
-void SqliteDatabase::rollback() { run("ROLLBACK"); }
+// What the database rolled back by itself is so already.
+void SqliteDatabase::rollback() {
+    if (!hasRolledBack()) run("ROLLBACK");
+    m_inTransaction = false;
+}
 
-bool SqliteDatabase::isInTransaction() const { return !sqlite3_get_autocommit(m_connection.get()); }
+bool SqliteDatabase::isInTransaction() const { return m_inTransaction || !isAutomatic(); }

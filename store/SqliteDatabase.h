@@ -42,8 +42,15 @@ class SqliteDatabase : public Database {
     void bind(sqlite3_stmt* statement, Parameters parameters) const;
     sqlite3_stmt* kept(std::wstring_view sql);
     void run(const char* sql) const;
+    bool isAutomatic() const;
+    // After some failures, as of a full disk, the database rolls back by itself: what follows would be
+    // written alone.
+    bool hasRolledBack() const { return m_inTransaction && isAutomatic(); }
+    void refuseAfterRollback() const;
 
     Connection m_connection;
+    // A transaction was begun and not ended by the program.
+    bool m_inTransaction = false;
     // Statements that ran of late, the latest first: a program that writes back runs a few over and over.
     std::list<Kept> m_kept;
 };

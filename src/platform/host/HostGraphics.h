@@ -117,8 +117,8 @@ class HostGsModel {
 class HostGsView {
   public:
     // Sees `width` by `height` world units around `target` from `position`, by parallel projection (0).
-    // Refused for another projection, where a number isn't finite, a size isn't positive, the camera stands at its target, or `up` lies along
-    // the direction of view.
+    // Refused for another projection, where a number isn't finite, a size isn't positive, the camera stands
+    // at its target, or `up` lies along the direction of view.
     virtual int setView(const HostPoint3d& position, const HostPoint3d& target, const HostVector3d& up,
                         double width, double height, int projection) = 0;
     virtual int add(HostDrawable* drawable, HostGsModel* model) = 0;

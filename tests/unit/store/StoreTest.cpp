@@ -211,6 +211,15 @@ TEST_F(StoreTest, AFullDatabaseKeepsWhatItHas) {
     EXPECT_EQ(run(L"INSERT INTO t VALUES (?)", {textValue(large)}), -1);
     EXPECT_EQ(words(), L"database or disk is full");
     EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), 1);
+
+    // It rolls a transaction back by itself then; nothing of it is written alone.
+    EXPECT_TRUE(database.begin());
+    EXPECT_EQ(run(L"INSERT INTO t VALUES (2)"), 1);
+    EXPECT_EQ(run(L"INSERT INTO t VALUES (?)", {textValue(large)}), -1);
+    EXPECT_EQ(run(L"INSERT INTO t VALUES (3)"), -1);
+    EXPECT_EQ(words(), L"the database has rolled the transaction back");
+    EXPECT_TRUE(database.rollback());
+    EXPECT_EQ(store.GetRowCount(lent(L"[t]")), 1);
 }
 
 // Whatever bytes a file has lost, reading it ends with rows or with words.
