@@ -49,7 +49,7 @@
 (defun show-part (n / record known)
   (setq at n record (if n (wex_fp_getitem n) '("" "" "" "" "")) known (and n (not (member record (wex_fp_getadded)))))
   (fill-in record)
-  (wex_set_tile "LABEL4" (if n (strcat "Part " (itoa (1+ n)) " of " (itoa (wex_fp_getcount)) ", made by " (cadr record)) ""))
+  (wex_set_tile "LABEL4" (if n (strcat "Record " (itoa (1+ n)) " of " (itoa (wex_fp_getcount)) ", made by " (cadr record)) ""))
   (wex_mode_tile "CAT" (if known 1 0))
   (foreach key '("EDIT" "REMOVE") (wex_mode_tile key (if n 0 1))))
 
