@@ -56,7 +56,7 @@ done
 files 'host/*/*' | grep -vE "^($order)" | tell 'this folder of the host has no place in their order yet'
 
 files '*.h' ':!resources' | xargs grep -L '^#pragma once' | tell 'no #pragma once'
-files '*.h' '*.cpp' '*.lsp' '*.sh' '*.md' '*.rc' '*.cmake' '*CMakeLists.txt' '*.txt' ':!tests/ui/examples' |
+files '*.h' '*.cpp' '*.lsp' '*.sh' '*.md' '*.rc' '*.dlg' '*.py' '*.cmake' '*CMakeLists.txt' '*.txt' ':!tests/ui/examples' |
     xargs grep -nE "[[:blank:]]\$|"$'\t'"|^(<<<<<<<|>>>>>>>)|\b(TO""DO|FIX""ME)\b" | tell 'blanks at the end, a tab, or something unfinished'
 files '*.png' ':!docs/images' ':!examples/pictures' | tell 'a picture that a session left'
 for script in $(files '*.sh' wexhost .ci/run); do
