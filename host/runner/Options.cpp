@@ -121,6 +121,6 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --                 what follows are files
 
 Exit status: 0 done; 1 a Lisp error; 2 bad usage; 3 a session ended with its dialog still open;
-4 time ran out.
+4 time ran out; 5 the host crashed.
 )";
 }

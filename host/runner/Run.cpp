@@ -14,6 +14,7 @@
 #include "host/drive/Player.h"
 #include "host/drive/UiFunctions.h"
 #include "host/runner/CheckDialogs.h"
+#include "host/runner/CrashReport.h"
 #include "host/runner/DataFunctions.h"
 #include "host/runner/HostFiles.h"
 #include "host/runner/HostFunctions.h"
@@ -200,6 +201,7 @@ int refuse(const Options& options) {
 }  // namespace
 
 int hostRun(int count, wchar_t** arguments) {
+    reportCrashes();
     SetConsoleOutputCP(CP_UTF8);
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
     const Options options = parseOptions(std::vector<std::wstring>(arguments + 1, arguments + count));

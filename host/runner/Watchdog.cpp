@@ -1,25 +1,11 @@
 #include "host/runner/Watchdog.h"
 
-#include <string>
-
-#include "host/drive/MessageBoxes.h"
-#include "host/drive/Player.h"
+#include "host/runner/WhereItStood.h"
 #include "host/services/Host.h"
-#include "host/services/Texts.h"
 
 namespace {
 
 constexpr UINT TIME_RAN_OUT = 4;
-
-// Appends the caption of a visible dialog. The thread that owns it may hang, so it isn't sent a message.
-BOOL CALLBACK appendDialog(HWND window, LPARAM list) noexcept {
-    wchar_t caption[256] = {};
-    if (IsWindowVisible(window) && isSystemDialog(window)) {
-        InternalGetWindowText(window, caption, ARRAYSIZE(caption));
-        reinterpret_cast<std::wstring*>(list)->append(L"\n  dialog \"").append(caption).append(L"\" is open");
-    }
-    return TRUE;
-}
 
 }  // namespace
 
@@ -39,14 +25,6 @@ Watchdog::~Watchdog() {
 
 void Watchdog::watch(DWORD mainThread, DWORD milliseconds) const {
     if (WaitForSingleObject(m_stop, milliseconds) != WAIT_TIMEOUT) return;
-    std::wstring report = L"time ran out";
-    EnumThreadWindows(mainThread, &appendDialog, reinterpret_cast<LPARAM>(&report));
-    const std::wstring step = player().progress().place();
-    if (!step.empty()) report += L"\n  the last step was " + step;
-    const std::wstring action = host().actions().running();
-    if (!action.empty()) report += L"\n  the action that runs is that of " + action;
-    const std::wstring place = wideText(host().lisp().place().text());
-    if (!place.empty()) report += L"\n  the last call was at " + place;
-    host().console().error(report);
+    host().console().error(L"time ran out" + whereItStood(mainThread));
     TerminateProcess(GetCurrentProcess(), TIME_RAN_OUT);
 }

@@ -13,12 +13,14 @@ awk -v folder="$work" '
 
 passed=0 failed=0
 for example in "$work"/*.lsp; do
-    if difference=$(diff -u <(sed -n 's/^;=> //p' "$example") \
-            <(./wexhost --headless --timeout 60 "$example" 2>&1 | tr -d '\r' | sed -e '$a\')); then
+    status=0
+    ./wexhost --headless --timeout 60 "$example" >"$work/printed" 2>&1 || status=$?
+    if difference=$(diff -u --label told --label printed <(sed -n 's/^;=> //p' "$example") \
+            <(tr -d '\r' <"$work/printed" | sed -e '$a\')); then
         passed=$((passed + 1))
     else
         failed=$((failed + 1))
-        echo "FAILED: the example of $(head -n 1 "$example" | cut -c3-)"
+        echo "FAILED: the example of $(head -n 1 "$example" | cut -c3-) (status $status)"
         echo "$difference"
     fi
 done

@@ -43,6 +43,12 @@ int32_t throwError() { throw std::runtime_error("out of wire"); }
 
 int32_t throwNumber() { throw 5; }
 
+int32_t crash() {
+    static int* volatile nowhere = nullptr;
+    *nowhere = 1;
+    return RESULT_SET;
+}
+
 int32_t code() { return hostRetInt(hostGetFunCode()) == HOST_NORMAL ? RESULT_SET : 0; }
 
 // Calls the function that the arguments name; gives (status result-or-nil code-of-this-function).
@@ -182,6 +188,7 @@ constexpr Row ROWS[] = {
     {L"t_two", &twoResults},
     {L"t_throw", &throwError},
     {L"t_throw5", &throwNumber},
+    {L"t_crash", &crash},
     {L"t_code", &code},
     {L"t_invoke", &invoke},
     {L"t_put", &put},

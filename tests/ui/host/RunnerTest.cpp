@@ -75,4 +75,19 @@ TEST(Runner, TimeRunsOutInADialogThatWaits) {
         << run.errors;
 }
 
+TEST(Runner, ACrashIsToldBehindWhatWasPrinted) {
+    const HostRun run = runHost({L"--headless", L"-e", LR"((princ "before") (t_crash))"});
+    EXPECT_EQ(run.status, 5U);
+    EXPECT_EQ(run.output, "before\n");
+    EXPECT_EQ(run.errors.find("wexhost crashed: exception 0xc0000005 in testplugin.pgx+0x"), 0U)
+        << run.errors;
+
+    const HostRun inAction =
+        runHost({L"--headless", L"-e", LR"((ui_session "everything" '((t_crash))) (t_dialog))"});
+    EXPECT_EQ(inAction.status, 5U);
+    EXPECT_NE(inAction.errors.find("the last step was session \"everything\", step 1: (T_CRASH)"),
+              std::string::npos)
+        << inAction.errors;
+}
+
 }  // namespace
