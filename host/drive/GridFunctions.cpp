@@ -30,12 +30,12 @@ HWND focusWithin(const Tile& tile) {
 
 }  // namespace
 
-lisp::Value gridRows(lisp::Interpreter& lisp, const GridWindow& grid) {
+lisp::Value gridRows(lisp::Interpreter& lisp, const GridWindow& grid, int first, int end) {
     lisp::ListBuilder list(lisp);
-    const GridTableLook table = grid.table();
-    for (uint32_t row = 1; row <= table.rows; ++row) {
+    const uint32_t columns = grid.table().columns;
+    for (auto row = static_cast<uint32_t>(first) + 1; row <= static_cast<uint32_t>(end); ++row) {
         std::wstring line;
-        for (uint32_t column = 0; column <= table.columns; ++column) {
+        for (uint32_t column = 0; column <= columns; ++column) {
             if (column > 0) line += L'\t';
             if (const auto cell = grid.cell({row, column})) line += cell->text;
         }

@@ -7,8 +7,9 @@
 #include "host/drive/Tile.h"
 #include "host/lisp/Interpreter.h"
 
-// The data rows as strings, their cells from column 0 joined by tabs.
-lisp::Value gridRows(lisp::Interpreter& lisp, const GridWindow& grid);
+// Data rows as strings, their cells from column 0 joined by tabs: from `first` on, counted from 0, to before
+// `end`.
+lisp::Value gridRows(lisp::Interpreter& lisp, const GridWindow& grid, int first, int end);
 
 // (ui_cell tile row column): an association list, see docs/sessions.md.
 lisp::Value cellLook(lisp::Call& call);

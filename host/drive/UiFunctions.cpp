@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <span>
+#include <utility>
 
 #include "host/drive/ClickFunctions.h"
 #include "host/drive/GridFunctions.h"
@@ -142,16 +143,24 @@ Value wait(Call& call) {
 // (ui_text tile)
 Value textOfTile(Call& call) { return text(call, textOf(Tile(call, 0).window())); }
 
+// The items that a call wants of so many: the first one and the one behind the last.
+std::pair<int, int> wantedItems(Call& call, int count) {
+    const int first = call.has(1) ? std::clamp(call.integer(1), 0, count) : 0;
+    const int beyond = count - first;
+    return {first, first + (call.has(2) ? std::clamp(call.integer(2), 0, beyond) : beyond)};
+}
+
 // (ui_items tile [first [count]])
 Value items(Call& call) {
     const Tile tile(call, 0);
-    if (const auto grid = gridOf(tile.window())) return gridRows(call.lisp, *grid);
+    if (const auto grid = gridOf(tile.window())) {
+        const auto [first, end] = wantedItems(call, static_cast<int>(grid->table().rows));
+        return gridRows(call.lisp, *grid, first, end);
+    }
     const auto items = itemsOf(tile.window());
     if (!items) tile.fail(L"it is no list");
     lisp::ListBuilder list(call.lisp);
-    const int first = call.has(1) ? std::max(call.integer(1), 0) : 0;
-    const int beyond = items->count() - first;
-    const int end = first + (call.has(2) ? std::min(call.integer(2), beyond) : beyond);
+    const auto [first, end] = wantedItems(call, items->count());
     for (int i = first; i < end; ++i)
         if (const auto line = items->line(i)) list.add(text(call, *line));
     return list.list();

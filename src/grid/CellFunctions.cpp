@@ -5,11 +5,18 @@
 #include "src/grid/EditBracket.h"
 #include "src/grid/GridArgument.h"
 #include "src/shell/Module.h"
+#include "src/shell/ValueOf.h"
 
 namespace {
 
 constexpr int NO_COLUMN = -1;
 constexpr int NEW_ROW = -1;
+
+// A host may leave a string's text out.
+CString textOrEmpty(const HostValue& value) {
+    const wchar_t* text = textOf(value);
+    return text ? text : L"";
+}
 
 // What the value makes of the cell; an empty style for a value that no cell takes.
 CGXStyle cellStyle(const HostValue& value, int row, int code, const std::optional<CString>& choices) {
@@ -23,8 +30,8 @@ CGXStyle cellStyle(const HostValue& value, int row, int code, const std::optiona
         case HV_ORIENT:
             return numberCellStyle(value.value.realValue, code);
         case HV_STRING:
-            if (row == 0) return CGXStyle().SetValue(value.value.stringValue);
-            return textCellStyle(value.value.stringValue, code, choices, GetSysColor(COLOR_3DFACE));
+            if (row == 0) return CGXStyle().SetValue(textOrEmpty(value));
+            return textCellStyle(textOrEmpty(value), code, choices, GetSysColor(COLOR_3DFACE));
         case HV_TRUE:
             return CGXStyle().SetValue(resourceText(TEXT_TRUE));
         case HV_NIL:

@@ -6,8 +6,9 @@
 #include "src/shell/LispCall.h"
 
 // (wex_grid_setrowcolumns tile rows columns) -> no value; nil without a grid or an argument. The count of
-// columns includes that of the headers. From two rows on, the rows' headers are emptied. A negative or huge
-// count changes nothing.
+// columns includes that of the headers: from 1 down it leaves them alone. From two rows on, the rows' headers
+// are emptied. A negative count of rows, and more than 16,000,000 rows or 65,536 columns, leave that count as
+// it is.
 void gridSetRowColumns(LispCall& call);
 
 // (wex_grid_setrowheight tile row height) -> no value; nil without a grid or an argument. Pixels at 96 dots

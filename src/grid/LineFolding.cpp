@@ -23,24 +23,37 @@ std::wstring_view keyField(std::wstring_view line, int keyColumn) {
     return line;
 }
 
-CString foldContinuationLine(std::wstring_view line, std::wstring_view next) {
-    const auto withoutLeadingBlanks = [](std::wstring_view field) {
-        return field.substr(std::min(field.find_first_not_of(L' '), field.size()));
+FoldedLine::FoldedLine(std::wstring_view line) : m_endsWithTab(line.ends_with(L'\t')) {
+    while (!line.empty()) m_fields.emplace_back(takeField(line));
+}
+
+void FoldedLine::fold(std::wstring_view next) {
+    if (next.empty()) return;
+    const auto leadingBlanks = [](std::wstring_view field) {
+        return std::min(field.find_first_not_of(L' '), field.size());
     };
-    if (next.empty()) return CString(line);
-    CString folded;
-    while (!line.empty()) {
-        std::wstring_view above = takeField(line), below = takeField(next);
+    size_t kept = 0;
+    for (CString& above : m_fields) {
+        std::wstring_view below = takeField(next);
         if (below.empty()) continue;
-        above = withoutLeadingBlanks(above);
-        below = withoutLeadingBlanks(below);
-        folded.append(above);
+        below.remove_prefix(leadingBlanks(below));
+        above.erase(0, leadingBlanks(above));
         if (below.size() < 2)
-            folded.append(L" \n\t");
+            above += L" \n";
         else
-            folded.append(L"\n").append(below).append(L"\t");
+            above.append(L"\n").append(below);
+        if (&m_fields[kept] != &above) m_fields[kept] = std::move(above);
+        ++kept;
     }
-    return folded;
+    m_fields.resize(kept);
+    m_endsWithTab = true;
+}
+
+CString FoldedLine::text() const {
+    CString text;
+    for (const CString& field : m_fields) text.append(field).append(L"\t");
+    if (!m_endsWithTab && !text.empty()) text.pop_back();
+    return text;
 }
 
 bool takesContinuations(std::wstring_view line, int keyColumn) {

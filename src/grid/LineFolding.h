@@ -14,10 +14,20 @@ constexpr int NO_KEY_COLUMN = -1;
 // tab in front is taken for a character of it.
 std::wstring_view keyField(std::wstring_view line, int keyColumn);
 
-// The line with the next one folded into it, field below field.
+// A line with those that are folded into it, field below field.
 // kept: where the next line's field is empty, that of the line is lost and those behind it move left, the key
 // field always; and a field of one character becomes a blank.
-CString foldContinuationLine(std::wstring_view line, std::wstring_view next);
+class FoldedLine {
+  public:
+    explicit FoldedLine(std::wstring_view line);
+    // Costs as much as the next line is long, however long this one has become.
+    void fold(std::wstring_view next);
+    CString text() const;
+
+  private:
+    CStringArray m_fields;
+    bool m_endsWithTab;
+};
 
 // Whether lines may be folded into that one, and whether that one is folded into the line above.
 bool takesContinuations(std::wstring_view line, int keyColumn);

@@ -1,5 +1,7 @@
 #include "src/grid/ListRows.h"
 
+#include <algorithm>
+
 #include "src/grid/LineFolding.h"
 
 namespace {
@@ -44,11 +46,14 @@ void addListRows(CGXGridCore& grid, CStringArray& lines, const ListRowOptions& o
     for (size_t next = 0; next < lines.size();) {
         CString text = std::move(lines[next++]);
         ListRow row{{}, ROW_HEIGHT, options.merges && !isRule(text)};
-        if (takesContinuations(text, options.keyColumn))
+        if (takesContinuations(text, options.keyColumn)) {
+            FoldedLine folded(text);
             for (; next < lines.size() && isContinuation(lines[next], options.keyColumn); ++next) {
-                text = foldContinuationLine(text, lines[next]);
-                row.height += CONTINUATION_HEIGHT;
+                folded.fold(lines[next]);
+                row.height = std::min(row.height + CONTINUATION_HEIGHT, TrackSizes::LARGEST);
             }
+            text = folded.text();
+        }
         row.text = text;
         addListRow(grid, row, options);
         lines[kept++] = std::move(text);

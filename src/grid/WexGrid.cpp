@@ -104,9 +104,17 @@ void WexGrid::OnModifyCell(uint32_t row, uint32_t col) {
 
 bool WexGrid::OnLeftCell(uint32_t, uint32_t, uint32_t, uint32_t) { return true; }
 
-void WexGrid::OnPasted(size_t taken, size_t refused) {
-    if (refused > 0)
-        hostPrintf(L"Pasted: %zu cells were taken, %zu refused. They are marked.\n", taken, refused);
+void WexGrid::OnPasted(size_t taken, size_t refused, size_t outside) {
+    if (refused == 0 && outside == 0) return;
+    hostPrintf(L"Pasted: %zu cells were taken", taken);
+    if (refused > 0) hostPrintf(L", %zu refused and marked", refused);
+    if (outside > 0) hostPrintf(L", %zu had no place in the table", outside);
+    hostPrintf(L".\n");
+}
+
+void WexGrid::OnTooManyCells() {
+    CGXGridWnd::OnTooManyCells();
+    hostPrintf(L"No more than %llu cells can be copied, pasted or emptied at a time.\n", MOST_CELLS);
 }
 
 void emptyGrid(CWnd& control, bool byKey) {

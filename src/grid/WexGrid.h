@@ -40,7 +40,8 @@ class WexGrid : public CGXGridWnd, public TileControl {
     void OnChangedSelection(const CGXRange* range, bool dragging, bool key) override;
     void OnModifyCell(uint32_t row, uint32_t col) override;
     bool OnLeftCell(uint32_t row, uint32_t col, uint32_t newRow, uint32_t newCol) override;
-    void OnPasted(size_t taken, size_t refused) override;
+    void OnPasted(size_t taken, size_t refused, size_t outside) override;
+    void OnTooManyCells() override;
 
   protected:
     const MessageMap& messageMap() const override;

@@ -62,10 +62,12 @@ struct GridCellLook {
     int32_t controlType = 0;
     bool readOnly = false;
     bool wraps = false;
-    bool isEdited = false;  // its editor is open
-    int32_t merge = 0;      // 0 not, 1 along the row, 2 down the column, 3 both: as its style says
-    int32_t alignment = 0;  // 0 left, 1 centre, 2 right
-    uint32_t interior = 0;  // colours are 0x00BBGGRR
+    bool isEdited = false;    // its editor is open
+    bool isEditable = false;  // a person may change it
+    bool isTicked = false;    // it is a box with a tick
+    int32_t merge = 0;        // 0 not, 1 along the row, 2 down the column, 3 both: as its style says
+    int32_t alignment = 0;    // 0 left, 1 centre, 2 right
+    uint32_t interior = 0;    // colours are 0x00BBGGRR
     uint32_t textColor = 0;
     int32_t places = 0;  // decimals of a number; below 0 for as many as it has
     int32_t width = 0;   // of its column, in pixels at 96 dots per inch

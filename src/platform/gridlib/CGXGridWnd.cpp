@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "src/platform/gridlib/GridAccessible.h"
 #include "src/platform/gridlib/GridMessages.h"
 
 IMPLEMENT_DYNAMIC(CGXGridWnd, CWnd)
@@ -37,7 +36,7 @@ const MessageMap& CGXGridWnd::messageMap() const {
                                     on<WM_HSCROLL, &CGXGridWnd::onHScroll>(),
                                     on<WM_MOUSEWHEEL, &CGXGridWnd::onWheel>(),
                                     onRaw<WM_MOUSEHWHEEL, &CGXGridWnd::onWheelAcross>(),
-                                    onRaw<WM_GRID_UPDATE_BARS, &CGXGridWnd::updateBars>(),
+                                    onRaw<WM_GRID_SETTLE, &CGXGridWnd::settle>(),
                                     on<WM_LBUTTONDOWN, &CGXGridWnd::OnLButtonDown>(),
                                     on<WM_LBUTTONUP, &CGXGridWnd::onLButtonUp>(),
                                     on<WM_LBUTTONDBLCLK, &CGXGridWnd::onLButtonDblClk>(),
@@ -89,7 +88,7 @@ void CGXGridWnd::refreshLook() {
     m_cols.setScale(m_look.dotsPerInch());
     m_editor.setFont(m_look.font());
     invalidateAll();
-    wantBars();
+    settleLater();
 }
 
 void CGXGridWnd::invalidate(const RECT& rect) {
@@ -110,6 +109,7 @@ void CGXGridWnd::invalidateAll() {
 void CGXGridWnd::cellsChanged(const CGXRange& range) {
     if (!m_hWnd) return;
     if (m_open && range.contains(m_open->at.row, m_open->at.col)) refreshOpenCell();
+    settleLater();
     if (m_allPending) return;
     const uint32_t lastRow = m_rows.lastInView(), lastCol = m_cols.lastInView();
     if (range.top > lastRow + 1 || (range.top > 0 && range.bottom < m_rows.first())) return;
@@ -125,7 +125,7 @@ void CGXGridWnd::cellsChanged(const CGXRange& range) {
 }
 
 void CGXGridWnd::tableResized() {
-    if (m_hWnd) wantBars();
+    if (m_hWnd) settleLater();
 }
 
 void CGXGridWnd::selectionMoved(bool scroll) {
@@ -133,11 +133,9 @@ void CGXGridWnd::selectionMoved(bool scroll) {
     if (m_open && m_open->at != m_selection.current()) closeEditor(End::take);
     if (scroll) {
         const CellPlace at = m_selection.extent();
-        if (m_rows.reveal(at.row) | m_cols.reveal(at.col)) wantBars();
+        if (m_rows.reveal(at.row) | m_cols.reveal(at.col)) settleLater();
     }
-    if (::GetFocus() == m_hWnd)
-        NotifyWinEvent(EVENT_OBJECT_FOCUS, m_hWnd, OBJID_CLIENT,
-                       childOf(m_selection.current().row, m_selection.current().col, GetColCount()));
+    noticeSelection();
     invalidateAll();
 }
 
@@ -166,7 +164,7 @@ void CGXGridWnd::onSize(UINT, int width, int height) {
     m_cols.setLength(width);
     m_rows.setLength(height);
     invalidateAll();
-    wantBars();
+    settleLater();
     placeEditor();
 }
 

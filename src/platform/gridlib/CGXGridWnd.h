@@ -27,9 +27,12 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
 
     const MessageMap& messageMap() const override;
 
-    // A paste took so many cells and refused others, which are marked until the next change. Called before
-    // the events of the cells that changed.
-    virtual void OnPasted(size_t /*taken*/, size_t /*refused*/) {}
+    // A paste took so many cells, refused others, which are marked until the next change, and had more than
+    // the table has a place for. Called before the events of the cells that changed.
+    virtual void OnPasted(size_t /*taken*/, size_t /*refused*/, size_t /*outside*/) {}
+    // A person wanted to copy, paste or empty more than MOST_CELLS at a time; nothing was done.
+    virtual void OnTooManyCells() { MessageBeep(MB_ICONWARNING); }
+    static constexpr uint64_t MOST_CELLS = 5'000'000;
 
   protected:
     void OnLButtonDown(UINT keys, POINT at);
@@ -43,12 +46,6 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     enum class Gesture { none, selecting, sizingColumn, sizingRow };
     enum class End { take, giveUp };
 
-    // What is done to many cells at a time is refused for more.
-    static constexpr uint64_t MOST_CELLS = 5'000'000;
-    static uint64_t cellsIn(const CGXRange& cells) {
-        return (uint64_t{cells.bottom} - cells.top + 1) * (uint64_t{cells.right} - cells.left + 1);
-    }
-
     // --- CGXGridWnd.cpp: showing
     GridScene scene() const;
     void refreshLook();
@@ -56,7 +53,6 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     void invalidateAll();
     bool eraseBackground(HDC) { return true; }
     void paint();
-    void setFont(HFONT font);
     LRESULT onSetFont(WPARAM w, LPARAM l);
     LRESULT onGetFont(WPARAM w, LPARAM l);
     void onSize(UINT how, int width, int height);
@@ -66,13 +62,13 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     void onFocusLost(CWnd* next);
 
     // --- GridScrolling.cpp
-    void scrollTo(int64_t firstRow, int64_t firstCol);
-    void wantBars();
-    LRESULT updateBars(WPARAM w, LPARAM l);
+    void showScrolled(bool moved);
+    void settleLater();
+    LRESULT settle(WPARAM w, LPARAM l);
     void setBar(int bar, const TrackView& view);
     void onVScroll(UINT code, UINT position);
     void onHScroll(UINT code, UINT position);
-    int64_t scrolled(int bar, const TrackView& view, UINT code) const;
+    bool scroll(int bar, TrackView& view, UINT code);
     void onWheel(UINT keys, int delta, POINT at);
     LRESULT onWheelAcross(WPARAM w, LPARAM l);
 
@@ -115,6 +111,7 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     void editorEnds(CellEditor::Ending ending) override;
     bool isEditableAt(CellPlace at) const;
     void tellModified(const std::vector<CellPlace>& changed);
+    void tellModified(CellPlace at);
     std::vector<GridTable::Entry> entriesFor(CellPlace at, const CellText& text) const;
     void toggle(CellPlace at);
     void emptySelection();
@@ -133,6 +130,11 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     LRESULT onSelect(WPARAM place, LPARAM flags);
     LRESULT onCellAt(WPARAM x, LPARAM y);
 
+    // --- GridNotices.cpp
+    void noticeSelection();
+    void noticeValue(CellPlace at);
+    void noticeCurrentValue();
+
     TrackView m_rows{m_table.heights()};
     TrackView m_cols{m_table.widths()};
     GridLook m_look;
@@ -145,8 +147,8 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     // What will be painted anyway: further changes there need no call of the platform.
     std::vector<RECT> m_pending;
     bool m_allPending = false;
-    bool m_barsWanted = false;
-    std::array<SCROLLINFO, 2> m_bars{};
+    bool m_settlesLater = false;
+    std::array<TrackView::Bar, 2> m_bars{};
 
     Gesture m_gesture = Gesture::none;
     CellPlace m_pressed;  // the cell, or the column or row that is sized
@@ -159,6 +161,9 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     };
     Column m_column{};
     int m_wheelRest = 0;
+
+    // The current cell and its text, as assistive programs know them.
+    OpenCell m_noticed{};
 
     // What was told last to who asked.
     std::vector<GridArea> m_toldAreas;

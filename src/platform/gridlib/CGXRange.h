@@ -25,6 +25,7 @@ class CGXRange {
     bool contains(uint32_t row, uint32_t col) const {
         return row >= top && row <= bottom && col >= left && col <= right;
     }
+    uint64_t cellCount() const { return (uint64_t{bottom} - top + 1) * (uint64_t{right} - left + 1); }
     bool touches(const CGXRange& other) const {
         return top <= other.bottom && other.top <= bottom && left <= other.right && other.left <= right;
     }

@@ -150,6 +150,7 @@ void CellEditor::setFont(HFONT font) {
 bool CellEditor::open(HWND parent, const CGXStyle& style, const CString& text, bool byTyping) {
     const CellKind kind = cellKind(style);
     m_byTyping = byTyping;
+    m_placed = {};
     if (kind == CellKind::choice) {
         if (!create(m_choice, parent, L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL)) return false;
         m_choice.SendMessage(CB_RESETCONTENT);
@@ -170,7 +171,8 @@ bool CellEditor::open(HWND parent, const CGXStyle& style, const CString& text, b
 }
 
 void CellEditor::place(const RECT& rect) {
-    if (!m_field) return;
+    if (!m_field || EqualRect(&rect, &m_placed)) return;
+    m_placed = rect;
     if (rect.left >= rect.right || rect.top >= rect.bottom) return m_field->ShowWindow(SW_HIDE);
     RECT window = rect;
     if (m_field == &m_choice) {

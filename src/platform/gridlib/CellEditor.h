@@ -90,6 +90,7 @@ class CellEditor {
     TextField m_line, m_lines;
     ChoiceField m_choice;
     CWnd* m_field = nullptr;  // the one that is open
+    RECT m_placed{};          // where it is
     Owner& m_owner;
     HFONT m_font = nullptr;
     bool m_byTyping = false;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "src/platform/base/GridQuery.h"
+#include "src/platform/gridlib/CountedObject.h"
 #include "src/platform/gridlib/GridMessages.h"
 #include "src/platform/gridlib/SelectedChildren.h"
 
@@ -19,26 +20,9 @@ BSTR textOf(const std::wstring& text) {
 }
 
 // It knows its grid by the window alone and asks it by message, so that it may outlive it.
-class GridAccessible final : public IAccessible {
+class GridAccessible final : public CountedObject<IAccessible, IDispatch> {
   public:
     explicit GridAccessible(HWND grid) : m_grid(grid) {}
-
-    // --- IUnknown
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-        if (!object) return E_POINTER;
-        const bool is = id == __uuidof(IAccessible) || id == __uuidof(IDispatch) || id == __uuidof(IUnknown);
-        *object = is ? static_cast<IAccessible*>(this) : nullptr;
-        if (!is) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return static_cast<ULONG>(InterlockedIncrement(&m_owners)); }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const LONG owners = InterlockedDecrement(&m_owners);
-        if (owners == 0) delete this;
-        return static_cast<ULONG>(owners);
-    }
 
     // --- IDispatch: clients come by the interface itself
 
@@ -123,7 +107,8 @@ class GridAccessible final : public IAccessible {
         if (table.hasCurrent && isCurrent && GetFocus() == m_grid) state->lVal |= STATE_SYSTEM_FOCUSED;
         state->lVal |= STATE_SYSTEM_SELECTABLE;
         if (isSelected(table, cell.at)) state->lVal |= STATE_SYSTEM_SELECTED;
-        if (cell.readOnly) state->lVal |= STATE_SYSTEM_READONLY;
+        if (!cell.isEditable) state->lVal |= STATE_SYSTEM_READONLY;
+        if (cell.isTicked) state->lVal |= STATE_SYSTEM_CHECKED;
         if (cell.rect.width() <= 0) state->lVal |= STATE_SYSTEM_OFFSCREEN;
         return S_OK;
     }
@@ -223,7 +208,7 @@ class GridAccessible final : public IAccessible {
     HRESULT STDMETHODCALLTYPE put_accValue(VARIANT, BSTR) override { return E_NOTIMPL; }
 
   private:
-    ~GridAccessible() = default;
+    ~GridAccessible() override = default;
 
     static HRESULT none(BSTR* text) {
         *text = nullptr;
@@ -268,7 +253,6 @@ class GridAccessible final : public IAccessible {
     }
 
     HWND m_grid;
-    LONG m_owners = 1;
 };
 
 }  // namespace

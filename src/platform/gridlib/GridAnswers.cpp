@@ -19,7 +19,7 @@ bool CGXGridWnd::answer(GridQuestion question, void* record) {
             if (!m_table.has(at.row, at.column)) return false;
             if (m_rows.reveal(at.row) | m_cols.reveal(at.column)) {
                 invalidateAll();
-                wantBars();
+                settleLater();
                 placeEditor();
             }
             return true;
@@ -73,6 +73,8 @@ bool CGXGridWnd::tell(GridCellLook& cell) {
     cell.choices = m_toldChoices.c_str();
     cell.controlType = look.control.value_or(CONTROL_EDIT);
     cell.readOnly = look.readOnly.value_or(false);
+    cell.isEditable = at.row > 0 && isEditable(style);
+    cell.isTicked = cellKind(style) == CellKind::check && isTicked(style);
     cell.wraps = look.wrap.value_or(false);
     cell.merge = look.merge.value_or(MERGE_NOT);
     cell.alignment = look.horizontal.value_or(ALIGN_LEFT);

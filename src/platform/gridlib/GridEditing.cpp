@@ -21,7 +21,7 @@ bool CGXGridWnd::startEditing(bool byTyping) {
     m_textBefore = m_textToldLast = text;
     m_refused.clear();
     placeEditor();
-    wantBars();
+    settleLater();
     return m_open.has_value();
 }
 
@@ -60,8 +60,7 @@ void CGXGridWnd::editorChanged() {
     CString text = m_editor.text();
     if (text == m_open->text) return;
     m_open->text = m_textToldLast = std::move(text);
-    const CellPlace at = m_open->at;
-    OnModifyCell(at.row, at.col);
+    tellModified(m_open->at);
 }
 
 // The cell's text as the table has it and as the last event told it may differ then: who refuses or gives up
@@ -80,7 +79,7 @@ void CGXGridWnd::closeEditor(End end) {
     }
     invalidateAll();
     if (end == End::giveUp) OnCancelEditing(open.at.row, open.at.col);
-    if (m_table.value(open.at.row, open.at.col) != m_textToldLast) OnModifyCell(open.at.row, open.at.col);
+    if (m_table.value(open.at.row, open.at.col) != m_textToldLast) tellModified(open.at);
 }
 
 void CGXGridWnd::editorEnds(CellEditor::Ending ending) {
@@ -122,9 +121,14 @@ std::vector<GridTable::Entry> CGXGridWnd::entriesFor(CellPlace at, const CellTex
 void CGXGridWnd::tellModified(const std::vector<CellPlace>& changed) {
     invalidateAll();
     for (const CellPlace& at : changed) {
-        OnModifyCell(at.row, at.col);
+        tellModified(at);
         if (!isLive()) return;
     }
+}
+
+void CGXGridWnd::tellModified(CellPlace at) {
+    noticeValue(at);
+    OnModifyCell(at.row, at.col);
 }
 
 void CGXGridWnd::toggle(CellPlace at) {
@@ -141,7 +145,8 @@ void CGXGridWnd::emptySelection() {
     std::vector<GridTable::Entry> entries;
     for (const CGXRange& range : m_selection.ranges()) {
         const auto cells = m_table.within(range);
-        if (!cells || cellsIn(*cells) > MOST_CELLS) return static_cast<void>(MessageBeep(MB_ICONWARNING));
+        if (!cells) continue;
+        if (cells->cellCount() > MOST_CELLS) return OnTooManyCells();
         for (uint32_t row = cells->top; row <= cells->bottom; ++row)
             for (uint32_t col = cells->left; col <= cells->right; ++col) {
                 const CGXStyle style = m_table.style(row, col);

@@ -3,8 +3,9 @@
 
 #include <windows.h>
 
-// The scroll bars are set once for all that changed since the last turn of the message loop.
-constexpr UINT WM_GRID_UPDATE_BARS = WM_USER + 1;
+// What follows from changes is done once for all since the last turn of the message loop: the scroll bars are
+// set, the open editor goes to where its cell is, assistive programs hear of the current cell's value.
+constexpr UINT WM_GRID_SETTLE = WM_USER + 1;
 
 // From the grid's accessible object. Selects a cell as a person does: the row in the upper 32 bits, the
 // column in the lower; the SELFLAGs that say how. 0 where that can't be.

@@ -25,8 +25,8 @@ int64_t borderNear(const TrackView& view, int pixel, int reach) {
     return at == view.first() ? 0 : int64_t{at} - 1;
 }
 
-// The largest size with which it is wholly in view, at 96 dots per inch: what a person makes larger could no
-// longer be made smaller, as its border would never come into view.
+// The largest size with which it is wholly in view, at 96 dots per inch. A person makes nothing larger, so
+// that its border can be taken again.
 int32_t room(const TrackView& view, uint32_t track) {
     const int pixels = std::max(0, view.length() - (track == 0 ? 0 : view.headerEnd()));
     return std::max(MulDiv(pixels, USER_DEFAULT_SCREEN_DPI, view.scale()), SMALLEST_TRACK);
@@ -150,7 +150,8 @@ void CGXGridWnd::onTimer(UINT_PTR) {
     const auto kind = m_selection.ranges().empty() ? CGXRange::cells : m_selection.ranges().back().kind;
     const int64_t down = kind == CGXRange::columns ? 0 : step(at.y, m_rows.length(), m_rows.headerEnd());
     const int64_t right = kind == CGXRange::rows ? 0 : step(at.x, m_cols.length(), m_cols.headerEnd());
-    scrollTo(m_rows.first() + down, m_cols.first() + right);
+    showScrolled(m_rows.scrollBy(down, TrackView::Stride::quarter) |
+                 m_cols.scrollBy(right, TrackView::Stride::quarter));
     dragTo(at);
 }
 

@@ -17,9 +17,13 @@ bool isOnFace(CellKind kind) {
     return kind == CellKind::header || kind == CellKind::face || kind == CellKind::pushFace;
 }
 
+// What begins before the view is taken to begin with the first one in view.
 int shownFrom(const TrackView& view, uint32_t at) {
-    return at == 0 ? 0 : std::max(view.start(at), view.headerEnd());
+    return at == 0 ? 0 : view.start(std::max(at, view.first()));
 }
+
+// Where cells begin that are neither headers: nothing of them shows before.
+int edge(const TrackView& view, uint32_t at) { return at == 0 ? 0 : view.headerEnd(); }
 
 CellColors colorsOf(const GridScene& scene, const CellLook& look, CellKind kind) {
     const bool onFace = isOnFace(kind) || !scene.isEnabled;
@@ -122,8 +126,22 @@ class Painter {
         const bool isMerged = cells.top != cells.bottom || cells.left != cells.right;
         RECT rect{col.from, row.from, col.to, row.to};
         if (isMerged) rect = shownRect(m_scene, cells);
+        const POINT from{edge(m_scene.cols, cells.left), edge(m_scene.rows, cells.top)};
+        const bool isCut = rect.left < from.x || rect.top < from.y;
+        if (isCut) cutAt(from);
         drawCell(cells, rect, isMerged);
         if (m_scene.hasFocus && cells.contains(m_current.row, m_current.col)) frame(rect);
+        if (isCut) endCut();
+    }
+
+    // Only one that is larger than the view is ever scrolled away in part.
+    void cutAt(POINT from) const {
+        SaveDC(m_dc);
+        IntersectClipRect(m_dc, from.x, from.y, m_area.right, m_area.bottom);
+    }
+    void endCut() {
+        RestoreDC(m_dc, -1);
+        m_background = m_textColor = CLR_INVALID;
     }
 
     const DrawnLook& lookOf(uint32_t row, uint32_t col) {
@@ -290,7 +308,10 @@ ShownCell shownCell(const GridScene& scene, CellPlace at) {
     within.bottom = std::max(within.bottom, at.row);
     within.right = std::max(within.right, at.col);
     const CGXRange cells = scene.grid.table().merged(at.row, at.col, within);
-    return {cells, shownRect(scene, cells)};
+    RECT rect = shownRect(scene, cells);
+    rect.left = std::max<LONG>(rect.left, edge(scene.cols, cells.left));
+    rect.top = std::max<LONG>(rect.top, edge(scene.rows, cells.top));
+    return {cells, rect};
 }
 
 CellColors cellColors(const GridScene& scene, const CGXStyle& style) {

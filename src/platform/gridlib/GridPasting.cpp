@@ -15,8 +15,8 @@ std::optional<CGXRange> CGXGridWnd::copied() const {
 bool CGXGridWnd::copy() {
     const auto cells = copied();
     if (!cells) return false;
-    if (cellsIn(*cells) > MOST_CELLS) {
-        MessageBeep(MB_ICONWARNING);
+    if (cells->cellCount() > MOST_CELLS) {
+        OnTooManyCells();
         return false;
     }
     CellRows rows;
@@ -33,11 +33,11 @@ void CGXGridWnd::paste() {
     const auto rows = cells ? cellsOnClipboard(m_hWnd) : std::nullopt;
     if (!rows) return;
     const PastedCells pasted = pastedCells(m_table, *cells, *rows, MOST_CELLS);
+    if (pasted.tooMany) return OnTooManyCells();
     m_refused.clear();
     const std::vector<CellPlace> changed = m_table.enter(pasted.entries, m_refused);
     std::sort(m_refused.begin(), m_refused.end());
     invalidateAll();
-    const size_t refused = m_refused.size() + pasted.outside;
-    OnPasted(pasted.entries.size() - m_refused.size(), refused);
+    OnPasted(pasted.entries.size() - m_refused.size(), m_refused.size(), pasted.outside);
     if (isLive()) tellModified(changed);
 }

@@ -1,14 +1,24 @@
 #include "src/platform/gridlib/PastedCells.h"
 
+namespace {
+
+uint64_t cellsIn(const CellRows& rows) {
+    uint64_t count = 0;
+    for (const CStringArray& row : rows) count += row.size();
+    return count;
+}
+
+}  // namespace
+
 PastedCells pastedCells(const GridTable& table, const CGXRange& selected, const CellRows& rows,
                         uint64_t most) {
     PastedCells pasted;
     const auto cells = table.within(selected);
     if (!cells) return pasted;
-    if (rows.size() == 1 && rows[0].size() == 1) {
-        const uint64_t count =
-            (uint64_t{cells->bottom} - cells->top + 1) * (uint64_t{cells->right} - cells->left + 1);
-        if (count > most) return pasted;
+    const bool fills = rows.size() == 1 && rows[0].size() == 1;
+    pasted.tooMany = (fills ? cells->cellCount() : cellsIn(rows)) > most;
+    if (pasted.tooMany) return pasted;
+    if (fills) {
         const CellText text(rows[0][0]);
         for (uint32_t row = cells->top; row <= cells->bottom; ++row)
             for (uint32_t col = cells->left; col <= cells->right; ++col)

@@ -3,30 +3,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "src/platform/gridlib/CountedObject.h"
 #include "src/platform/gridlib/GridAccessible.h"
 
 namespace {
 
-class SelectedChildren final : public IEnumVARIANT {
+class SelectedChildren final : public CountedObject<IEnumVARIANT> {
   public:
     SelectedChildren(std::vector<GridArea> areas, uint32_t columns)
         : m_areas(std::move(areas)), m_columns(columns) {
         Reset();
-    }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-        if (!object) return E_POINTER;
-        const bool is = id == __uuidof(IEnumVARIANT) || id == __uuidof(IUnknown);
-        *object = is ? static_cast<IEnumVARIANT*>(this) : nullptr;
-        if (!is) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return static_cast<ULONG>(InterlockedIncrement(&m_owners)); }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const LONG owners = InterlockedDecrement(&m_owners);
-        if (owners == 0) delete this;
-        return static_cast<ULONG>(owners);
     }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* children, ULONG* given) override {
@@ -56,7 +42,7 @@ class SelectedChildren final : public IEnumVARIANT {
     }
 
   private:
-    ~SelectedChildren() = default;
+    ~SelectedChildren() override = default;
 
     void enter(size_t area) {
         m_area = area;
@@ -82,7 +68,6 @@ class SelectedChildren final : public IEnumVARIANT {
     uint32_t m_columns;
     size_t m_area = 0;
     GridPlace m_at;
-    LONG m_owners = 1;
 };
 
 }  // namespace

@@ -94,6 +94,49 @@ TEST_F(AccessibleTest, EachCellHasTextHeadersPlaceRoleAndState) {
     EXPECT_EQ(client->accHitTest(left, top + 2000, &found), S_FALSE);
 }
 
+TEST_F(AccessibleTest, StateTellsWhatAPersonMayChangeAndWhatIsTicked) {
+    grid.SetStyleRange(CGXRange(1, 1, 2, 1), CGXStyle().SetControl(CONTROL_CHECK).SetValue(L"0"));
+    grid.SetValueRange(CGXRange(2, 1), L"1");
+    grid.SetStyleRange(CGXRange(3, 1), CGXStyle().SetControl(CONTROL_STATIC));
+    constexpr long BOTH = STATE_SYSTEM_READONLY | STATE_SYSTEM_CHECKED;
+    const auto state = [&](uint32_t row, uint32_t col) {
+        return number(&IAccessible::get_accState, cell(row, col)) & BOTH;
+    };
+    EXPECT_EQ(state(1, 1), 0);
+    EXPECT_EQ(state(2, 1), STATE_SYSTEM_CHECKED);
+    EXPECT_EQ(state(3, 1), STATE_SYSTEM_READONLY);
+    EXPECT_EQ(state(0, 1), STATE_SYSTEM_READONLY);
+}
+
+// Each as its number and the child that it is about.
+std::vector<std::pair<DWORD, long>> noticed;
+
+void CALLBACK notice(HWINEVENTHOOK, DWORD event, HWND, LONG object, LONG child, DWORD, DWORD) {
+    if (object == OBJID_CLIENT) noticed.emplace_back(event, child);
+}
+
+TEST_F(AccessibleTest, SelectionAndValuesAreToldToWhoListens) {
+    press(1, 1);
+    noticed.clear();
+    const HWINEVENTHOOK hook = SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_VALUECHANGE, nullptr, notice,
+                                               GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
+    const auto take = [] {
+        pump();
+        return std::exchange(noticed, {});
+    };
+    using Noticed = std::vector<std::pair<DWORD, long>>;
+    const long first = cell(1, 1).lVal, second = cell(2, 1).lVal;
+    key(VK_DOWN);
+    EXPECT_EQ(take(), (Noticed{{EVENT_OBJECT_FOCUS, second}, {EVENT_OBJECT_SELECTION, second}}));
+    key(VK_UP, {VK_SHIFT});
+    EXPECT_EQ(take(), (Noticed{{EVENT_OBJECT_FOCUS, second}, {EVENT_OBJECT_SELECTIONWITHIN, CHILDID_SELF}}));
+    key(VK_DELETE);
+    EXPECT_EQ(take(), (Noticed{{EVENT_OBJECT_VALUECHANGE, first}, {EVENT_OBJECT_VALUECHANGE, second}}));
+    grid.SetValueRange(CGXRange(1, 1, 20, 2), L"program");
+    EXPECT_EQ(take(), (Noticed{{EVENT_OBJECT_VALUECHANGE, second}})) << "the current cell";
+    UnhookWinEvent(hook);
+}
+
 TEST_F(AccessibleTest, ClientMovesTheCurrentCellAsAPersonDoes) {
     grid.events.clear();
     client->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, cell(15, 2));

@@ -42,10 +42,10 @@ TEST_F(EditingTest, TypingReplacesTellsEachChangeAndEnterGoesDown) {
     key(VK_TAB);
     EXPECT_EQ(grid.GetValueRowCol(1, 2), L"c") << "what F2 opens is selected as a whole";
     EXPECT_EQ(grid.currentCell(), (CellPlace{1, 3}));
-    key('Z', VK_CONTROL);
-    key('Z', VK_CONTROL);
+    key('Z', {VK_CONTROL});
+    key('Z', {VK_CONTROL});
     EXPECT_EQ(grid.GetValueRowCol(1, 2), L"");
-    key('Y', VK_CONTROL);
+    key('Y', {VK_CONTROL});
     EXPECT_EQ(grid.GetValueRowCol(1, 2), L"ab");
 }
 
@@ -90,7 +90,7 @@ TEST_F(EditingTest, CellsTakeWhatTheirTypeAllows) {
 TEST_F(EditingTest, WrappedTextHasLinesAndLeavesWithTheFocus) {
     go(5, 1);
     type(L"one");
-    key(VK_RETURN, VK_CONTROL);
+    key(VK_RETURN, {VK_CONTROL});
     type(L"\ntwo");
     parent.SetFocus();
     EXPECT_EQ(grid.GetValueRowCol(5, 1), L"one\ntwo");
@@ -110,15 +110,73 @@ TEST_F(EditingTest, ProgramMayChangeTheOpenCell) {
     EXPECT_EQ(grid.takeEvents(), Events()) << "a program knows what it does";
 }
 
+TEST_F(EditingTest, OpenEditorStaysOnItsCellWhenAProgramChangesSizes) {
+    go(3, 2);
+    type(L"open");
+    const auto edges = [&] {
+        RECT window;
+        GetWindowRect(GetFocus(), &window);
+        MapWindowPoints(nullptr, grid.m_hWnd, reinterpret_cast<POINT*>(&window), 2);
+        return PixelRect{window.left, window.top, window.right + 1, window.bottom + 1};
+    };
+    const auto change = [&](auto size) {
+        const PixelRect before = edges();
+        size();
+        pump();
+        EXPECT_NE(edges(), before);
+        EXPECT_EQ(edges(), look(3, 2).rect);
+    };
+    change([&] { grid.SetRowHeight(0, 2, 30); });
+    change([&] { grid.SetColWidth(1, 1, 130); });
+    change([&] { grid.SetColWidth(2, 2, 40); });
+    grid.events.clear();
+    grid.SetRowHeight(1, 1, 2000);
+    pump();
+    EXPECT_FALSE(look(3, 2).isEdited) << "nobody would see what is typed";
+    EXPECT_EQ(grid.GetValueRowCol(3, 2), L"open");
+}
+
+TEST_F(EditingTest, DeleteGoesInTheOrderOfTheCells) {
+    grid.SetValueRange(CGXRange(1, 2, 6, 3), L"x");
+    press(5, 2);
+    press(1, 3, MK_CONTROL);
+    grid.events.clear();
+    key(VK_DELETE);
+    EXPECT_EQ(grid.takeEvents(), (Events{L"modify 1 3 ", L"modify 5 2 "}));
+}
+
+TEST_F(EditingTest, AltGrWritesAndCommandsNothing) {
+    grid.SetValueRange(CGXRange(1, 2), L"x");
+    go(1, 2);
+    for (const WPARAM command : {'A', 'X', 'Z', 'V'}) key(command, {VK_CONTROL, VK_MENU});
+    EXPECT_EQ(grid.takeEvents(), Events());
+    type(L"\u0105");
+    key('A', {VK_CONTROL, VK_MENU});
+    type(L"b");
+    EXPECT_EQ(grid.GetValueRowCol(1, 2), L"\u0105b") << "nothing was selected to be typed over";
+}
+
+TEST_F(EditingTest, TooManyCellsAreLeftAloneAndItIsSaid) {
+    grid.SetRowCount(3'000'000);
+    putOnClipboard(parent.m_hWnd, {{L"x"}});
+    go(1, 2);
+    key('A', {VK_CONTROL});
+    grid.events.clear();
+    for (const WPARAM command : {'V', 'C', 'X'}) key(command, {VK_CONTROL});
+    key(VK_DELETE);
+    EXPECT_EQ(grid.takeEvents(), Events(4, L"too many"));
+    EXPECT_EQ(cellsOnClipboard(parent.m_hWnd), CellRows(1, CStringArray(1, L"x")));
+}
+
 TEST_F(EditingTest, PasteIsCheckedCellByCellAndUndoneAsOne) {
     putOnClipboard(parent.m_hWnd, {{L"a", L"b"}, {L"c", L"d"}, {L"Pink", L"e"}, {L"1", L"f"}});
     go(1, 1);
-    key('V', VK_CONTROL);
-    EXPECT_EQ(grid.takeEvents(), (Events{L"pasted 6 2", L"modify 1 1 a", L"modify 1 2 b", L"modify 2 2 d",
+    key('V', {VK_CONTROL});
+    EXPECT_EQ(grid.takeEvents(), (Events{L"pasted 6 2 0", L"modify 1 1 a", L"modify 1 2 b", L"modify 2 2 d",
                                          L"modify 3 2 e", L"modify 4 1 1", L"modify 4 2 f"}));
     EXPECT_EQ(grid.GetValueRowCol(2, 1), L"fixed");
     EXPECT_EQ(grid.GetValueRowCol(3, 1), L"Red");
-    key('Z', VK_CONTROL);
+    key('Z', {VK_CONTROL});
     EXPECT_EQ(grid.takeEvents().size(), 6u);
     EXPECT_EQ(grid.GetValueRowCol(4, 2), L"");
 
@@ -126,20 +184,20 @@ TEST_F(EditingTest, PasteIsCheckedCellByCellAndUndoneAsOne) {
     press(1, 2);
     press(3, 3, MK_SHIFT);
     grid.events.clear();
-    key('V', VK_CONTROL);
+    key('V', {VK_CONTROL});
     EXPECT_EQ(grid.takeEvents().size(), 7u) << "a single cell fills the selection";
-    key('C', VK_CONTROL);
+    key('C', {VK_CONTROL});
     EXPECT_EQ(cellsOnClipboard(parent.m_hWnd), CellRows(3, CStringArray(2, L"same")));
     key(VK_DELETE);
     EXPECT_EQ(grid.GetValueRowCol(2, 3), L"");
-    key('Z', VK_CONTROL);
+    key('Z', {VK_CONTROL});
     EXPECT_EQ(grid.GetValueRowCol(2, 3), L"same");
     grid.events.clear();
 
     go(6, 3);
     putOnClipboard(parent.m_hWnd, {{L"in", L"out"}, {L"out", L"out"}});
-    key('V', VK_CONTROL);
-    EXPECT_EQ(grid.takeEvents()[0], L"pasted 1 3");
+    key('V', {VK_CONTROL});
+    EXPECT_EQ(grid.takeEvents()[0], L"pasted 1 0 3");
 }
 
 }  // namespace

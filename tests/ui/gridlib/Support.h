@@ -27,9 +27,11 @@ class NotingGrid : public CGXGridWnd {
         events.push_back(L"modify " + std::to_wstring(row) + L' ' + std::to_wstring(col) + L' ' +
                          GetValueRowCol(row, col));
     }
-    void OnPasted(size_t taken, size_t refused) override {
-        events.push_back(L"pasted " + std::to_wstring(taken) + L' ' + std::to_wstring(refused));
+    void OnPasted(size_t taken, size_t refused, size_t outside) override {
+        events.push_back(L"pasted " + std::to_wstring(taken) + L' ' + std::to_wstring(refused) + L' ' +
+                         std::to_wstring(outside));
     }
+    void OnTooManyCells() override { events.push_back(L"too many"); }
 
     std::vector<std::wstring> takeEvents() { return std::exchange(events, {}); }
 };
@@ -93,14 +95,13 @@ class GridTest : public testing::Test {
         grid.SendMessage(WM_LBUTTONUP, 0, at);
     }
 
-    // Given to the window that has the focus; `with`: a key that is held meanwhile.
-    static void key(WPARAM code, int with = 0) {
+    // Given to the window that has the focus; `held`: keys that are down meanwhile.
+    static void key(WPARAM code, std::initializer_list<int> held = {}) {
         BYTE state[256] = {};
-        SetKeyboardState(state);
-        if (with) state[with] = 0x80;
+        for (const int other : held) state[other] = 0x80;
         SetKeyboardState(state);
         ::SendMessageW(GetFocus(), WM_KEYDOWN, code, 1);
-        state[with] = 0;
+        for (const int other : held) state[other] = 0;
         SetKeyboardState(state);
     }
     static void type(const std::wstring& text) {

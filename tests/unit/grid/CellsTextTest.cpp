@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "src/platform/gridlib/PastedCells.h"
+
 #include "src/platform/gridlib/CellKind.h"
 #include "src/platform/gridlib/NumberFormat.h"
 
@@ -79,6 +81,21 @@ TEST(CellKindTest, TakesWhatItsTypeAllows) {
         for (const wchar_t* text : row.yes) EXPECT_TRUE(accepts(row.style, text)) << row.what << ": " << text;
         for (const wchar_t* text : row.no) EXPECT_FALSE(accepts(row.style, text)) << row.what << ": " << text;
     }
+}
+
+TEST(PastedCellsTest, FillTheSelectionOrGoOnFromItsCornerUnlessTheyAreTooMany) {
+    GridTable table;
+    table.setRowCount(4);
+    table.setColCount(3);
+    const CGXRange selected(2, 2, 4, 3);
+    EXPECT_EQ(pastedCells(table, selected, {{L"x"}}, 6).entries.size(), 6u);
+    const PastedCells cells = pastedCells(table, selected, {{L"a", L"b", L"c"}, {L"d"}}, 6);
+    EXPECT_EQ(cells.entries.size(), 3u);
+    EXPECT_EQ(cells.entries.back().at, (CellPlace{3, 2}));
+    EXPECT_EQ(cells.outside, 1u);
+    EXPECT_TRUE(pastedCells(table, selected, {{L"x"}}, 5).tooMany);
+    const PastedCells refused = pastedCells(table, selected, {{L"a", L"b"}, {L"c", L"d"}}, 3);
+    EXPECT_TRUE(refused.tooMany && refused.entries.empty());
 }
 
 }  // namespace

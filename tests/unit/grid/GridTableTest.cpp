@@ -111,6 +111,13 @@ TEST(GridTableTest, EqualNeighboursReadAsOneWhereBothMerge) {
     EXPECT_EQ(table.merged(1, 1), CGXRange(1, 1));
 }
 
+TEST(GridTableTest, HeadersMergeWithNoData) {
+    GridTable table = tableOf(3, 2);
+    table.apply(CGXRange(0, 0, 3, 2), merging(L"same", MERGE_ALONG_ROW | MERGE_DOWN_COLUMN));
+    EXPECT_EQ(table.merged(0, 1), CGXRange(0, 0, 0, 2));
+    EXPECT_EQ(table.merged(1, 1), CGXRange(1, 0, 3, 2));
+}
+
 TEST(GridTableTest, PersonsStepIsUndoneAsOneAndNeverUndoesAProgram) {
     GridTable table = tableOf(3, 2);
     table.apply(CGXRange(1, 2), CGXStyle().SetReadOnly(true));

@@ -84,4 +84,49 @@ TEST(TrackViewTest, HitsAndReveals) {
     }
 }
 
+// By lines, by pages and by the bar, forth and back: each pixel of it comes into view, those behind it too.
+TEST(TrackViewTest, OneLargerThanTheViewIsScrolledThrough) {
+    using Stride = TrackView::Stride;
+    TrackSizes sizes(70);
+    sizes.setCount(5);
+    sizes.set(2, 2, 1000);
+    TrackView view(sizes);
+    view.setLength(270);
+    const auto scrollToTheEnd = [&](int64_t count, Stride stride) {
+        std::vector<int> starts;
+        while (view.scrollBy(count, stride)) {
+            EXPECT_EQ(view.at(70), view.first());
+            starts.push_back(view.start(2));
+        }
+        return starts;
+    };
+    EXPECT_EQ(scrollToTheEnd(1, Stride::whole), (std::vector{70, -130, -330, -530, -730, -930}));
+    EXPECT_EQ(view.first(), 3u);
+    EXPECT_EQ(view.bar(), (TrackView::Bar{70 + 1000 + 199, 200, 70 + 1000}));
+    EXPECT_EQ(scrollToTheEnd(-1, Stride::quarter).size(), 1u + 800 / 50 + 1);
+    EXPECT_EQ(view.first(), 1u);
+    view.setBarPosition(70 + 640);
+    EXPECT_EQ(view.start(2), 70 - 640);
+    EXPECT_EQ(view.end(2), 430);
+    EXPECT_FALSE(view.reveal(2)) << "it is in view, as far as it can be";
+    EXPECT_TRUE(view.reveal(3));
+    EXPECT_EQ(view.first(), 3u);
+    view.setFirst(2, 500);
+    sizes.set(2, 2, 80);
+    EXPECT_EQ(view.start(view.first()), 70) << "what has become small is shown from its beginning";
+}
+
+TEST(TrackViewTest, ABarReachesTheEndOfTheLargestTable) {
+    TrackSizes sizes(17);
+    sizes.setCount(0x7FFFFFFF);
+    TrackView view(sizes);
+    view.setScale(192);
+    view.setLength(900);
+    const TrackView::Bar bar = view.bar();
+    EXPECT_GT(bar.last, 1 << 29);
+    view.setBarPosition(bar.last);
+    EXPECT_EQ(view.first(), view.lastFirst());
+    EXPECT_EQ(view.bar().position + bar.page, bar.last + 1);
+}
+
 }  // namespace

@@ -49,9 +49,18 @@ TEST(LineFoldingTest, FieldsOfTheNextLineGoBelowThoseOfTheLine) {
         {L"AB\tCD", L"", L"AB\tCD"},
         {L"", L"xx\tyy", L""},
     };
-    for (const auto& wanted : cases)
-        EXPECT_EQ(foldContinuationLine(wanted.line, wanted.next), wanted.folded)
-            << ::testing::PrintToString(std::wstring(wanted.line));
+    for (const auto& wanted : cases) {
+        FoldedLine folded(wanted.line);
+        folded.fold(wanted.next);
+        EXPECT_EQ(folded.text(), wanted.folded) << ::testing::PrintToString(std::wstring(wanted.line));
+    }
+}
+
+// A blank that an earlier round has put in an empty field is a leading one for the next.
+TEST(LineFoldingTest, ManyLinesAreFoldedOneAfterTheOther) {
+    FoldedLine folded(L"AB\t\tCD\tEF");
+    for (const wchar_t* next : {L"xx\ty\tzz\tuu", L"vv\tww\tss", L"\tii\tjj"}) folded.fold(next);
+    EXPECT_EQ(folded.text(), L"\n\nww\nii\tCD\nzz\nss\njj\t");
 }
 
 }  // namespace

@@ -159,4 +159,16 @@ TEST(ListRowsTest, ContinuationLinesFoldAndMakeTheRowHigher) {
     }
 }
 
+// Would take hours if each line that is folded copied those before it.
+TEST(ListRowsTest, AHundredThousandLinesFoldIntoOne) {
+    Table table(2);
+    table.SetRowCount(1);
+    CStringArray lines(100'001, L"more\t\tlines");
+    lines[0] = L"first\tKEY\tlast";
+    listed(table, lines, false, 1);
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_TRUE(lines[0].starts_with(L"first\nmore\nmore"));
+    EXPECT_EQ(table.GetRowHeight(1), TrackSizes::LARGEST);
+}
+
 }  // namespace
