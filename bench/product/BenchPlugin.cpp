@@ -49,6 +49,13 @@ int32_t timed(Work work) {
 // (bench_now) -> milliseconds since some moment
 int32_t clock() { return giveReal(now()); }
 
+// (bench_nothing argument ...): the call alone
+int32_t nothing() {
+    hostGetArgs();
+    hostRetVoid();
+    return RESULT_SET;
+}
+
 // (bench_click id n): clicks of a button of the running dialog
 int32_t click() {
     const HWND dialog = runningDialog();
@@ -306,6 +313,7 @@ constexpr struct {
     {L"bench_now", &clock},
     {L"bench_click", &click},
     {L"bench_bare_lookup", &bareLookup},
+    {L"bench_nothing", &nothing},
     {L"bench_bare_open_close", &openCloseBare},
     {L"bench_bare_dialog", &openBare},
     {L"bench_bare_end", &closeBare},

@@ -106,9 +106,9 @@ bool WexGrid::OnLeftCell(uint32_t, uint32_t, uint32_t, uint32_t) { return true; 
 
 void WexGrid::OnPasted(size_t taken, size_t refused, size_t outside) {
     if (refused == 0 && outside == 0) return;
-    hostPrintf(L"Pasted: %zu cells were taken", taken);
-    if (refused > 0) hostPrintf(L", %zu refused and marked", refused);
-    if (outside > 0) hostPrintf(L", %zu had no place in the table", outside);
+    hostPrintf(L"Cells pasted: %zu", taken);
+    if (refused > 0) hostPrintf(L"; refused and marked: %zu", refused);
+    if (outside > 0) hostPrintf(L"; without a place in the table: %zu", outside);
     hostPrintf(L".\n");
 }
 

@@ -151,15 +151,16 @@
             (if (and (look "LST" "visible") (look "LST" "enabled")) (ui_key "CTRL+V"))))))))
 
 (setq ends '(((ui_pick "LST" 2 1) 4) ((ui_key "DOWN") 4) ((ui_pick "LST" 1 1 3 2) 4) ((ui_type "LST" "xyz") 7) ((ui_key "DELETE") 7)
-             ((ui_key "CTRL+V") 7)))
+             ((ui_key "CTRL+V") 7)
+             ((progn (wex_grid_setcell "LST" 1 1 52501 "0") (ui_key "SPACE")) 7)))
 
-(test "An event may end the dialog, in the middle of typing, a paste or a deletion"
+(test "An event may end the dialog, in the middle of typing, a paste, a deletion or a tick"
   '((foreach end ends
       (want 5
         (run-dialog "EDIT_NONWD_ATTRS" '(wex_action_tile "LST" "(if (and armed (= $reason reason)) (progn (note $value) (wex_done_dialog 5)))")
           (list '(setq armed nil reason (cadr end)) '(fill-grid) '(ui_pick "LST" 2 1) '(ui_key "CTRL+C") '(ui_pick "LST" 1 1)
                 '(setq armed T) (car end)))))
-    (want 6 (length notes))))
+    (want 7 (length notes))))
 
 (test "An event may run another dialog"
   '((ui_session "CONFIRM_DELREC" '((ui_click "OK")))

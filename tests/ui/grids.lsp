@@ -232,6 +232,23 @@
         (put 1 0 -1 "y")
         (want "" (text-of 1 0))))))
 
+(test "The labels of the grids lead to them; a second grid in a dialog is one of its own"
+  '((foreach way '(("INSERT_SEC_TRM_PINGRID" "PINS" "ALT+P") ("INSERT_SEC_TRM_CAT_PINGRID" "PINS" "ALT+P")
+                   ("CONNECTOR_PINS_IN_USE" "LST" "ALT+P") ("XREF_SETUP_TABLE" "COLS" "ALT+C") ("XREF_SETUP_TABLE" "SAMPLE" "ALT+S"))
+      (in-dialog (car way) nil '((ui_key (caddr way)) (want T (look (cadr way) "focus")))))
+    (in-dialog "XREF_SETUP_TABLE" '(progn (wex_action_tile "COLS" "(note $key)") (wex_action_tile "SAMPLE" "(note $key)"))
+      '((wex_grid_setrowcolumns "COLS" 2 2) (wex_grid_setrowcolumns "SAMPLE" 3 2)
+        (ui_pick "SAMPLE" 3 1) (ui_pick "COLS" 2 1)
+        (want '("sample" "cols") notes)
+        (want '((3 1) (2 1)) (list (look "SAMPLE" "current") (look "COLS" "current")))))))
+
+(test "The rows that the drive gives are those that were asked for"
+  '((in-grid 5 2
+      '((foreach row '(1 2 3 4 5) (put row 1 -1 (itoa row)))
+        (want '("\t4" "\t5") (ui_items "LST" 3))
+        (want '("\t2" "\t3") (ui_items "LST" 1 2))
+        (foreach none '((5) (9 2) (0 0) (2 -1)) (want nil (apply 'ui_items (cons "LST" none))))))))
+
 (test "The grids of the product's dialogs grow with their windows"
   '((foreach pair '(("CONNECTOR_PINS_IN_USE" . "LST") ("INSERT_SEC_TRM_CAT_PINGRID" . "PINS") ("INSERT_SEC_TRM_PINGRID" . "PINS")
                     ("EDIT_NONWD_ATTRS" . "LST") ("XREF_SETUP_TABLE" . "COLS"))

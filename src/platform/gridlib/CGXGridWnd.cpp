@@ -36,7 +36,7 @@ const MessageMap& CGXGridWnd::messageMap() const {
                                     on<WM_HSCROLL, &CGXGridWnd::onHScroll>(),
                                     on<WM_MOUSEWHEEL, &CGXGridWnd::onWheel>(),
                                     onRaw<WM_MOUSEHWHEEL, &CGXGridWnd::onWheelAcross>(),
-                                    onRaw<WM_GRID_SETTLE, &CGXGridWnd::settle>(),
+                                    onRaw<WM_GRID_SETTLE, &CGXGridWnd::onSettle>(),
                                     on<WM_LBUTTONDOWN, &CGXGridWnd::OnLButtonDown>(),
                                     on<WM_LBUTTONUP, &CGXGridWnd::onLButtonUp>(),
                                     on<WM_LBUTTONDBLCLK, &CGXGridWnd::onLButtonDblClk>(),

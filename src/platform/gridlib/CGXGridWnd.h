@@ -64,7 +64,7 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     // --- GridScrolling.cpp
     void showScrolled(bool moved);
     void settleLater();
-    LRESULT settle(WPARAM w, LPARAM l);
+    LRESULT onSettle(WPARAM w, LPARAM l);
     void setBar(int bar, const TrackView& view);
     void onVScroll(UINT code, UINT position);
     void onHScroll(UINT code, UINT position);

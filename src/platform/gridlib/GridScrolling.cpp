@@ -16,7 +16,7 @@ void CGXGridWnd::settleLater() {
     m_settlesLater = PostMessage(WM_GRID_SETTLE);
 }
 
-LRESULT CGXGridWnd::settle(WPARAM, LPARAM) {
+LRESULT CGXGridWnd::onSettle(WPARAM, LPARAM) {
     m_settlesLater = false;
     takeCurrent();
     setBar(SB_VERT, m_rows);
