@@ -87,12 +87,17 @@
 
 ; --- writing back
 
+; Somebody else may have deleted a part since it was read. That's an error for a part that was changed here; one that was
+; deleted here too goes into `gone`.
 (defun write-records (/ record)
-  (foreach record (wex_fp_getdeleted) (setq writing record) (db_exec "DELETE FROM [Footprints] WHERE [Number] = ?" (list (car record))))
+  (foreach record (wex_fp_getdeleted)
+    (setq writing record)
+    (if (= 0 (db_exec "DELETE FROM [Footprints] WHERE [Number] = ?" (list (car record)))) (setq gone (cons (car record) gone))))
   (foreach record (wex_fp_getmodified)
     (setq writing record)
-    (db_exec "UPDATE [Footprints] SET [Maker] = ?, [Assembly] = ?, [Block] = ?, [Description] = ? WHERE [Number] = ?"
-             (append (cdr record) (list (car record)))))
+    (if (= 0 (db_exec "UPDATE [Footprints] SET [Maker] = ?, [Assembly] = ?, [Block] = ?, [Description] = ? WHERE [Number] = ?"
+                      (append (cdr record) (list (car record)))))
+        (error "Somebody else has deleted it. Remove it here too.")))
   (foreach record (wex_fp_getadded) (setq writing record) (db_exec "INSERT INTO [Footprints] VALUES (?, ?, ?, ?, ?)" record)))
 
 ; nil, or why nothing was written.
@@ -103,10 +108,11 @@
                  (strcat "Nothing was written, because of part " (car writing) ":\n"
                          (substr refusal (+ 4 (string-search refusal "): ")))))))
 
-(defun ok-pressed (/ refusal)
+(defun ok-pressed (/ refusal gone)
   (setq refusal (write-back))
   (cond (refusal (wex_alert refusal 1))
-        (T (setq written (count-text)) (wex_fp_savedb) (wex_done_dialog 1))))
+        (T (if gone (wex_alert (strcat "Somebody else had deleted these parts before: " (string-join gone ", ")) 2))
+           (setq written (count-text)) (wex_fp_savedb) (wex_done_dialog 1))))
 
 (defun edit-parts (/ maker order at written)
   (setq maker "" order "Number")
@@ -154,6 +160,11 @@
     (ui_click "OK")
     (ui_type "CAT" "b-200")
     (ui_click "SAVE")
+    ; As another program would.
+    (db_exec "DELETE FROM [Footprints] WHERE [Number] = 'B-105'")
+    (ui_click "OK")
+    (ui_pick "DLST" 4)
+    (ui_click "REMOVE")
     (ui_click "OK")))
 
 (print (edit-parts))
