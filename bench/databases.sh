@@ -5,11 +5,7 @@ set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 . "$root/tools/wine-env.sh"
 . "$root/tools/postgres.sh"
-start_wine headless
-work=$(mktemp -d)
-# In the place of the one of start_wine.
-trap 'remove_postgres; rm -rf "$work"; stop_wine' EXIT
-start_postgres
+use_databases
 built=$root/build/windows
 count=${ROWS:-1000000}
 
@@ -48,7 +44,8 @@ tool_rows() {
 # The host's rows bear the name of the database.
 host_rows() {
     wine64 "$built/testbin/wexhost.exe" --headless --timeout 600 --data "$2" \
-        -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" -e "(setq database \"$1\")" rows.lsp databases.lsp
+        -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" \
+        -e "(setq database \"$1\")" rows.lsp lookup.lsp databases.lsp
 }
 
 cd "$root/bench/product"

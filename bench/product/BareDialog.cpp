@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include <cwchar>
 #include <utility>
 #include <vector>
 
@@ -17,12 +18,14 @@ extern "C" IMAGE_DOS_HEADER __ImageBase;
 HMODULE ownModule() { return reinterpret_cast<HMODULE>(&__ImageBase); }
 
 WNDPROC g_ownProcedure;
+double g_begun, g_shown;
 
 // The owner is told of the first idle moment. The platform's own loop tells of it before it has painted.
 LRESULT CALLBACK endAtIdle(HWND frame, UINT message, WPARAM w, LPARAM l) {
     if (message != WM_ENTERIDLE) return CallWindowProcW(g_ownProcedure, frame, message, w, l);
     const auto dialog = reinterpret_cast<HWND>(l);
     RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    g_shown = now();
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
     return 0;
 }
@@ -32,7 +35,14 @@ WNDPROC setProcedure(HWND window, WNDPROC procedure) {
         SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }
 
+// The texts of a list that has none of its own.
+void answer(LVITEMW& item) {
+    if (item.mask & LVIF_TEXT) std::swprintf(item.pszText, item.cchTextMax, L"Part %d", item.iItem);
+}
+
 INT_PTR CALLBACK modalProcedure(HWND dialog, UINT message, WPARAM w, LPARAM prepare) {
+    if (message == WM_NOTIFY && reinterpret_cast<NMHDR*>(prepare)->code == LVN_GETDISPINFOW)
+        answer(reinterpret_cast<NMLVDISPINFOW*>(prepare)->item);
     if (message == WM_INITDIALOG && prepare) reinterpret_cast<void (*)(HWND)>(prepare)(dialog);
     if (message == WM_COMMAND && LOWORD(w) == IDCANCEL) EndDialog(dialog, IDCANCEL);
     return message == WM_INITDIALOG;
@@ -92,13 +102,15 @@ void move(HWND window, int left) {
 double bareOpenAndClose(HMODULE templates, int id, void (*prepare)(HWND dialog)) {
     const HWND frame = hostGetMainFrame();
     g_ownProcedure = setProcedure(frame, &endAtIdle);
-    const double begun = now();
+    g_begun = now();
     DialogBoxParamW(templates, MAKEINTRESOURCEW(id), frame, &modalProcedure,
                     reinterpret_cast<LPARAM>(prepare));
-    const double spent = now() - begun;
+    const double spent = now() - g_begun;
     setProcedure(frame, g_ownProcedure);
     return spent;
 }
+
+double bareShown() { return g_shown - g_begun; }
 
 double bareOpenAndClose(int id, void (*prepare)(HWND dialog)) {
     return bareOpenAndClose(ownModule(), id, prepare);

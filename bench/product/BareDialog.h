@@ -6,6 +6,8 @@
 // Milliseconds to make, show, paint and close a modal dialog that is owned by the host's main frame and ends
 // at its first idle moment. `prepare` gets the dialog before it shows.
 double bareOpenAndClose(HMODULE templates, int id, void (*prepare)(HWND dialog));
+// Of those, what the last call took until all was painted.
+double bareShown();
 // Of a dialog of Bench.rc.
 double bareOpenAndClose(int id, void (*prepare)(HWND dialog));
 

@@ -84,6 +84,22 @@ int32_t openCloseBare() {
     return giveReal(spent);
 }
 
+// (bench_bare_open_rows "module" id): a dialog from there whose list 118, which has no rows of its own, shows
+// a million
+int32_t openRowsBare() {
+    const HMODULE module = LoadLibraryExW(textArgument(0), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    const double spent = bareOpenAndClose(module, argument(1), [](HWND dialog) {
+        const HWND list = GetDlgItem(dialog, 118);
+        bareColumns(list);
+        SendMessageW(list, LVM_SETITEMCOUNT, 1'000'000, 0);
+    });
+    FreeLibrary(module);
+    return giveReal(spent);
+}
+
+// (bench_bare_shown): what the last of them took until all was painted
+int32_t shownBare() { return giveReal(bareShown()); }
+
 // (bench_bare_dialog id): opens the dialog beside the running one, and puts both where they don't overlap
 int32_t openBare() {
     const int id = argument(0);
@@ -315,6 +331,8 @@ constexpr struct {
     {L"bench_bare_lookup", &bareLookup},
     {L"bench_nothing", &nothing},
     {L"bench_bare_open_close", &openCloseBare},
+    {L"bench_bare_open_rows", &openRowsBare},
+    {L"bench_bare_shown", &shownBare},
     {L"bench_bare_dialog", &openBare},
     {L"bench_bare_end", &closeBare},
     {L"bench_bare_set", &setBare},

@@ -32,3 +32,5 @@
             (ms '(write-back)))
          3))
 (row (key "changes_10000") tracked)
+
+(lookup-rows (key "lookup") (strcat "p" (itoa (+ 10000000 (1- (wex_fp_getcount))))))
