@@ -24,10 +24,11 @@ class NameQuoter {
 
     void takeToken() {
         const wchar_t c = m_sql[m_at];
-        if (c == L'\'') return copyTo(literalEnd(m_dialect.backslashEscapes || isEscapeString()));
-        if (c == L'"') return copyTo(literalEnd(false));
+        if (c == L'\'') return copyTo(literalEnd(m_dialect.mysql || isEscapeString()));
+        // A literal too, unless names are quoted so.
+        if (c == L'"') return copyTo(literalEnd(m_dialect.mysql && m_dialect.quote != L"\""));
         if (c == L'`') return copyTo(literalEnd(false));
-        if (startsWith(L"--")) return copyTo(behind(L"\n", m_at));
+        if (opensLineComment()) return copyTo(behind(L"\n", m_at));
         if (startsWith(L"/*")) return copyTo(commentEnd());
         if (c == L'$' && m_dialect.postgres) return copyTo(dollarEnd());
         if (c == L'[') return takeBracket();
@@ -61,6 +62,12 @@ class NameQuoter {
                 return at + 1;
         }
         return m_sql.size();
+    }
+
+    bool opensLineComment() const {
+        if (!m_dialect.mysql) return startsWith(L"--");
+        return m_sql[m_at] == L'#' ||
+               (startsWith(L"--") && (m_at + 2 == m_sql.size() || std::iswspace(m_sql[m_at + 2])));
     }
 
     // E'…': the word in front of the literal is an E.
@@ -132,7 +139,7 @@ SqlDialect dialectOf(std::wstring_view product, std::wstring_view quote) {
     // A blank means that the database has no quotes.
     if (quote != L" " && quote != L"[") dialect.quote = quote;
     dialect.postgres = equalIgnoringCase(product, L"PostgreSQL");
-    dialect.backslashEscapes = equalIgnoringCase(product, L"MySQL") || equalIgnoringCase(product, L"MariaDB");
+    dialect.mysql = equalIgnoringCase(product, L"MySQL") || equalIgnoringCase(product, L"MariaDB");
     return dialect;
 }
 

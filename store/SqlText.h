@@ -8,8 +8,9 @@
 struct SqlDialect {
     // Around a name; empty where the database takes square brackets itself, or no quotes at all.
     std::wstring quote;
-    // A backslash in any literal takes the next character as it is.
-    bool backslashEscapes = false;
+    // A backslash in a literal takes the next character as it is, # begins a comment, and -- only in front of
+    // a blank.
+    bool mysql = false;
     // $tag$ literals, E'\'' literals and subscripts, as in a[1] and text[].
     bool postgres = false;
 };

@@ -32,6 +32,8 @@ TEST(SqlText, WhatIsNoNameStays) {
          })
         EXPECT_EQ(withQuotedNames(sql, POSTGRES), sql);
     EXPECT_EQ(withQuotedNames(L"SELECT '\\'[a]', [b]", MYSQL), L"SELECT '\\'[a]', `b`");
+    EXPECT_EQ(withQuotedNames(L"SELECT \"\\\"[a]\", [b] # [c]\n-- [d]\n, 5--[e]", MYSQL),
+              L"SELECT \"\\\"[a]\", `b` # [c]\n-- [d]\n, 5--`e`");
     // Elsewhere a backslash is a character like others, and so is an e in front of a text.
     EXPECT_EQ(withQuotedNames(L"SELECT '\\' || [a], name'\\'[b]", POSTGRES),
               L"SELECT '\\' || \"a\", name'\\'\"b\"");
