@@ -47,9 +47,10 @@ void WexListCtrl::onGetDispInfo(NMHDR* header) {
     LVITEMW& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
     if (!m_dataSource || !(item.mask & LVIF_TEXT)) return;
     const auto column = static_cast<size_t>(item.iSubItem);
-    if (column >= std::size(sourceFields)) return;
-    const CString text = m_dataSource->field(item.iItem, sourceFields[column]);
-    lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
+    const bool isShown = column < std::size(sourceFields);
+    // kept: the record is fetched for a column without a field too, and is an exception where it isn't there.
+    const CString text = m_dataSource->field(item.iItem, sourceFields[isShown ? column : 0]);
+    if (isShown) lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
 }
 
 // The list asks where typing leads, since it can't search rows that it doesn't have.

@@ -1,7 +1,5 @@
 #include "src/records/RecordFunctions.h"
 
-#include <windows.h>
-
 #include "src/records/DataStoreServices.h"
 #include "src/records/RecordSource.h"
 #include "src/records/ResultChain.h"
@@ -11,18 +9,6 @@ namespace {
 
 // kept: of every record that is added, whatever the table's columns.
 constexpr size_t FIELDS_OF_ADDED = 5;
-
-// Shows that the program is at work while the store reads.
-class WaitCursor {
-  public:
-    ~WaitCursor() { SetCursor(m_before); }
-    WaitCursor() = default;
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-
-  private:
-    HCURSOR m_before = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-};
 
 // kept: -1 stands for no number, where any other bad one is an error.
 std::optional<int> recordNumber(LispCall& call) {
@@ -57,7 +43,6 @@ void recordsSetUp(LispCall& call) {
     g_rowSource = &g_recordSource;
     if (!call.hasArguments()) return;
     const std::vector<CString> names = call.listTexts();
-    const WaitCursor waiting;
     g_recordTable->setUp(textAt(names, 0), textAt(names, 1), textAt(names, 2));
 }
 
