@@ -1,6 +1,5 @@
 #include "store/DataStore.h"
 
-#include <algorithm>
 #include <cwchar>
 #include <limits>
 #include <new>
@@ -18,9 +17,7 @@ class OneNumber : public DataRows {
         m_number = std::wcstoll(digits.c_str(), nullptr, 10);
         return false;
     }
-    int32_t number() const {
-        return static_cast<int32_t>(std::min<int64_t>(m_number, std::numeric_limits<int32_t>::max()));
-    }
+    int64_t number() const { return m_number; }
 
   private:
     int64_t m_number = 0;
@@ -65,11 +62,15 @@ int32_t DataStore::GetRowCount(HostText bracketedTable) {
     const std::wstring sql = L"SELECT COUNT(*) FROM " + std::wstring(view(bracketedTable));
     OneNumber rows;
     if (!m_database.query(lent(sql), nullptr, 0, &rows)) m_database.report(sql);
-    m_lastCount = rows.number();
+    m_isTooLarge = rows.number() > std::numeric_limits<int32_t>::max();
+    if (m_isTooLarge)
+        m_database.report(std::to_wstring(rows.number()) + L" rows are more than can be read", sql);
+    m_lastCount = m_isTooLarge ? 0 : static_cast<int32_t>(rows.number());
     return m_lastCount;
 }
 
 void DataStore::RunQuery(HostText sql, HostRecordArray* records) {
+    if (m_isTooLarge) return;
     RecordRows rows(*records);
     records->reserve(static_cast<size_t>(m_lastCount));
     if (!m_database.query(sql, nullptr, 0, &rows)) m_database.report(view(sql));

@@ -16,4 +16,5 @@ class DataStore : public HostDataStore {
     OpenDatabase& m_database;
     // A query comes behind its count.
     int32_t m_lastCount = 0;
+    bool m_isTooLarge = false;  // for a count of 32 bits
 };

@@ -11,6 +11,8 @@ constexpr size_t MOST_KEPT = 8;
 constexpr SQLUINTEGER LOGIN_SECONDS = 15;
 // What a driver must be able to do for a long text in the middle of a block.
 constexpr SQLUINTEGER BLOCK_ABILITIES = SQL_GD_ANY_COLUMN | SQL_GD_ANY_ORDER | SQL_GD_BLOCK | SQL_GD_BOUND;
+// Instead of waiting as long as another program holds its lock, and the dialog with it.
+constexpr wchar_t LIMIT_LOCK_WAIT[] = L"SET lock_timeout = '5s'";
 constexpr const wchar_t* TRANSACTION_LOST = L"the connection was lost, and the transaction with it";
 
 SQLPOINTER number(SQLULEN value) { return reinterpret_cast<SQLPOINTER>(value); }
@@ -38,6 +40,9 @@ void OdbcDatabase::connect() {
     m_connection = std::move(connection);
     m_isConnected = true;
     m_dialect = dialectOf(information(SQL_DBMS_NAME), information(SQL_IDENTIFIER_QUOTE_CHAR));
+    if (!m_dialect.postgres) return;
+    const OdbcStatement statement(m_connection.get());
+    SQLExecDirectW(statement.get(), const_cast<SQLWCHAR*>(LIMIT_LOCK_WAIT), SQL_NTS);
 }
 
 // Statements go before the connection that they belong to. Many a driver doesn't disconnect in a transaction.

@@ -28,32 +28,21 @@ OdbcRows::~OdbcRows() {
 }
 
 OdbcRows::Column OdbcRows::columnOf(SQLSMALLINT type, SQLULEN size) const {
-    Column column;
     switch (type) {
         case SQL_BIT:
         case SQL_TINYINT:
         case SQL_SMALLINT:
         case SQL_INTEGER:
         case SQL_BIGINT:
-            column.valueType = SQL_C_SBIGINT;
-            column.kind = DataKind::integer;
-            column.cellBytes = sizeof(int64_t);
-            return column;
+            return {.valueType = SQL_C_SBIGINT, .kind = DataKind::integer, .cellBytes = sizeof(int64_t)};
         case SQL_FLOAT:
         case SQL_DOUBLE:
-            column.valueType = SQL_C_DOUBLE;
-            column.kind = DataKind::real;
-            column.cellBytes = sizeof(double);
-            return column;
+            return {.valueType = SQL_C_DOUBLE, .kind = DataKind::real, .cellBytes = sizeof(double)};
         case SQL_REAL:
-            column.valueType = SQL_C_FLOAT;
-            column.kind = DataKind::real;
-            column.cellBytes = sizeof(float);
-            return column;
-        case SQL_NUMERIC:
-        case SQL_DECIMAL:
-            column.kind = DataKind::decimal;
+            return {.valueType = SQL_C_FLOAT, .kind = DataKind::real, .cellBytes = sizeof(float)};
     }
+    Column column;
+    if (type == SQL_NUMERIC || type == SQL_DECIMAL) column.kind = DataKind::decimal;
     if (isBinary(type)) column.valueType = SQL_C_BINARY;
     const bool isLong = size == 0 || size > MOST_CELL_CHARS;
     column.isBound = m_inBlocks || !isLong;

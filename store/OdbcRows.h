@@ -27,9 +27,9 @@ class OdbcRows {
         DataKind kind = DataKind::text;
         bool isBound = true;
         size_t cellBytes = 0;
-        std::vector<char> cells;
-        std::vector<SQLLEN> lengths;
-        std::wstring text;  // of the row at hand
+        std::vector<char> cells = {};
+        std::vector<SQLLEN> lengths = {};
+        std::wstring text = {};  // of the row at hand
     };
 
     bool describe();

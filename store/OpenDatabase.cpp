@@ -26,6 +26,13 @@ Database& OpenDatabase::database() const {
     return *m_database;
 }
 
+// The interfaces of databases take a NUL as the end, so what stands behind it would be lost.
+std::wstring_view OpenDatabase::whole(HostText sql) {
+    if (view(sql).find(L'\0') != std::wstring_view::npos)
+        throw DatabaseError(L"the statement has a NUL character in it");
+    return view(sql);
+}
+
 bool OpenDatabase::openFile(HostText path) {
     return attempt([&] { m_database = std::make_unique<SqliteDatabase>(view(path)); });
 }
@@ -37,11 +44,11 @@ bool OpenDatabase::openOdbc(HostText connectString) {
 void OpenDatabase::close() { m_database.reset(); }
 
 bool OpenDatabase::execute(HostText sql, const DataValue* parameters, size_t count, int64_t* changed) {
-    return attempt([&] { *changed = database().execute(view(sql), {parameters, count}); });
+    return attempt([&] { *changed = database().execute(whole(sql), {parameters, count}); });
 }
 
 bool OpenDatabase::query(HostText sql, const DataValue* parameters, size_t count, DataRows* rows) {
-    return attempt([&] { database().query(view(sql), {parameters, count}, *rows); });
+    return attempt([&] { database().query(whole(sql), {parameters, count}, *rows); });
 }
 
 bool OpenDatabase::begin() {
@@ -62,9 +69,9 @@ HostText OpenDatabase::failure() { return lent(m_failure); }
 
 void OpenDatabase::setReporter(DataReporter reporter) { m_reporter = reporter; }
 
-void OpenDatabase::report(std::wstring_view sql) const {
-    std::wstring line = L"data store: " + m_failure;
-    line.append(L": ").append(sql);
+void OpenDatabase::report(std::wstring_view words, std::wstring_view sql) const {
+    std::wstring line = L"data store: ";
+    line.append(words).append(L": ").append(sql);
     if (m_reporter)
         m_reporter(lent(line));
     else

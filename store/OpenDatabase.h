@@ -28,12 +28,14 @@ class OpenDatabase : public DataAccess {
 
     bool isOpen() const { return m_database != nullptr; }
     // Tells the person of the last failure, which that SQL led to.
-    void report(std::wstring_view sql) const;
+    void report(std::wstring_view sql) const { report(m_failure, sql); }
+    void report(std::wstring_view words, std::wstring_view sql) const;
 
   private:
     // Does the work; false where it failed, with the words kept.
     bool attempt(const std::function<void()>& work) noexcept;
     Database& database() const;
+    static std::wstring_view whole(HostText sql);
 
     Opener m_openOdbc;
     std::unique_ptr<Database> m_database;

@@ -1,5 +1,6 @@
 # Sourced by the scripts that need a PostgreSQL server of their own, in a new temporary folder, on a local socket alone.
 #
+#   use_databases          starts Wine without a display, the server, and makes the folder $work; all of it goes when the script ends
 #   start_postgres         exports PGHOST, PGDATABASE and PGUSER for psql, and sets postgres_odbc, the choice of a database for the host
 #   stop_postgres [MODE]   fast (by default), or immediate as when its machine went away; start_postgres_again undoes it
 #   remove_postgres        stops it and removes all of it; for the script's trap
@@ -12,6 +13,15 @@ as_server() {
     local other=()
     [ "$(id -u)" -ne 0 ] || other=(setpriv --reuid nobody --regid nogroup --clear-groups env HOME=/ )
     (cd / && "${other[@]}" "$@")
+}
+
+# After tools/wine-env.sh.
+use_databases() {
+    start_wine headless
+    work=$(mktemp -d)
+    # In the place of the one of start_wine.
+    trap 'remove_postgres; rm -rf "$work"; stop_wine' EXIT
+    start_postgres
 }
 
 start_postgres() {

@@ -5,11 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . tools/wine-env.sh
 . tools/postgres.sh
-start_wine headless
-work=$(mktemp -d)
-# In the place of the one of start_wine.
-trap 'remove_postgres; rm -rf "$work"; stop_wine' EXIT
-start_postgres
+use_databases
 
 # Rounds of 300 changes, and the number of each round when it is committed.
 cat >"$work/rounds.lsp" <<'END'

@@ -13,6 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
+using namespace std::string_view_literals;
 
 std::vector<std::wstring> told;
 
@@ -121,10 +122,11 @@ TEST_F(StoreTest, FailuresNameTheirSql) {
                         L"data store: no such table: Parts: SELECT * FROM [Parts] ORDER BY [PN]"}));
 
     EXPECT_EQ(run(L"CREATE TABLE t (a UNIQUE)"), 0);
-    const std::pair<const wchar_t*, const wchar_t*> failures[] = {
+    const std::pair<std::wstring_view, const wchar_t*> failures[] = {
         {L"INSERT INTO t VALUES (?)", L"the statement has 1 parameters, but 0 values came"},
         {L"INSERT INTO t VALUES (1); DELETE FROM t", L"more than one statement"},
         {L" -- nothing", L"no statement"},
+        {L"DELETE FROM t\0 WHERE 0"sv, L"the statement has a NUL"},
         {L"SELECT \"b\" FROM t", L"no such column: \"b\""},
         {L"INSERT INTO t VALUES (1), (1)", L"UNIQUE constraint failed: t.a"},
     };
@@ -135,6 +137,14 @@ TEST_F(StoreTest, FailuresNameTheirSql) {
             << "got " << testing::PrintToString(words());
     }
     EXPECT_EQ(store.GetRowCount(lent(L"t")), 0);
+
+    // A count beyond 32 bits; its rows aren't read either.
+    told.clear();
+    EXPECT_EQ(store.GetRowCount(lent(L"(VALUES (1)) WHERE 0 GROUP BY column1 UNION ALL SELECT 3000000000")),
+              0);
+    EXPECT_TRUE(read(L"SELECT 1").empty());
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_TRUE(told[0].starts_with(L"data store: 3000000000 rows are more than can be read: SELECT COUNT"));
 }
 
 TEST_F(StoreTest, TransactionsHoldOrFall) {
@@ -171,6 +181,26 @@ TEST_F(StoreTest, ALockedDatabaseIsToldAndServesLater) {
     EXPECT_TRUE(other.rollback());
     EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), 1);
     EXPECT_EQ(store.GetRowCount(lent(L"[t]")), 1);
+}
+
+TEST_F(StoreTest, ACommitAgainstALockIsToldAndSucceedsLater) {
+    ASSERT_TRUE(open(database));
+    run(L"CREATE TABLE t (a)");
+    run(L"INSERT INTO t VALUES (1)");
+    OpenDatabase reader(nullptr);
+    ASSERT_TRUE(open(reader));
+    Counted rows;
+    ASSERT_TRUE(reader.begin());
+    ASSERT_TRUE(reader.query(lent(L"SELECT * FROM t"), nullptr, 0, &rows));
+    EXPECT_TRUE(database.begin());
+    EXPECT_EQ(run(L"INSERT INTO t VALUES (2)"), 1);
+    EXPECT_FALSE(database.commit());
+    EXPECT_EQ(words(), L"database is locked");
+    EXPECT_TRUE(database.isInTransaction());
+    ASSERT_TRUE(reader.commit());
+    EXPECT_TRUE(database.commit());
+    EXPECT_FALSE(database.isInTransaction());
+    EXPECT_EQ(store.GetRowCount(lent(L"[t]")), 2);
 }
 
 TEST_F(StoreTest, WhatCantBeOpenedLeavesTheOpenOne) {
