@@ -39,6 +39,8 @@ start_wine() {
 stop_wine() {
     flock 8
     if flock -n 9; then stop_wine_processes; fi
+    # A script that starts now must not take this one for a user of what it has just stopped.
+    flock -u 9
     flock -u 8
 }
 

@@ -1,6 +1,8 @@
 #include "src/listctrl/CellOrder.h"
 
+#include <cstdint>
 #include <numeric>
+#include <type_traits>
 #include <utility>
 
 #include "src/listctrl/CellKind.h"
@@ -9,20 +11,32 @@ namespace {
 
 struct Cell {
     const CString& text;
+    uint64_t head;  // of the text: two texts whose heads differ compare as the heads do
     bool isText;
     std::optional<double> distance;
 };
 
+// The first code units, the first one highest, with zeros behind a short text.
+uint64_t headOf(const CString& text) {
+    constexpr int BITS = 8 * sizeof(wchar_t);
+    uint64_t head = 0;
+    for (size_t at = 0; at < sizeof(head) / sizeof(wchar_t); ++at)
+        head = head << BITS | (at < text.size() ? static_cast<std::make_unsigned_t<wchar_t>>(text[at]) : 0);
+    return head;
+}
+
 Cell readCell(const CString& text, const DistanceParser& parse) {
     const CellKind kind = cellKindOf(text);
-    if (kind == CellKind::text) return {text, true, std::nullopt};
-    return {text, false, parse(text, linearUnitOf(kind))};
+    if (kind == CellKind::text) return {text, headOf(text), true, std::nullopt};
+    return {text, headOf(text), false, parse(text, linearUnitOf(kind))};
 }
 
 bool isLess(const Cell& a, const Cell& b) {
-    if (a.isText || b.isText) return a.text < b.text;
+    if (a.isText || b.isText) return a.head != b.head ? a.head < b.head : a.text < b.text;
     return a.distance && b.distance && *a.distance < *b.distance;
 }
+
+bool isSameText(const Cell& a, const Cell& b) { return a.head == b.head && a.text == b.text; }
 
 class CellSort {
   public:
@@ -69,7 +83,7 @@ class CellSort {
             while (i < range.last && goesBefore(i, pivot)) ++i;
             while (j > range.first && goesBefore(pivot, j)) --j;
             if (i > j) break;
-            if (at(i).text != at(j).text) std::swap(m_order[i], m_order[j]);
+            if (!isSameText(at(i), at(j))) std::swap(m_order[i], m_order[j]);
             ++i;
             --j;
         }
