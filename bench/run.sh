@@ -4,16 +4,20 @@
 # or           key  min X  med Y ms  bare min X  med Y ms  ratio min R  med R  n=N    ours and the bare platform's in turns
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-"$root/tools/install-packages.sh" lua5.4 tk8.6 tk-table postgresql-15 >&2
+"$root/tools/install-packages.sh" lua5.4 tk8.6 tk-table postgresql-15 cups cups-client printer-driver-cups-pdf >&2
 "$root/tools/build.sh" windows >&2
 . "$root/tools/wine-env.sh"
+. "$root/tools/print-env.sh"
 # Each call of Wine's server wakes another process. On a virtual machine, waking another processor costs several times
 # the call, now and then: with all on one, the figures of two runs agree.
 taskset --cpu-list --pid 0 $$ >/dev/null
 start_wine headless
 built=$root/build/windows
 rows=$(mktemp)
-trap 'rm -f "$rows"; stop_wine' EXIT
+printer=$(mktemp -d)
+trap 'stop_printer; rm -rf "$rows" "$printer"; stop_wine' EXIT
+chmod 755 "$printer"
+start_printer "$printer"
 
 echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1), load $(cut -d' ' -f1 /proc/loadavg)"
 {
@@ -26,7 +30,9 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
     wine64 "$built/testbin/source_bench.exe"
     wine64 "$built/bench/grid/grid_bench.exe"
     wine64 "$built/bench/slides/slide_bench.exe"
+    wine64 "$built/bench/report/report_bench.exe"
     wine64 "$built/bench/graphics/graphics_bench.exe"
+    wine64 "$built/testbin/preview_bench.exe"
     cd "$root/bench/product"
     wine64 "$built/testbin/wexhost.exe" --headless --timeout 300 \
         -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \

@@ -101,9 +101,10 @@ class PageDrawing {
 
 }  // namespace
 
-void drawReport(ReportSurface& surface, const ReportRows& rows, const PixelRect& page, int offset,
-                const std::wstring& date) {
-    PageDrawing drawing(surface, page, offset);
-    drawing.drawTable(rows);
-    drawing.drawFooter(date);
+void drawReportTable(ReportSurface& surface, const ReportRows& rows, const PixelRect& page, int offset) {
+    PageDrawing(surface, page, offset).drawTable(rows);
+}
+
+void drawReportFooter(ReportSurface& surface, const PixelRect& page, int offset, const std::wstring& date) {
+    PageDrawing(surface, page, offset).drawFooter(date);
 }

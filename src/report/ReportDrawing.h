@@ -28,7 +28,9 @@ class ReportSurface {
     virtual void setPixel(int x, int y) = 0;
 };
 
-// Draws all rows, the date and the page's number, moved up by `offset`. There is one page, and rows that have
-// no room run over its lower edge.
-void drawReport(ReportSurface& surface, const ReportRows& rows, const PixelRect& page, int offset,
-                const std::wstring& date);
+// Draws all rows, moved up by `offset`. There is one page, and rows that have no room run over its lower
+// edge.
+void drawReportTable(ReportSurface& surface, const ReportRows& rows, const PixelRect& page, int offset);
+
+// Draws the date and the page's number at the page's foot, in the font that was used last.
+void drawReportFooter(ReportSurface& surface, const PixelRect& page, int offset, const std::wstring& date);

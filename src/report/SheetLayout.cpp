@@ -1,7 +1,5 @@
 #include "src/report/SheetLayout.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr int LEFT = 8, TOP = 4, FROM_RIGHT = 19;
@@ -27,8 +25,8 @@ SheetLayout::SheetLayout(const PixelRect& client, int offset) {
     const int right = client.right - FROM_RIGHT;
     const int bottom = height - offset;
     page = {LEFT, TOP, right, height};
-    // A preview that is higher than its sheet has ground below it too.
-    ground = {client.left, client.top, client.right, std::max(height, client.bottom)};
+    // kept: a preview that is higher than its sheet is left black below it.
+    ground = {client.left, client.top, client.right, height};
     paper = {LEFT, TOP - offset, right, bottom};
     rightShadow = {right, TOP + SHADOW_START - offset, right + SHADOW, bottom};
     bottomShadow = {LEFT + SHADOW_START, bottom, right + SHADOW, bottom + SHADOW};

@@ -74,7 +74,8 @@ void WexReportPreview::DrawTable(HDC dc, const PixelRect& page, int offset) {
     if (!m_fontNormal) m_fontNormal = makeReportFont(dpiY, ReportFont::normal);
     if (!m_fontBold) m_fontBold = makeReportFont(dpiY, ReportFont::bold);
     GdiReportSurface surface(dc, m_fontNormal.get(), m_fontBold.get());
-    drawReport(surface, m_rows, page, offset, reportDate(std::time(nullptr)));
+    drawReportTable(surface, m_rows, page, offset);
+    drawReportFooter(surface, page, offset, reportDate(std::time(nullptr)));
 }
 
 void WexReportPreview::deleteFonts() {

@@ -47,7 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         rows.push_back(reportRow(texts, widths));
     }
     Record record(dpi, dpi / 7, dpi / 14);
-    drawReport(record, rows, {8, 4, 8 + 8 * dpi, 11 * dpi}, offset, L"");
+    drawReportTable(record, rows, {8, 4, 8 + 8 * dpi, 11 * dpi}, offset);
     if (hasCells && !textsStayInCells(record.drawn, rows)) std::abort();
     return 0;
 }

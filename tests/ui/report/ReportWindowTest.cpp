@@ -67,7 +67,8 @@ void drawFine(const Picture& picture, int dpi, const ReportRows& rows, const Pix
     const UniqueFont normal = makeReportFont(dpi, ReportFont::normal);
     const UniqueFont bold = makeReportFont(dpi, ReportFont::bold);
     FineSurface surface(picture.dc(), dpi, normal.get(), bold.get());
-    drawReport(surface, rows, page, 0, L"");
+    drawReportTable(surface, rows, page, 0);
+    drawReportFooter(surface, page, 0, L"");
 }
 
 // With WEX_PAGE, the page is written into that file too, for a comparison with what a printer makes of it.
@@ -158,6 +159,14 @@ TEST_F(Preview, SetsTheRangeOfItsBarOnceAtTheFirstPaint) {
     preview.MoveWindow({0, 0, 202, 402});
     paint();
     EXPECT_EQ(bar.GetScrollLimit(), 8);
+}
+
+TEST_F(Preview, HigherThanItsSheetHasNothingToScroll) {
+    preview.MoveWindow({0, 0, 202, 802});
+    paint();
+    bar.SetScrollPos(6);
+    paint();
+    EXPECT_EQ(bar.GetScrollPos(), 0);
 }
 
 TEST_F(Preview, PrintsInTheOrderOfADocumentWithFontsOfItsOwn) {

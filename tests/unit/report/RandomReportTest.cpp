@@ -42,7 +42,7 @@ TEST(RandomReports, StayInTheirCells) {
         const int dpi = (const int[]){96, 144, 192, 300, 600}[random.below(5)];
         const ReportRows rows = random.rows();
         Record record(dpi, dpi / 7, dpi / 14);
-        drawReport(record, rows, {8, 4, 8 + 8 * dpi, 11 * dpi}, random.below(500), L"");
+        drawReportTable(record, rows, {8, 4, 8 + 8 * dpi, 11 * dpi}, random.below(500));
         ASSERT_TRUE(textsStayInCells(record.drawn, rows)) << "seed " << seed;
     }
 }
@@ -51,7 +51,7 @@ TEST(RandomReports, TheCheckSeesATextThatLeavesItsCell) {
     ReportRows rows;
     rows.push_back(reportRow({L"text"}, {0.5}));
     Record record(96, 14);
-    drawReport(record, rows, {0, 0, 800, 1100}, 0, L"");
+    drawReportTable(record, rows, {0, 0, 800, 1100}, 0);
     ASSERT_TRUE(textsStayInCells(record.drawn, rows));
     ++record.drawn[1].rect.right;
     EXPECT_TRUE(textsStayInCells(record.drawn, rows)) << "there is room for the pad";

@@ -95,7 +95,8 @@ std::vector<Drawn> wanted(const Page& page, int offset) {
 
 void expectDrawn(const Page& page, int offset) {
     Record record(page.dpi, page.lineHeight);
-    drawReport(record, sampleReport(), page.page, offset, L"today");
+    drawReportTable(record, sampleReport(), page.page, offset);
+    drawReportFooter(record, page.page, offset, L"today");
     const std::vector<Drawn> expected = wanted(page, offset);
     ASSERT_EQ(record.drawn.size(), expected.size());
     for (size_t i = 0; i < expected.size(); ++i)
@@ -112,7 +113,7 @@ TEST(ReportPage, MovesUpByItsOffsetButForTheFootersLowerEdges) { expectDrawn(SCR
 
 TEST(ReportPage, WithoutRowsReachesTheRightMargin) {
     Record record(96, 14);
-    drawReport(record, {}, SCREEN.page, 0, L"");
+    drawReportTable(record, {}, SCREEN.page, 0);
     EXPECT_EQ(record.drawn[1], (Drawn{Drawn::move, {490, 52}, {}}));
     EXPECT_EQ(record.drawn[3], (Drawn{Drawn::line, {56, 52}, {}}));
 }
@@ -121,7 +122,7 @@ TEST(ReportPage, ARowOfEmptyCellsIsAsHighAsItsPad) {
     ReportRows rows;
     rows.push_back(reportRow({L"", L""}, {0.5, 0.1}));
     Record record(96, 14);
-    drawReport(record, rows, SCREEN.page, 0, L"");
+    drawReportTable(record, rows, SCREEN.page, 0);
     EXPECT_EQ(record.drawn.at(4), (Drawn{Drawn::line, {321, 56}, {}}));
 }
 
