@@ -69,6 +69,7 @@ struct ViewportState {
     double width = 10.0;
     HostPoint3d target;
     HostVector3d direction{0, 0, 1};
+    // From upright, against the clock.
     double twist = 0.0;
 };
 

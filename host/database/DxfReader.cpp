@@ -1,11 +1,13 @@
 #include "host/database/DxfReader.h"
 
-#include <charconv>
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <optional>
 
 #include "host/database/DrawingFile.h"
+#include "host/database/DxfGroups.h"
+#include "host/database/Inserts.h"
 #include "host/lisp/Text.h"
 
 namespace cad {
@@ -13,176 +15,6 @@ namespace {
 
 constexpr double DEGREE = std::numbers::pi / 180.0;
 constexpr int MOST_TABLE_CELLS = 1'000'000;
-
-std::string_view trimmed(std::string_view text) {
-    const size_t first = text.find_first_not_of(" \t\r");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
-
-// A group of the file.
-struct Group {
-    int code = 0;
-    std::string_view value;
-    size_t line = 0;
-
-    bool is(int wanted, std::string_view text) const { return code == wanted && value == text; }
-    double number() const {
-        double number = 0.0;
-        std::string_view digits = value;
-        if (digits.starts_with('+')) digits.remove_prefix(1);
-        const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-        if (fault != std::errc() || end != digits.data() + digits.size() || !std::isfinite(number)) {
-            throw FileFault(line, "\"" + std::string(value) + "\" is no number");
-        }
-        return number;
-    }
-    int whole() const {
-        const double value = number();
-        return std::fabs(value) < 2e9 ? static_cast<int>(value) : 0;
-    }
-};
-
-class Groups {
-  public:
-    explicit Groups(std::string_view text) : m_rest(text) { next(); }
-
-    const Group& group() const { return m_group; }
-    void next() {
-        const std::string_view code = trimmed(line());
-        m_group.line = m_number + 1;
-        const auto [end, fault] = std::from_chars(code.data(), code.data() + code.size(), m_group.code);
-        if (fault != std::errc() || end != code.data() + code.size()) {
-            throw FileFault(m_number,
-                            "a group code is expected, not \"" + std::string(code.substr(0, 40)) + "\"");
-        }
-        // Blanks at the begin of a text are its own.
-        m_group.value = line();
-        if (m_group.code >= 10 || m_group.code == 0) m_group.value = trimmed(m_group.value);
-    }
-
-  private:
-    std::string_view line() {
-        if (m_rest.empty()) throw FileFault(m_number, "the file ends before its EOF");
-        ++m_number;
-        const size_t length = m_rest.find('\n');
-        std::string_view line = m_rest.substr(0, length);
-        m_rest.remove_prefix(length == std::string_view::npos ? m_rest.size() : length + 1);
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        return line;
-    }
-
-    std::string_view m_rest;
-    size_t m_number = 0;
-    Group m_group;
-};
-
-// The groups of one entity, up to the next 0.
-class Record {
-  public:
-    explicit Record(Groups& groups) : m_kind(groups.group().value), m_line(groups.group().line) {
-        for (groups.next(); groups.group().code != 0; groups.next()) m_groups.push_back(groups.group());
-    }
-
-    std::string_view kind() const { return m_kind; }
-    size_t line() const { return m_line; }
-    const std::vector<Group>& groups() const { return m_groups; }
-    const Group* find(int code) const {
-        for (const Group& group : m_groups) {
-            if (group.code == code) return &group;
-        }
-        return nullptr;
-    }
-    bool has(int code) const { return find(code); }
-    double number(int code, double otherwise = 0.0) const {
-        const Group* group = find(code);
-        return group ? group->number() : otherwise;
-    }
-    int whole(int code, int otherwise = 0) const {
-        const Group* group = find(code);
-        return group ? group->whole() : otherwise;
-    }
-    std::string_view text(int code) const {
-        const Group* group = find(code);
-        return group ? group->value : std::string_view();
-    }
-    // Codes `code`, 10 more and 20 more.
-    HostPoint3d point(int code) const { return {number(code), number(code + 10), number(code + 20)}; }
-    HostVector3d normal() const {
-        const HostVector3d given{number(210, 0.0), number(220, 0.0), number(230, has(210) ? 0.0 : 1.0)};
-        return given.length() <= HOST_TOLERANCE ? HostVector3d{0, 0, 1} : given;
-    }
-    // From the coordinates of the entity's own plane to the world's.
-    HostMatrix3d plane() const { return planeOf({}, normal()); }
-    double positive(int code, double otherwise = 1.0) const {
-        const double value = number(code, otherwise);
-        return value > 0.0 ? value : otherwise;
-    }
-
-  private:
-    std::string_view m_kind;
-    size_t m_line;
-    std::vector<Group> m_groups;
-};
-
-// Letters by number, "\U+00B0", and the signs for degree, plus-minus and diameter.
-std::u16string decoded(std::string_view bytes) {
-    const std::u16string raw = lisp::fromUtf8(bytes);
-    std::u16string text;
-    for (size_t at = 0; at < raw.size(); ++at) {
-        const std::u16string_view rest = std::u16string_view(raw).substr(at);
-        if (rest.starts_with(u"\\U+") && rest.size() >= 7) {
-            const std::string digits = lisp::toUtf8(rest.substr(3, 4));
-            uint16_t letter = 0;
-            const auto [end, fault] =
-                std::from_chars(digits.data(), digits.data() + digits.size(), letter, 16);
-            if (fault == std::errc() && end == digits.data() + 4) {
-                text += static_cast<char16_t>(letter);
-                at += 6;
-                continue;
-            }
-        } else if (rest.starts_with(u"%%") && rest.size() >= 3) {
-            const char16_t sign = lisp::lowerCase(rest[2]);
-            const char16_t letter = sign == u'd'   ? u'\u00B0'
-                                    : sign == u'p' ? u'\u00B1'
-                                    : sign == u'c' ? u'\u2300'
-                                                   : u'\0';
-            if (letter) {
-                text += letter;
-                at += 2;
-                continue;
-            }
-        }
-        text += raw[at];
-    }
-    return text;
-}
-
-// Formatting of multi-line text goes: braces, and codes up to their semicolon. Line breaks and escaped signs
-// stay.
-std::u16string withoutFormats(const std::u16string& raw) {
-    std::u16string text;
-    for (size_t at = 0; at < raw.size(); ++at) {
-        if (raw[at] == u'{' || raw[at] == u'}') continue;
-        if (raw[at] != u'\\' || at + 1 == raw.size()) {
-            text += raw[at];
-            continue;
-        }
-        const char16_t code = raw[++at];
-        if (code == u'P') {
-            text += u"\\P";
-        } else if (code == u'~') {
-            text += u' ';
-        } else if (std::u16string_view(u"ACFfHQTWpS").find(code) != std::u16string_view::npos) {
-            const size_t end = raw.find(u';', at);
-            if (code == u'S' && end != std::u16string::npos) text += raw.substr(at + 1, end - at - 1);
-            at = end == std::u16string::npos ? raw.size() : end;
-        } else if (std::u16string_view(u"LlOoKk").find(code) == std::u16string_view::npos) {
-            text += code;
-        }
-    }
-    return text;
-}
 
 Geometry lightPolyline(const Record& record) {
     Polyline polyline;
@@ -204,8 +36,8 @@ Geometry textOf(const Record& record) {
     // Where the text is aligned the second point counts; for other than left and baseline it's taken as if it
     // were.
     const bool aligned = (record.whole(72) || record.whole(73)) && record.has(11);
-    return Text{record.plane() * record.point(aligned ? 11 : 10), record.positive(40),
-                record.number(50) * DEGREE, record.normal(), decoded(record.text(1))};
+    return Text{{record.plane() * record.point(aligned ? 11 : 10), record.positive(40),
+                 record.number(50) * DEGREE, record.normal(), decodedText(record.text(1))}};
 }
 
 Geometry multiLineText(const Record& record) {
@@ -214,17 +46,23 @@ Geometry multiLineText(const Record& record) {
         if (group.code == 3) bytes += group.value;
     }
     bytes += record.text(1);
-    MText text{record.point(10),           record.positive(40), std::fmax(0.0, record.number(41)),
-               record.number(50) * DEGREE, record.normal(),     withoutFormats(decoded(bytes))};
+    MText text{{record.point(10), record.positive(40), record.number(50) * DEGREE, record.normal(),
+                withoutFormats(decodedText(bytes))},
+               std::fmax(0.0, record.number(41))};
     if (record.has(11)) text.rotation = std::atan2(record.number(21), record.number(11));
     // The attachment's row: the position is the top, the middle or the bottom of the text.
     const int row = (record.whole(71, 1) - 1) / 3;
     if (row == 1 || row == 2) {
         const double lines = static_cast<double>(linesOf(text).size() - 1) * LINE_SPACING + 1.0;
-        const HostVector3d up = textPlane({}, text.normal, text.rotation) * HostVector3d{0, 1, 0};
+        const HostVector3d up = textPlane(text) * HostVector3d{0, 1, 0};
         text.position = text.position + up * (text.height * lines * row / 2.0);
     }
     return text;
+}
+
+double sizeOf(const Group& group) {
+    const double size = group.number();
+    return size > 0.0 ? size : 1.0;
 }
 
 Geometry tableOf(const Record& record) {
@@ -235,11 +73,11 @@ Geometry tableOf(const Record& record) {
         throw FileFault(record.line(), "a table of this size can't be read");
     }
     for (const Group& group : record.groups()) {
-        if (group.code == 141) table->rowHeights.push_back(group.number());
-        if (group.code == 142) table->columnWidths.push_back(group.number());
+        if (group.code == 141) table->rowHeights.push_back(sizeOf(group));
+        if (group.code == 142) table->columnWidths.push_back(sizeOf(group));
         if (group.code == 140 && group.number() > 0.0) table->textHeight = group.number();
         if ((group.code == 1 || group.code == 302) && table->cells.size() < MOST_TABLE_CELLS) {
-            table->cells.push_back(withoutFormats(decoded(group.value)));
+            table->cells.push_back(withoutFormats(decodedText(group.value)));
         }
     }
     table->rowHeights.resize(static_cast<size_t>(rows), 1.0);
@@ -273,6 +111,9 @@ std::optional<Geometry> geometryOf(const Record& record) {
                    record.number(51) * DEGREE, record.normal()};
     }
     if (kind == "TEXT") return textOf(record);
+    // The text of an insert. Definitions of such texts aren't drawn.
+    constexpr int INVISIBLE = 1;
+    if (kind == "ATTRIB" && !(record.whole(70) & INVISIBLE)) return textOf(record);
     if (kind == "MTEXT") return multiLineText(record);
     if (kind == "SOLID" || kind == "TRACE") return solidOf(record);
     if (kind == "3DFACE") return faceOf(record);
@@ -300,6 +141,7 @@ class DxfImport {
                 m_groups.next();
             }
         }
+        m_result.skipped.merge(m_inserts.resolve(m_result.drawing));
         return std::move(m_result);
     }
 
@@ -328,7 +170,7 @@ class DxfImport {
                 continue;
             }
             const Record record(m_groups);
-            const std::u16string name = decoded(record.text(2));
+            const std::u16string name = decodedText(record.text(2));
             Block* block = m_result.drawing.block(name);
             if (!block) block = &m_result.drawing.addBlock(name.empty() ? unnamed() : name);
             block->origin = record.point(10);
@@ -344,7 +186,7 @@ class DxfImport {
     }
 
     uint32_t layerOf(std::string_view name) {
-        return m_result.drawing.layerNamed(name.empty() ? u"0" : decoded(name));
+        return m_result.drawing.layerNamed(name.empty() ? u"0" : decodedText(name));
     }
 
     void readEntities(Block& block, std::string_view end) {
@@ -354,21 +196,51 @@ class DxfImport {
                 continue;
             }
             const Record record(m_groups);
-            std::optional<Geometry> geometry =
-                record.kind() == "POLYLINE" ? polylineOf(record) : geometryOf(record);
-            if (!geometry) {
-                ++m_result.skipped[std::string(record.kind())];
+            constexpr int ON_PAPER = 1;
+            Block& into = record.whole(67) == ON_PAPER ? *m_result.drawing.block(PAPER_SPACE) : block;
+            if (record.kind() == "INSERT") {
+                m_inserts.add(into, insertOf(record));
                 continue;
             }
-            Entity entity;
-            entity.geometry = std::move(*geometry);
-            entity.layer = layerOf(record.text(8));
-            const int color = record.whole(62, BY_LAYER);
-            entity.color = color > 0 && color < BY_LAYER ? static_cast<ColorIndex>(color) : BY_LAYER;
-            entity.pattern = patternOf(record.text(6));
-            const bool onPaper = record.whole(67) == 1;
-            (onPaper ? *m_result.drawing.block(PAPER_SPACE) : block).add(std::move(entity));
+            std::optional<Geometry> geometry =
+                record.kind() == "POLYLINE" ? polylineOf(record) : geometryOf(record);
+            if (geometry) {
+                into.add(entityOf(record, std::move(*geometry)));
+            } else if (!isSilent(record.kind())) {
+                ++m_result.skipped[std::string(record.kind())];
+            }
         }
+    }
+
+    // What draws nothing anyway.
+    static bool isSilent(std::string_view kind) {
+        return kind == "SEQEND" || kind == "ATTDEF" || kind == "ATTRIB" || kind == "VIEWPORT";
+    }
+
+    Entity entityOf(const Record& record, Geometry geometry) {
+        Entity entity;
+        entity.geometry = std::move(geometry);
+        entity.layer = layerOf(record.text(8));
+        const int color = record.whole(62, BY_LAYER);
+        entity.color = color > 0 && color < BY_LAYER ? static_cast<ColorIndex>(color) : BY_LAYER;
+        entity.pattern = patternOf(record.text(6));
+        return entity;
+    }
+
+    // An insert may be a whole grid of them.
+    Insert insertOf(const Record& record) {
+        constexpr int MOST_ROWS = 10'000;
+        const double angle = record.number(50) * DEGREE, c = std::cos(angle), s = std::sin(angle);
+        const HostMatrix3d turned =
+            HostMatrix3d::coordSystem(record.point(10), {c, s, 0}, {-s, c, 0}, {0, 0, 1});
+        return {.block = decodedText(record.text(2)),
+                .layer = layerOf(record.text(8)),
+                .scale = {record.number(41, 1.0), record.number(42, 1.0), record.number(43, 1.0)},
+                .place = record.plane() * turned,
+                .columns = std::clamp(record.whole(70, 1), 1, MOST_ROWS),
+                .rows = std::clamp(record.whole(71, 1), 1, MOST_ROWS),
+                .columnStep = record.number(44),
+                .rowStep = record.number(45)};
     }
 
     static LinePattern patternOf(std::string_view name) {
@@ -437,6 +309,7 @@ class DxfImport {
 
     Groups m_groups;
     DxfDrawing m_result;
+    Inserts m_inserts;
     int m_unnamed = 0;
 };
 

@@ -1,4 +1,4 @@
-// Drawings in the drawing exchange format (ASCII): pairs of lines, a group code and a value.
+// Drawings in the drawing exchange format (ASCII).
 #pragma once
 
 #include <map>
@@ -16,7 +16,8 @@ struct DxfDrawing {
 };
 
 // Lines, polylines (also meshes), circles, arcs, texts, tables, solids and faces of model space and of all
-// blocks, with layers and colours. Throws FileFault for a text that isn't such a file, or not a whole one.
+// blocks, with layers and colours; inserted blocks as copies of their entities. Throws FileFault for a text
+// that isn't such a file, or not a whole one.
 DxfDrawing readDxf(std::string_view text);
 
 }  // namespace cad

@@ -52,7 +52,7 @@ struct ExtentsOf {
     }
     void operator()(const Text& text) const {
         if (text.contents.empty()) return;
-        addBox(extents, textPlane(text.position, text.normal, text.rotation), 0.0, 0.0,
+        addBox(extents, textPlane(text), 0.0, 0.0,
                static_cast<double>(text.contents.size()) * text.height * LETTER_WIDTH, text.height);
     }
     void operator()(const MText& text) const {
@@ -61,7 +61,7 @@ struct ExtentsOf {
         for (const std::u16string& line : lines) longest = std::max(longest, line.size());
         if (longest == 0) return;
         const double height = text.height * (1.0 + static_cast<double>(lines.size() - 1) * LINE_SPACING);
-        addBox(extents, textPlane(text.position, text.normal, text.rotation), 0.0, -height,
+        addBox(extents, textPlane(text), 0.0, -height,
                static_cast<double>(longest) * text.height * LETTER_WIDTH, 0.0);
     }
     void operator()(const std::unique_ptr<Table>& table) const {
@@ -92,9 +92,9 @@ HostMatrix3d planeOf(const HostPoint3d& origin, const HostVector3d& normal) {
     return HostMatrix3d::coordSystem(origin, x, z.crossProduct(x), z);
 }
 
-HostMatrix3d textPlane(const HostPoint3d& position, const HostVector3d& normal, double rotation) {
-    const double c = std::cos(rotation), s = std::sin(rotation);
-    return planeOf(position, normal) *
+HostMatrix3d textPlane(const Lettering& text) {
+    const double c = std::cos(text.rotation), s = std::sin(text.rotation);
+    return planeOf(text.position, text.normal) *
            HostMatrix3d{{{c, -s, 0, 0}, {s, c, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}}};
 }
 

@@ -43,8 +43,7 @@ struct Arc {
     HostVector3d normal{0, 0, 1};
 };
 
-// One line of text, its baseline beginning at the position.
-struct Text {
+struct Lettering {
     HostPoint3d position;
     double height = 1.0;
     double rotation = 0.0;
@@ -52,15 +51,13 @@ struct Text {
     std::u16string contents;
 };
 
+// One line of text, its baseline beginning at the position.
+struct Text : Lettering {};
+
 // Text below and to the right of the position. "\P" and line ends begin a line; a width above 0 wraps it
 // between words.
-struct MText {
-    HostPoint3d position;
-    double height = 1.0;
+struct MText : Lettering {
     double width = 0.0;
-    double rotation = 0.0;
-    HostVector3d normal{0, 0, 1};
-    std::u16string contents;
 };
 
 // A grid of cells in the plane of X and Y, below and to the right of the position.
@@ -124,7 +121,7 @@ double sweepOf(const Arc& arc);
 std::vector<HostPoint3d> pointsOf(const Polyline& polyline);
 
 // Where a text lies: the letters stand on the frame's X axis.
-HostMatrix3d textPlane(const HostPoint3d& position, const HostVector3d& normal, double rotation);
+HostMatrix3d textPlane(const Lettering& text);
 
 // The lines into which a text breaks. `width` in characters, 0 for none.
 std::vector<std::u16string> linesOf(const std::u16string& contents, size_t width);

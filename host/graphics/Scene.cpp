@@ -123,11 +123,9 @@ class SceneBuilder {
     void operator()(const cad::Arc& arc) {
         addPath(cad::arcPoints(cad::planeOf(arc.center, arc.normal), arc.radius, arc.start, sweepOf(arc)));
     }
-    void operator()(const cad::Text& text) {
-        addText(cad::textPlane(text.position, text.normal, text.rotation), text.height, text.contents);
-    }
+    void operator()(const cad::Text& text) { addText(cad::textPlane(text), text.height, text.contents); }
     void operator()(const cad::MText& text) {
-        HostMatrix3d plane = cad::textPlane(text.position, text.normal, text.rotation);
+        HostMatrix3d plane = cad::textPlane(text);
         const HostPoint3d first = plane * HostPoint3d{0.0, -text.height, 0.0};
         const HostVector3d down = plane * HostVector3d{0.0, -text.height * cad::LINE_SPACING, 0.0};
         HostPoint3d at = first;

@@ -2,6 +2,7 @@
 // known, and it is drawn.
 #include <cstdint>
 #include <cstdlib>
+#include <optional>
 #include <vector>
 
 #include "host/database/DrawingFile.h"
@@ -39,9 +40,12 @@ void use(const cad::Drawing& drawing) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size == 0) return 0;
     const std::string_view text(reinterpret_cast<const char*>(data) + 1, size - 1);
+    std::optional<cad::Drawing> drawing;
     try {
-        use(*data & 1 ? cad::drawingOf(text) : cad::readDxf(text).drawing);
+        drawing = *data & 1 ? cad::drawingOf(text) : std::move(cad::readDxf(text).drawing);
     } catch (const cad::FileFault&) {
+        return 0;
     }
+    use(*drawing);
     return 0;
 }

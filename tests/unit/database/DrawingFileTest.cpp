@@ -28,8 +28,8 @@ Drawing sample() {
     space.add({Line{{0, 0, 0}, {1, 1, 1}}});
     space.add({Circle{{0, 0, 0}, 2, {0, 1, 0}}});
     space.add({Arc{{0, 0, 0}, 2, 0.1, 3, {0, 0, 1}}});
-    space.add({Text{.contents = u"K1"}});
-    space.add({MText{.width = 12, .contents = u"one\\Ptwo"}});
+    space.add({Text{{.contents = u"K1"}}});
+    space.add({MText{{.contents = u"one\\Ptwo"}, 12}});
     space.add({Solid{{HostPoint3d{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}}}});
     space.add({FaceMesh{{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, {{0, 1, 2, 2}}}});
     return drawing;

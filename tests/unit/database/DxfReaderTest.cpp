@@ -94,6 +94,49 @@ TEST(DxfReader, ReadsBlocksAndSolids) {
     EXPECT_EQ(std::get<Solid>(block->entities()[0].geometry).corners[2].x, 1.0);
 }
 
+// Reads blocks of these groups and entities of those.
+DxfDrawing withBlocks(const std::string& blocks, const std::string& groups) {
+    return readDxf(dxf(HEAD + "0 SECTION|2 BLOCKS|" + blocks + "0 ENDSEC|0 SECTION|2 ENTITIES|" + groups +
+                       "0 ENDSEC|0 EOF"));
+}
+
+TEST(DxfReader, CopiesInsertedBlocksToTheirPlaces) {
+    const DxfDrawing read = withBlocks(
+        "0 BLOCK|2 Pair|0 INSERT|2 Wire|0 INSERT|2 Wire|20 7|0 ENDBLK|"
+        "0 BLOCK|2 Wire|10 1|0 LINE|10 1|11 2|0 TEXT|10 1|40 3|1 W|0 ATTDEF|1 tag|0 ENDBLK|",
+        "0 INSERT|8 wires|2 Pair|10 10|20 20|41 2|42 3|50 90|0 INSERT|2 wire|70 3|44 5|41 2|0 SEQEND|"
+        "0 ATTRIB|10 5|40 1|1 K7|0 ATTRIB|70 1|1 hidden|");
+    const auto& entities = read.drawing.modelSpace().entities();
+    ASSERT_EQ(entities.size(), 11u);
+    EXPECT_TRUE(read.skipped.empty());
+    // Two wide and turned upright; the pair's other wire is 21 to the left of it.
+    const Line& wire = std::get<Line>(entities[1].geometry);
+    EXPECT_NEAR(wire.start.x, 10.0, 1e-9);
+    EXPECT_NEAR(wire.end.y, 22.0, 1e-9);
+    EXPECT_NEAR(std::get<Line>(entities[3].geometry).end.x, -11.0, 1e-9);
+    const Text& text = std::get<Text>(entities[2].geometry);
+    EXPECT_NEAR(text.height, 9.0, 1e-9);
+    EXPECT_NEAR(text.rotation, 1.5707963, 1e-6);
+    // What lies on layer 0 of the block takes the insert's.
+    EXPECT_EQ(read.drawing.layer(entities[1].layer).name, u"Wires");
+    EXPECT_NEAR(std::get<Line>(entities[9].geometry).end.x, 12.0, 1e-9);
+    EXPECT_EQ(std::get<Text>(entities[0].geometry).contents, u"K7");
+}
+
+TEST(DxfReader, LeavesOutInsertsThatHaveNoEnd) {
+    std::string blocks =
+        "0 BLOCK|2 Own|0 LINE|11 1|0 INSERT|2 Own|0 ENDBLK|0 BLOCK|2 B0|0 LINE|11 1|0 ENDBLK|";
+    for (int level = 1; level <= 30; ++level) {
+        const std::string former = "0 INSERT|2 B" + std::to_string(level - 1) + "|";
+        blocks += "0 BLOCK|2 B" + std::to_string(level) + "|" + former + former + "0 ENDBLK|";
+    }
+    const DxfDrawing read = withBlocks(blocks, "0 INSERT|2 Own|0 INSERT|2 Nothing|0 INSERT|2 B30|");
+    EXPECT_GT(read.skipped.at("INSERT"), 2);
+    size_t count = 0;
+    for (const auto& block : read.drawing.blocks()) count += block->entities().size();
+    EXPECT_LT(count, 1'100'000u);
+}
+
 TEST(DxfReader, SaysWhatIsWrong) {
     const auto faultOf = [](const std::string& text) -> std::string {
         try {

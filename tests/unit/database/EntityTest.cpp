@@ -30,7 +30,7 @@ TEST(Entity, ReachesAsFarAsItIsDrawn) {
     const HostExtents bulge = extentsOf(Polyline{.vertices = {{{0, 0, 0}, 1.0}, {{2, 0, 0}}}});
     EXPECT_NEAR(bulge.min.y, -1.0, 2e-3);
     EXPECT_NEAR(bulge.max.y, 0.0, 1e-9);
-    EXPECT_TRUE(extentsOf(MText{.contents = u""}).isEmpty());
+    EXPECT_TRUE(extentsOf(MText{{.contents = u""}}).isEmpty());
 }
 
 TEST(Entity, BreaksTextsIntoLines) {

@@ -102,7 +102,7 @@ TEST(Renderer, FillsSolidsInAnyStyleAndFacesWhereTheyAreSeen) {
 
 TEST(Renderer, FillsLettersAndDrawsSmallOnesAsALine) {
     Picture picture;
-    picture.add(cad::Text{.position = {2, 2, 0}, .height = 2.0, .contents = u"AB"});
+    picture.add(cad::Text{{.position = {2, 2, 0}, .height = 2.0, .contents = u"AB"}});
     picture.draw();
     EXPECT_EQ(picture.at(3, 3), 0xFF0000u);
     EXPECT_EQ(picture.at(5.5, 3.5), 0xFF0000u);
@@ -158,7 +158,7 @@ TEST(Renderer, BearsAnyNumbers) {
             picture.add(cad::Solid{{point(), point(), point(), point()}});
             picture.add(cad::FaceMesh{{point(), point(), point()}, {{0, 1, 2, 2}}});
             picture.add(cad::Circle{point(), number(), point().asVector()});
-            picture.add(cad::Text{.position = point(), .height = std::fabs(number()), .contents = u"abc"});
+            picture.add(cad::Text{{.position = point(), .height = std::fabs(number()), .contents = u"abc"}});
         }
         picture.camera.orbit(number(), number());
         picture.draw(static_cast<Style>(random() % 4), 1 + random() % 3);

@@ -1,158 +1,22 @@
-#include "host/database/DrawingFile.h"
-
 #include <charconv>
 #include <cmath>
 
+#include "host/database/DrawingFields.h"
+#include "host/database/DrawingFile.h"
 #include "host/lisp/Text.h"
 
 namespace cad {
 namespace {
 
-constexpr std::string_view HEAD = "wexdrawing 1";
-constexpr std::string_view TAIL = "end-of-drawing";
-constexpr const char* PATTERNS[] = {"continuous", "dashed", "dotted", "dashdot"};
 // So that a few bytes can't ask for all memory.
 constexpr int MOST_TABLE_CELLS = 1'000'000;
-
-// ---------------------------------------------------------------- writing
-
-class Writer {
-  public:
-    std::string text;
-
-    void word(std::string_view word) {
-        text.append(text.empty() || text.back() == '\n' ? "" : " ").append(word);
-    }
-    void number(double value) {
-        char digits[32];
-        word({digits, std::to_chars(digits, digits + sizeof digits, value).ptr});
-    }
-    void point(const HostPoint3d& p) {
-        number(p.x);
-        number(p.y);
-        number(p.z);
-    }
-    void vector(const HostVector3d& v) { point({v.x, v.y, v.z}); }
-    void quoted(std::u16string_view value) {
-        std::string quotes = "\"";
-        for (const char byte : lisp::toUtf8(value)) {
-            if (byte == '\n') {
-                quotes += "\\n";
-                continue;
-            }
-            if (byte == '"' || byte == '\\') quotes += '\\';
-            quotes += byte;
-        }
-        word(quotes + '"');
-    }
-    void endLine() { text += '\n'; }
-};
-
-struct WriteGeometry {
-    Writer& out;
-
-    void operator()(const Line& line) const {
-        out.point(line.start);
-        out.point(line.end);
-    }
-    void operator()(const Polyline& polyline) const {
-        out.word(polyline.closed ? "closed" : "open");
-        out.vector(polyline.normal);
-        for (const Vertex& vertex : polyline.vertices) {
-            out.point(vertex.point);
-            out.number(vertex.bulge);
-        }
-    }
-    void operator()(const Circle& circle) const {
-        out.point(circle.center);
-        out.number(circle.radius);
-        out.vector(circle.normal);
-    }
-    void operator()(const Arc& arc) const {
-        out.point(arc.center);
-        out.number(arc.radius);
-        out.number(arc.start);
-        out.number(arc.end);
-        out.vector(arc.normal);
-    }
-    void operator()(const Text& text) const {
-        out.point(text.position);
-        out.number(text.height);
-        out.number(text.rotation);
-        out.vector(text.normal);
-        out.quoted(text.contents);
-    }
-    void operator()(const MText& text) const {
-        out.point(text.position);
-        out.number(text.height);
-        out.number(text.width);
-        out.number(text.rotation);
-        out.vector(text.normal);
-        out.quoted(text.contents);
-    }
-    void operator()(const std::unique_ptr<Table>& table) const {
-        out.point(table->position);
-        out.quoted(styleName(*table));
-        out.number(table->textHeight);
-        out.number(table->rows());
-        out.number(table->columns());
-        for (const double height : table->rowHeights) out.number(height);
-        for (const double width : table->columnWidths) out.number(width);
-        for (const std::u16string& cell : table->cells) out.quoted(cell);
-    }
-    void operator()(const Solid& solid) const {
-        for (const HostPoint3d& corner : solid.corners) out.point(corner);
-    }
-    void operator()(const FaceMesh& mesh) const {
-        out.number(static_cast<double>(mesh.vertices.size()));
-        for (const HostPoint3d& vertex : mesh.vertices) out.point(vertex);
-        for (const auto& face : mesh.faces) {
-            for (const uint32_t corner : face) out.number(corner);
-        }
-    }
-
-    std::u16string styleName(const Table& table) const {
-        const TableStyle* style = drawing.tableStyle(table.style);
-        return style ? style->name : u"";
-    }
-    const Drawing& drawing;
-};
-
-void writeVariable(Writer& out, const std::u16string& name, const Variable& value) {
-    out.word("variable");
-    out.quoted(name);
-    if (const auto* whole = std::get_if<int16_t>(&value)) {
-        out.word("integer");
-        out.number(*whole);
-    } else if (const auto* real = std::get_if<double>(&value)) {
-        out.word("real");
-        out.number(*real);
-    } else if (const auto* point = std::get_if<HostPoint3d>(&value)) {
-        out.word("point");
-        out.point(*point);
-    } else {
-        out.word("text");
-        out.quoted(std::get<std::u16string>(value));
-    }
-    out.endLine();
-}
-
-void writeEntity(Writer& out, const Drawing& drawing, const Entity& entity) {
-    out.word("  ");
-    out.word(kindOf(entity));
-    out.number(entity.layer);
-    out.number(entity.color);
-    out.word(PATTERNS[static_cast<int>(entity.pattern)]);
-    out.number(entity.lineWidth);
-    std::visit(WriteGeometry{out, drawing}, entity.geometry);
-    out.endLine();
-}
-
-// ---------------------------------------------------------------- reading
 
 // The words of one line.
 class Words {
   public:
+    template <class Kind>
+    using Field = Kind&;
+
     Words(std::string_view line, size_t number) : m_rest(line), m_number(number) {}
 
     [[noreturn]] void fail(const std::string& why) const { throw FileFault(m_number, why); }
@@ -217,6 +81,11 @@ class Words {
         m_rest.remove_prefix(at + 1);
         return lisp::fromUtf8(bytes);
     }
+    void number(double& value) { value = number(); }
+    void positive(double& value) { value = positive(); }
+    void point(HostPoint3d& value) { value = point(); }
+    void direction(HostVector3d& value) { value = direction(); }
+    void quoted(std::u16string& value) { value = quoted(); }
     // Which of the words comes.
     template <size_t COUNT>
     int oneOf(const char* const (&words)[COUNT]) {
@@ -232,9 +101,11 @@ class Words {
     size_t m_number;
 };
 
-Geometry readLine(Words& in, const Drawing&) {
-    const HostPoint3d start = in.point();
-    return Line{start, in.point()};
+template <class Simple>
+Geometry readPlain(Words& in, const Drawing&) {
+    Simple geometry;
+    fields(in, geometry);
+    return geometry;
 }
 
 Geometry readPolyline(Words& in, const Drawing&) {
@@ -246,32 +117,6 @@ Geometry readPolyline(Words& in, const Drawing&) {
         polyline.vertices.push_back({point, in.number()});
     }
     return polyline;
-}
-
-Geometry readCircle(Words& in, const Drawing&) {
-    const HostPoint3d center = in.point();
-    const double radius = in.positive();
-    return Circle{center, radius, in.direction()};
-}
-
-Geometry readArc(Words& in, const Drawing&) {
-    const HostPoint3d center = in.point();
-    const double radius = in.positive(), start = in.number(), end = in.number();
-    return Arc{center, radius, start, end, in.direction()};
-}
-
-Geometry readText(Words& in, const Drawing&) {
-    const HostPoint3d position = in.point();
-    const double height = in.positive(), rotation = in.number();
-    const HostVector3d normal = in.direction();
-    return Text{position, height, rotation, normal, in.quoted()};
-}
-
-Geometry readMText(Words& in, const Drawing&) {
-    const HostPoint3d position = in.point();
-    const double height = in.positive(), width = in.number(), rotation = in.number();
-    const HostVector3d normal = in.direction();
-    return MText{position, height, width, rotation, normal, in.quoted()};
 }
 
 Geometry readTable(Words& in, const Drawing& drawing) {
@@ -287,12 +132,6 @@ Geometry readTable(Words& in, const Drawing& drawing) {
     for (int column = 0; column < columns; ++column) table->columnWidths.push_back(in.positive());
     for (int64_t cell = 0; cell < int64_t{rows} * columns; ++cell) table->cells.push_back(in.quoted());
     return table;
-}
-
-Geometry readSolid(Words& in, const Drawing&) {
-    Solid solid;
-    for (HostPoint3d& corner : solid.corners) corner = in.point();
-    return solid;
 }
 
 Geometry readMesh(Words& in, const Drawing&) {
@@ -312,10 +151,10 @@ class DrawingReader {
     explicit DrawingReader(std::string_view text) : m_rest(text) {}
 
     Drawing read() {
-        if (!nextLine() || m_line != HEAD) throw FileFault(1, "this is no drawing file");
+        if (!nextLine() || m_line != DRAWING_HEAD) throw FileFault(1, "this is no drawing file");
         for (;;) {
             if (!nextLine()) throw FileFault(m_number, "the file ends in the middle of the drawing");
-            if (m_line == TAIL) return std::move(m_drawing);
+            if (m_line == DRAWING_TAIL) return std::move(m_drawing);
             Words words(m_line, m_number);
             if (words.atEnd()) continue;
             readThing(words);
@@ -343,8 +182,9 @@ class DrawingReader {
                                            &DrawingReader::readVariable, &DrawingReader::readView,
                                            &DrawingReader::readBlock};
         using ReadGeometry = Geometry (*)(Words&, const Drawing&);
-        static constexpr ReadGeometry GEOMETRIES[] = {readLine,  readPolyline, readCircle, readArc, readText,
-                                                      readMText, readTable,    readSolid,  readMesh};
+        static constexpr ReadGeometry GEOMETRIES[] = {readPlain<Line>, readPolyline,     readPlain<Circle>,
+                                                      readPlain<Arc>,  readPlain<Text>,  readPlain<MText>,
+                                                      readTable,       readPlain<Solid>, readMesh};
         static_assert(std::size(THINGS) == std::size(READERS) + std::size(GEOMETRIES));
         const auto thing = static_cast<size_t>(words.oneOf(THINGS));
         if (thing < std::size(READERS)) return (this->*READERS[thing])(words);
@@ -352,7 +192,7 @@ class DrawingReader {
         Entity entity;
         entity.layer = static_cast<uint32_t>(words.whole(0, static_cast<int>(m_drawing.layers().size()) - 1));
         entity.color = static_cast<ColorIndex>(words.whole(0, BY_LAYER));
-        entity.pattern = static_cast<LinePattern>(words.oneOf(PATTERNS));
+        entity.pattern = static_cast<LinePattern>(words.oneOf(PATTERN_WORDS));
         entity.lineWidth = static_cast<float>(words.number());
         entity.geometry = GEOMETRIES[thing - std::size(READERS)](words, m_drawing);
         m_block->add(std::move(entity));
@@ -416,41 +256,6 @@ class DrawingReader {
 };
 
 }  // namespace
-
-std::string drawingText(const Drawing& drawing) {
-    Writer out;
-    out.text = std::string(HEAD) + '\n';
-    for (const Layer& layer : drawing.layers()) {
-        out.word("layer");
-        out.quoted(layer.name);
-        out.number(layer.color);
-        out.word(layer.visible ? "on" : "off");
-        out.endLine();
-    }
-    for (const TableStyle& style : drawing.tableStyles()) {
-        out.word("tablestyle");
-        out.quoted(style.name);
-        for (const double size : {style.textHeight, style.rowHeight, style.columnWidth}) out.number(size);
-        out.endLine();
-    }
-    for (const auto& [name, value] : drawing.variables()) writeVariable(out, name, value);
-    const ViewportState& view = drawing.viewport();
-    out.word("view");
-    out.number(view.width);
-    out.number(view.height);
-    out.point(view.target);
-    out.vector(view.direction);
-    out.number(view.twist);
-    out.endLine();
-    for (const auto& block : drawing.blocks()) {
-        out.word("block");
-        out.quoted(block->name());
-        out.point(block->origin);
-        out.endLine();
-        for (const Entity& entity : block->entities()) writeEntity(out, drawing, entity);
-    }
-    return out.text.append(TAIL) + '\n';
-}
 
 Drawing drawingOf(std::string_view text) { return DrawingReader(text).read(); }
 
