@@ -2,6 +2,8 @@
 
 #include <windowsx.h>
 
+#include <cmath>
+
 #include "host/documents/Documents.h"
 #include "host/documents/EmptyDrawing.h"
 #include "host/services/DrawingColors.h"
@@ -123,12 +125,17 @@ void DrawingWindow::paint() {
     EndPaint(m_window, &paint);
 }
 
-void DrawingWindow::tellViewport(cad::ViewportState& state) {
+void DrawingWindow::tellViewport(cad::Drawing& drawing) {
     const graphics::Camera& camera = m_view.camera();
+    const HostVector3d upright = camera.back().crossProduct(camera.back().perpVector().normal());
+    cad::ViewportState& state = drawing.viewport();
     state.width = camera.width();
     state.height = camera.height();
     state.target = camera.target();
     state.direction = camera.back();
+    state.twist = std::atan2(camera.up().dotProduct(camera.back().crossProduct(upright)),
+                             camera.up().dotProduct(upright));
+    drawing.variables()[u"VIEWCTR"] = camera.target();
 }
 
 void DrawingWindow::beginDrag(Drag drag, POINT at) {

@@ -29,8 +29,8 @@ class DrawingWindow {
     void move(double x, double y);
     // Paints anew when messages are next handled.
     void drawingChanged() { InvalidateRect(m_window, nullptr, FALSE); }
-    // What is seen now.
-    void tellViewport(cad::ViewportState& state);
+    // Tells the drawing what is seen now: its viewport, and the variable "VIEWCTR".
+    void tellViewport(cad::Drawing& drawing);
 
   private:
     enum class Drag { none, pan, orbit };

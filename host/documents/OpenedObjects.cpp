@@ -96,7 +96,10 @@ class OpenTable final : public HostTable, public Handle {
     void moveTo(cad::Drawing& drawing, const Place& place) {
         m_drawing = &drawing;
         m_place = place;
+        if (m_layOutWhenAdded) generateLayout();
     }
+    // A table may be closed before it is given to a block, which is when its handle goes.
+    bool wasClosed() const { return m_wasClosed; }
 
     bool isKindOf(const wchar_t* className) const override {
         return std::wstring_view(className) == HostTable::className ||
@@ -107,6 +110,7 @@ class OpenTable final : public HostTable, public Handle {
         return statusOf(m_drawing && cad::extentsOf(m_place.entity(), *extents));
     }
     void close() override {
+        m_wasClosed = true;
         if (m_drawing) drop(this);
     }
     void setTableStyle(HostObjectId style) override { table().style = style; }
@@ -124,7 +128,6 @@ class OpenTable final : public HostTable, public Handle {
         if (m_drawing) m_drawing->layOut(table());
         m_layOutWhenAdded = !m_drawing;
     }
-    bool layOutWhenAdded() const { return m_layOutWhenAdded; }
     int setTextString(int row, int column, const wchar_t* text) override {
         std::u16string* cell = table().cell(row, column);
         if (cell) *cell = lispText(text);
@@ -143,6 +146,7 @@ class OpenTable final : public HostTable, public Handle {
     std::unique_ptr<cad::Table> m_new;
     Place m_place{};
     bool m_layOutWhenAdded = false;
+    bool m_wasClosed = false;
 };
 
 class OpenBlock final : public HostBlockRecord, public Handle {
@@ -176,14 +180,15 @@ class OpenBlock final : public HostBlockRecord, public Handle {
     }
     void setOrigin(const HostPoint3d& origin) override { (m_block ? m_block->origin : m_origin) = origin; }
     int appendEntity(HostEntity* entity) override {
-        if (!m_block || !m_forWriting || !entity || !entity->isKindOf(HostTable::className))
-            return HOST_ERROR;
+        if (!entity || !entity->isKindOf(HostTable::className)) return HOST_ERROR;
         auto* table = static_cast<OpenTable*>(static_cast<HostTable*>(entity));
-        if (table->drawing()) return HOST_ERROR;
-        m_block->add(table->take());
-        table->moveTo(*m_drawing, {m_block, m_block->entities().size() - 1});
-        if (table->layOutWhenAdded()) table->generateLayout();
-        return HOST_NORMAL;
+        const bool taken = m_block && m_forWriting && !table->drawing();
+        if (taken) {
+            m_block->add(table->take());
+            table->moveTo(*m_drawing, {m_block, m_block->entities().size() - 1});
+        }
+        if (table->wasClosed()) drop(table);
+        return statusOf(taken);
     }
     int entityCount() const override { return m_block ? static_cast<int>(m_block->entities().size()) : 0; }
     HostEntity* openEntity(int index) override {
@@ -195,9 +200,7 @@ class OpenBlock final : public HostBlockRecord, public Handle {
             return keep<OpenTable>(*m_drawing, place);
         return keep<OpenEntity<HostEntity>>(*m_drawing, place);
     }
-    void close() override {
-        if (m_block) drop(this);
-    }
+    void close() override { drop(this); }
 
   private:
     cad::Block* m_block = nullptr;

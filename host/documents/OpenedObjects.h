@@ -12,7 +12,7 @@ namespace opened {
 HostBlockTable* blockTable(cad::Drawing& drawing, bool forWriting);
 HostBlockRecord* block(cad::Drawing& drawing, cad::Block& block, bool forWriting);
 HostViewportRecord* viewport(const cad::ViewportState& state);
-// Not in a drawing yet; closing does nothing before they are.
+// Not in a drawing yet. A record that is closed before it is added to one goes.
 HostTable* newTable();
 HostBlockRecord* newBlock();
 

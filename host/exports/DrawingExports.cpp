@@ -28,8 +28,7 @@ HostBlockRecord* hostNewBlockRecord() { return opened::newBlock(); }
 int hostVportsToRecords() {
     HostDocument* document = documents().current();
     if (!document) return HOST_ERROR;
-    if (DrawingWindow* window = DrawingWindow::current())
-        window->tellViewport(document->database.drawing().viewport());
+    if (DrawingWindow* window = DrawingWindow::current()) window->tellViewport(document->database.drawing());
     return HOST_NORMAL;
 }
 
@@ -62,7 +61,13 @@ HostGsManager* hostGetGsManager(void*) {
     return &manager;
 }
 
-HostGsView* hostGetCurrent3dView(int) {
+HostGsView* hostGetCurrent3dView(int viewport) {
+    HostDocument* document = documents().current();
     DrawingWindow* window = DrawingWindow::current();
-    return window ? &window->view() : nullptr;
+    if (!document || !window) return nullptr;
+    // One viewport is on the screen: that of the current number.
+    const auto& variables = document->database.drawing().variables();
+    const auto current = variables.find(u"CVPORT");
+    const auto* number = current == variables.end() ? nullptr : std::get_if<int16_t>(&current->second);
+    return number && *number == viewport ? &window->view() : nullptr;
 }

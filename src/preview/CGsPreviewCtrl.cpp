@@ -39,7 +39,13 @@ const MessageMap& CGsPreviewCtrl::messageMap() const {
                                     on<WM_SETFOCUS, &CGsPreviewCtrl::onSetFocus>(),
                                     on<WM_KILLFOCUS, &CGsPreviewCtrl::onKillFocus>(),
                                     on<WM_NCHITTEST, &CGsPreviewCtrl::onHitTest>(),
-                                    on<WM_CTLCOLORSTATIC, &CGsPreviewCtrl::onColor>(),
+                                    onRaw<WM_CTLCOLORMSGBOX, &CGsPreviewCtrl::onColor>(),
+                                    onRaw<WM_CTLCOLOREDIT, &CGsPreviewCtrl::onColor>(),
+                                    onRaw<WM_CTLCOLORLISTBOX, &CGsPreviewCtrl::onColor>(),
+                                    onRaw<WM_CTLCOLORBTN, &CGsPreviewCtrl::onColor>(),
+                                    onRaw<WM_CTLCOLORDLG, &CGsPreviewCtrl::onColor>(),
+                                    onRaw<WM_CTLCOLORSCROLLBAR, &CGsPreviewCtrl::onColor>(),
+                                    onRaw<WM_CTLCOLORSTATIC, &CGsPreviewCtrl::onColor>(),
                                     onRaw<WM_LBUTTONDOWN, &CGsPreviewCtrl::onButtonDown>(),
                                     onRaw<WM_MBUTTONDOWN, &CGsPreviewCtrl::onButtonDown>(),
                                     on<WM_LBUTTONUP, &CGsPreviewCtrl::onLeftUp>(),
@@ -170,8 +176,10 @@ void CGsPreviewCtrl::onKillFocus(CWnd*) {
     drawFocusMark();
 }
 
-LRESULT CGsPreviewCtrl::onColor(HDC dc, CWnd*) {
+// For what kind of child whatever.
+LRESULT CGsPreviewCtrl::onColor(WPARAM w, LPARAM) {
     if (!m_backgroundBrush) return Default();
+    const HDC dc = reinterpret_cast<HDC>(w);
     SetBkColor(dc, m_backgroundColor);
     SelectObject(dc, m_backgroundBrush);
     return reinterpret_cast<LRESULT>(m_backgroundBrush);

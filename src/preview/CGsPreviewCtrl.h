@@ -31,7 +31,7 @@ class CGsPreviewCtrl : public CStatic {
     // `zoom`.
     bool showBlockFull(const CString& name, double zoom, bool fitOff, int mode, const HostVector3d& up,
                        const HostVector3d& direction);
-    // Shows an open record, which is closed.
+    // Shows an open record of a drawing, which is closed.
     bool showBlockRecord(HostBlockRecord* record);
     // Reads a drawing file and shows its model space. False, with an alert, where it isn't found or can't be
     // read.
@@ -83,6 +83,7 @@ class CGsPreviewCtrl : public CStatic {
     bool readDrawing(const CString& path, int sharing);
     void frameModelSpace();
 
+    bool isOfOwnDrawing(const HostBlockRecord& record) const;
     void setUpGraphics(HMODULE resources, bool withModel);
     void frameBlock(HostBlockRecord* record, double zoom, bool fitOff, int mode,
                     const HostVector3d& direction);
@@ -96,7 +97,7 @@ class CGsPreviewCtrl : public CStatic {
     void onSetFocus(CWnd* former);
     void onKillFocus(CWnd* next);
     LRESULT onHitTest(POINT) { return HTCLIENT; }
-    LRESULT onColor(HDC dc, CWnd* control);
+    LRESULT onColor(WPARAM w, LPARAM l);
     void paintView();
     void paintBackground(HDC dc) const;
     void paintBorder(HDC dc) const;

@@ -143,10 +143,17 @@ bool CGsPreviewCtrl::showBlockFull(const CString& name, double zoom, bool fitOff
 
 bool CGsPreviewCtrl::showBlockRecord(HostBlockRecord* record) {
     clearGraphics();
-    if (m_database && m_fileName.empty()) deleteDatabase();
+    if (!isOfOwnDrawing(*record) && m_database && m_fileName.empty()) deleteDatabase();
     m_blockName = record->name();
     frameBlock(record, 0.0, true, 1, PLAN_DIRECTION);
     return true;
+}
+
+// A record dies with its drawing.
+bool CGsPreviewCtrl::isOfOwnDrawing(const HostBlockRecord& record) const {
+    const Open<HostBlockRecord> again(m_database ? m_database->openBlock(record.id(), HOST_FOR_READ)
+                                                 : nullptr);
+    return static_cast<bool>(again);
 }
 
 void CGsPreviewCtrl::setUpGraphics(HMODULE resources, bool withModel) {

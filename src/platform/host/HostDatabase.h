@@ -50,7 +50,8 @@ class HostBlockRecord : public HostDrawable {
     virtual const wchar_t* name() const = 0;
     virtual int setName(const wchar_t* name) = 0;
     virtual void setOrigin(const HostPoint3d& origin) = 0;
-    // Takes over an entity that was made by hostNew…; its pointer stays good until it is closed.
+    // Takes over an entity that was made by hostNew…, and may have been closed already; its pointer is dead
+    // then, and otherwise good until it is closed. One that was closed goes also where it isn't taken.
     virtual int appendEntity(HostEntity* entity) = 0;
     virtual int entityCount() const = 0;
     // Null where the entity can't be opened.
@@ -120,6 +121,7 @@ HOST_API HostDatabase* hostWorkingDatabase();
 // drawing has, `noDocument` says that it stands beside the documents.
 HOST_API HostDatabase* hostNewDatabase(bool defaultDrawing, bool noDocument);
 HOST_API void hostDeleteDatabase(HostDatabase* database);
+// In no drawing yet; a record that is closed before it is added to one goes.
 HOST_API HostTable* hostNewTable();
 HOST_API HostBlockRecord* hostNewBlockRecord();
 // Brings the viewport table up to date with what the screen shows.

@@ -116,13 +116,21 @@ struct HostExtents {
     HostPoint3d max{-1e20, -1e20, -1e20};
 
     bool isEmpty() const { return min.x > max.x || min.y > max.y || min.z > max.z; }
+    // What has no finite place is left out.
     void addPoint(const HostPoint3d& p) {
+        if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(p.z)) return;
+        if (isEmpty()) {
+            // What lies beyond the corners of fresh extents counts too.
+            min = max = p;
+            return;
+        }
         min = {std::min(min.x, p.x), std::min(min.y, p.y), std::min(min.z, p.z)};
         max = {std::max(max.x, p.x), std::max(max.y, p.y), std::max(max.z, p.z)};
     }
     void addExt(const HostExtents& other) {
-        min = {std::min(min.x, other.min.x), std::min(min.y, other.min.y), std::min(min.z, other.min.z)};
-        max = {std::max(max.x, other.max.x), std::max(max.y, other.max.y), std::max(max.z, other.max.z)};
+        if (other.isEmpty()) return;
+        addPoint(other.min);
+        addPoint(other.max);
     }
     // The box around the transformed corners.
     void transformBy(const HostMatrix3d& matrix) {

@@ -4,24 +4,10 @@
 #include <filesystem>
 #include <fstream>
 
+#include "host/drive/Resources.h"
+#include "src/platform/host/HostServices.h"
 #include "src/platform/mfc/Drawing.h"
-#include "src/preview/CGsPreviewCtrl.h"
-
-// What only tests look at and set.
-class PreviewProbe {
-  public:
-    explicit PreviewProbe(CGsPreviewCtrl& preview) : m_preview(preview) {}
-    HostGsView& view() const { return *m_preview.m_view; }
-    bool isPanning() const { return m_preview.m_panning; }
-    double dragZoom() const { return m_preview.m_dragZoom; }
-    const CString& block() const { return m_preview.m_blockName; }
-    bool hasDatabase() const { return m_preview.m_database; }
-    void orbitFrom(POINT at) const { m_preview.m_orbiting = true, m_preview.m_lastPoint = at; }
-    void dragZoomFrom(POINT at) const { m_preview.m_zoomDragging = true, m_preview.m_lastPoint = at; }
-
-  private:
-    CGsPreviewCtrl& m_preview;
-};
+#include "tests/ui/preview/PreviewProbe.h"
 
 namespace {
 
@@ -105,11 +91,11 @@ TEST_F(PreviewTest, ShowsADrawingInPlan) {
 TEST_F(PreviewTest, TellsOfAFileThatCantBeShown) {
     const AlertCloser alerts;
     EXPECT_FALSE(preview.loadDrawing(L"no such file.wdr"));
-    EXPECT_FALSE(probe.hasDatabase());
+    EXPECT_FALSE(probe.database());
     ASSERT_TRUE(load());
     std::ofstream(file) << "wexdrawing 1\n";
     EXPECT_FALSE(load());
-    EXPECT_FALSE(probe.hasDatabase());
+    EXPECT_FALSE(probe.database());
     EXPECT_TRUE(probe.block().empty());
     EXPECT_EQ(at(100, 100), GetSysColor(COLOR_3DFACE));
 }
@@ -154,7 +140,16 @@ TEST_F(PreviewTest, ADragPansUntilTheButtonIsReleased) {
     mouse(WM_LBUTTONUP, 80, 40);
     mouse(WM_MOUSEMOVE, 20, 20);
     EXPECT_EQ(at(130, 90), RED);
-    // Without buttons the mouse does nothing; in mode 0 it forgets a pan.
+    // The middle button does the same, and shows the pointer once more.
+    mouse(WM_MBUTTONDOWN, 50, 50);
+    EXPECT_EQ(GetCapture(), preview.m_hWnd);
+    EXPECT_TRUE(probe.isPanning());
+    const int shown = ShowCursor(TRUE);
+    mouse(WM_MBUTTONUP, 50, 50);
+    EXPECT_EQ(ShowCursor(TRUE), shown + 2);
+    EXPECT_EQ(GetCapture(), nullptr);
+    EXPECT_FALSE(probe.isPanning());
+    // In mode 0 a move forgets a pan.
     mouse(WM_MBUTTONDOWN, 50, 50);
     preview.setMouseMode(0);
     mouse(WM_MOUSEMOVE, 80, 40);
@@ -188,6 +183,53 @@ TEST_F(PreviewTest, TheArcballTurnsTheDrawing) {
     EXPECT_NEAR(square(), SIZE / 5, 1);
 }
 
+TEST_F(PreviewTest, ABorderIsDrawnInTheColorOfTheDrawingArea) {
+    preview.setBorderColor(7);
+    uint32_t color = 0;
+    hostGetCurrentColors(&color, 1);
+    for (const POINT p : {POINT{1, 1}, {1, SIZE - 2}, {SIZE - 2, 50}}) EXPECT_EQ(at(p.x, p.y), color);
+    EXPECT_NE(at(0, 0), color);
+    EXPECT_NE(at(2, 2), color);
+}
+
+TEST_F(PreviewTest, AZoomFromOutsideScalesTheView) {
+    preview.zoomView(2.0);
+    ASSERT_TRUE(load());
+    preview.zoomView(2.0);
+    EXPECT_NEAR(square(), SIZE / 5 * 2, 1);
+}
+
+TEST_F(PreviewTest, HasOneTipWhoseTextChanges) {
+    const auto text = [&] {
+        wchar_t kept[80] = {};
+        TOOLINFOW tool = {.cbSize = TTTOOLINFOW_V1_SIZE, .hwnd = preview.m_hWnd, .uId = 1};
+        tool.lpszText = kept;
+        probe.tip().SendMessage(TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+        return std::wstring(kept);
+    };
+    preview.setToolTipText(L"", true);
+    EXPECT_FALSE(probe.tip().isLive());
+    preview.setToolTipText(L"A relay", true);
+    preview.setToolTipText(L"A lamp", true);
+    EXPECT_EQ(probe.tip().GetToolCount(), 1);
+    EXPECT_EQ(text(), L"A lamp");
+    preview.setToolTipText(L"", false);
+    EXPECT_EQ(text(), L"A lamp");
+}
+
+TEST_F(PreviewTest, GivesItsBrushToWhateverAsksForColors) {
+    const ClientDC dc(preview.m_hWnd);
+    const HBRUSH brush = static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH));
+    probe.setBackground(brush, RGB(1, 2, 3));
+    for (const UINT message : {WM_CTLCOLORSTATIC, WM_CTLCOLOREDIT, WM_CTLCOLORDLG}) {
+        SetBkColor(dc, 0);
+        const LRESULT given = preview.SendMessage(message, reinterpret_cast<WPARAM>(dc.m_hDC), 0);
+        EXPECT_EQ(given, reinterpret_cast<LRESULT>(brush));
+        EXPECT_EQ(GetBkColor(dc), RGB(1, 2, 3));
+    }
+    EXPECT_EQ(at(100, 100), RGB(128, 128, 128));
+}
+
 TEST_F(PreviewTest, TheGadgetIsPaintedInModeOne) {
     ASSERT_TRUE(load());
     EXPECT_NE(at(20, 100), RGB(0, 255, 0));
@@ -199,13 +241,19 @@ TEST_F(PreviewTest, TheGadgetIsPaintedInModeOne) {
 }
 
 TEST_F(PreviewTest, ManyDrawingsLeaveNothing) {
-    const auto objects = [] { return GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS); };
-    for (int round = 0; round < 5; ++round) ASSERT_TRUE(load());
-    const DWORD before = objects();
-    for (int round = 0; round < 200; ++round) ASSERT_TRUE(load());
-    EXPECT_LE(objects(), before);
+    const auto shownOften = [&](int rounds) {
+        for (int round = 0; round < rounds; ++round) {
+            ASSERT_TRUE(load());
+            ASSERT_EQ(at(100, 100), RED);
+        }
+    };
+    shownOften(5);
+    const int before = heldResources().gdiObjects;
+    ASSERT_GT(before, 0);
+    shownOften(200);
+    EXPECT_LE(heldResources().gdiObjects, before);
     preview.DestroyWindow();
-    EXPECT_FALSE(probe.hasDatabase());
+    EXPECT_FALSE(probe.database());
 }
 
 }  // namespace
