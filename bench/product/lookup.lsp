@@ -23,7 +23,9 @@
   (take-turns (strcat name "_first_show") '(progn (open-lookup) shown) (list 'progn bare-lookup '(bench_bare_shown)) 20)
   (take-turns (strcat name "_open_close") '(open-lookup) bare-lookup 20)
   (ui_session "LOOKUP_FP"
-    (append '((ui_pick "DLST" 0))
+    (append (painted-row (strcat name "_rows_shown") '(wex_listctrl_setitemcount "DLST" 0)
+                         '(wex_listctrl_setitemcount "DLST" (wex_fp_getcount)) 10)
+            '((ui_pick "DLST" 0))
             (painted-row (strcat name "_page_down") nil '(ui_key "PAGEDOWN") 20)
             (painted-row (strcat name "_jump_to_end") '(ui_key "HOME") '(ui_key "END") 10)
             (painted-row (strcat name "_search_last") '(ui_key "HOME") (list 'ui_char last) 5)
