@@ -96,7 +96,10 @@ void OdbcDatabase::failConnection() {
     throw error;
 }
 
+// A driver doesn't tell of a transaction that it wasn't asked for, and so nobody would end one that a program
+// has left open.
 OdbcStatement OdbcDatabase::prepare(std::wstring_view sql) {
+    if (beginsTransaction(sql)) throw DatabaseError(L"a transaction is begun by db_begin, not by SQL");
     OdbcStatement statement(m_connection.get());
     if (!statement) failConnection();
     const std::wstring quoted = withQuotedNames(sql, m_dialect);

@@ -1,6 +1,8 @@
 #include "store/SqlText.h"
 
+#include <algorithm>
 #include <cwctype>
+#include <iterator>
 
 #include "src/platform/base/Text.h"
 
@@ -145,6 +147,23 @@ SqlDialect dialectOf(std::wstring_view product, std::wstring_view quote) {
 
 std::wstring_view withoutEmptyOrder(std::wstring_view sql) {
     return sql.ends_with(EMPTY_ORDER) ? sql.substr(0, sql.size() - EMPTY_ORDER.size()) : sql;
+}
+
+bool beginsTransaction(std::wstring_view sql) {
+    constexpr std::wstring_view BETWEEN = L" \t\r\n;";
+    const auto takeWord = [&] {
+        sql.remove_prefix(std::min(sql.find_first_not_of(BETWEEN), sql.size()));
+        const std::wstring_view word = sql.substr(0, sql.find_first_of(BETWEEN));
+        sql.remove_prefix(word.size());
+        return word;
+    };
+    const std::wstring_view first = takeWord(), second = takeWord();
+    const auto isSecond = [&](std::wstring_view word) { return equalIgnoringCase(second, word); };
+    if (equalIgnoringCase(first, L"START")) return isSecond(L"TRANSACTION");
+    constexpr std::wstring_view BEHIND_BEGIN[] = {L"",     L"TRANSACTION", L"TRAN",
+                                                  L"WORK", L"ISOLATION",   L"READ"};
+    return equalIgnoringCase(first, L"BEGIN") &&
+           std::any_of(std::begin(BEHIND_BEGIN), std::end(BEHIND_BEGIN), isSecond);
 }
 
 std::wstring withQuotedNames(std::wstring_view sql, const SqlDialect& dialect) {

@@ -21,6 +21,10 @@ SqlDialect dialectOf(std::wstring_view product, std::wstring_view quote);
 // `sql` without an empty order at its end, which no database takes.
 std::wstring_view withoutEmptyOrder(std::wstring_view sql);
 
+// Whether `sql` is a statement that begins a transaction, as BEGIN and START TRANSACTION are, and no block of
+// statements.
+bool beginsTransaction(std::wstring_view sql);
+
 // `sql` with each [name] quoted as the dialect has it. A name ends at the first closing bracket. What stands
 // in literals, quoted names and comments stays, and so does a bracket that nothing closes.
 std::wstring withQuotedNames(std::wstring_view sql, const SqlDialect& dialect);

@@ -78,12 +78,14 @@ server_is_locked() {
     echo "BEGIN; UPDATE \"Parts\" SET \"Name\" = 'theirs' WHERE \"PN\" = '1001'; SELECT 'locked';" >&"${OTHER[1]}"
     read -r -u "${OTHER[0]}"
     starts "$postgres_odbc" '(progn
+        (princ (catch-error (db_exec "BEGIN")))
         (db_begin)
         (db_exec "UPDATE [Parts] SET [Name] = ? WHERE [PN] = ?" (list "ours" "1002"))
         (princ (catch-error (db_exec "UPDATE [Parts] SET [Name] = ? WHERE [PN] = ?" (list "ours" "1001"))))
         (db_commit)
         (princ (db_query "SELECT [Name] FROM [Parts] WHERE [PN] = ?" (list "1002"))))'
     wants 'lock timeout' "$work/told"
+    wants 'a transaction is begun by db_begin' "$work/told"
     wants '((ours))' "$work/told"
     echo '\q' >&"${OTHER[1]}"
     wait "$OTHER_PID"

@@ -40,6 +40,15 @@ TEST(SqlText, WhatIsNoNameStays) {
     EXPECT_EQ(withQuotedNames(L"SELECT $1, [a], $2, [b]", POSTGRES), L"SELECT $1, \"a\", $2, \"b\"");
 }
 
+TEST(SqlText, ABlockOfStatementsBeginsNoTransaction) {
+    for (const wchar_t* sql :
+         {L"BEGIN", L" begin ;", L"Begin\nWork", L"BEGIN TRAN x", L"start transaction read only"})
+        EXPECT_TRUE(beginsTransaction(sql)) << testing::PrintToString(sql);
+    for (const wchar_t* sql :
+         {L"", L"BEGIN UPDATE t SET a = 1; END", L"START SLAVE", L"SELECT 'BEGIN'", L"BEGINNING"})
+        EXPECT_FALSE(beginsTransaction(sql)) << testing::PrintToString(sql);
+}
+
 TEST(SqlText, AnEmptyOrderGoes) {
     EXPECT_EQ(withoutEmptyOrder(L"SELECT * FROM [Parts] ORDER BY []"), L"SELECT * FROM [Parts]");
     EXPECT_EQ(withoutEmptyOrder(L"SELECT * FROM [Parts] ORDER BY [PN]"),
