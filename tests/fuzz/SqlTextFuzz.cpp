@@ -22,5 +22,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         require(withQuotedNames(literal + L"[a]", dialect) == literal + dialect.quote + L"a" + dialect.quote);
     }
     require(sql.starts_with(withoutEmptyOrder(sql)));
+    require(!beginsTransaction(L"SELECT " + sql));
     return 0;
 }
