@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <memory>
+#include <set>
 
 #include "host/runner/DialogFindings.h"
+#include "host/runner/OpenedDialog.h"
 #include "host/runner/ResourceModules.h"
 #include "host/runner/TextMeasure.h"
 #include "host/services/Host.h"
@@ -12,8 +15,9 @@
 
 namespace {
 
-// The captions of the resource module that become icons.
-constexpr int ICON_CAPTION_IDS[] = {114, 116};
+// The scales at which dialogs are looked at, in percent of the display's.
+constexpr int DOTS_AN_INCH = 96;
+constexpr int SCALES[] = {100, 150, 200};
 
 void print(const std::wstring& line) { host().console().print(line + L"\n"); }
 
@@ -43,9 +47,6 @@ class DialogCheck {
             find(path, isFolder(path) ? L"is a folder: name the modules in it" : L"can't be loaded");
         for (const ResourceModule& module : modules.inPlace)
             for (const auto& [id, text] : module.keyLists) note(module, id, std::wstring(keyListName(text)));
-        const std::optional<ResourceModule> own = ownResourceModule();
-        if (!own) return;
-        for (const int id : ICON_CAPTION_IDS) m_iconCaptions.push_back(own->text(id));
     }
 
     void check(const ResourceModule& module) {
@@ -96,21 +97,56 @@ class DialogCheck {
             find(name, L"has a key list of " + std::to_wstring(text.size()) +
                            L" characters, which is cut at " + std::to_wstring(KEY_LIST_CHARS) +
                            L": shorten the keys");
-        const std::optional<DialogTemplate>* dialog = templateOf(module, id);
-        if (!dialog) {
+        const ResourceModule* holder = holderOf(module, id);
+        if (!holder) {
             m_withoutTemplate += (m_withoutTemplate.empty() ? L"" : L", ") + name;
             return;
         }
         ++m_dialogs;
-        if (!*dialog)
+        const std::optional<DialogTemplate>& dialog = holder->templates.at(id);
+        if (!dialog)
             return find(name, L"template " + std::to_wstring(id) + L" can't be read: compile it anew");
-        const TextMeasure measure(**dialog);
-        const auto fits = [&](const std::wstring& words, const TextRoom& room) {
-            return measure.fits(words, room);
-        };
-        for (const std::wstring& finding :
-             findMismatches(*keys, **dialog, {m_iconCaptions, fits, &knowsClass}))
+        for (const std::wstring& finding : findMismatches(*keys, *dialog, surroundings(*dialog, 100)))
             find(name, finding);
+        checkLook(name, *holder, id, *dialog);
+    }
+
+    DialogSurroundings surroundings(const DialogTemplate& dialog, int percent) const {
+        const auto measure = std::make_shared<TextMeasure>(dialog, percent);
+        const auto fits = [measure](const std::wstring& words, const TextRoom& room) {
+            return measure->fits(words, room);
+        };
+        return {m_iconCaptions, fits, &knowsClass};
+    }
+
+    // What shows only when the dialog is opened: at each scale, and with the display's theme and without one.
+    // What was found at a smaller scale isn't told again.
+    void checkLook(const std::wstring& name, const ResourceModule& holder, int id,
+                   const DialogTemplate& dialog) {
+        const auto bytes = templateBytes(holder, id);
+        std::set<std::wstring> told;
+        const auto tell = [&](const std::wstring& where, const std::vector<std::wstring>& findings) {
+            for (const std::wstring& finding : findings)
+                if (told.insert(finding).second) find(name, where + finding);
+        };
+        for (const int percent : SCALES) {
+            const std::wstring at =
+                percent == 100 ? L""
+                               : L"at " + std::to_wstring(DOTS_AN_INCH * percent / 100) + L" dots per inch ";
+            const std::vector<std::wstring> clipped = findClippedTexts(dialog, surroundings(dialog, percent));
+            if (percent == 100)
+                told.insert(clipped.begin(), clipped.end());
+            else
+                tell(at, clipped);
+            OpenedDialog opened(holder.handle.get(), bytes, dialog, percent);
+            // That nobody registers a window class has been told.
+            if (!opened.isOpen()) return;
+            tell(at, opened.misplaced());
+            if (percent != 100) continue;
+            tell(L"", opened.paleTexts());
+            opened.removeTheme();
+            tell(L"without a theme ", opened.paleTexts());
+        }
     }
 
     // The modules among which key lists and templates of `module` belong together: itself or the product's
@@ -122,11 +158,11 @@ class DialogCheck {
                            [&](const ResourceModule& other) { return other.isProducts() && test(other); });
     }
 
-    const std::optional<DialogTemplate>* templateOf(const ResourceModule& module, int id) const {
-        const std::optional<DialogTemplate>* found = nullptr;
+    // The module that has the template of the key list with that id; null where there is none.
+    const ResourceModule* holderOf(const ResourceModule& module, int id) const {
+        const ResourceModule* found = nullptr;
         anyPart(module, [&](const ResourceModule& part) {
-            const auto at = part.templates.find(id);
-            if (at != part.templates.end()) found = &at->second;
+            if (part.templates.contains(id)) found = &part;
             return found != nullptr;
         });
         return found;
@@ -141,7 +177,7 @@ class DialogCheck {
     }
 
     const ResourceModules& m_modules;
-    std::vector<std::wstring> m_iconCaptions;
+    const std::vector<IconCaption> m_iconCaptions = iconCaptions();
     // Where each dialog name, in lower case, and each id was seen first.
     std::map<std::wstring, std::wstring> m_names;
     std::map<int, std::wstring> m_ids;

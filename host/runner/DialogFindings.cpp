@@ -20,7 +20,11 @@ constexpr int UNKNOWN_KEY_ID = -1;
 constexpr int UNKNOWN_KEY_ID_16 = 0xFFFF;
 
 // Styles as the platform numbers them.
+constexpr uint32_t VISIBLE = 0x10000000;
+constexpr uint32_t GROUP = 0x20000;
+constexpr uint32_t TAB_STOP = 0x10000;
 constexpr uint32_t BUTTON_KIND = 0xF;
+constexpr uint32_t GROUP_BOX = 0x7;
 constexpr uint32_t STATIC_KIND = 0x1F;
 constexpr uint32_t NO_PREFIX = 0x80;
 constexpr uint32_t CENTER_IMAGE = 0x200;
@@ -36,12 +40,6 @@ using Words = std::vector<std::wstring>;
 
 std::wstring nameOf(int id) { return L"control " + std::to_wstring(id); }
 std::wstring quoted(std::wstring_view text) { return L'"' + std::wstring(text) + L'"'; }
-
-int idOfKey(const CString& key, size_t position) {
-    if (key == L"ok" || key == L"accept") return OK_CONTROL_ID;
-    if (key == L"cancel") return CANCEL_CONTROL_ID;
-    return FIRST_KEY_CONTROL_ID + static_cast<int>(position);
-}
 
 // A part of the name of a Lisp function.
 bool isLispName(const std::wstring& text) { return lisp::isWord(lispText(text)); }
@@ -65,7 +63,7 @@ void checkKeys(const KeyListText& list, const DialogTemplate& dialog, Words& fou
     for (size_t i = 0; i < list.keys.size(); ++i) {
         const CString& key = list.keys[i];
         if (key.empty()) continue;
-        const int id = idOfKey(key, i);
+        const int id = controlIdOfKey(key, i);
         const auto [at, isNew] = first.emplace(key, i);
         if (!isNew)
             found.push_back(L"key " + quoted(key) +
@@ -86,17 +84,21 @@ void checkKeys(const KeyListText& list, const DialogTemplate& dialog, Words& fou
     }
 }
 
-std::optional<std::wstring> problemOfId(const KeyListText& list, int id) {
+std::optional<std::wstring> problemOfId(const KeyListText& list, const DialogTemplateControl& control) {
+    const int id = control.id;
     if (id == UNKNOWN_KEY_ID || id == UNKNOWN_KEY_ID_16)
         return L" is what every unknown key would reach: give it an id of its own";
     if (isReportControl(toLower(list.name), id)) return std::nullopt;
     if (!isWalkedId(id)) return L" is out of reach: use the ids 1, 2 and 110 to 399";
     if (id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID) return std::nullopt;
     const size_t position = static_cast<size_t>(id) - FIRST_KEY_CONTROL_ID;
+    // A label says what it says without a key.
+    if (position >= list.keys.size() && control.className == L"Static" && !control.text.empty())
+        return std::nullopt;
     if (id < FIRST_KEY_CONTROL_ID || position >= list.keys.size())
         return L" has no key: add one to the list, or use the id of a key that stands there";
     const CString& key = list.keys[position];
-    if (const int meant = idOfKey(key, position); !key.empty() && meant != id)
+    if (const int meant = controlIdOfKey(key, position); !key.empty() && meant != id)
         return L" stands at the place of the key " + quoted(key) + L", which belongs to the id " +
                std::to_wstring(meant) + L": use another id";
     return std::nullopt;
@@ -108,7 +110,7 @@ void checkIds(const KeyListText& list, const DialogTemplate& dialog, Words& foun
         if (!ids.insert(control.id).second)
             found.push_back(nameOf(control.id) + L" is there twice, and only the first is found: give " +
                             quoted(control.text) + L" another id");
-        else if (const auto problem = problemOfId(list, control.id))
+        else if (const auto problem = problemOfId(list, control))
             found.push_back(nameOf(control.id) + *problem);
     }
 }
@@ -117,16 +119,55 @@ bool readsMnemonic(const DialogTemplateControl& control) {
     return control.className == L"Button" || (control.className == L"Static" && !(control.style & NO_PREFIX));
 }
 
-void checkMnemonics(const DialogTemplate& dialog, Words& found) {
-    std::map<wchar_t, int> first;
+// An icon has its mnemonic in its tip.
+void checkMnemonics(const DialogTemplate& dialog, const DialogSurroundings& surroundings, Words& found) {
+    std::map<wchar_t, const DialogTemplateControl*> first;
+    const auto iconOf = [&](const DialogTemplateControl& control) {
+        return findIconCaption(surroundings.iconCaptions, control);
+    };
     for (const DialogTemplateControl& control : dialog.controls) {
         if (!readsMnemonic(control)) continue;
-        const auto mnemonic = mnemonicOf(control.text);
+        const IconCaption* icon = iconOf(control);
+        const auto mnemonic = mnemonicOf(icon ? icon->tip : control.text);
         if (!mnemonic) continue;
-        const auto [at, isNew] = first.emplace(*mnemonic, control.id);
-        if (!isNew)
-            found.push_back(nameOf(control.id) + L" has the mnemonic " + quoted({&*mnemonic, 1}) + L" of " +
-                            nameOf(at->second) + L": put the & before another letter");
+        const auto [at, isNew] = first.emplace(*mnemonic, &control);
+        if (isNew) continue;
+        const bool isIcons = icon || iconOf(*at->second);
+        found.push_back(nameOf(control.id) + L" has the mnemonic " + quoted({&*mnemonic, 1}) + L" of " +
+                        nameOf(at->second->id) +
+                        (isIcons
+                             ? L": an icon has it in its tip, so put the & of the other before another letter"
+                             : L": put the & before another letter"));
+    }
+}
+
+bool isWorked(const DialogTemplateControl& control) {
+    static constexpr const wchar_t* WORKED[] = {
+        L"Edit", L"ListBox", L"ComboBox", L"GXWND", L"SysListView32", L"SysTreeView32", L"SysTabControl32"};
+    if (!(control.style & VISIBLE)) return false;
+    if (control.className == L"Button")
+        return (control.style & BUTTON_KIND) != GROUP_BOX && !(control.exStyle & SLIDE_EX_STYLE);
+    return std::any_of(std::begin(WORKED), std::end(WORKED),
+                       [&](const wchar_t* name) { return equalIgnoringCase(name, control.className); });
+}
+
+// The arrow keys lead from one button of a group to the others; everything else needs the Tab key.
+void checkTabKey(const DialogTemplate& dialog, Words& found) {
+    const auto& controls = dialog.controls;
+    const auto beginsGroup = [](const DialogTemplateControl& control) {
+        return (control.style & GROUP) != 0;
+    };
+    const auto hasTabStop = [](const DialogTemplateControl& control) {
+        return (control.style & TAB_STOP) && control.className == L"Button";
+    };
+    for (auto begin = controls.begin(); begin != controls.end();) {
+        const auto end = std::find_if(std::next(begin), controls.end(), beginsGroup);
+        const bool hasButton = std::any_of(begin, end, hasTabStop);
+        for (; begin != end; ++begin) {
+            const bool isReached = begin->style & TAB_STOP || (begin->className == L"Button" && hasButton);
+            if (isWorked(*begin) && !isReached)
+                found.push_back(nameOf(begin->id) + L" can't be reached by the Tab key: give it WS_TABSTOP");
+        }
     }
 }
 
@@ -196,20 +237,19 @@ void checkClasses(const DialogTemplate& dialog, const DialogSurroundings& surrou
                             L", which nobody registers, so the dialog never shows: use another class");
 }
 
-void checkTexts(const DialogTemplate& dialog, const DialogSurroundings& surroundings, Words& found) {
-    const Words& iconCaptions = surroundings.iconCaptions;
+}  // namespace
+
+Words findClippedTexts(const DialogTemplate& dialog, const DialogSurroundings& surroundings) {
+    Words found;
     for (const DialogTemplateControl& control : dialog.controls) {
         const auto room = roomFor(control);
-        const bool isIcon = std::any_of(iconCaptions.begin(), iconCaptions.end(), [&](const auto& caption) {
-            return equalIgnoringCase(caption, control.text);
-        });
+        const bool isIcon = findIconCaption(surroundings.iconCaptions, control) != nullptr;
         if (room && !isIcon && !control.text.empty() && !surroundings.fits(control.text, *room))
             found.push_back(nameOf(control.id) + L" cuts off its text " + quoted(control.text) +
                             L": make it larger, or the text shorter");
     }
+    return found;
 }
-
-}  // namespace
 
 Words findMismatches(const KeyListText& keys, const DialogTemplate& dialog,
                      const DialogSurroundings& surroundings) {
@@ -218,8 +258,9 @@ Words findMismatches(const KeyListText& keys, const DialogTemplate& dialog,
     checkKeys(keys, dialog, found);
     checkIds(keys, dialog, found);
     checkClasses(dialog, surroundings, found);
-    checkMnemonics(dialog, found);
+    checkMnemonics(dialog, surroundings, found);
+    checkTabKey(dialog, found);
     checkPages(dialog, found);
-    checkTexts(dialog, surroundings, found);
+    for (std::wstring& text : findClippedTexts(dialog, surroundings)) found.push_back(std::move(text));
     return found;
 }

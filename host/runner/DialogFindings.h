@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "host/runner/DialogKinds.h"
 #include "host/runner/DialogTemplate.h"
 #include "src/platform/base/KeyListText.h"
 
@@ -21,7 +22,7 @@ using FitsRoom = std::function<bool(const std::wstring& text, const TextRoom& ro
 
 // What a dialog is made with.
 struct DialogSurroundings {
-    std::vector<std::wstring> iconCaptions;  // captions that become icons, so they need no room
+    std::vector<IconCaption> iconCaptions;
     FitsRoom fits;
     // Whether controls of that window class can be made.
     std::function<bool(const std::wstring& className)> knowsClass;
@@ -30,3 +31,7 @@ struct DialogSurroundings {
 // The text of each finding: key or control id, what is wrong, and how to mend it.
 std::vector<std::wstring> findMismatches(const KeyListText& keys, const DialogTemplate& dialog,
                                          const DialogSurroundings& surroundings);
+
+// The texts that controls cut off, alone.
+std::vector<std::wstring> findClippedTexts(const DialogTemplate& dialog,
+                                           const DialogSurroundings& surroundings);

@@ -18,6 +18,7 @@ class Reader {
     explicit Reader(std::span<const uint8_t> bytes) : m_bytes(bytes) {}
 
     bool failed() const { return m_failed; }
+    size_t at() const { return m_at; }
 
     uint8_t byte() {
         if (m_at == m_bytes.size()) m_failed = true;
@@ -100,6 +101,7 @@ DialogTemplateControl readControl(Reader& reader, bool extended) {
 
 void readFont(Reader& reader, bool extended, DialogTemplate& result) {
     if (!(result.style & HAS_FONT)) return;
+    result.fontPointsAt = reader.at();
     result.fontPoints = reader.word();
     if (extended) {
         result.fontWeight = reader.word();
@@ -126,7 +128,9 @@ std::optional<DialogTemplate> parseDialogTemplate(std::span<const uint8_t> bytes
         reader.skip(4);  // the extended style
     }
     const unsigned count = reader.word();
-    reader.skip(8);          // the rectangle
+    reader.skip(4);  // the place
+    result.width = reader.number();
+    result.height = reader.number();
     reader.textOrOrdinal();  // the menu
     reader.textOrOrdinal();  // the window class
     result.title = reader.text();

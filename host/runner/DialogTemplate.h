@@ -22,10 +22,13 @@ struct DialogTemplateControl {
 
 struct DialogTemplate {
     uint32_t style = 0;
+    int width = 0;
+    int height = 0;
     std::wstring title;
     std::wstring fontName;  // empty where the template sets no font
     int fontPoints = 0;
-    int fontWeight = 0;  // 0: the font's own
+    size_t fontPointsAt = 0;  // where the two bytes of the font's size stand; 0 where no font is set
+    int fontWeight = 0;       // 0: the font's own
     bool fontItalic = false;
     std::vector<DialogTemplateControl> controls;  // in tab order
 };

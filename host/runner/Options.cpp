@@ -26,7 +26,8 @@ class Parser {
     void fail(const std::wstring& why) { m_options.error = why; }
 
     bool waitsForNobody() const {
-        const bool ends = m_options.help || m_options.checkDialogs || m_options.interactive;
+        const bool ends =
+            m_options.help || m_options.showDialogs || m_options.checkDialogs || m_options.interactive;
         return m_options.headless && m_options.steps.empty() && !ends;
     }
 
@@ -57,6 +58,8 @@ class Parser {
     void takeOperand(const std::wstring& argument) {
         if (m_options.checkDialogs) {
             m_options.modules.push_back(argument);
+        } else if (m_options.showDialogs) {
+            m_options.dialogs.push_back(argument);
         } else {
             m_options.steps.push_back({false, argument});
         }
@@ -72,6 +75,8 @@ class Parser {
             m_options.interactive = true;
         } else if (argument == L"--help" || argument == L"-h") {
             m_options.help = true;
+        } else if (argument == L"--dialogs") {
+            m_options.showDialogs = true;
         } else if (argument == L"--check-dialogs") {
             m_options.checkDialogs = true;
         } else if (argument == L"--timeout") {
@@ -115,8 +120,10 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --support DIR      look for Lisp files in DIR too; may be given several times
   --shots DIR        where ui_shot writes its pictures (the working folder)
   --plugin PATH      the plug-in to load (WexDialogs.pgx beside wexhost.exe)
+  --dialogs [NAME]...
+                     list the dialogs, or the tiles of those named
   --check-dialogs [MODULE]...
-                     check key lists and dialog templates against each other
+                     check key lists and dialog templates, and how the dialogs look
   --help             print this text
   --                 what follows are files
 

@@ -17,6 +17,7 @@ struct Options {
     bool play = false;
     bool interactive = false;
     bool help = false;
+    bool showDialogs = false;
     bool checkDialogs = false;
     double timeoutSeconds = 0;  // 0: no limit
     std::wstring shotsFolder;
@@ -24,6 +25,7 @@ struct Options {
     std::wstring data;  // which database is open at the start; empty for none
     std::vector<std::wstring> supportFolders;
     std::vector<Step> steps;
+    std::vector<std::wstring> dialogs;  // the operands of --dialogs
     std::vector<std::wstring> modules;  // the operands of --check-dialogs
     std::wstring error;                 // what is wrong with the command line; empty if nothing
 

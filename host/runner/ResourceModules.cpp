@@ -12,10 +12,12 @@ namespace {
 
 using Paths = std::vector<std::filesystem::path>;
 
-std::optional<DialogTemplate> readTemplate(HMODULE module, HRSRC resource) {
-    const auto* bytes = static_cast<const uint8_t*>(LockResource(LoadResource(module, resource)));
-    return parseDialogTemplate({bytes, SizeofResource(module, resource)});
-}
+// The captions of which an icon is drawn, and the tips that the resource module has for the icons.
+constexpr struct {
+    const wchar_t* caption;
+    int tip;
+} MARKS[] = {{L"<<", 209}, {L">>", 210}, {L" ^", 1005}, {L" v", 1006}};
+constexpr struct { int caption, tip; } NAMED_ICONS[] = {{114, 211}, {116, 212}};
 
 std::optional<ResourceModule> load(const std::filesystem::path& path) {
     ResourceModule module;
@@ -25,8 +27,8 @@ std::optional<ResourceModule> load(const std::filesystem::path& path) {
     if (!module.handle) return std::nullopt;
     for (int id = FIRST_KEY_LIST_ID; id <= LAST_KEY_LIST_ID; ++id) {
         if (std::wstring text = module.text(id); !text.empty()) module.keyLists[id] = std::move(text);
-        if (const HRSRC found = FindResourceW(module.handle.get(), MAKEINTRESOURCEW(id), RT_DIALOG))
-            module.templates[id] = readTemplate(module.handle.get(), found);
+        if (const auto bytes = templateBytes(module, id); !bytes.empty())
+            module.templates[id] = parseDialogTemplate(bytes);
     }
     return module;
 }
@@ -67,7 +69,22 @@ std::wstring ResourceModule::text(int id) const {
     return {text, text + length};
 }
 
-std::optional<ResourceModule> ownResourceModule() { return load(programFolder() / RESOURCE_MODULE_NAME); }
+std::span<const uint8_t> templateBytes(const ResourceModule& module, int id) {
+    const HMODULE handle = module.handle.get();
+    const HRSRC resource = FindResourceW(handle, MAKEINTRESOURCEW(id), RT_DIALOG);
+    if (!resource) return {};
+    return {static_cast<const uint8_t*>(LockResource(LoadResource(handle, resource))),
+            SizeofResource(handle, resource)};
+}
+
+std::vector<IconCaption> iconCaptions() {
+    std::vector<IconCaption> captions;
+    const auto own = load(programFolder() / RESOURCE_MODULE_NAME);
+    if (!own) return captions;
+    for (const auto& [caption, tip] : MARKS) captions.push_back({caption, own->text(tip)});
+    for (const auto& [caption, tip] : NAMED_ICONS) captions.push_back({own->text(caption), own->text(tip)});
+    return captions;
+}
 
 ResourceModules loadResourceModules(std::span<const std::wstring> paths) {
     Paths asked(paths.begin(), paths.end());

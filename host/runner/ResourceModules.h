@@ -11,6 +11,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "host/runner/DialogKinds.h"
 #include "host/runner/DialogTemplate.h"
 
 struct ResourceModule {
@@ -38,8 +39,13 @@ struct ResourceModules {
     std::vector<std::wstring> missing;
 };
 
-// The product's resource module beside the running program; nothing where it is missing.
-std::optional<ResourceModule> ownResourceModule();
+// The bytes of the module's dialog template with that id, as long as the module lives; none where it is
+// missing.
+std::span<const uint8_t> templateBytes(const ResourceModule& module, int id);
+
+// The captions that become icons, as the product's resource module beside the running program tells them;
+// none where it is missing.
+std::vector<IconCaption> iconCaptions();
 
 // Loads the modules of those paths; with none given, those in place. One of the product's two brings the
 // other from its folder.

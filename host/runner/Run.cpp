@@ -21,6 +21,7 @@
 #include "host/runner/MainFrame.h"
 #include "host/runner/Options.h"
 #include "host/runner/Prompt.h"
+#include "host/runner/ShowDialogs.h"
 #include "host/runner/TempFolder.h"
 #include "host/runner/Terminal.h"
 #include "host/runner/Watchdog.h"
@@ -210,6 +211,7 @@ int hostRun(int count, wchar_t** arguments) {
         host().console().print(usage());
         return 0;
     }
+    if (options.showDialogs) return showDialogs(options.dialogs);
     if (options.checkDialogs) return checkDialogs(systemPaths(options.modules));
     std::optional<Watchdog> watchdog;
     if (options.timeoutSeconds > 0) watchdog.emplace(options.timeoutSeconds);

@@ -10,8 +10,9 @@ constexpr int POINTS_AN_INCH = 72;
 // A line may lose the lowest pixel of its descent.
 constexpr int HEIGHT_SLACK = 1;
 
-HFONT createFont(HDC dc, const DialogTemplate& dialog) {
-    const int height = -MulDiv(dialog.fontPoints, GetDeviceCaps(dc, LOGPIXELSY), POINTS_AN_INCH);
+HFONT createFont(HDC dc, const DialogTemplate& dialog, int percent) {
+    const int dotsAnInch = MulDiv(GetDeviceCaps(dc, LOGPIXELSY), percent, 100);
+    const int height = -MulDiv(dialog.fontPoints, dotsAnInch, POINTS_AN_INCH);
     return CreateFontW(height, 0, 0, 0, dialog.fontWeight, dialog.fontItalic, FALSE, FALSE, DEFAULT_CHARSET,
                        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, PROOF_QUALITY, FF_DONTCARE,
                        dialog.fontName.empty() ? L"System" : dialog.fontName.c_str());
@@ -19,9 +20,9 @@ HFONT createFont(HDC dc, const DialogTemplate& dialog) {
 
 }  // namespace
 
-TextMeasure::TextMeasure(const DialogTemplate& dialog)
+TextMeasure::TextMeasure(const DialogTemplate& dialog, int percent)
     : m_dc(CreateCompatibleDC(nullptr)),
-      m_font(createFont(m_dc, dialog)),
+      m_font(createFont(m_dc, dialog, percent)),
       m_former(SelectObject(m_dc, m_font)) {
     constexpr wchar_t letters[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     constexpr int count = static_cast<int>(std::size(letters)) - 1;

@@ -9,7 +9,8 @@
 
 class TextMeasure {
   public:
-    explicit TextMeasure(const DialogTemplate& dialog);
+    // In the dialog's font, at a scale of so many percent.
+    explicit TextMeasure(const DialogTemplate& dialog, int percent = 100);
     ~TextMeasure();
     TextMeasure(const TextMeasure&) = delete;
     TextMeasure& operator=(const TextMeasure&) = delete;

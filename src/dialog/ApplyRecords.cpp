@@ -1,6 +1,10 @@
 // What Lisp said of the tiles before the window existed is carried over to the controls.
+#include <algorithm>
+
 #include "src/dialog/EventBridge.h"
+#include "src/dialog/TemplateAnchors.h"
 #include "src/dialog/WexDialog.h"
+#include "src/platform/host/HostServices.h"
 #include "src/platform/mfc/RedrawHold.h"
 
 namespace {
@@ -19,9 +23,29 @@ bool WexDialog::OnInitDialog() {
     addExtraControl();
     m_initialClientRect = GetClientRect();
     callLispAction(m_onInitAction);
+    takeTemplateAnchors();
     applyRecords();
     placeAtStart();
     return true;
+}
+
+// Anchors of the template count where Lisp set none. A dialog that grows by them is never smaller than its
+// template.
+void WexDialog::takeTemplateAnchors() {
+    const auto anchors = templateAnchors(m_templateModule, m_templateId);
+    if (anchors.empty()) return;
+    for (size_t at = 0; at < m_tiles.size(); ++at) {
+        CCtrlInfo& tile = *m_tiles.at(at);
+        const auto anchor = anchors.find(tile.m_ctrlId);
+        if (tile.m_resizeCode == -1 && anchor != anchors.end()) tile.m_resizeCode = anchor->second;
+    }
+    const SizeLimits unset;
+    if (m_limits.minWidth != unset.minWidth || m_limits.minHeight != unset.minHeight) return;
+    const RECT window = GetWindowRect();
+    m_limits.minWidth = static_cast<int>((window.right - window.left) / hostMonitorDpiXScale(nullptr));
+    const auto height = static_cast<int>((window.bottom - window.top) / hostMonitorDpiYScale(nullptr));
+    // A limit of the height above the width would stretch the window at its start.
+    m_limits.minHeight = std::min(height, m_limits.minWidth);
 }
 
 void WexDialog::applyRecords() {

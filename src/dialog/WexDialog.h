@@ -87,6 +87,7 @@ class WexDialog : public CSnapDlg {
     bool pressByMnemonic(const MSG& message);
     void discover(int id, HWND control);
     void addExtraControl();
+    void takeTemplateAnchors();
     void applyRecords();
     void computeAnchors(const CWnd& control, CCtrlInfo& tile);
     void placeAtStart();

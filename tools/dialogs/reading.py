@@ -57,8 +57,7 @@ class Dialog:
     controls: list = field(default_factory=list)
 
     def key_list(self):
-        keys = {control.place: control.key for control in self.controls
-                if control.key or FIRST_KEY_ID <= control.place <= LAST_KEY_ID}
+        keys = {control.place: control.key for control in self.controls if control.key}
         last = max(keys, default=FIRST_KEY_ID - 1)
         return ",".join([self.name] + [keys.get(place, "") for place in range(FIRST_KEY_ID, last + 1)])
 
@@ -174,7 +173,7 @@ class Reader:
 
 def give_ids(dialog):
     """OK, Cancel and HELP have the first places of the key list; every other key follows the one written before it.
-    A stated id comes first."""
+    A stated id comes first, and controls without a key follow all that have one."""
     taken = {control.place for control in dialog.controls if control.place}
     at_start = {"ok": 0, "cancel": 1, "help": 2}
     first = [control for control in dialog.controls if not control.place and control.key.lower() in at_start]
@@ -184,15 +183,14 @@ def give_ids(dialog):
             place += 1
         control.place = place
         taken.add(place)
-    for control in dialog.controls:
-        if control in first:
-            continue
+    last = [control for control in dialog.controls if not control.key]
+    for control in [control for control in dialog.controls if control.key] + last:
         if not control.place:
             while place in taken:
                 place += 1
             control.place = place
             taken.add(place)
-        if control.key:
+        if control.key and control not in first:
             place = control.place + 1
 
 

@@ -212,8 +212,10 @@ def gap_between(before, part):
     if part.shape == "columns":
         return 5
     if before.shape == "text":
-        labels_it = before.begins_with_label and not getattr(part, "begins_with_label", False)
-        return 2 if part.shape in ("text", "tall") or labels_it else 5 if part.shape != "check" else 3
+        is_labeled = getattr(part, "begins_with_label", False)
+        if before.begins_with_label:
+            return 5 if is_labeled else 2
+        return {"text": 5 if is_labeled else 2, "check": 3, "tall": 2}.get(part.shape, 5)
     if part.shape == "text":
         return 7
     return 2 if (before.shape, part.shape) == ("check", "check") else 5
@@ -355,7 +357,9 @@ class Rows:
             return item
         kind = item.kind
         item.named = item.named or kind.own_key
-        if not item.named:
+        if item.named == "-":
+            item.named = "0"
+        elif not item.named:
             raise_mistake(line, f"the {name} has no key")
         item.text = item.text if item.text != '""' else kind.own_text
         item.width = item.width or kind.width

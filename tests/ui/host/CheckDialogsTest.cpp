@@ -19,18 +19,43 @@ TEST(CheckDialogs, tellsWhatIsWrongInKeyListsTemplatesAndRoomForTexts) {
              "ODD_MISTAKES: key \"b\" stands twice",
              "ODD_MISTAKES: control 112 cuts off its text",
              "ODD_LONG: has a key list of 1618 characters, which is cut at 1499",
+             "ODD_LOOKS: control 113 has the mnemonic \"b\" of control 111",
+             "ODD_LOOKS: control 116 can't be reached by the Tab key",
+             "ODD_LOOKS: control 114 overlaps control 112",
+             "ODD_LOOKS: control 115 lies outside of the dialog",
+             // Gray on the dialog's gray is too pale under Wine; other systems may have stronger grays.
+             "ODD_LOOKS: control 117 shows its text at a contrast of ",
              "Odd.dll: template 2007 has no key list",
              "note: Odd.dll has key lists without a template: ODD_NO_TEMPLATE, ODD_LONG\n",
          })
         EXPECT_NE(run.output.find(line), std::string::npos) << line << "\n" << run.output;
-    // The dialog of buttons is sound, and nothing is said of it: neither its icons nor its empty texts.
-    EXPECT_EQ(run.output.find("ODD_BUTTONS"), std::string::npos) << run.output;
+    // Icons need no room for their captions, and what is sound at one scale is sound at the others.
+    EXPECT_EQ(run.output.find("ODD_BUTTONS: control 123 cuts off"), std::string::npos) << run.output;
+    EXPECT_EQ(run.output.find("ODD_LOOKS: at "), std::string::npos) << run.output;
 }
 
 TEST(CheckDialogs, findsNothingInWhatIsShipped) {
     const HostRun run = startHost(L"bin", {L"--check-dialogs"});
     EXPECT_EQ(run.status, 0u);
     EXPECT_NE(run.output.find(", 0 mismatches\n"), std::string::npos) << run.output;
+}
+
+// The names of all dialogs with their titles, and the tiles of one of the product and of one of an add-on.
+TEST(ShowDialogs, tellsNamesAndTiles) {
+    const HostRun all = startHost(L"bin", {L"--dialogs"});
+    EXPECT_EQ(all.status, 0u);
+    EXPECT_NE(all.output.find("\nCONFIRM_DELREC "), std::string::npos) << all.output;
+    EXPECT_NE(all.output.find(" Wire Gauge "), std::string::npos) << all.output;
+    EXPECT_NE(all.output.find(" WireGauge.dll\n"), std::string::npos) << all.output;
+
+    const HostRun tiles = startHost(L"bin", {L"--dialogs", L"wire_gauge", L"NO_SUCH", L"SWITCH_CAT_FILE"});
+    EXPECT_EQ(tiles.status, 1u);
+    EXPECT_EQ(tiles.output.substr(0, 11), "WIRE_GAUGE:") << tiles.output;
+    for (const char* row :
+         {"\n B_PICK ", " 117 ", " image button ", "\n LABEL0 ", "\n CANCEL ", " 2 ", "Cancel\n",
+          "SWITCH_CAT_FILE: Switch Catalog File\n", " default button ", " edit box, read only\n"})
+        EXPECT_NE(tiles.output.find(row), std::string::npos) << row << "\n" << tiles.output;
+    EXPECT_NE(tiles.errors.find("there is no dialog NO_SUCH"), std::string::npos) << tiles.errors;
 }
 
 // Each of the two files that the product's dialogs lie in.

@@ -20,7 +20,8 @@ Findings findings(const wchar_t* keys, std::vector<DialogTemplateControl> contro
                   const FitsRoom& fits = alwaysFits) {
     DialogTemplate dialog;
     dialog.controls = std::move(controls);
-    return findMismatches(*parseKeyList(keys), dialog, {{L"Browse"}, fits, std::not_fn(&isNoSuch)});
+    return findMismatches(*parseKeyList(keys), dialog,
+                          {{{L"Browse", L"&Browse"}}, fits, std::not_fn(&isNoSuch)});
 }
 
 // Each of `parts` is found in the finding at its place, and there are no more findings.
@@ -81,6 +82,28 @@ TEST(DialogFindings, oneMnemonicForTwoControls) {
                                   control(112, L"Static", L"R&&d &first", noPrefix),
                                   control(113, L"Button", L"f&&f"), control(114, L"Edit", L"&f")}),
         {L"control 111 has the mnemonic \"f\" of control 110"});
+}
+
+TEST(DialogFindings, anIconHasItsMnemonicInItsTip) {
+    expectFindings(
+        findings(L"A,V,W,X", {control(110, L"Static", L"&Block"), control(111, L"Button", L"browse"),
+                              control(112, L"Static", L"Browse")}),
+        {L"control 111 has the mnemonic \"b\" of control 110: an icon has it in its tip"});
+}
+
+TEST(DialogFindings, controlsThatTheTabKeyMisses) {
+    constexpr uint32_t shown = 0x10000000, stop = 0x10000, group = 0x20000, radio = 9, groupBox = 7,
+                       slide = 0x20000;
+    DialogTemplateControl picture = control(118, L"Button", L"", shown | group);
+    picture.exStyle = slide;
+    expectFindings(findings(L"A,R1,R2,E,R3,L,H,BOX,T,P",
+                            {control(110, L"Button", L"", shown | group | stop | radio),
+                             control(111, L"Button", L"", shown | radio), control(112, L"Edit", L"", shown),
+                             control(113, L"Button", L"", shown | group | radio),
+                             control(114, L"SYSLISTVIEW32", L"", shown | stop), control(115, L"Edit"),
+                             control(116, L"Button", L"", shown | groupBox),
+                             control(117, L"Static", L"", shown), picture}),
+                   {L"control 112 can't be reached by the Tab key", L"control 113 can't be reached"});
 }
 
 TEST(DialogFindings, framesThatTheirTabControlCovers) {

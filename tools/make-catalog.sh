@@ -1,0 +1,32 @@
+#!/bin/bash
+# Makes docs/dialog-catalog.md anew: each of the product's dialogs with its picture and its tiles, as the host tells them.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. tools/wine-env.sh
+start_wine headless
+work=$(mktemp -d)
+trap 'rm -rf "$work"; stop_wine' EXIT
+pictures=docs/images/dialogs
+mkdir -p $pictures
+host() { wine64 build/windows/bin/wexhost.exe "$@" | tr -d '\r'; }
+
+# Those of add-ons end with the name of their module.
+host --dialogs | grep -v '\.dll$' | awk '{ print $1 }' | sort >"$work/names"
+while read -r name; do
+    printf "(ui_session \"%s\" '((ui_shot \"%s.png\") (ui_key \"ESC\")))\n" "$name" "$name"
+    printf '(wex_new_dialog "%s") (wex_start_dialog)\n' "$name"
+done <"$work/names" >"$work/shots.lsp"
+rm -f $pictures/*.png
+host --headless --timeout 200 --shots "$pictures" "$work/shots.lsp"
+
+{
+    echo '# The dialogs'
+    echo
+    echo 'Made by `tools/make-catalog.sh`. A line for each tile, in the order of the Tab key: key, control id, kind, text.'
+    while read -r name; do
+        printf '\n## %s\n\n![%s](images/dialogs/%s.png)\n\n```\n' "$name" "$name" "$name"
+        host --dialogs "$name"
+        printf '```\n'
+    done <"$work/names"
+} >docs/dialog-catalog.md
+du -sh $pictures
