@@ -13,7 +13,7 @@ bool isSoundPicture(std::span<const uint8_t> bytes);
 // Whether a bitmap of that many pixels can be had: at most 2^28, which are a gigabyte.
 bool isBearableSize(uint64_t width, uint64_t height);
 
-// The metafile with a placeable header of 22 bytes before it, and the enhanced one (MetafileGuard.cpp).
+// The metafile with a placeable header of 22 bytes before it, and the enhanced one.
 bool isSoundMetafile(const ByteView& file);
 bool isSoundEnhMetafile(const ByteView& file);
 

@@ -139,6 +139,21 @@ TEST(PictureGuard, WalksTheRecordsOfAMetafile) {
     EXPECT_FALSE(plays(wordRecord(0x012D, {2})));  // there are two objects
     EXPECT_TRUE(plays(wordRecord(0x0521, {3, 'a', 'b', 0, 0})));
     EXPECT_FALSE(plays(wordRecord(0x0521, {300, 'a', 'b', 0, 0})));
+    EXPECT_TRUE(plays(wordRecord(0x0228, {1, 0})));  // a region is filled
+    EXPECT_FALSE(plays(wordRecord(0x0228, {1, 2})));
+    EXPECT_FALSE(plays(wordRecord(0x012C, {2})));
+}
+
+TEST(PictureGuard, CountsTheSpansOfARegion) {
+    const auto region = [](uint32_t rows, uint32_t spans, uint32_t spansAgain) {
+        return wordRecord(0x06FF, {0, 6, 0, 0, 34, rows, 2, 1, 0, 9, 5, spans, 0, 5, 1, 9, spansAgain});
+    };
+    EXPECT_TRUE(plays(region(0, 0, 0)));
+    EXPECT_TRUE(plays(region(1, 2, 2)));
+    EXPECT_FALSE(plays(region(1, 2, 4)));
+    EXPECT_FALSE(plays(region(1, 300, 2)));
+    EXPECT_FALSE(plays(region(2, 2, 2)));
+    EXPECT_FALSE(plays(wordRecord(0x06FF, {0, 6, 0, 0, 22})));
 }
 
 TEST(PictureGuard, LooksIntoTheBitmapsOfAMetafile) {
@@ -167,6 +182,49 @@ TEST(PictureGuard, WalksTheRecordsOfAnEnhancedMetafile) {
     EXPECT_FALSE(playsEnhanced(pen(3)));  // there are three objects, and 0 is the metafile
     EXPECT_TRUE(playsEnhanced(enhRecord(37, Bytes().u32(0x80000007))));
     EXPECT_FALSE(playsEnhanced(enhRecord(37, Bytes().u32(0x00000007))));
+}
+
+TEST(PictureGuard, LooksForTheTextsOfAnEnhancedMetafile) {
+    // `count` characters stand behind the fields at 40 of one text, or of two.
+    const auto text = [](uint32_t count, uint32_t at, uint32_t options, uint32_t distancesAt) {
+        return Bytes().zeros(8).u32(count).u32(at).u32(options).zeros(16).u32(distancesAt);
+    };
+    const auto single = [&](uint32_t count, uint32_t options, uint32_t distancesAt = 0) {
+        return playsEnhanced(
+            enhRecord(84, Bytes().zeros(28).add(text(count, 76, options, distancesAt)).zeros(16)));
+    };
+    EXPECT_TRUE(single(8, 0));
+    EXPECT_FALSE(single(9, 0));
+    EXPECT_TRUE(single(4, 0, 76));
+    EXPECT_FALSE(single(4, 0x2000, 76));  // two distances for each character
+    const auto several = [&](uint32_t texts, uint32_t count) {
+        return playsEnhanced(enhRecord(
+            97, Bytes().zeros(28).u32(texts).add(text(2, 120, 0, 0)).add(text(count, 120, 0, 0)).zeros(8)));
+    };
+    EXPECT_TRUE(several(2, 4));
+    EXPECT_FALSE(several(2, 5));
+    EXPECT_FALSE(several(0x10000000, 4));
+    const auto small = [](uint32_t count, uint32_t options) {
+        return playsEnhanced(enhRecord(108, Bytes().zeros(8).u32(count).u32(options).zeros(12).zeros(16)));
+    };
+    EXPECT_TRUE(small(0, 0));
+    EXPECT_FALSE(small(1, 0));
+    EXPECT_TRUE(small(8, 0x100));
+    EXPECT_FALSE(small(9, 0x100));
+    EXPECT_TRUE(small(16, 0x300));
+}
+
+TEST(PictureGuard, LooksForTheCornersOfAGradient) {
+    const auto gradient = [](uint32_t corners, uint32_t shapes, uint32_t mode, uint32_t corner) {
+        Bytes data;
+        data.zeros(16).u32(corners).u32(shapes).u32(mode).zeros(2 * 16).u32(0).u32(corner).u32(1);
+        return playsEnhanced(enhRecord(118, data));
+    };
+    EXPECT_TRUE(gradient(2, 1, 0, 1));
+    EXPECT_TRUE(gradient(2, 1, 2, 1));
+    EXPECT_FALSE(gradient(2, 1, 0, 2));
+    EXPECT_FALSE(gradient(2, 2, 0, 1));
+    EXPECT_FALSE(gradient(0xFFFFFFFF, 1, 0, 0));
 }
 
 }  // namespace
