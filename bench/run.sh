@@ -37,7 +37,8 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
     wine64 "$built/testbin/wexhost.exe" --headless --timeout 300 \
         -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \
         -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" \
-        rows.lsp dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp trees.lsp grids.lsp lookup.lsp records.lsp
+        -e "(setq bench-picture \"$built/bench/product/large.bmp\")" \
+        rows.lsp dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp trees.lsp grids.lsp lookup.lsp records.lsp images.lsp
     "$root/bench/databases.sh"
 } | tr -d '\r' | tee "$rows"
 

@@ -10,6 +10,7 @@
 
 #include "bench/dialog/Measure.h"
 #include "bench/product/BareDialog.h"
+#include "bench/product/BareImage.h"
 #include "bench/product/BareLists.h"
 #include "src/platform/host/HostLisp.h"
 #include "src/platform/host/HostPlugin.h"
@@ -322,6 +323,27 @@ int32_t rtosBare() {
     });
 }
 
+// (bench_repaint id): a control of the running dialog is painted anew
+int32_t repaint() {
+    const HWND control = GetDlgItem(runningDialog(), argument(0));
+    return timed([=] {
+        RedrawWindow(control, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        GdiFlush();
+    });
+}
+
+// (bench_bare_repaint id): a bitmap is put there
+int32_t repaintBare() { return giveReal(bareRepaint(BareDialog::item(argument(0)))); }
+
+// (bench_bare_vectors id n)
+int32_t vectorsBare() { return giveReal(bareVectors(BareDialog::item(argument(0)), argument(1))); }
+
+// (bench_bare_picture id "path")
+int32_t pictureBare() { return giveReal(barePicture(BareDialog::item(argument(0)), textArgument(1))); }
+
+// (bench_make_bmp "path" width height): a bitmap file of colors that run
+int32_t makeBmp() { return giveReal(writeBmp(textArgument(0), argument(1), argument(2))); }
+
 constexpr struct {
     const wchar_t* name;
     HostLispFunction function;
@@ -357,6 +379,11 @@ constexpr struct {
     {L"bench_bare_distof", &distofBare},
     {L"bench_rtos", &rtos},
     {L"bench_bare_rtos", &rtosBare},
+    {L"bench_repaint", &repaint},
+    {L"bench_bare_repaint", &repaintBare},
+    {L"bench_bare_vectors", &vectorsBare},
+    {L"bench_bare_picture", &pictureBare},
+    {L"bench_make_bmp", &makeBmp},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 // A slide of 100,000 vectors: decoded alone, and drawn beside the same lines drawn from an array.
 #include <windows.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <random>
 
@@ -85,6 +86,37 @@ void drawBare(HDC dc, const std::vector<Line>& lines) {
     }
 }
 
+// A fill of 1,000 corners on a circle, which a drawing draws a hundred times over.
+void measureFill(int repetitions) {
+    constexpr int CORNERS = 1000, TIMES = 100;
+    std::vector<std::pair<int, int>> corners;
+    for (int i = 0; i < CORNERS; ++i)
+        corners.emplace_back(320 + 200 * std::cos(i * 6.2832 / CORNERS),
+                             240 + 200 * std::sin(i * 6.2832 / CORNERS));
+    MadeSlide made(FORM, WIDTH, HEIGHT);
+    for (int i = 0; i < TIMES; ++i) made.fill(corners);
+    const OpenSlide slide(made.end());
+
+    const ClientDC screen(nullptr);
+    const MemoryDC memory(screen, WIDTH, HEIGHT);
+    DcSurface surface(memory);
+    slide.PrepareDC(surface, {0, 0, WIDTH, HEIGHT}, 0, 0);
+    std::vector<POINT> points;
+    for (const auto& [x, y] : corners) points.push_back({x, y});
+    Versus times;
+    for (int i = 0; i < repetitions; ++i) {
+        times.ours.add(timeOf([&] {
+            slide.Draw(surface, 0);
+            GdiFlush();
+        }));
+        times.bare.add(timeOf([&] {
+            for (int time = 0; time < TIMES; ++time) Polygon(memory, points.data(), CORNERS);
+            GdiFlush();
+        }));
+    }
+    times.print("slide_100_fills_of_1000_corners");
+}
+
 void measureDrawing(const OpenSlide& slide, const std::vector<Line>& lines, int repetitions) {
     const ClientDC screen(nullptr);
     const MemoryDC memory(screen, WIDTH, HEIGHT);
@@ -114,5 +146,6 @@ int wmain(int argc, wchar_t** argv) {
     measureDecoding("slide_100000_vectors_decoded", vectors, repetitions);
     measureDecoding("slide_mixed_records_decoded", mixedRecords(), repetitions);
     measureDrawing(OpenSlide(vectors), lines, repetitions);
+    measureFill(repetitions);
     return 0;
 }

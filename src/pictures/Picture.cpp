@@ -65,6 +65,14 @@ Image imageOf(const wchar_t* path) {
     return image;
 }
 
+// The service doesn't know the size of icons of 256 pixels and more.
+bool hasSize(IPicture& picture) {
+    OLE_XSIZE_HIMETRIC width = 0;
+    OLE_YSIZE_HIMETRIC height = 0;
+    return SUCCEEDED(picture.get_Width(&width)) && SUCCEEDED(picture.get_Height(&height)) && width > 0 &&
+           height > 0;
+}
+
 int pixels(OLE_XSIZE_HIMETRIC length, HDC dc, int dotsPerInch) {
     return MulDiv(length, GetDeviceCaps(dc, dotsPerInch), HIMETRIC_PER_INCH);
 }
@@ -79,7 +87,7 @@ ComPtr<IPicture> loadPicture(const wchar_t* path) {
         OleLoadPicture(image.stream.get(), static_cast<LONG>(image.size), FALSE, IID_IPicture,
                        picture.outVoid());
     });
-    if (!isDecoded || picture) return picture;
+    if (!isDecoded || (picture && hasSize(*picture))) return picture;
     withoutFault([&] { picture = decodeByImagingComponent(*image.stream); });
     return picture;
 }

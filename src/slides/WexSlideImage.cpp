@@ -1,5 +1,7 @@
 #include "src/slides/WexSlideImage.h"
 
+#include <utility>
+
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/WexDialog.h"
 #include "src/slides/DcSurface.h"
@@ -141,6 +143,8 @@ void WexSlideImage::DrawSlideObject(const CSlideObject& slide) {
     slide.Draw(surface, 0);
 }
 
+// Visibility is asked before each step: where the dialog has been hidden meanwhile, the screen shows
+// something else.
 void WexSlideImage::takeSnapshot() {
     if (!isParentVisible()) return;
     m_snapshot.reset();
@@ -149,9 +153,12 @@ void WexSlideImage::takeSnapshot() {
     // Without the focus mark, which comes and goes.
     const Drawing dc(*this);
     const CompatibleDC memory(dc);
-    m_snapshot.reset(CreateCompatibleBitmap(dc, size.cx, size.cy));
-    const SelectedObject selected(memory, m_snapshot.get());
+    if (!isParentVisible()) return;
+    UniqueBitmap bitmap(CreateCompatibleBitmap(dc, size.cx, size.cy));
+    const SelectedObject selected(memory, bitmap.get());
+    if (!isParentVisible()) return;
     BitBlt(memory, 0, 0, size.cx, size.cy, dc, 0, 0, SRCCOPY);
+    m_snapshot = std::move(bitmap);
 }
 
 void WexSlideImage::LoadPicture(const CString& path, bool fit) {

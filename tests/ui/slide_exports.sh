@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 start_wine headless
 work=$(mktemp -d)
 trap 'rm -rf "$work"; stop_wine' EXIT
-WEX_EXPORTS="Z:$work" wine64 build/windows/tests/slides_ui_test.exe --gtest_filter='SlideExport.As*' >"$work/log" ||
+WEX_EXPORTS="Z:$work" wine64 build/windows/testbin/slides_ui_test.exe --gtest_filter='SlideExport.As*' >"$work/log" ||
     { cat "$work/log"; exit 1; }
 
 status=0

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <utility>
 #include <vector>
 
@@ -32,7 +31,7 @@ class MadeSlide {
     }
     MadeSlide& endpoint(int dx, int dy) { return word(0xFE00 | dx).byte(dy); }
     MadeSlide& color(int index) { return word(0xFF00 | index); }
-    MadeSlide& fill(std::initializer_list<std::pair<int, int>> corners) {
+    MadeSlide& fill(const std::vector<std::pair<int, int>>& corners) {
         word(0xFD00).word(static_cast<int>(corners.size())).unread(2);
         for (const auto& [x, y] : corners) unread(2).word(x).word(y);
         return *this;

@@ -3,22 +3,25 @@
 
 #include <gtest/gtest.h>
 #include <ole2.h>
-#include <olectl.h>
+#include <wincodec.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <utility>
 #include <vector>
+
+#include "tests/support/Canvas.h"
+#include "tests/ui/pictures/HugePictures.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-using Bytes = std::vector<char>;
-
 constexpr COLORREF UNDER = RGB(255, 0, 255);
+constexpr COLORREF BLACK = RGB(0, 0, 0);
 constexpr COLORREF WHITE = RGB(255, 255, 255);
 constexpr COLORREF RED = RGB(220, 30, 30);
 constexpr COLORREF GREEN = RGB(30, 160, 60);
@@ -52,26 +55,15 @@ class PictureFile {
 };
 
 // An area of 100 x 100 pixels of one color, and the picture on it.
-class Drawn {
+class Drawn : public Canvas {
   public:
-    Drawn(IPicture& picture, bool fit) : m_dc(CreateCompatibleDC(nullptr)) {
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof info.bmiHeader, SIDE, -SIDE, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        m_bitmap = CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        m_former = SelectObject(m_dc, m_bitmap);
+    Drawn(IPicture& picture, bool fit) : Canvas(SIDE, SIDE) {
         const RECT all = {0, 0, SIDE, SIDE};
-        SetBkColor(m_dc, UNDER);
-        ExtTextOutW(m_dc, 0, 0, ETO_OPAQUE, &all, L"", 0, nullptr);
-        drawPicture(picture, m_dc, {SIDE, SIDE}, fit);
-    }
-    ~Drawn() {
-        SelectObject(m_dc, m_former);
-        DeleteObject(m_bitmap);
-        DeleteDC(m_dc);
+        SetBkColor(dc(), UNDER);
+        ExtTextOutW(dc(), 0, 0, ETO_OPAQUE, &all, L"", 0, nullptr);
+        drawPicture(picture, dc(), {SIDE, SIDE}, fit);
     }
 
-    COLORREF at(int x, int y) const { return GetPixel(m_dc, x, y); }
     // The smallest rectangle outside of which nothing was drawn.
     RECT bounds() const {
         RECT found = {SIDE, SIDE, 0, 0};
@@ -87,10 +79,6 @@ class Drawn {
 
   private:
     static constexpr LONG SIDE = 100;
-
-    HDC m_dc;
-    HBITMAP m_bitmap;
-    HGDIOBJ m_former;
 };
 
 // The decoders and the scaling round in their own ways.
@@ -184,7 +172,7 @@ TEST_F(Pictures, OfTheImagingComponentAreTheSame) {
     const Drawn drawn(*picture, false);
     expectBounds({34, 34, 66, 66}, drawn.bounds());
     EXPECT_COLOR(RED, drawn.at(50, 50));
-    EXPECT_COLOR(RGB(0, 0, 0), drawn.at(34, 34));
+    EXPECT_COLOR(BLACK, drawn.at(34, 34));
     // Half of the yellow, on black.
     EXPECT_COLOR(RGB(125, 105, 20), drawn.at(50, 38));
 }
@@ -242,27 +230,69 @@ TEST_F(Pictures, ThatAreSpoiltDoNoHarm) {
     }
 }
 
-// 6,000 x 4,000 pixels of one bit, black above and white below.
-TEST_F(Pictures, ThatAreHugeAreDrawn) {
-    constexpr uint32_t WIDTH = 6000, HEIGHT = 4000, ROW = WIDTH / 32 * 4 + 4;
-    Bytes bytes = bytesOf(L"contactor.bmp");
-    bytes.resize(54);
-    const auto put = [&](size_t at, uint32_t number) { memcpy(&bytes[at], &number, sizeof number); };
-    put(10, 62);
-    put(18, WIDTH);
-    put(22, HEIGHT);
-    put(26, 1 | 1 << 16);
-    put(34, ROW * HEIGHT);
-    bytes.resize(62);
-    put(58, 0xFFFFFF);
-    bytes.resize(62 + ROW * HEIGHT / 2, '\xFF');
-    bytes.resize(62 + ROW * HEIGHT);
+void expectBlackAboveWhite(const Bytes& bytes, const RECT& bounds) {
     const ComPtr<IPicture> picture = PictureFile(bytes).load();
     ASSERT_TRUE(picture);
     const Drawn drawn(*picture, false);
-    expectBounds({0, 17, 100, 83}, drawn.bounds());
-    EXPECT_EQ(RGB(0, 0, 0), drawn.at(50, 30));
-    EXPECT_EQ(WHITE, drawn.at(50, 70));
+    expectBounds(bounds, drawn.bounds());
+    EXPECT_COLOR(BLACK, drawn.at(50, 30));
+    EXPECT_COLOR(WHITE, drawn.at(50, 70));
+}
+
+TEST_F(Pictures, ThatAreHugeAreDrawn) {
+    const RECT bounds = {0, 17, 100, 83};
+    const std::pair<const char*, Bytes> files[] = {
+        {"BMP", hugeImage(GUID_ContainerFormatBmp)},
+        {"PNG", hugeImage(GUID_ContainerFormatPng)},
+        {"JPEG", hugeImage(GUID_ContainerFormatJpeg)},
+        {"GIF", hugeImage(GUID_ContainerFormatGif)},
+        {"TIFF", hugeImage(GUID_ContainerFormatTiff)},
+        {"WMF", hugeMetafile()},
+        {"EMF", hugeEnhMetafile()},
+    };
+    for (const auto& [kind, bytes] : files) {
+        SCOPED_TRACE(kind);
+        expectBlackAboveWhite(bytes, bounds);
+    }
+    expectBlackAboveWhite(hugeIcon(), {0, 0, 100, 100});
+}
+
+// Text stands left of the middle, a region right of it, and below a gradient from black to white.
+TEST_F(Pictures, OfMetafilesMayHoldTextsRegionsAndGradients) {
+    const auto drawAll = [](HDC dc) {
+        const HRGN region = CreateEllipticRgn(60, 10, 90, 40);
+        FillRgn(dc, region, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+        DeleteObject(region);
+        TextOutW(dc, 5, 5, L"MMMMMM", 6);
+    };
+    const auto darkPixels = [](const Drawn& drawn, int left, int right) {
+        int count = 0;
+        for (int y = 0; y < 50; ++y)
+            for (int x = left; x < right; ++x) count += drawn.at(x, y) == BLACK;
+        return count;
+    };
+    for (const bool enhanced : {false, true}) {
+        SCOPED_TRACE(enhanced);
+        const Bytes bytes =
+            enhanced
+                ? enhMetafile(
+                      {100, 100},
+                      [&](HDC dc) {
+                          drawAll(dc);
+                          TRIVERTEX corners[] = {{0, 50, 0, 0, 0, 0}, {100, 100, 0xFF00, 0xFF00, 0xFF00, 0}};
+                          GRADIENT_RECT rectangle = {0, 1};
+                          GdiGradientFill(dc, corners, 2, &rectangle, 1, GRADIENT_FILL_RECT_H);
+                      })
+                : metafile({100, 100}, drawAll);
+        const ComPtr<IPicture> picture = PictureFile(bytes).load();
+        ASSERT_TRUE(picture);
+        const Drawn drawn(*picture, true);
+        EXPECT_GT(darkPixels(drawn, 0, 50), 10);
+        EXPECT_GT(darkPixels(drawn, 60, 90), 400);
+        if (!enhanced) continue;
+        EXPECT_LT(GetRValue(drawn.at(20, 75)), 80);
+        EXPECT_GT(GetRValue(drawn.at(80, 75)), 170);
+    }
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 #include "host/drive/Resources.h"
 #include "src/slides/DcSurface.h"
-#include "tests/ui/slides/Canvas.h"
+#include "tests/support/Canvas.h"
 #include "tests/ui/slides/QuarterSlide.h"
 
 namespace {
