@@ -1,6 +1,16 @@
-; Image tiles: drawing on them, what stays on the screen, the focus, clicks, and what the functions give.
+; Image tiles: drawing on them, what stays on the screen, pictures, slides, the focus, clicks, and what the functions give.
 
 (setq black 0 red 16711680 yellow 16776960 green 65280 cyan 65535)
+
+; Smaller than the tile. Its edges are of that color; fitted, they reach the tile's corners.
+(setq contactor "examples/pictures/contactor.bmp" steel 12503250)
+(defun corners () (list (pixel 1 1) (pixel (- (wex_dimx_tile "IMAGE") 2) (- (wex_dimy_tile "IMAGE") 2))))
+
+; Disabled or enabled, a tile paints itself.
+(defun paint-again () (wex_mode_tile "IMAGE" 1) (wex_mode_tile "IMAGE" 0))
+
+; Eight points where the mark of the focus stands: every other one is turned.
+(defun mark-dots () (mapcar '(lambda (x) (pixel x 2)) '(50 51 52 53 54 55 56 57)))
 
 (defun in-images (prepare session) (in-dialog "ODD_IMAGES" prepare session))
 
@@ -89,7 +99,7 @@
   '((in-images '(wex_setresizing "IMAGE" 63)
       '((draw-halves)
         (setq width (wex_dimx_tile "IMAGE"))
-        (ui_size 600 500)
+        (ui_size 900 700)
         (want T (> (wex_dimx_tile "IMAGE") width))
         (want (list red yellow black) (list (pixel 99 10) (pixel 100 10) (pixel (1+ width) 10)))
         (wex_start_controlmove 1)
@@ -97,6 +107,68 @@
         (wex_end_controlmove)
         (want '(40 30 120 60) (look "IMAGE" "rect"))
         (want (list red yellow) (list (pixel 99 59) (pixel 119 59)))))))
+
+(test "A picture shows in place of what was kept before, and what is kept later in place of the picture"
+  '((in-images nil
+      '((draw-halves)
+        (want nil (wex_loadpicturefile "IMAGE" contactor T))
+        (want (list steel steel) (corners))
+        (wex_start_image "IMAGE")
+        (want (list black black) (corners))
+        (paint-again)
+        (want (list steel steel) (corners))
+        (draw-halves)
+        (paint-again)
+        (want (list red yellow) (list (pixel 10 10) (pixel 120 10)))))))
+
+(test "A picture that isn't found leaves the older one, and one that can't be read leaves black"
+  '((in-images nil
+      '((wex_loadpicturefile "IMAGE" contactor T)
+        (want '(-1 -1 -1) (list (wex_loadpicturefile "IMAGE" "nobody.png") (wex_loadpicturefile "IMAGE") (wex_loadpicturefile "nobody")))
+        (paint-again)
+        (want (list steel steel) (corners))
+        (want nil (wex_loadpicturefile "IMAGE" "README.md" T))
+        (want (list black black) (corners))
+        (wex_loadpicturefile "IMAGE" contactor T)
+        (want nil (wex_loadpicturefile "IMAGE" 5))
+        (want (list black black) (corners))
+        (want '(nil nil) (list (wex_loadpicturefile "LIST" contactor) (wex_loadpicturefile "nobody" contactor)))))))
+
+(test "The third argument fits a picture: 1, T and what is neither a short nor nil"
+  '((in-images nil
+      '((foreach given '((1) (T) (2.5) ("no"))
+          (apply 'wex_loadpicturefile (append (list "IMAGE" contactor) given))
+          (want (list given steel steel) (cons given (corners))))
+        (foreach given '(nil (0) (2) (nil))
+          (apply 'wex_loadpicturefile (append (list 112 contactor) given))
+          (want (list given black black) (cons given (corners))))))))
+
+(test "On the open image a plain name is a picture over the whole tile; one that waits for the dialog stays black"
+  '((in-images '(progn (wex_start_image "IMAGE") (wex_slide_image 0 0 0 0 contactor) (wex_end_image))
+      '((want (list black black) (corners))
+        (wex_start_image "IMAGE")
+        (want nil (wex_slide_image 50 50 5 5 contactor))
+        (want (list steel steel) (corners))
+        (want -1 (wex_slide_image 50 50 5 5 "nobody.bmp"))
+        (paint-again)
+        (want (list steel steel) (corners))))))
+
+; A file part without an extension becomes that of a library.
+(test "A slide of any library leaves black, under the focus too"
+  '((close (open "made.slb" "w"))
+    (in-images '(progn (wex_start_image "IMAGE") (want nil (wex_slide_image 0 0 9 9 "made(a)")) (wex_end_image))
+      '((want (list black black) (corners))
+        (wex_start_image "IMAGE")
+        (draw-halves)
+        (wex_mode_tile "IMAGE" 2)
+        (wex_start_image "IMAGE")
+        (foreach name '("made(a)" "made(")
+          (wex_fill_image "IMAGE" 0 0 100 100 1)
+          (want (list name nil black 4) (list name (wex_slide_image 0 0 9 9 name) (pixel 50 50) (length (remove-if-not 'zerop (mark-dots))))))
+        (wex_mode_tile "NAME" 2)
+        (want 8 (length (remove-if-not 'zerop (mark-dots))))
+        (want '(-1 -1) (list (wex_slide_image 0 0 9 9 "made.slb(a)") (wex_slide_image 0 0 9 9 "made.sld(a)")))))
+    (delete-file "made.slb")))
 
 ; The mark of the focus is a dotted rectangle, 2 pixels from the edge: on black its dots are white.
 (setq dots '(mapcar '(lambda (x) (small-pixel x 2)) '(4 5 6 7)))

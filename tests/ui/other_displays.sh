@@ -11,9 +11,9 @@ sessions() (
         -e '(report-tests)'
 )
 
-all=(tests/ui/{list_control,tabs,image_buttons,rows,report}.lsp)
+all=(tests/ui/{list_control,tabs,image_buttons,images,rows,report}.lsp)
 sessions headless-classic 1.0 "${all[@]}"
 sessions headless-144 1.5 "${all[@]}"
 # What lies in pixels has the least room here.
-sessions headless-192 2.0 tests/ui/report.lsp
+sessions headless-192 2.0 tests/ui/{images,report}.lsp
 sessions headless-classic-192 2.0 tests/ui/report.lsp
