@@ -53,9 +53,14 @@
     (setq number (1+ number)))
   (wex_end_image))
 
+; The value of such a box is its text; -1 where none is chosen.
+(defun place-in (texts tile / rest)
+  (setq rest (member (wex_get_tile tile) texts))
+  (if rest (- (length texts) (length rest)) -1))
+
 ; What is drawn before the dialog can be seen would be lost, so the sample comes with the style.
 (defun follow ()
-  (setq style (atoi (wex_get_tile "STYLE")) font (atoi (wex_get_tile "FONT_TEXT")) with-unused (= (wex_get_tile "CONTACTS") "1"))
+  (setq style (place-in styles "STYLE") font (place-in fonts "FONT_TEXT") with-unused (= (wex_get_tile "CONTACTS") "1"))
   (if (>= style 0) (progn (wex_mode_tile "OK" 0) (draw-sample))))
 
 (defun fill-list (tile texts)

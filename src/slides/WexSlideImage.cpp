@@ -13,6 +13,28 @@ constexpr COLORREF WHITE = 0xFFFFFF;
 
 SIZE sizeOf(const RECT& client) { return {client.right, client.bottom}; }
 
+// Puts back what is changed of a device context while it lives.
+class SavedDC {
+  public:
+    explicit SavedDC(HDC dc) : m_dc(dc), m_saved(::SaveDC(dc)) {}
+    ~SavedDC() { ::RestoreDC(m_dc, m_saved); }
+    SavedDC(const SavedDC&) = delete;
+    SavedDC& operator=(const SavedDC&) = delete;
+
+  private:
+    HDC m_dc;
+    int m_saved;
+};
+
+// In coordinates of its own, which are gone afterwards.
+void drawSlide(const CDC& dc, const CSlideObject& slide, const PixelRect& rect, int isotropic) {
+    const SavedDC saved(dc);
+    DcSurface surface(dc);
+    slide.PrepareDC(surface, rect, isotropic, 1);
+    slide.SetColors(surface, BLACK, WHITE);
+    slide.Draw(surface, 0);
+}
+
 }  // namespace
 
 // The client area to draw on. The focus mark is off meanwhile: it turns the colors under it, and what is
@@ -21,11 +43,8 @@ class WexSlideImage::Drawing : public ClientDC {
   public:
     explicit Drawing(WexSlideImage& tile) : ClientDC(tile.m_hWnd), m_tile(tile) {
         if (m_tile.m_isMarked) m_tile.turnMark(*this);
-        // A slide is drawn in coordinates of its own, the mark in pixels.
-        ::SaveDC(m_hDC);
     }
     ~Drawing() {
-        ::RestoreDC(m_hDC, -1);
         if (m_tile.m_hasFocus) m_tile.turnMark(*this);
     }
 
@@ -126,10 +145,7 @@ void WexSlideImage::ShowSlide(const CString& file, const CString& member, const 
     const CSlideObject* slide = m_library.Find(m_slideName);
     if (!slide) return;
     if (m_slideRect.width() <= 0 || m_slideRect.height() <= 0) m_slideRect = pixelRect(GetClientRect());
-    DcSurface surface(dc);
-    slide->PrepareDC(surface, m_slideRect, 0, 1);
-    slide->SetColors(surface, BLACK, WHITE);
-    slide->Draw(surface, 0);
+    drawSlide(dc, *slide, m_slideRect, 0);
 }
 
 void WexSlideImage::DrawSlideObject(const CSlideObject& slide) {
@@ -137,10 +153,7 @@ void WexSlideImage::DrawSlideObject(const CSlideObject& slide) {
     clear(dc);
     const SlideSize extents = slide.GetExtents();
     if (extents.cx == 0 || extents.cy == 0) return;
-    DcSurface surface(dc);
-    slide.PrepareDC(surface, pixelRect(GetClientRect()), 1, 1);
-    slide.SetColors(surface, BLACK, WHITE);
-    slide.Draw(surface, 0);
+    drawSlide(dc, slide, pixelRect(GetClientRect()), 1);
 }
 
 // Visibility is asked before each step: where the dialog has been hidden meanwhile, the screen shows
