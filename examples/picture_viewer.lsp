@@ -26,7 +26,7 @@
   (wex_action_tile "LST" "(if (/= $value \"\") (show (atoi $value)))")
   (wex_action_tile "SHOW_ALL" "(if (/= (wex_get_tile \"LST\") \"-1\") (show (shown-row)))")
   (wex_action_tile "OK" "(wex_done_dialog 1)")
-  (foreach anchor '(("LST" 38) ("PICTURE" 63) ("SHOW_ALL" 75) ("OK" 75) ("Cancel" 75))
+  (foreach anchor '(("LST" 38) ("PICTURE" 63) ("SHOW_ALL" 39) ("OK" 75) ("Cancel" 75))
     (wex_setresizing (car anchor) (cadr anchor)))
   (wex_setminresizing 400 300)
   (wex_start_dialog))
