@@ -59,9 +59,9 @@ void WexDialog::deleteControls() {
 CWnd* WexDialog::itemForKey(const CString& key) const { return itemForId(idForKey(key)); }
 
 // The platform takes longer to find a child than most functions then work on it, so a wrapper is found by its
-// record.
+// record. The dialog's own wrapper sees its window go, so that the platform needn't be asked for that either.
 CWnd* WexDialog::itemForId(int id) const {
-    if (!isLive()) return nullptr;
+    if (!m_hWnd) return nullptr;
     CWnd* wrapper = m_tiles.controlForId(id);
     const bool isThere = wrapper && CWnd::FromHandlePermanent(wrapper->m_hWnd) == wrapper;
     return isThere ? wrapper : GetDlgItem(id);

@@ -14,8 +14,13 @@ enum CellCode : int {
     FIRST_CONTROL_CODE = 52500,
 };
 
-// `choices`: one to a line; only control types take them. `face`: the color of a dialog's face (0x00BBGGRR).
-CGXStyle textCellStyle(const CString& text, int code, const std::optional<CString>& choices, uint32_t face);
+// Whether cells of that code have the color of a dialog's face.
+inline bool isOnFace(int code) { return code == CONTROL_FACE || code == CONTROL_FACE_PUSH; }
+
+// `choices`: one to a line; only control types take them. `face`: the color of a dialog's face (0x00BBGGRR),
+// for cells on it.
+CGXStyle textCellStyle(std::wstring_view text, int code, const std::optional<CString>& choices,
+                       uint32_t face);
 
 // A number that is shown with that many decimal places.
 CGXStyle numberCellStyle(double number, int places);

@@ -13,9 +13,9 @@ constexpr int NO_COLUMN = -1;
 constexpr int NEW_ROW = -1;
 
 // A host may leave a string's text out.
-CString textOrEmpty(const HostValue& value) {
+std::wstring_view textOrEmpty(const HostValue& value) {
     const wchar_t* text = textOf(value);
-    return text ? text : L"";
+    return text ? std::wstring_view(text) : std::wstring_view();
 }
 
 // What the value makes of the cell; an empty style for a value that no cell takes.
@@ -31,7 +31,9 @@ CGXStyle cellStyle(const HostValue& value, int row, int code, const std::optiona
             return numberCellStyle(value.value.realValue, code);
         case HV_STRING:
             if (row == 0) return CGXStyle().SetValue(textOrEmpty(value));
-            return textCellStyle(textOrEmpty(value), code, choices, GetSysColor(COLOR_3DFACE));
+            // The platform takes as long to tell a color as a cell to be written.
+            return textCellStyle(textOrEmpty(value), code, choices,
+                                 isOnFace(code) ? GetSysColor(COLOR_3DFACE) : 0);
         case HV_TRUE:
             return CGXStyle().SetValue(resourceText(TEXT_TRUE));
         case HV_NIL:

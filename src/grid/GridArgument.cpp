@@ -4,7 +4,9 @@
 #include "src/shell/Module.h"
 
 WexGrid* gridOf(CWnd* control) {
-    return isOfClass(control, GRID_WINDOW_CLASS, TEXT_NOT_A_GRID) ? WexGrid::of(control) : nullptr;
+    WexGrid* grid = WexGrid::of(control);
+    if (!grid) isOfClass(control, GRID_WINDOW_CLASS, TEXT_NOT_A_GRID);
+    return grid;
 }
 
 WexGrid* gridArgument(LispCall& call) { return gridOf(controlOf(call.tile())); }

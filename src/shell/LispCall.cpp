@@ -44,7 +44,7 @@ TileAddress LispCall::tile() {
     TileAddress address;
     const HostValue* node = next();
     if (!node) return address;
-    address.key = stringOf(*node).value_or(CString());
+    if (const wchar_t* key = textOf(*node)) address.key = key;
     if (const auto id = shortOf(*node)) address.id = static_cast<uint32_t>(*id);
     return address;
 }

@@ -11,7 +11,9 @@
 
 namespace {
 
+// Most letters are plain ones, and asking the platform costs many times this.
 wchar_t lowerLetter(wchar_t c) {
+    if (c < 0x80) return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
 #ifdef _WIN32
     const auto code = static_cast<ULONG_PTR>(c);
     return static_cast<wchar_t>(reinterpret_cast<ULONG_PTR>(CharLowerW(reinterpret_cast<LPWSTR>(code))));
