@@ -51,7 +51,7 @@
       (ui_click "SHOW_ALL")
       (tell-colors)
       (ui_shot "picture_viewer_fit.png")
-      (ui_size 640 480)
+      (ui_size 1200 900)
       (ui_pick "LST" "motor.wmf" 0)
       (tell-colors)
       (ui_shot "picture_viewer_large.png")
