@@ -14,3 +14,5 @@ picture() {
 
 mkdir -p "$folder"
 picture dialog.png examples/showcase.lsp showcase.png
+picture panel.png examples/panel.lsp panel.png
+picture block.png examples/block_picker.lsp block_contact.png

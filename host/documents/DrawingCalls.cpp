@@ -60,14 +60,20 @@ std::vector<HostPoint3d> points(Call& call, size_t index, size_t least) {
     return all;
 }
 
-double positive(Call& call, size_t index) {
+double number(Call& call, size_t index) {
     const double value = call.number(index);
+    if (!std::isfinite(value)) call.expected(index, "a finite number");
+    return value;
+}
+
+double positive(Call& call, size_t index) {
+    const double value = number(call, index);
     if (!(value > 0.0)) call.expected(index, "a number above 0");
     return value;
 }
 
 double numberOr(Call& call, size_t index, double otherwise) {
-    return call[index].isNil() ? otherwise : call.number(index);
+    return call[index].isNil() ? otherwise : number(call, index);
 }
 
 HostVector3d directionOr(Call& call, size_t index, const HostVector3d& otherwise) {

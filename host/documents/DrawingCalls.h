@@ -35,6 +35,7 @@ void changed();
 // The argument at `index`; another kind is told by Call::expected.
 HostPoint3d point(lisp::Call& call, size_t index);
 std::vector<HostPoint3d> points(lisp::Call& call, size_t index, size_t least);
+double number(lisp::Call& call, size_t index);
 double positive(lisp::Call& call, size_t index);
 double numberOr(lisp::Call& call, size_t index, double otherwise);
 HostVector3d directionOr(lisp::Call& call, size_t index, const HostVector3d& otherwise);

@@ -57,8 +57,8 @@ DrawingWindow& window() {
 }
 
 Value drawOrbit(Call& call) {
-    const double x = call.number(0);
-    window().orbit(x, call.number(1));
+    const double x = number(call, 0);
+    window().orbit(x, number(call, 1));
     return Value::truth();
 }
 
@@ -68,8 +68,8 @@ Value drawZoom(Call& call) {
 }
 
 Value drawPan(Call& call) {
-    const double x = call.number(0);
-    window().move(x, call.number(1));
+    const double x = number(call, 0);
+    window().move(x, number(call, 1));
     return Value::truth();
 }
 

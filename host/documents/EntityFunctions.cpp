@@ -47,7 +47,7 @@ Value drawCircle(Call& call) {
 
 Value drawArc(Call& call) {
     const HostPoint3d center = point(call, 0);
-    const double radius = positive(call, 1), start = call.number(2), end = call.number(3);
+    const double radius = positive(call, 1), start = number(call, 2), end = number(call, 3);
     return make(cad::Arc{center, radius, start, end, directionOr(call, 4, {0, 0, 1})});
 }
 
