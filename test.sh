@@ -57,7 +57,6 @@ windows_tests() {
         name=$(basename "$file" .lsp)
         run "example $name" example "$name"
     done
-    run "check-dialogs" wine64 "$bin/wexhost.exe" --check-dialogs
     for file in tests/ui/*.sh; do
         run "$(basename "$file" .sh)" "$file"
     done

@@ -23,10 +23,15 @@ host --headless --timeout 200 --shots "$pictures" "$work/shots.lsp"
     echo '# The dialogs'
     echo
     echo 'Made by `tools/make-catalog.sh`. A line for each tile, in the order of the Tab key: key, control id, kind, text.'
-    while read -r name; do
-        printf '\n## %s\n\n![%s](images/dialogs/%s.png)\n\n```\n' "$name" "$name" "$name"
-        host --dialogs "$name"
-        printf '```\n'
-    done <"$work/names"
+    # A line that doesn't begin with a blank begins a dialog.
+    host --dialogs $(cat "$work/names") | awk '
+        /^[^ ]/ {
+            if (name) print "```"
+            name = $1
+            sub(/:$/, "", name)
+            printf "\n## %s\n\n![%s](images/dialogs/%s.png)\n\n```\n", name, name, name
+        }
+        { print }
+        END { print "```" }'
 } >docs/dialog-catalog.md
 du -sh $pictures
