@@ -66,7 +66,8 @@ TEST(CheckDialogs, takesTheProductByOneHalf) {
     EXPECT_NE(run.output.find(" in 2 modules, 0 mismatches\n"), std::string::npos) << run.output;
 }
 
-// A folder of add-ons, without the product: one that can't be loaded, one with capitals in its file name, and its twin.
+// A folder of add-ons, without the product: one that can't be loaded, one with capitals in its file name, and
+// its twin.
 TEST(CheckDialogs, goesOnAfterAModuleThatIsNoneAndTellsWhatIsTaken) {
     namespace fs = std::filesystem;
     const fs::path folder = fs::path(buildFolder()) / L"checkbin";
