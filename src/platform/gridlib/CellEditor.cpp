@@ -172,6 +172,7 @@ bool CellEditor::open(HWND parent, const CGXStyle& style, const CString& text, b
 
 void CellEditor::place(const RECT& rect) {
     if (!m_field || EqualRect(&rect, &m_placed)) return;
+    const bool isFirst = IsRectEmpty(&m_placed);
     m_placed = rect;
     if (rect.left >= rect.right || rect.top >= rect.bottom) return m_field->ShowWindow(SW_HIDE);
     RECT window = rect;
@@ -184,6 +185,12 @@ void CellEditor::place(const RECT& rect) {
     }
     m_field->MoveWindow(window);
     m_field->ShowWindow(SW_SHOW);
+    // What was set before the window had its width may be scrolled out of it.
+    if (isFirst && m_field != &m_choice) {
+        m_field->SendMessage(EM_SETSEL, 0, 0);
+        m_field->SendMessage(EM_SCROLLCARET);
+        m_field->SendMessage(EM_SETSEL, 0, -1);
+    }
     if (!owns(::GetFocus())) m_field->SetFocus();
 }
 

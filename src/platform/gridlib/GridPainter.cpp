@@ -262,11 +262,12 @@ class Painter {
         ExtTextOutW(m_dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
     }
 
-    // A corner in red.
+    // A corner in red, or in a color that shows on any other.
     void drawRefusal(const RECT& rect) {
         const int side = m_look.scaled(6);
+        const COLORREF color = m_look.isHighContrast() ? m_look.text : REFUSED;
         for (int i = 0; i < side; ++i)
-            fill({rect.right - side + i, rect.top + i, rect.right, rect.top + i + 1}, REFUSED);
+            fill({rect.right - side + i, rect.top + i, rect.right, rect.top + i + 1}, color);
     }
 
     void frame(const RECT& rect) {

@@ -52,6 +52,8 @@ TEST_F(EditingTest, TypingReplacesTellsEachChangeAndEnterGoesDown) {
 TEST_F(EditingTest, EscapeGivesTheFormerTextBackAndTellsIt) {
     grid.SetValueRange(CGXRange(1, 1), L"former");
     doubleClick(1, 1);
+    EXPECT_GE(static_cast<short>(LOWORD(::SendMessageW(GetFocus(), EM_POSFROMCHAR, 0, 0))), 0)
+        << "it begins in view";
     grid.events.clear();
     type(L"x");
     key(VK_ESCAPE);
