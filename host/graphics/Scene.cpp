@@ -55,7 +55,8 @@ uint32_t placeOf(const Piece& piece, const SceneBox& all) {
     const ScenePoint middle = own.box().centre;
     const auto tenBits = [](float value, float centre, float reach) {
         const float part = reach > 0.0f ? (value - centre) / reach * 511.0f + 512.0f : 512.0f;
-        return static_cast<uint32_t>(std::clamp(part, 0.0f, 1023.0f));
+        // What is too far for a float comes as no number.
+        return part > 0.0f ? static_cast<uint32_t>(std::min(part, 1023.0f)) : 0u;
     };
     return spread(tenBits(middle.x, all.centre.x, all.reach.x)) << 2 |
            spread(tenBits(middle.y, all.centre.y, all.reach.y)) << 1 |
