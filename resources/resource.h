@@ -40,3 +40,41 @@
 #define IDI_PART                    105
 #define IDI_CONNECTOR               106
 #define IDI_TERMINAL                107
+
+// Pictures and texts of menus; the numbers of an item's picture and text differ.
+#define IDI_COPY                    301
+#define IDI_CUT                     302
+#define IDI_PASTE                   303
+#define IDI_UNDO                    304
+#define IDI_REDO                    305
+#define IDI_PRINT                   306
+#define IDI_SAVE                    307
+#define IDI_FIT                     308
+#define IDI_EXPAND                  309
+#define IDI_COLLAPSE                310
+
+#define IDS_MENU_COPY               321
+#define IDS_MENU_COPY_TITLES        322
+#define IDS_MENU_SELECT_ALL         323
+#define IDS_MENU_FIT_COLUMNS        324
+#define IDS_MENU_CUT                325
+#define IDS_MENU_COPY_CELLS         326
+#define IDS_MENU_PASTE              327
+#define IDS_MENU_UNDO               328
+#define IDS_MENU_REDO               329
+#define IDS_MENU_EXPAND_ALL         330
+#define IDS_MENU_COLLAPSE_ALL       331
+#define IDS_MENU_PRINT              332
+#define IDS_MENU_SAVE_PDF           333
+#define IDS_MENU_FIT_DRAWING        334
+#define IDS_MENU_STYLE              335
+#define IDS_MENU_VIEW               336
+#define IDS_MENU_WIREFRAME_2D       337
+#define IDS_MENU_WIREFRAME_3D       338
+#define IDS_MENU_HIDDEN             339
+#define IDS_MENU_SHADED             340
+#define IDS_MENU_TOP                341
+#define IDS_MENU_FRONT              342
+#define IDS_MENU_RIGHT              343
+#define IDS_MENU_ISOMETRIC          344
+#define IDS_MENU_SELECT_CELLS       345

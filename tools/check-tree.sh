@@ -40,7 +40,7 @@ may_not_include src/platform/base 'src/platform/(mfc|host)/' '-' 'the base types
 may_not_include src/platform/mfc 'src/platform/host/' '-' 'the class library knows no host'
 may_not_include src/buttons 'src/' 'src/(platform|buttons)/' 'the drawing of buttons knows no dialog'
 may_not_include src/pictures 'src/' 'src/(platform|pictures)/' 'the drawing of pictures knows no dialog'
-may_not_include src/preview 'src/' 'src/(platform|preview|shell)/' 'the drawing preview knows no dialog'
+may_not_include src/preview 'src/' 'src/(platform|preview|shell|buttons)/' 'the drawing preview knows no dialog'
 may_not_include src/shell "$any_family" '-' 'the shell is below the control families'
 may_not_include src/dialog "$any_family" '-' 'control families meet the dialog by virtuals'
 for family in $families; do

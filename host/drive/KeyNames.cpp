@@ -17,7 +17,7 @@ constexpr NamedKey KEYS[] = {
     {L"space", 0x20},    {L"back", 0x08},   {L"backspace", 0x08}, {L"delete", 0x2E}, {L"del", 0x2E},
     {L"insert", 0x2D},   {L"ins", 0x2D},    {L"home", 0x24},      {L"end", 0x23},    {L"pageup", 0x21},
     {L"pagedown", 0x22}, {L"left", 0x25},   {L"up", 0x26},        {L"right", 0x27},  {L"down", 0x28},
-    {L"plus", 0x6B},     {L"minus", 0x6D},  {L"star", 0x6A},
+    {L"plus", 0x6B},     {L"minus", 0x6D},  {L"star", 0x6A},      {L"apps", 0x5D},
 };
 
 constexpr int FIRST_FUNCTION_KEY = 0x70;

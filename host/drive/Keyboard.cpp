@@ -34,8 +34,9 @@ void typeText(HWND window, std::wstring_view text) {
 void pressKey(HWND window, const KeyStroke& stroke) {
     const auto key = static_cast<WPARAM>(stroke.virtualKey);
     const LPARAM scan = LPARAM(MapVirtualKeyW(stroke.virtualKey, MAPVK_VK_TO_VSC)) << 16 | 1;
-    const bool system = stroke.alt && !stroke.control;
-    const LPARAM alt = system ? ALT_HELD : 0;
+    const bool withAlt = stroke.alt && !stroke.control;
+    const bool system = withAlt || stroke.virtualKey == VK_F10;
+    const LPARAM alt = withAlt ? ALT_HELD : 0;
     setKeys(stroke, KEY_DOWN);
     PostMessageW(window, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key, scan | alt);
     if (stroke.virtualKey == VK_F1 && !stroke.alt) PostMessageW(window, WM_KEYF1, 0, 0);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/documents/Documents.h"
+#include "host/drive/Menus.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/Mouse.h"
 #include "host/services/Host.h"
@@ -55,7 +56,23 @@ bool Player::isPluginDialog(HWND dialog) const {
     return documents().findWindow(nullptr, nullptr, -1) == dialog;
 }
 
+// A menu runs a loop of its own, which tells nobody that it is idle. A timer's message comes when there is no
+// other one, so it is what tells; where no menu shows, the dialog's own loop stops it before it comes.
+void Player::watchForMenu() {
+    if (!m_menuTimer) m_menuTimer = SetTimer(nullptr, 0, WAIT_MILLISECONDS, &menuTimer);
+}
+
+void CALLBACK Player::menuTimer(HWND, UINT, UINT_PTR, DWORD) noexcept {
+    const HWND dialog = documents().findWindow(nullptr, nullptr, -1);
+    if (dialog && openMenu()) player().idle(dialog);
+}
+
 void Player::dialogIdle(HWND dialog) {
+    if (m_menuTimer) KillTimer(nullptr, std::exchange(m_menuTimer, 0));
+    idle(dialog);
+}
+
+void Player::idle(HWND dialog) {
     host().console().flush();
     deliverHeldReleases(nullptr);
     const bool isPlugins = isPluginDialog(dialog);
@@ -125,6 +142,7 @@ void Player::wakeAgain(HWND dialog, bool waiting) {
         if (!m_timer) m_timer = SetTimer(nullptr, 0, WAIT_MILLISECONDS, nullptr);
     } else {
         PostMessageW(dialog, WM_NULL, 0, 0);
+        watchForMenu();
     }
 }
 

@@ -54,17 +54,21 @@ class Player : public DialogObserver {
     };
 
     bool isPluginDialog(HWND dialog) const;
+    void idle(HWND dialog);
     Run& runOf(HWND dialog);
     bool doStep(HWND dialog);
     void play(HWND dialog);
     void evaluate(HWND dialog, Session& session);
     void wakeAgain(HWND dialog, bool waiting);
+    void watchForMenu();
+    static void CALLBACK menuTimer(HWND, UINT, UINT_PTR, DWORD) noexcept;
     void closeLeftOpen(Run& run);
     void answer(HWND box);
 
     bool m_plays = false;
     bool m_repeat = false;
     UINT_PTR m_timer = 0;
+    UINT_PTR m_menuTimer = 0;
     SessionQueue m_queue;
     // The innermost dialog last.
     std::vector<Run> m_runs;

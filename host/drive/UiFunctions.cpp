@@ -10,6 +10,7 @@
 #include "host/drive/Items.h"
 #include "host/drive/Keyboard.h"
 #include "host/drive/Look.h"
+#include "host/drive/Menus.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/Mouse.h"
 #include "host/drive/Player.h"
@@ -261,7 +262,7 @@ constexpr UiFunction FUNCTIONS[] = {
 void defineUiFunctions(lisp::Interpreter& lisp, const std::wstring& shotsFolder) {
     g_shotsFolder = shotsFolder;
     for (const std::span<const UiFunction> table :
-         {std::span<const UiFunction>(FUNCTIONS), clickFunctions(), scrollFunctions()}) {
+         {std::span<const UiFunction>(FUNCTIONS), clickFunctions(), scrollFunctions(), menuFunctions()}) {
         for (const UiFunction& function : table)
             lisp.defineNative(function.name, function.function, nullptr, function.minimum, function.maximum);
     }

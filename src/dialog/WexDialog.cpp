@@ -39,6 +39,12 @@ bool isInCaption(HWND dialog, wchar_t letter) {
     return false;
 }
 
+// Wine makes no WM_CONTEXTMENU of the menu key, and its trees none of Shift+F10.
+bool asksForMenu(const MSG& message) {
+    if (message.message == WM_KEYUP) return message.wParam == VK_APPS;
+    return message.message == WM_SYSKEYDOWN && message.wParam == VK_F10 && GetKeyState(VK_SHIFT) < 0;
+}
+
 }  // namespace
 
 WexDialog::WexDialog(const DialogSource& source, CWnd* parent)
@@ -89,6 +95,10 @@ const MessageMap& WexDialog::messageMap() const {
 
 // Esc closes the dialog wherever the focus is, and Ctrl+Tab turns a page.
 bool WexDialog::PreTranslateMessage(MSG& message) {
+    if (asksForMenu(message)) {
+        ::SendMessageW(message.hwnd, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(message.hwnd), -1);
+        return true;
+    }
     if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
         PostMessage(WM_CLOSE);
         return true;

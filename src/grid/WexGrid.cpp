@@ -28,7 +28,8 @@ const CRuntimeClass* WexGrid::GetRuntimeClass() const { return &runtimeClass; }
 CObject* WexGrid::CreateObject() { return new WexGrid; }
 
 const MessageMap& WexGrid::messageMap() const {
-    static const MessageMap map(CGXGridWnd::messageMap(), {onRaw<WM_NCPAINT, &WexGrid::onNcPaint>()});
+    static const MessageMap map(CGXGridWnd::messageMap(), {onRaw<WM_NCPAINT, &WexGrid::onNcPaint>(),
+                                                           onRaw<WM_CONTEXTMENU, &WexGrid::onContextMenu>()});
     return map;
 }
 

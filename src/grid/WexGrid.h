@@ -48,6 +48,7 @@ class WexGrid : public CGXGridWnd, public TileControl {
 
   private:
     LRESULT onNcPaint(WPARAM region, LPARAM l);
+    LRESULT onContextMenu(WPARAM w, LPARAM l);  // GridMenu.cpp
 
     // Of the columns that have one: the number of a column may be any.
     std::map<uint32_t, uint8_t> m_columnJustification;

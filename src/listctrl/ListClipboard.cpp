@@ -29,12 +29,14 @@ void putOnClipboard(HWND owner, const CString& text) {
 
 }  // namespace
 
-void copySelectedRows(CListCtrl& list) {
+void copySelectedRows(CListCtrl& list, bool withTitles) {
     const std::vector<int> selected = selectedRows(list);
     const int columns = columnCount(list);
     if (selected.empty() || columns == 0) return;
-    std::vector<CStringArray> rows(1);
-    for (int column = 0; column < columns; ++column) rows[0].push_back(columnTitle(list, column));
+    std::vector<CStringArray> rows;
+    if (withTitles) rows.emplace_back();
+    for (int column = 0; withTitles && column < columns; ++column)
+        rows[0].push_back(columnTitle(list, column));
     CellReader reader(list);
     for (const int row : selected) {
         CStringArray& cells = rows.emplace_back();

@@ -3,6 +3,6 @@
 
 #include "src/platform/mfc/Controls.h"
 
-// Puts the titles and the selected rows on the clipboard as text. Without a selection, or while another
-// program has the clipboard, what is on it stays.
-void copySelectedRows(CListCtrl& list);
+// Puts the selected rows on the clipboard as text, the titles above them where they are wanted. Without a
+// selection, or while another program has the clipboard, what is on it stays.
+void copySelectedRows(CListCtrl& list, bool withTitles = true);

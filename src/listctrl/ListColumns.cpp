@@ -45,3 +45,16 @@ void renameColumn(const CWnd& list, int column, const CString& title) {
     lstrcpynW(text, title.c_str(), static_cast<int>(std::size(text)));
     SendMessageW(header, HDM_SETITEMW, column, parameter);
 }
+
+void fitColumns(const CWnd& list) {
+    // Room for the mark of a sorted column, too.
+    const int besideTitle = GetSystemMetrics(SM_CXSMICON) + 4 * GetSystemMetrics(SM_CXEDGE);
+    for (int column = 0; column < columnCount(list); ++column) {
+        list.SendMessage(LVM_SETCOLUMNWIDTH, column, LVSCW_AUTOSIZE);
+        const int cells = static_cast<int>(list.SendMessage(LVM_GETCOLUMNWIDTH, column));
+        const CString title = columnTitle(list, column);
+        const int head = besideTitle + static_cast<int>(list.SendMessage(
+                                           LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title.c_str())));
+        if (cells < head) list.SendMessage(LVM_SETCOLUMNWIDTH, column, head);
+    }
+}

@@ -9,5 +9,7 @@ void insertColumn(const CWnd& list, int index, const CString& title, int width);
 void deleteColumn(const CWnd& list, int column);
 // The columns of a column text, for a list that has none yet: columns are never replaced.
 void applyColumnText(const CWnd& list, const CString& text);
+// Each column as wide as its widest cell or its title.
+void fitColumns(const CWnd& list);
 // At most 255 characters are taken. A column that isn't there is passed over.
 void renameColumn(const CWnd& list, int column, const CString& title);

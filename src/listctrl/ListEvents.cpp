@@ -41,6 +41,7 @@ const MessageMap& WexListCtrl::messageMap() const {
                                     on<WM_KEYDOWN, &WexListCtrl::onKeyDown>(),
                                     on<WM_CHAR, &WexListCtrl::onChar>(),
                                     on<WM_KILLFOCUS, &WexListCtrl::onKillFocus>(),
+                                    onRaw<WM_CONTEXTMENU, &WexListCtrl::onContextMenu>(),
                                     onRaw<LVM_DELETEALLITEMS, &WexListCtrl::onDeleteAll>(),
                                     onReflectedNotify<NM_DBLCLK, &WexListCtrl::onDoubleClick>(),
                                     onReflectedNotify<LVN_COLUMNCLICK, &WexListCtrl::onColumnClick>(),

@@ -66,6 +66,13 @@ void selectRow(const CWnd& list, int row) {
     list.SendMessage(LVM_ENSUREVISIBLE, row, TRUE);
 }
 
+void selectAllRows(const CWnd& list) {
+    constexpr WPARAM ALL = static_cast<WPARAM>(-1);
+    LVITEMW item{};
+    item.state = item.stateMask = LVIS_SELECTED;
+    list.SendMessage(LVM_SETITEMSTATE, ALL, reinterpret_cast<LPARAM>(&item));
+}
+
 void clearSelection(const CWnd& list) {
     for (const int row : selectedRows(list)) setRowState(list, row, 0, LVIS_SELECTED);
 }

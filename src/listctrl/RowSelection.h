@@ -13,6 +13,8 @@ int firstSelectedRow(const CWnd& list);
 // Selects that row beside those that are selected, and scrolls it into view. A row that isn't there is passed
 // over.
 void selectRow(const CWnd& list, int row);
+// Every row, of a list that lets several be selected.
+void selectAllRows(const CWnd& list);
 // No row is selected any more.
 void clearSelection(const CWnd& list);
 

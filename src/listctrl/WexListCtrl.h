@@ -53,6 +53,11 @@ class WexListCtrl : public CListCtrl, public TileControl {
     void onKeyDown(UINT key, UINT flags);
     void onChar(UINT character, UINT flags);
     void onKillFocus(CWnd* to);
+
+    // --- ListMenu.cpp
+    LRESULT onContextMenu(WPARAM w, LPARAM l);
+    RECT focusedRowRect() const;
+
     void noteArrow(WPARAM key);
     void pressOk();
 };

@@ -54,6 +54,7 @@ const MessageMap& CGsPreviewCtrl::messageMap() const {
                                     on<WM_RBUTTONDBLCLK, &CGsPreviewCtrl::onRightDoubleClick>(),
                                     on<WM_RBUTTONUP, &CGsPreviewCtrl::onRightUp>(),
                                     on<WM_MOUSEMOVE, &CGsPreviewCtrl::onMove>(),
+                                    onRaw<WM_CONTEXTMENU, &CGsPreviewCtrl::onContextMenu>(),
                                     on<WM_MOUSEWHEEL, &CGsPreviewCtrl::onWheel>(),
                                 });
     return map;

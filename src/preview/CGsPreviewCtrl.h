@@ -67,6 +67,9 @@ class CGsPreviewCtrl : public CStatic {
     // 0: the mouse does nothing; 1: the gadget is shown; 2: a pan holds the mouse only until it first moves.
     void setMouseMode(int mode) { m_mouseMode = mode; }
 
+    // The menu of views and styles, below the upper left corner; nothing where nothing is shown.
+    void showMenu();
+
     bool PreTranslateMessage(MSG& message) override;
 
   protected:
@@ -106,6 +109,9 @@ class CGsPreviewCtrl : public CStatic {
     void drawFocusMark() const;
     bool holdsTheFocus() const { return ::GetFocus() == m_hWnd; }
 
+    LRESULT onContextMenu(WPARAM w, LPARAM l);
+    void see(const HostVector3d& direction);
+    void setShownStyle(int type);
     LRESULT onButtonDown(WPARAM w, LPARAM l);
     void onLeftUp(UINT keys, POINT at);
     void onMiddleUp();
@@ -153,4 +159,8 @@ class CGsPreviewCtrl : public CStatic {
     int m_mouseMode = 2;
     bool m_showGadget = true;
     RECT m_focusRect{};
+    // As the menu has chosen them, until another block is shown.
+    CString m_chosenFor;
+    HostVector3d m_direction{0, 0, 1};
+    int m_style = HOST_STYLE_WIREFRAME_2D;
 };

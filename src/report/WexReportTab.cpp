@@ -8,6 +8,7 @@
 #include "src/report/PrinterJob.h"
 #include "src/report/ReportTabLayout.h"
 #include "src/shell/Module.h"
+#include "src/shell/TileMenu.h"
 
 IMPLEMENT_DYNAMIC(WexReportTab, CTabCtrl)
 
@@ -57,6 +58,7 @@ const MessageMap& WexReportTab::messageMap() const {
             on<WM_VSCROLL, &WexReportTab::onVScroll>(),
             on<WM_MOUSEWHEEL, &WexReportTab::onMouseWheel>(),
             on<WM_KEYDOWN, &WexReportTab::onKeyDown>(),
+            onRaw<WM_CONTEXTMENU, &WexReportTab::onContextMenu>(),
             on<WM_DESTROY, &WexReportTab::onDestroy>(),
         });
     return map;
@@ -214,6 +216,20 @@ void WexReportTab::pressed(int id) {
         default:
             break;
     }
+}
+
+// That of the page that shows; the sheet's by the right button, too.
+LRESULT WexReportTab::onContextMenu(WPARAM, LPARAM l) {
+    if (isFromKeyboard(l) && IsWindowVisible(m_drawing.m_hWnd)) m_drawing.showMenu();
+    const RECT sheet = m_preview.GetWindowRect();
+    const POINT at = {static_cast<short>(LOWORD(l)), static_cast<short>(HIWORD(l))};
+    if (!showsPreview() || (!isFromKeyboard(l) && !PtInRect(&sheet, at))) return 0;
+    TileMenu menu;
+    menu.add(PRINT_BUTTON, MenuTextId::print, MenuIcon::print);
+    menu.add(PDF_BUTTON, MenuTextId::savePdf, MenuIcon::save);
+    if (const UINT command = menu.choose(*this, l, m_preview.rectInParent()))
+        pressed(static_cast<int>(command));
+    return 0;
 }
 
 void WexReportTab::saveAsPdf() {

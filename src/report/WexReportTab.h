@@ -43,6 +43,7 @@ class WexReportTab : public CTabCtrl, public TileControl {
     void onMouseWheel(UINT keys, int delta, POINT at);
     void onKeyDown(UINT key, UINT flags);
     void onDestroy();
+    LRESULT onContextMenu(WPARAM w, LPARAM l);
 
     UniqueFont m_buttonFont;
     int m_wheel = 0;  // of the wheel's way, what has not moved the sheet yet

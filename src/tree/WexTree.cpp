@@ -40,6 +40,7 @@ const MessageMap& WexTree::messageMap() const {
                                     on<WM_LBUTTONDOWN, &WexTree::onButtonDown>(),
                                     on<WM_LBUTTONDBLCLK, &WexTree::onButtonDown>(),
                                     on<WM_RBUTTONDOWN, &WexTree::onButtonDown>(),
+                                    onRaw<WM_CONTEXTMENU, &WexTree::onContextMenu>(),
                                     on<WM_DESTROY, &WexTree::onDestroy>(),
                                 });
     return map;

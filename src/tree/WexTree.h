@@ -65,6 +65,12 @@ class WexTree : public CTreeCtrl, public TileControl {
     void onButtonDown(UINT keys, POINT at);
     void onDestroy();
 
+    // --- TreeMenu.cpp
+    LRESULT onContextMenu(WPARAM w, LPARAM l);
+    void openBranches(bool open);
+    std::vector<HTREEITEM> branches() const;
+    RECT selectedItemRect() const;
+
     std::vector<std::unique_ptr<CTreeDataItem>> m_itemRecords;
     CImageList m_imageList;
     DeletedItems m_deleted;

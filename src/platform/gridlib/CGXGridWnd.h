@@ -34,6 +34,14 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     virtual void OnTooManyCells() { MessageBeep(MB_ICONWARNING); }
     static constexpr uint64_t MOST_CELLS = 5'000'000;
 
+    // What a person can have done to the grid besides moving and typing; each has its key but for the last,
+    // which makes every column as wide as its texts.
+    enum class Command { cut = 1, copy, paste, undo, redo, selectAll, fitColumns };
+    bool canDo(Command command) const;
+    void doCommand(Command command);
+    // In client pixels; empty without a current cell.
+    RECT currentCellRect() const;
+
   protected:
     void OnLButtonDown(UINT keys, POINT at);
     LRESULT WindowProc(UINT message, WPARAM w, LPARAM l) override;

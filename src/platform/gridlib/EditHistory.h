@@ -21,6 +21,9 @@ class EditHistory {
     const Step* back();
     const Step* forward();
 
+    bool hasBack() const { return m_done > 0; }
+    bool hasForward() const { return m_done < m_steps.size(); }
+
     static constexpr size_t MOST_CHANGES = 500'000;
 
   private:

@@ -60,22 +60,20 @@ bool CGXGridWnd::commandByKey(UINT key, bool control, bool shift) {
     if (!control) return false;
     switch (key) {
         case 'A':
-            m_selection.all();
-            selectionMoved(false);
-            tellSelection(false, true);
+            doCommand(Command::selectAll);
             return true;
         case 'C':
-            copy();
+            doCommand(Command::copy);
             return true;
         case 'X':
-            if (copy()) emptySelection();
+            doCommand(Command::cut);
             return true;
         case 'V':
-            paste();
+            doCommand(Command::paste);
             return true;
         case 'Z':
         case 'Y':
-            undoOrRedo(key == 'Z' && !shift);
+            doCommand(key == 'Z' && !shift ? Command::undo : Command::redo);
             return true;
     }
     return false;

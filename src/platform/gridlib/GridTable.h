@@ -97,6 +97,8 @@ class GridTable {
     // longer be edited, stays as it is. Returns the cells that changed.
     std::vector<CellPlace> undo();
     std::vector<CellPlace> redo();
+    bool canUndo() const { return m_history.hasBack(); }
+    bool canRedo() const { return m_history.hasForward(); }
 
   private:
     template <class Visit>

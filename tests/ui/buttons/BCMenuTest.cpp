@@ -1,0 +1,121 @@
+// How the items of a menu look, drawn on a picture.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "src/buttons/BCMenu.h"
+
+namespace {
+
+class DrawnItem {
+  public:
+    explicit DrawnItem(const MenuItemLook& item) : m_look(GetDesktopWindow()) {
+        m_metrics = m_look.metrics();
+        m_look.measure(item, m_metrics);
+        m_width = menuItemWidth(m_metrics);
+        m_height = menuItemHeight(m_metrics);
+        parts = placeMenuItem({0, 0, m_width, m_height}, m_metrics);
+        BITMAPINFO info = {};
+        info.bmiHeader = {sizeof(BITMAPINFOHEADER), m_width, -m_height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        const ClientDC screen(nullptr);
+        const UniqueBitmap bitmap(CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        const CompatibleDC dc(screen);
+        const SelectedObject selected(dc, bitmap.get());
+        m_look.draw(dc, {0, 0, m_width, m_height}, item, m_metrics);
+        GdiFlush();
+        m_pixels.assign(static_cast<uint32_t*>(bits), static_cast<uint32_t*>(bits) + m_width * m_height);
+    }
+
+    // How many pixels there have another color than that of the area's left upper corner.
+    int ink(const MenuBox& box) const {
+        int count = 0;
+        for (int y = box.top; y < box.bottom; ++y)
+            for (int x = box.left; x < box.right; ++x) count += at(x, y) != at(box.left, box.top);
+        return count;
+    }
+    uint32_t at(int x, int y) const { return m_pixels[y * m_width + x] & 0xFFFFFF; }
+
+    MenuItemParts parts;
+
+  private:
+    MenuLook m_look;
+    MenuMetrics m_metrics;
+    int m_width = 0;
+    int m_height = 0;
+    std::vector<uint32_t> m_pixels;
+};
+
+MenuItemLook item() {
+    MenuItemLook look;
+    look.text = L"&Copy\tCtrl+C";
+    return look;
+}
+
+TEST(MenuItemLook, EachPartIsDrawnInItsPlaceAndNoOther) {
+    const DrawnItem plain(item());
+    EXPECT_GT(plain.ink(plain.parts.label), 0);
+    EXPECT_GT(plain.ink(plain.parts.shortcut), 0);
+    EXPECT_EQ(plain.ink(plain.parts.arrow), 0);
+    EXPECT_EQ(plain.ink(plain.parts.mark), 0);
+
+    MenuItemLook full = item();
+    full.mark = MenuMark::check;
+    full.opensMenu = true;
+    const DrawnItem marked(full);
+    EXPECT_GT(marked.ink(marked.parts.mark), 0);
+    EXPECT_GT(marked.ink(marked.parts.arrow), 0);
+    full.mark = MenuMark::radio;
+    const DrawnItem round(full);
+    EXPECT_GT(round.ink(round.parts.mark), 0);
+}
+
+TEST(MenuItemLook, StatesDiffer) {
+    const DrawnItem plain(item());
+    MenuItemLook look = item();
+    look.selected = true;
+    const DrawnItem selected(look);
+    const MenuBox& label = plain.parts.label;
+    EXPECT_NE(selected.at(label.left - 2, label.top + 2), plain.at(label.left - 2, label.top + 2));
+    look = item();
+    look.isDefault = true;
+    const DrawnItem bold(look);
+    EXPECT_GT(bold.ink(bold.parts.label), plain.ink(label));
+}
+
+TEST(MenuItemLook, AnIconFillsItsSquareAndADisabledOneIsGrey) {
+    MenuItemLook look = item();
+    look.icon = LoadIconW(nullptr, IDI_ERROR);
+    const DrawnItem shown(look);
+    look.disabled = true;
+    const DrawnItem greyed(look);
+    const MenuBox& box = shown.parts.mark;
+    const int x = box.left + box.width() / 4, y = box.top + box.height() / 2;
+    const auto red = [](uint32_t pixel) { return static_cast<int>(pixel >> 16 & 0xFF); };
+    const auto blue = [](uint32_t pixel) { return static_cast<int>(pixel & 0xFF); };
+    EXPECT_GT(red(shown.at(x, y)) - blue(shown.at(x, y)), 60);
+    EXPECT_LT(std::abs(red(greyed.at(x, y)) - blue(greyed.at(x, y))), 30);
+}
+
+TEST(BCMenu, AssistiveProgramsReadTheTextsAndStates) {
+    BCMenu menu;
+    menu.add(7, L"&Copy\tCtrl+C", BCMenu::DISABLED);
+    menu.add(8, L"&Top", BCMenu::RADIO | BCMenu::DEFAULT);
+    menu.addSeparator();
+    BCMenu& below = menu.addMenu(L"&View");
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_DATA | MIIM_STATE | MIIM_FTYPE | MIIM_SUBMENU;
+    ASSERT_TRUE(GetMenuItemInfoW(menu.handle(), 0, TRUE, &info));
+    const auto* text = reinterpret_cast<const MSAAMENUINFO*>(info.dwItemData);
+    EXPECT_EQ(text->dwMSAASignature, static_cast<DWORD>(MSAA_MENU_SIG));
+    EXPECT_EQ(std::wstring(text->pszWText, text->cchWText), L"&Copy\tCtrl+C");
+    EXPECT_TRUE(info.fState & MFS_DISABLED);
+    ASSERT_TRUE(GetMenuItemInfoW(menu.handle(), 1, TRUE, &info));
+    EXPECT_TRUE(info.fState & MFS_CHECKED && info.fState & MFS_DEFAULT && info.fType & MFT_RADIOCHECK);
+    ASSERT_TRUE(GetMenuItemInfoW(menu.handle(), 3, TRUE, &info));
+    EXPECT_EQ(info.hSubMenu, below.handle());
+}
+
+}  // namespace
