@@ -8,7 +8,8 @@ logs=$root/build/test-logs
 bin=$root/build/windows/bin
 
 # Readers of exported slides, a database, and a print server that the test that prints starts, and nobody else.
-tools/install-packages.sh imagemagick libwmf-bin postgresql-15 cups cups-client printer-driver-cups-pdf poppler-utils
+tools/install-packages.sh imagemagick libwmf-bin postgresql-15 cups cups-client printer-driver-cups-pdf poppler-utils \
+    zip unzip python3-markdown
 . tools/wine-env.sh
 . tools/test-report.sh
 rm -rf "$logs"

@@ -18,7 +18,9 @@ endif()
 if(WIN32)
   # 0x0A00: the per-monitor display scale is asked for. Handlers of windows take parameters they don't use.
   add_compile_definitions(UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN)
-  add_link_options(-static -static-libgcc -static-libstdc++)
+  # The linker makes modules that lie anywhere and whose data can't run; the compiler guards what lies on the stack.
+  add_compile_options(-fstack-protector-strong)
+  add_link_options(-static -static-libgcc -static-libstdc++ -fstack-protector-strong)
   # Handles of tree items, which are addresses, cross Lisp as integers of 32 bits: the system may not spread a
   # program's memory over all 64.
   string(APPEND CMAKE_EXE_LINKER_FLAGS " -Wl,--disable-high-entropy-va")

@@ -1,0 +1,12 @@
+# wex_version(TARGET FILE DESCRIPTION): the target's module, of that file name, tells the project's version and what it is.
+function(wex_version target file description)
+  get_target_property(kind ${target} TYPE)
+  set(type VFT_DLL)
+  if(kind STREQUAL "EXECUTABLE")
+    set(type VFT_APP)
+  endif()
+  cmake_path(GET file STEM name)
+  set(made ${CMAKE_CURRENT_BINARY_DIR}/${target}-version.rc)
+  configure_file(${CMAKE_SOURCE_DIR}/cmake/version.rc.in ${made} @ONLY)
+  target_sources(${target} PRIVATE ${made})
+endfunction()
