@@ -188,7 +188,6 @@ constexpr Row ROWS[] = {
     {L"t_two", &twoResults},
     {L"t_throw", &throwError},
     {L"t_throw5", &throwNumber},
-    {L"t_crash", &crash},
     {L"t_code", &code},
     {L"t_invoke", &invoke},
     {L"t_put", &put},
@@ -203,6 +202,7 @@ constexpr Row ROWS[] = {
     {L"t_tab", &addBareTab},
     {L"t_move", &move},
     {L"t_unfocus", &unfocus},
+    {L"t_crash", &crash},
 };
 constexpr int COUNT = ARRAYSIZE(ROWS);
 
