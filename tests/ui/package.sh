@@ -32,7 +32,7 @@ for module in *.dll *.exe *.pgx WexDialogs.d/*.dll; do
     [ -e "../$(basename "$PWD")-symbols/$module.debug" ] || fail "$module has no symbols"
 done
 for module in WexDialogs.pgx hostapi.dll WEXDATASTOREMGDREV.dll; do
-    x86_64-w64-mingw32-nm "../$(basename "$PWD")-symbols/$module.debug" | grep -q __stack_chk_fail || fail "$module's stack isn't guarded"
+    x86_64-w64-mingw32-nm "../$(basename "$PWD")-symbols/$module.debug" | grep __stack_chk_fail >/dev/null || fail "$module's stack isn't guarded"
 done
 # Handles of tree items are addresses that cross Lisp as 32 bits.
 ! x86_64-w64-mingw32-objdump -p wexhost.exe | grep -q HIGH_ENTROPY_VA || fail "the host's memory may lie beyond 32 bits"
