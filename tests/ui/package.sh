@@ -35,7 +35,7 @@ for module in WexDialogs.pgx hostapi.dll WEXDATASTOREMGDREV.dll; do
     x86_64-w64-mingw32-nm "../$(basename "$PWD")-symbols/$module.debug" | grep __stack_chk_fail >/dev/null || fail "$module's stack isn't guarded"
 done
 # Handles of tree items are addresses that cross Lisp as 32 bits.
-! x86_64-w64-mingw32-objdump -p wexhost.exe | grep -q HIGH_ENTROPY_VA || fail "the host's memory may lie beyond 32 bits"
+! x86_64-w64-mingw32-objdump -p wexhost.exe | grep HIGH_ENTROPY_VA >/dev/null || fail "the host's memory may lie beyond 32 bits"
 for page in README.html docs/lisp-functions.html; do
     for link in $(grep -o 'href="[^":#]*\|src="[^":]*' "$page" | sed 's/.*"//'); do
         [ -e "$(dirname "$page")/$link" ] || fail "$page leads to $link, which isn't there"
