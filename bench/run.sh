@@ -34,7 +34,7 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
     wine64 "$built/bench/graphics/graphics_bench.exe"
     wine64 "$built/testbin/preview_bench.exe"
     cd "$root/bench/product"
-    wine64 "$built/testbin/wexhost.exe" --headless --timeout 300 \
+    wine64 "$built/testbin/wexhost.exe" --headless --timeout 900 \
         -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \
         -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" \
         -e "(setq bench-picture \"$built/bench/product/large.bmp\")" \
