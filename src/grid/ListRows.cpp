@@ -46,9 +46,13 @@ void addListRows(CGXGridCore& grid, CStringArray& lines, const ListRowOptions& o
     for (size_t next = 0; next < lines.size();) {
         CString text = std::move(lines[next++]);
         ListRow row{{}, ROW_HEIGHT, options.merges && !isRule(text)};
-        if (takesContinuations(text, options.keyColumn)) {
+        const auto isContinued = [&] {
+            return next < lines.size() && isContinuation(lines[next], options.keyColumn);
+        };
+        // Most lines aren't, and taking one apart costs as much as writing its cells.
+        if (takesContinuations(text, options.keyColumn) && isContinued()) {
             FoldedLine folded(text);
-            for (; next < lines.size() && isContinuation(lines[next], options.keyColumn); ++next) {
+            for (; isContinued(); ++next) {
                 folded.fold(lines[next]);
                 row.height = std::min(row.height + CONTINUATION_HEIGHT, TrackSizes::LARGEST);
             }
