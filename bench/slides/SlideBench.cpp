@@ -86,6 +86,23 @@ void drawBare(HDC dc, const std::vector<Line>& lines) {
     }
 }
 
+// The slide and the same by the bare platform.
+template <typename DrawBare>
+Versus drawInTurns(const OpenSlide& slide, DcSurface& surface, int repetitions, DrawBare drawBare) {
+    Versus times;
+    for (int i = 0; i < repetitions; ++i) {
+        times.ours.add(timeOf([&] {
+            slide.Draw(surface, 0);
+            GdiFlush();
+        }));
+        times.bare.add(timeOf([&] {
+            drawBare();
+            GdiFlush();
+        }));
+    }
+    return times;
+}
+
 // A fill of 1,000 corners on a circle, which a drawing draws a hundred times over.
 void measureFill(int repetitions) {
     constexpr int CORNERS = 1000, TIMES = 100;
@@ -103,17 +120,9 @@ void measureFill(int repetitions) {
     slide.PrepareDC(surface, {0, 0, WIDTH, HEIGHT}, 0, 0);
     std::vector<POINT> points;
     for (const auto& [x, y] : corners) points.push_back({x, y});
-    Versus times;
-    for (int i = 0; i < repetitions; ++i) {
-        times.ours.add(timeOf([&] {
-            slide.Draw(surface, 0);
-            GdiFlush();
-        }));
-        times.bare.add(timeOf([&] {
-            for (int time = 0; time < TIMES; ++time) Polygon(memory, points.data(), CORNERS);
-            GdiFlush();
-        }));
-    }
+    const Versus times = drawInTurns(slide, surface, repetitions, [&] {
+        for (int time = 0; time < TIMES; ++time) Polygon(memory, points.data(), CORNERS);
+    });
     times.print("slide_100_fills_of_1000_corners");
 }
 
@@ -123,17 +132,7 @@ void measureDrawing(const OpenSlide& slide, const std::vector<Line>& lines, int 
     DcSurface surface(memory);
     slide.PrepareDC(surface, {0, 0, WIDTH, HEIGHT}, 0, 0);
     const SelectedObject pen(memory, GetStockObject(WHITE_PEN));
-    Versus times;
-    for (int i = 0; i < repetitions; ++i) {
-        times.ours.add(timeOf([&] {
-            slide.Draw(surface, 0);
-            GdiFlush();
-        }));
-        times.bare.add(timeOf([&] {
-            drawBare(memory, lines);
-            GdiFlush();
-        }));
-    }
+    const Versus times = drawInTurns(slide, surface, repetitions, [&] { drawBare(memory, lines); });
     times.print("slide_100000_vectors_drawn");
 }
 
