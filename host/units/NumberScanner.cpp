@@ -1,5 +1,6 @@
 #include "host/units/NumberScanner.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <string>
@@ -11,6 +12,15 @@ namespace {
 bool isDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 
 wchar_t upper(wchar_t c) { return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - L'a' + L'A') : c; }
+
+// Of digits, a point and an exponent.
+double valueOf(std::wstring_view text) {
+    const std::string digits(text.begin(), text.end());
+    double value = 0;
+    // Out of range is too large or too small: only the slower function tells which.
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    return read.ec == std::errc() ? value : std::strtod(digits.c_str(), nullptr);
+}
 
 }  // namespace
 
@@ -44,7 +54,7 @@ size_t NumberScanner::digitsFrom(size_t at) const {
 std::optional<double> NumberScanner::wholeNumber() {
     const size_t end = digitsFrom(0);
     if (end == 0) return std::nullopt;
-    const double value = std::strtod(std::string(m_rest.begin(), m_rest.begin() + end).c_str(), nullptr);
+    const double value = valueOf(m_rest.substr(0, end));
     m_rest.remove_prefix(end);
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
@@ -63,7 +73,7 @@ std::optional<double> NumberScanner::number(bool withExponent) {
         if (power < m_rest.size() && (m_rest[power] == L'-' || m_rest[power] == L'+')) ++power;
         if (const size_t last = digitsFrom(power); last > power) end = last;
     }
-    const double value = std::strtod(std::string(m_rest.begin(), m_rest.begin() + end).c_str(), nullptr);
+    const double value = valueOf(m_rest.substr(0, end));
     m_rest.remove_prefix(end);
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }

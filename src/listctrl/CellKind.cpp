@@ -2,11 +2,12 @@
 
 namespace {
 
-constexpr std::wstring_view DIGITS = L"0123456789.-";
-
 CellKind kindOfChar(wchar_t c) {
-    if (DIGITS.find(c) != std::wstring_view::npos) return CellKind::digits;
+    if (c >= L'0' && c <= L'9') return CellKind::digits;
     switch (c) {
+        case L'.':
+        case L'-':
+            return CellKind::digits;
         case L'/':
             return CellKind::slash;
         case L'\'':
@@ -25,10 +26,14 @@ CellKind kindOfChar(wchar_t c) {
 }  // namespace
 
 CellKind cellKindOf(std::wstring_view text) {
-    if (text.find_first_of(DIGITS) == std::wstring_view::npos) return CellKind::text;
-    for (const wchar_t c : text)
-        if (kindOfChar(c) == CellKind::text) return CellKind::text;
-    return kindOfChar(text.back());
+    CellKind kind = CellKind::text;
+    bool hasDigits = false;
+    for (const wchar_t c : text) {
+        kind = kindOfChar(c);
+        if (kind == CellKind::text) return kind;
+        hasDigits |= kind == CellKind::digits;
+    }
+    return hasDigits ? kind : CellKind::text;
 }
 
 int linearUnitOf(CellKind kind) {

@@ -1,7 +1,9 @@
 #include "src/listctrl/CellOrder.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdint>
-#include <numeric>
 #include <type_traits>
 #include <utility>
 
@@ -9,48 +11,46 @@
 
 namespace {
 
+// The first code units of a text, the first one highest, with zeros behind a short text. Two texts whose
+// heads differ compare as the heads do.
+using Head = std::array<uint64_t, 2>;
+
 struct Cell {
-    const CString& text;
-    uint64_t head;  // of the text: two texts whose heads differ compare as the heads do
+    Head head;
+    double distance;  // not a number, which is less than nothing, where there is none
+    int row;
     bool isText;
-    std::optional<double> distance;
 };
 
-// The first code units, the first one highest, with zeros behind a short text.
-uint64_t headOf(const CString& text) {
-    constexpr int BITS = 8 * sizeof(wchar_t);
-    uint64_t head = 0;
-    for (size_t at = 0; at < sizeof(head) / sizeof(wchar_t); ++at)
-        head = head << BITS | (at < text.size() ? static_cast<std::make_unsigned_t<wchar_t>>(text[at]) : 0);
+Head headOf(std::wstring_view text) {
+    constexpr size_t UNITS = sizeof(uint64_t) / sizeof(wchar_t);
+    Head head{};
+    for (size_t at = 0; at < 2 * UNITS; ++at) {
+        uint64_t& part = head[at / UNITS];
+        part = part << 8 * sizeof(wchar_t);
+        if (at < text.size()) part |= static_cast<std::make_unsigned_t<wchar_t>>(text[at]);
+    }
     return head;
 }
 
-Cell readCell(const CString& text, const DistanceParser& parse) {
-    const CellKind kind = cellKindOf(text);
-    if (kind == CellKind::text) return {text, headOf(text), true, std::nullopt};
-    return {text, headOf(text), false, parse(text, linearUnitOf(kind))};
-}
-
-bool isLess(const Cell& a, const Cell& b) {
-    if (a.isText || b.isText) return a.head != b.head ? a.head < b.head : a.text < b.text;
-    return a.distance && b.distance && *a.distance < *b.distance;
-}
-
-bool isSameText(const Cell& a, const Cell& b) { return a.head == b.head && a.text == b.text; }
-
 class CellSort {
   public:
-    CellSort(std::span<const CString> texts, bool ascending, const DistanceParser& parse)
-        : m_ascending(ascending), m_order(texts.size()) {
+    CellSort(std::span<const std::wstring_view> texts, bool ascending, const DistanceParser& parse)
+        : m_texts(texts), m_ascending(ascending) {
         m_cells.reserve(texts.size());
-        for (const CString& text : texts) m_cells.push_back(readCell(text, parse));
-        std::iota(m_order.begin(), m_order.end(), 0);
+        for (const std::wstring_view text : texts) {
+            const CellKind kind = cellKindOf(text);
+            const bool isText = kind == CellKind::text;
+            const auto distance = isText ? std::nullopt : parse(text.data(), linearUnitOf(kind));
+            m_cells.push_back(
+                {headOf(text), distance.value_or(NAN), static_cast<int>(m_cells.size()), isText});
+        }
     }
 
     std::vector<int> run() && {
         // Bad data can nest the ranges as deep as there are rows. Ranges are disjoint, so their order doesn't
         // matter.
-        std::vector<Range> open{{0, static_cast<int>(m_order.size()) - 1}};
+        std::vector<Range> open{{0, static_cast<int>(m_cells.size()) - 1}};
         while (!open.empty()) {
             const Range range = open.back();
             open.pop_back();
@@ -59,7 +59,10 @@ class CellSort {
             open.push_back({range.first, ends.first});
             open.push_back({ends.last, range.last});
         }
-        return std::move(m_order);
+        std::vector<int> order(m_cells.size());
+        std::transform(m_cells.begin(), m_cells.end(), order.begin(),
+                       [](const Cell& cell) { return cell.row; });
+        return order;
     }
 
   private:
@@ -67,36 +70,45 @@ class CellSort {
         int first, last;
     };
 
-    const Cell& at(int row) const { return m_cells[m_order[row]]; }
-    bool goesBefore(int row, int other) const {
-        return m_ascending ? isLess(at(row), at(other)) : isLess(at(other), at(row));
+    bool isTextLess(const Cell& a, const Cell& b) const {
+        return a.head != b.head ? a.head < b.head : m_texts[a.row] < m_texts[b.row];
+    }
+    bool isSameText(const Cell& a, const Cell& b) const {
+        return a.head == b.head && m_texts[a.row] == m_texts[b.row];
+    }
+    bool isLess(const Cell& a, const Cell& b) const {
+        return a.isText || b.isText ? isTextLess(a, b) : a.distance < b.distance;
+    }
+    bool goesBefore(const Cell& cell, const Cell& other) const {
+        return m_ascending ? isLess(cell, other) : isLess(other, cell);
     }
 
     // The end of the left part and the start of the right one.
     Range partition(Range range) {
         // kept: the pivot is a place, not a value. An exchange that moves its row changes what the others are
         // compared with.
-        const int pivot = (range.first + range.last) / 2;
+        const Cell& pivot = m_cells[(range.first + range.last) / 2];
         int i = range.first;
         int j = range.last;
         while (i <= j) {
-            while (i < range.last && goesBefore(i, pivot)) ++i;
-            while (j > range.first && goesBefore(pivot, j)) --j;
+            while (i < range.last && goesBefore(m_cells[i], pivot)) ++i;
+            while (j > range.first && goesBefore(pivot, m_cells[j])) --j;
             if (i > j) break;
-            if (!isSameText(at(i), at(j))) std::swap(m_order[i], m_order[j]);
+            if (!isSameText(m_cells[i], m_cells[j])) std::swap(m_cells[i], m_cells[j]);
             ++i;
             --j;
         }
         return {j, i};
     }
 
+    std::span<const std::wstring_view> m_texts;
     bool m_ascending;
     std::vector<Cell> m_cells;
-    std::vector<int> m_order;
 };
 
 }  // namespace
 
-std::vector<int> sortedOrder(std::span<const CString> cells, bool ascending, const DistanceParser& parse) {
+std::vector<int> sortedOrder(std::span<const std::wstring_view> cells, bool ascending,
+                             const DistanceParser& parse) {
     return CellSort(cells, ascending, parse).run();
 }

@@ -21,7 +21,7 @@ CString columnTitle(const CWnd& list, int column) {
     return title;
 }
 
-CString CellReader::read(LVITEMW& item) {
+std::wstring_view CellReader::read(LVITEMW& item) {
     item.mask |= LVIF_TEXT;
     for (;;) {
         item.pszText = m_buffer.data();
@@ -29,7 +29,7 @@ CString CellReader::read(LVITEMW& item) {
         m_buffer[0] = L'\0';
         m_list.getItem(item);
         // The list may give the text in a place of its own.
-        CString text = item.pszText ? CString(item.pszText) : CString();
+        const std::wstring_view text = item.pszText ? item.pszText : L"";
         if (text.size() + 1 < m_buffer.size()) return text;
         m_buffer.resize(2 * m_buffer.size());
     }
@@ -39,5 +39,5 @@ CString CellReader::text(int row, int column) {
     LVITEMW item{};
     item.iItem = row;
     item.iSubItem = column;
-    return read(item);
+    return CString(read(item));
 }

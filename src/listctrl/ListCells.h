@@ -1,6 +1,8 @@
 // What stands in the cells of a list control.
 #pragma once
 
+#include <string_view>
+
 #include "src/platform/base/CString.h"
 #include "src/platform/mfc/Controls.h"
 
@@ -16,8 +18,9 @@ class CellReader {
   public:
     explicit CellReader(CListCtrl& list) : m_list(list), m_buffer(256, L'\0') {}
 
-    // Fills `item` as LVM_GETITEM does by its mask, row and column, and gives the text.
-    CString read(LVITEMW& item);
+    // Fills `item` as LVM_GETITEM does by its mask, row and column, and gives the text, which holds until the
+    // next one is read.
+    std::wstring_view read(LVITEMW& item);
     CString text(int row, int column);
 
   private:

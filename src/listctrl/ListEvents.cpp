@@ -20,9 +20,9 @@ int rowAt(const CWnd& list, POINT at) {
     return static_cast<int>(list.SendMessage(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
 }
 
-std::optional<double> hostDistance(const CString& text, int unit) {
+std::optional<double> hostDistance(const wchar_t* text, int unit) {
     double value = 0;
-    return hostDisToF(text.c_str(), unit, &value) == HOST_NORMAL ? std::optional(value) : std::nullopt;
+    return hostDisToF(text, unit, &value) == HOST_NORMAL ? std::optional(value) : std::nullopt;
 }
 
 bool isControlAlone() {

@@ -1,23 +1,49 @@
 #include "src/listctrl/ListSort.h"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "src/listctrl/ListCells.h"
 #include "src/platform/mfc/RedrawHold.h"
 
 namespace {
 
+// What a sort reads of the rows, in one pass: the texts of its column and the item data.
+class ReadRows {
+  public:
+    ReadRows(CListCtrl& list, int column) {
+        const int count = rowCount(list);
+        CellReader reader(list);
+        std::vector<size_t> ends;
+        for (int row = 0; row < count; ++row) {
+            LVITEMW item{};
+            item.mask = LVIF_PARAM;
+            item.iItem = row;
+            item.iSubItem = column;
+            (m_texts += reader.read(item)) += L'\0';
+            ends.push_back(m_texts.size() - 1);
+            data.push_back(item.lParam);
+        }
+        size_t begin = 0;
+        for (const size_t end : ends) {
+            cells.emplace_back(&m_texts[begin], end - begin);
+            begin = end + 1;
+        }
+    }
+
+    std::vector<std::wstring_view> cells;  // each with a zero behind it
+    std::vector<LPARAM> data;
+
+  private:
+    std::wstring m_texts;
+};
+
 // The item data of the rows while the control sorts them by it: a number of its own for each row.
 class RowNumbers {
   public:
-    explicit RowNumbers(CListCtrl& list) : m_list(list), m_data(rowCount(list)) {
-        LVITEMW item{};
-        item.mask = LVIF_PARAM;
-        for (; item.iItem < static_cast<int>(m_data.size()); ++item.iItem) {
-            m_list.getItem(item);
-            m_data[item.iItem] = item.lParam;
-        }
-    }
+    RowNumbers(CListCtrl& list, const std::vector<LPARAM>& data) : m_list(list), m_data(data) {}
 
     // Row `order[at]` goes to place `at`. All that a row has moves with it.
     void sort(const std::vector<int>& order) {
@@ -64,26 +90,20 @@ class RowNumbers {
     }
 
     CListCtrl& m_list;
-    std::vector<LPARAM> m_data;
+    const std::vector<LPARAM>& m_data;
     LPARAM m_least = 0;
     std::vector<int> m_ranks;  // by number, from the least one on; -1 for a number that no row has
 };
-
-std::vector<CString> textsOf(CListCtrl& list, int column) {
-    CellReader reader(list);
-    std::vector<CString> texts(rowCount(list));
-    for (size_t row = 0; row < texts.size(); ++row) texts[row] = reader.text(static_cast<int>(row), column);
-    return texts;
-}
 
 }  // namespace
 
 bool sortRows(CListCtrl& list, int column, bool ascending, const DistanceParser& parse) {
     if (column >= columnCount(list) || (list.GetStyle() & LVS_OWNERDATA)) return false;
-    const std::vector<int> order = sortedOrder(textsOf(list, column), ascending, parse);
+    const ReadRows rows(list, column);
+    const std::vector<int> order = sortedOrder(rows.cells, ascending, parse);
     if (std::is_sorted(order.begin(), order.end())) return true;
     holdRedraw(list.m_hWnd);
-    RowNumbers(list).sort(order);
+    RowNumbers(list, rows.data).sort(order);
     return true;
 }
 

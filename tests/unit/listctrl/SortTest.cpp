@@ -8,6 +8,10 @@ namespace {
 
 using Cells = std::vector<CString>;
 
+std::vector<int> sortedOrder(const Cells& cells, bool ascending, const DistanceParser& parse) {
+    return ::sortedOrder(std::vector<std::wstring_view>(cells.begin(), cells.end()), ascending, parse);
+}
+
 // Reads any text in any unit, or fails at it, each time in its own way.
 std::optional<double> parseOddly(const std::wstring& text, int unit) {
     const size_t number = std::hash<std::wstring>()(text + std::to_wstring(unit)) % 97;
@@ -31,7 +35,7 @@ TEST(CellOrder, ComesOutAsThePlainProcedureForAnyTable) {
 TEST(CellOrder, AnyComparisonComesToAnEnd) {
     const Cells cells(3000, L"1");
     int calls = 0;
-    const auto rising = [&](const CString&, int) { return std::optional<double>(++calls); };
+    const auto rising = [&](const wchar_t*, int) { return std::optional<double>(++calls); };
     EXPECT_EQ(sortedOrder(cells, true, rising).size(), cells.size());
     EXPECT_EQ(calls, 3000) << "each text is parsed once";
     Cells alternating;
