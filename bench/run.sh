@@ -15,7 +15,8 @@ start_wine headless
 built=$root/build/windows
 rows=$(mktemp)
 printer=$(mktemp -d)
-trap 'stop_printer; rm -rf "$rows" "$printer"; stop_wine' EXIT
+packed=$(mktemp -d)
+trap 'stop_printer; rm -rf "$rows" "$printer" "$packed"; stop_wine' EXIT
 chmod 755 "$printer"
 start_printer "$printer"
 
@@ -38,8 +39,10 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
         -e "(host_load_plugin \"$built/bench/product/bench.pgx\")" \
         -e "(setq bench-templates \"$built/bin/WexDialogsRes.dll\")" \
         -e "(setq bench-picture \"$built/bench/product/large.bmp\")" \
-        rows.lsp dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp trees.lsp grids.lsp lookup.lsp records.lsp images.lsp
+        rows.lsp dialogs.lsp all_dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp trees.lsp grids.lsp lookup.lsp records.lsp images.lsp
     "$root/bench/databases.sh"
+    "$root/bench/start.sh"
+    "$root/tools/package.sh" "$packed" | sed 's/.*\///; s/^/package  /'
 } | tr -d '\r' | tee "$rows"
 
 # ratio OURS THEIRS: of the medians

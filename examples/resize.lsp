@@ -1,5 +1,6 @@
 ; A form that resizes well. Every tile has an anchor code, a sum of weights: 25 lets the right edge follow that of the
-; dialog, 38 the lower edge, 10 the left one, 75 moves the tile with the corner. Tiles without one stay where they are.
+; dialog, 38 the lower edge, 10 the left one, 75 moves the tile with the corner. A tile without one has that of its template, if
+; there is one, or stays where it is.
 ; The dialog can't become too small to work with, and comes back in the size in which it went.
 
 (setq anchors '(("CAT" 25)         ; grows to the right

@@ -17,8 +17,7 @@ while read -r name; do
     printf '(wex_new_dialog "%s") (wex_start_dialog)\n' "$name"
 done <"$work/names" >"$work/shots.lsp"
 rm -f $pictures/*.png
-# Without the sizes of earlier runs.
-wine64 reg.exe delete 'HKCU\Software\WexDialogs' /f >/dev/null 2>&1 || true
+forget_dialog_sizes
 host --headless --timeout 200 --shots "$pictures" "$work/shots.lsp"
 
 {

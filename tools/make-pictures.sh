@@ -3,8 +3,11 @@
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 folder=${1:-$root/docs/images}
+. "$root/tools/wine-env.sh"
+start_wine headless
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+trap 'rm -rf "$work"; stop_wine' EXIT
+forget_dialog_sizes
 
 # picture NAME PROGRAM SHOT: the picture of that name is one that the session of a program takes
 picture() {

@@ -54,6 +54,9 @@ stop_wine_processes() {
     rm -f "$WINEPREFIX".{xvfb,display}
 }
 
+# Dialogs then open in the size of their template, not in that of an earlier run.
+forget_dialog_sizes() { wine64 reg.exe delete 'HKCU\Software\WexDialogs' /f >/dev/null 2>&1 || true; }
+
 # An X display on a number that the X server picks itself.
 start_xvfb() {
     local fifo="$WINEPREFIX.fifo"

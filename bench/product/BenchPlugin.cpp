@@ -77,6 +77,15 @@ int32_t bareLookup() {
     });
 }
 
+// (bench_dialog_name id): of the product's dialog with that number; "" for none
+int32_t dialogName() {
+    wchar_t keys[1500] = L"";
+    LoadStringW(GetModuleHandleW(L"WexDialogs.pgx"), static_cast<UINT>(argument(0)), keys, std::size(keys));
+    if (wchar_t* comma = std::wcschr(keys, L',')) *comma = L'\0';
+    hostRetStr(keys);
+    return RESULT_SET;
+}
+
 // (bench_bare_open_close "module" id): a dialog from there
 int32_t openCloseBare() {
     const HMODULE module = LoadLibraryExW(textArgument(0), nullptr, LOAD_LIBRARY_AS_DATAFILE);
@@ -352,6 +361,7 @@ constexpr struct {
     {L"bench_click", &click},
     {L"bench_bare_lookup", &bareLookup},
     {L"bench_nothing", &nothing},
+    {L"bench_dialog_name", &dialogName},
     {L"bench_bare_open_close", &openCloseBare},
     {L"bench_bare_open_rows", &openRowsBare},
     {L"bench_bare_shown", &shownBare},

@@ -27,6 +27,7 @@ constexpr uint32_t BUTTON_KIND = 0xF;
 constexpr uint32_t GROUP_BOX = 0x7;
 constexpr uint32_t STATIC_KIND = 0x1F;
 constexpr uint32_t NO_PREFIX = 0x80;
+constexpr uint32_t MULTI_LINE_EDIT = 0x4;
 constexpr uint32_t CENTER_IMAGE = 0x200;
 constexpr uint32_t MULTI_LINE_BUTTON = 0x2000;
 constexpr uint32_t PICTURE_BUTTON = 0xC0;
@@ -35,6 +36,8 @@ constexpr uint32_t PICTURE_BUTTON = 0xC0;
 constexpr int PUSH_BUTTON_BORDER = 4;
 constexpr int CHECK_MARK_WIDTH = 12;
 constexpr int GROUP_BOX_BORDER = 12;
+// Those above and below the text.
+constexpr int EDIT_BORDERS = 2;
 
 using Words = std::vector<std::wstring>;
 
@@ -230,6 +233,13 @@ std::optional<TextRoom> roomFor(const DialogTemplateControl& control) {
     return std::nullopt;
 }
 
+// A line of text in an edit box, whatever it says.
+bool isTooLow(const DialogTemplateControl& control, const FitsRoom& fits) {
+    const int within = control.height - EDIT_BORDERS;
+    return equalIgnoringCase(control.className, L"Edit") && !(control.style & MULTI_LINE_EDIT) &&
+           !fits(L"Ag", {control.width, within});
+}
+
 void checkClasses(const DialogTemplate& dialog, const DialogSurroundings& surroundings, Words& found) {
     for (const DialogTemplateControl& control : dialog.controls)
         if (!surroundings.knowsClass(control.className))
@@ -247,6 +257,8 @@ Words findClippedTexts(const DialogTemplate& dialog, const DialogSurroundings& s
         if (room && !isIcon && !control.text.empty() && !surroundings.fits(control.text, *room))
             found.push_back(nameOf(control.id) + L" cuts off its text " + quoted(control.text) +
                             L": make it larger, or the text shorter");
+        if (isTooLow(control, surroundings.fits))
+            found.push_back(nameOf(control.id) + L" is too low for a line of text: make it higher");
     }
     return found;
 }

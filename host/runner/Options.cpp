@@ -26,8 +26,8 @@ class Parser {
     void fail(const std::wstring& why) { m_options.error = why; }
 
     bool waitsForNobody() const {
-        const bool ends =
-            m_options.help || m_options.showDialogs || m_options.checkDialogs || m_options.interactive;
+        const bool ends = m_options.help || m_options.version || m_options.showDialogs ||
+                          m_options.checkDialogs || m_options.interactive;
         return m_options.headless && m_options.steps.empty() && !ends;
     }
 
@@ -75,6 +75,8 @@ class Parser {
             m_options.interactive = true;
         } else if (argument == L"--help" || argument == L"-h") {
             m_options.help = true;
+        } else if (argument == L"--version") {
+            m_options.version = true;
         } else if (argument == L"--dialogs") {
             m_options.showDialogs = true;
         } else if (argument == L"--check-dialogs") {
@@ -125,6 +127,7 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --check-dialogs [MODULE]...
                      check key lists and dialog templates, and how the dialogs look
   --help             print this text
+  --version          print the version
   --                 what follows are files
 
 Exit status: 0 done; 1 a Lisp error; 2 bad usage; 3 a session ended with its dialog still open;

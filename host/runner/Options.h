@@ -17,6 +17,7 @@ struct Options {
     bool play = false;
     bool interactive = false;
     bool help = false;
+    bool version = false;
     bool showDialogs = false;
     bool checkDialogs = false;
     double timeoutSeconds = 0;  // 0: no limit

@@ -211,6 +211,10 @@ int hostRun(int count, wchar_t** arguments) {
         host().console().print(usage());
         return 0;
     }
+    if (options.version) {
+        host().console().print(L"wexhost " WEX_VERSION L"\n");
+        return 0;
+    }
     if (options.showDialogs) return showDialogs(options.dialogs);
     if (options.checkDialogs) return checkDialogs(systemPaths(options.modules));
     std::optional<Watchdog> watchdog;

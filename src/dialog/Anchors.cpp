@@ -1,7 +1,9 @@
 #include "src/dialog/Anchors.h"
 
-AnchorOffsets anchorOffsets(int code, const PixelRect& control, int width, int height) {
+AnchorOffsets anchorOffsets(int code, const PixelRect& control, int width, int height, HeightShares shares) {
     AnchorOffsets offsets;
+    offsets.heightAtStart = height;
+    offsets.shares = shares;
     const auto takes = [&code](int weight) {
         if (code < weight) return false;
         code -= weight;
@@ -22,10 +24,13 @@ PixelRect anchored(PixelRect control, const AnchorOffsets& offsets, int width, i
     const auto follow = [](int32_t& edge, int32_t offset, int size) {
         if (offset > AnchorOffsets::UNANCHORED) edge = size - offset;
     };
+    const auto sharedHeight = [&](int percent) {
+        return offsets.heightAtStart + (height - offsets.heightAtStart) * percent / 100;
+    };
     follow(control.left, offsets.left, width);
     follow(control.right, offsets.right, width);
-    follow(control.top, offsets.top, height);
-    follow(control.bottom, offsets.bottom, height);
+    follow(control.top, offsets.top, sharedHeight(offsets.shares.top));
+    follow(control.bottom, offsets.bottom, sharedHeight(offsets.shares.bottom));
     const auto centre = [](int32_t& low, int32_t& high, int32_t offset, int size) {
         if (offset <= AnchorOffsets::UNANCHORED) return;
         const int32_t kept = high - low;

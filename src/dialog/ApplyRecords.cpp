@@ -37,7 +37,9 @@ void WexDialog::takeTemplateAnchors() {
     for (size_t at = 0; at < m_tiles.size(); ++at) {
         CCtrlInfo& tile = *m_tiles.at(at);
         const auto anchor = anchors.find(tile.m_ctrlId);
-        if (tile.m_resizeCode == -1 && anchor != anchors.end()) tile.m_resizeCode = anchor->second;
+        if (tile.m_resizeCode != -1 || anchor == anchors.end()) continue;
+        tile.m_resizeCode = anchor->second.code;
+        tile.m_heightShares = anchor->second.shares;
     }
     const SizeLimits unset;
     if (m_limits.minWidth != unset.minWidth || m_limits.minHeight != unset.minHeight) return;

@@ -56,4 +56,5 @@ struct CCtrlInfo : CObject {
     CString m_controlType;  // the type word that discovery gave
     bool m_dblClickEnabled = true;
     AnchorOffsets m_anchorOffsets;
+    HeightShares m_heightShares;
 };

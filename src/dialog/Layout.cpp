@@ -29,8 +29,9 @@ void redraw(HWND dialog, HRGN where = nullptr) {
 void WexDialog::computeAnchors(const CWnd& control, CCtrlInfo& tile) {
     if (tile.m_resizeCode == -1) return;
     m_resizable = true;
-    tile.m_anchorOffsets = anchorOffsets(tile.m_resizeCode, pixelRect(control.rectInParent()),
-                                         m_initialClientRect.right, m_initialClientRect.bottom);
+    tile.m_anchorOffsets =
+        anchorOffsets(tile.m_resizeCode, pixelRect(control.rectInParent()), m_initialClientRect.right,
+                      m_initialClientRect.bottom, tile.m_heightShares);
 }
 
 // A dialog whose size is its own starts where it was, and not smaller than it may be.

@@ -2,9 +2,9 @@
 
 #include "src/platform/mfc/ModuleState.h"
 
-std::map<int, int> templateAnchors(HMODULE module, UINT templateId) {
+std::map<int, TemplateAnchor> templateAnchors(HMODULE module, UINT templateId) {
     constexpr wchar_t TYPE[] = L"WEX_ANCHORS";
-    std::map<int, int> anchors;
+    std::map<int, TemplateAnchor> anchors;
     const wchar_t* name = MAKEINTRESOURCEW(templateId);
     if (!module) module = AfxFindResourceHandle(name, TYPE);
     // Without a module the system would search the host's executable.
@@ -12,6 +12,7 @@ std::map<int, int> templateAnchors(HMODULE module, UINT templateId) {
     if (!resource) return anchors;
     const auto* numbers = static_cast<const WORD*>(LockResource(LoadResource(module, resource)));
     const size_t count = SizeofResource(module, resource) / sizeof *numbers;
-    for (size_t at = 0; at + 1 < count; at += 2) anchors.emplace(numbers[at], numbers[at + 1]);
+    for (size_t at = 0; at + 3 < count; at += 4)
+        anchors.emplace(numbers[at], TemplateAnchor{numbers[at + 1], {numbers[at + 2], numbers[at + 3]}});
     return anchors;
 }

@@ -51,19 +51,50 @@ END
 
 IDD_ROWS WEX_ANCHORS
 BEGIN
-    121, 25,
-    122, 63,
-    123, 64,
-    124, 39,
-    125, 64,
-    126, 75,
-    2, 75
+    121, 25, 100, 100,
+    122, 63, 100, 100,
+    123, 64, 100, 100,
+    124, 39, 100, 100,
+    125, 64, 100, 100,
+    126, 75, 100, 100,
+    2, 75, 100, 100
 END
 EOF
 tools/dialogs/make-dialogs.py "$work/made" "$work/ROWS.dlg"
 sed 1d "$work/made/ROWS.rc" | same template
 echo '    IDD_ROWS "ROWS,Cancel,,,,,,,,,,A,B,LST,FRAME,ONE,TWO,GO"' >"$work/keys.wanted"
 grep ROWS "$work/made/keylists.rc" | same keys
+
+# What grows one above the other has like shares of the height; a control written by itself states its own.
+cat >"$work/SHARES.dlg" <<'EOF'
+2001 DIALOGEX 200
+BEGIN
+    row list A
+    row text B "b"
+    columns
+        row list C
+        row list D
+    next
+        row tree E
+    end
+END
+EOF
+cat >"$work/OWN.dlg" <<'EOF'
+2002 DIALOGEX 0, 0, 200, 100
+BEGIN
+    CONTROL "", A, "ListBox", LBS_NOTIFY, 7, 7, 186, 40 ANCHOR 63 SHARE 0 40
+END
+EOF
+cat >"$work/anchors.wanted" <<'EOF'
+    110, 63, 100, 50,
+    111, 64, 50, 50,
+    112, 39, 50, 75,
+    113, 39, 75, 100,
+    114, 64, 50, 100
+    110, 63, 0, 40
+EOF
+tools/dialogs/make-dialogs.py "$work/made" "$work"/{SHARES,OWN}.dlg
+grep -hE '^    [0-9]+, ' "$work"/made/{SHARES,OWN}.rc | same anchors
 
 complains "1: the id 1499 isn't between 1500 and 3999" <<<'1499 DIALOGEX 200'
 complains "2: expected STYLE" <<<$'2000 DIALOGEX 200\nCAPTION Hello'

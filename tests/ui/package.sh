@@ -42,6 +42,9 @@ for page in README.html docs/lisp-functions.html; do
     done
 done
 
+told=$(wine64 wexhost.exe --version | tr -d '\r')
+[ "$told" = "wexhost ${PWD##*-}" ] || fail "--version tells \"$told\""
+
 status=0
 wine64 wexhost.exe --headless --timeout 120 --shots "$work" 'examples\showcase.lsp' >"$work/printed" || status=$?
 diff -u "$expected" <(tr -d '\r' <"$work/printed") || fail "the unpacked product prints something else"

@@ -25,9 +25,10 @@ def template(dialog):
                      + (f"  // {control.key}" if control.key else ""))
     lines.append("END")
     if anchors := dialog.anchors():
-        # Read by the plug-in: pairs of a control's id and its anchor code.
+        # Read by the plug-in: a control's id, its anchor code, and the percents of the growth in height that its top
+        # and its bottom follow.
         lines += ["", f"IDD_{dialog.name} WEX_ANCHORS", "BEGIN"]
-        lines += [f"    {id}, {code}," for id, code in anchors]
+        lines += ["    " + ", ".join(map(str, anchor)) + "," for anchor in anchors]
         lines[-1] = lines[-1].rstrip(",")
         lines.append("END")
     return lines

@@ -37,6 +37,7 @@ class Control:
     rect: tuple
     ex_style: str = ""
     anchor: int = -1
+    shares: tuple = (100, 100)
 
     @property
     def id(self):
@@ -62,7 +63,7 @@ class Dialog:
         return ",".join([self.name] + [keys.get(place, "") for place in range(FIRST_KEY_ID, last + 1)])
 
     def anchors(self):
-        return [(control.id, control.anchor) for control in self.controls if control.anchor >= 0]
+        return [(control.id, control.anchor, *control.shares) for control in self.controls if control.anchor >= 0]
 
 
 def split_named(line, word):
@@ -150,7 +151,7 @@ class Reader:
             dialog.style += " | WS_THICKFRAME"
 
     def read_control(self, line, text):
-        match = re.fullmatch(r"CONTROL (.*?)(?: ANCHOR (\d+))?", text)
+        match = re.fullmatch(r"CONTROL (.*?)(?: ANCHOR (\d+)(?: SHARE (\d+) (\d+))?)?", text)
         parts = split_at_commas(match[1])
         if len(parts) not in (8, 9):
             raise Mistake(line, 'write CONTROL "text", KEY, "class", styles, x, y, width, height[, extended styles]')
@@ -162,13 +163,14 @@ class Reader:
             if not re.fullmatch(r"-?\d+", number):
                 raise Mistake(line, f"{number} stands where a number is expected")
         key, place = split_named(line, named)
+        shares = (int(match[3]), int(match[4])) if match[3] else (100, 100)
         return Control(line, caption, key, place, window_class, style, tuple(map(int, rest[:4])),
-                       rest[4] if len(rest) == 5 else "", int(match[2]) if match[2] else -1)
+                       rest[4] if len(rest) == 5 else "", int(match[2]) if match[2] else -1, shares)
 
     def placed_control(self, item):
         key, place = split_named(item.line, item.named)
         return Control(item.line, item.text, key, place, f'"{item.kind.window_class}"', item.style(), item.rect,
-                       item.kind.ex_style, item.anchor)
+                       item.kind.ex_style, *item.anchor)
 
 
 def give_ids(dialog):

@@ -15,10 +15,12 @@ BETWEEN_COLUMNS = 8
 # How far a control stands below the top of a row of boxes, of a row of buttons.
 TEXT_BELOW_BOX, TEXT_BELOW_BUTTON, CHECK_BELOW = 2, 3, 2
 
-# Parts of an anchor code, see docs/lisp-functions.md: what follows the right edge, what the lower one.
+# Parts of an anchor code, see docs/lisp-functions.md: what follows the right edge; then a top and a bottom that follow the
+# lower edge.
 STAYS, GROWS_ACROSS, MOVES_ACROSS = 0, 25, 35
-GROWS_DOWN, MOVES_DOWN = 38, 39
+MOVES_TOP, MOVES_BOTTOM = 1, 38
 WITH_CORNER = 75
+ALL = 100
 
 
 @dataclass(frozen=True)
@@ -81,7 +83,7 @@ class Item:
     group: bool = False
     is_default: bool = False
     rect: tuple = ()
-    anchor: int = -1
+    anchor: tuple = (-1, (ALL, ALL))  # the code, and the shares of the top and the bottom
 
     @property
     def kind(self):
@@ -104,10 +106,19 @@ class Item:
         return style
 
 
-def sum_anchor(across, down):
-    if (across, down) == (MOVES_ACROSS, MOVES_DOWN):
-        return WITH_CORNER
-    return across + down or -1
+def anchor(across, down):
+    """The code, and the percents of the dialog's growth in height that top and bottom follow; `down` gives 0 for an edge
+    that stays."""
+    top, bottom = down
+    code = across + (MOVES_TOP if top else 0) + (MOVES_BOTTOM if bottom else 0)
+    if code == MOVES_ACROSS + MOVES_TOP + MOVES_BOTTOM:
+        code = WITH_CORNER
+    return code or -1, (top or ALL, bottom or ALL)
+
+
+def at_top_of(down):
+    """Of something that doesn't grow, at the top of what does."""
+    return down[0], down[0]
 
 
 class Row:
@@ -151,8 +162,7 @@ class Row:
             if item.name != "space":
                 self.place_item(item, x, y, item_width, placed)
                 own = GROWS_ACROSS if across == GROWS_ACROSS and item is last_flexible else moved
-                item.anchor = sum_anchor(own, MOVES_DOWN if down == GROWS_DOWN and not item.grows
-                                         and item.shape() != "tall" else down)
+                item.anchor = anchor(own, down if item.shape() == "tall" else at_top_of(down))
             if item is last_flexible and across == GROWS_ACROSS:
                 moved = MOVES_ACROSS
             x += item_width + gap
@@ -192,13 +202,15 @@ class Block:
 
     def place(self, x, y, width, across, down, placed):
         growing = [part for part in self.parts if part.grows]
-        last_growing = growing[-1] if growing else None
-        moved = STAYS if down == GROWS_DOWN else down
+        top, bottom = down
         for index, part in enumerate(self.parts):
             y += self.gap(index)
-            part.place(x, y, width, across, down if part is last_growing else moved, placed)
-            if part is last_growing and down == GROWS_DOWN:
-                moved = MOVES_DOWN
+            # Those that grow have like shares of what the block has.
+            end = top + (bottom - top) // len(growing) if part.grows else top
+            if part.grows:
+                growing.remove(part)
+            part.place(x, y, width, across, (top, end), placed)
+            top = end
             y += part.height()
 
 
@@ -210,7 +222,7 @@ def gap_between(before, part):
     if "frame" in (before.shape, part.shape) or before.shape == "columns":
         return BELOW_FRAME
     if part.shape == "columns":
-        return 5
+        return 2 if before.shape == "text" and before.begins_with_label else 5
     if before.shape == "text":
         is_labeled = getattr(part, "begins_with_label", False)
         if before.begins_with_label:
@@ -235,7 +247,7 @@ class Frame(Block):
 
     def place(self, x, y, width, across, down, placed):
         self.item.rect = (x, y, width, self.height())
-        self.item.anchor = sum_anchor(across, down if self.grows or down != GROWS_DOWN else STAYS)
+        self.item.anchor = anchor(across, down)
         placed.append(self.item)
         super().place(x + FRAME_SIDE, y + FRAME_TOP, width - 2 * FRAME_SIDE, across, down, placed)
 
@@ -265,8 +277,7 @@ class Columns:
         moved = STAYS if across == GROWS_ACROSS else across
         for block, own in zip(self.blocks, widths):
             is_growing = block is growing[-1]
-            block.place(x, y, own or share, across if is_growing else moved, down if block.grows else (
-                STAYS if down == GROWS_DOWN else down), placed)
+            block.place(x, y, own or share, across if is_growing else moved, down if block.grows else at_top_of(down), placed)
             if is_growing and across == GROWS_ACROSS:
                 moved = MOVES_ACROSS
             x += (own or share) + BETWEEN_COLUMNS
@@ -375,7 +386,7 @@ class Rows:
         placed = []
         grows = self.block.grows
         self.block.place(EDGE, EDGE, self.width - 2 * EDGE, GROWS_ACROSS if grows else STAYS,
-                         GROWS_DOWN if grows else STAYS, placed)
+                         (0, ALL if grows else 0), placed)
         self.height = EDGE + self.block.height() + EDGE
         mark_groups(placed)
         return placed

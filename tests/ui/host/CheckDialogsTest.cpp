@@ -25,6 +25,8 @@ TEST(CheckDialogs, tellsWhatIsWrongInKeyListsTemplatesAndRoomForTexts) {
              "ODD_LOOKS: control 115 lies outside of the dialog",
              // Gray on the dialog's gray is too pale under Wine; other systems may have stronger grays.
              "ODD_LOOKS: control 117 shows its text at a contrast of ",
+             "ODD_LOOKS: control 118 cuts off its text",
+             "ODD_LOOKS: control 119 is too low for a line of text",
              "Odd.dll: template 2007 has no key list",
              "note: Odd.dll has key lists without a template: ODD_NO_TEMPLATE, ODD_LONG\n",
          })

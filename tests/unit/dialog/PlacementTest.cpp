@@ -126,6 +126,15 @@ TEST(Anchors, CentresAreHalvesThatAreCutEach) {
               (PixelRect{10, 330 / 2 - 20 - (300 - 20 - 61), 111, 330 / 2 - 20 - (300 - 20 - 61) + 41}));
 }
 
+TEST(Anchors, TwoListsOneAboveTheOtherShareTheHeight) {
+    const auto grownBy = [](const PixelRect& list, HeightShares shares, int code) {
+        return anchored(list, anchorOffsets(code, list, 400, 300, shares), 450, 331);
+    };
+    EXPECT_EQ(grownBy({10, 20, 110, 100}, {0, 50}, 63), (PixelRect{10, 20, 160, 115}));
+    EXPECT_EQ(grownBy({10, 110, 110, 124}, {50, 50}, 39), (PixelRect{10, 125, 110, 139}));
+    EXPECT_EQ(grownBy({10, 130, 110, 290}, {50, 100}, 64), (PixelRect{10, 145, 160, 321}));
+}
+
 TEST(Anchors, AnEdgeTooFarOutsideDoesNotFollow) {
     const PixelRect outside{20000, 20, 20100, 60};
     EXPECT_EQ(anchored(outside, anchorOffsets(35, outside, 400, 300), 450, 300), outside);
