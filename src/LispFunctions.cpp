@@ -1,7 +1,10 @@
 #include "src/LispFunctions.h"
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
+#include "src/LispSignatures.h"
 #include "src/dialog/DialogFunctions.h"
 #include "src/grid/CellFunctions.h"
 #include "src/grid/GridFunctions.h"
@@ -116,6 +119,12 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_fp_savedb", withAnyArguments<recordsForgetChanges>},
 };
 static_assert(std::size(rows) == 94);
+static_assert(std::equal(std::begin(rows), std::end(rows), std::begin(LISP_SIGNATURES),
+                         std::end(LISP_SIGNATURES),
+                         [](const WexLispFunctionRow& row, const wchar_t* signature) {
+                             return std::wstring_view(row.name) == signatureName(signature);
+                         }),
+              "each row has its signature");
 
 constexpr auto slots = [] {
     std::array<const WexLispFunctionRow*, std::size(rows)> pointers{};

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "src/LispFunctions.h"
+#include "src/LispSignatures.h"
 #include "src/dialog/WexDialog.h"
 #include "src/platform/gridlib/GridWindowClass.h"
 #include "src/platform/host/HostPlugin.h"
@@ -53,6 +54,11 @@ __declspec(dllexport) HWND pluginFindWindow(const wchar_t* dialogName, const wch
     releaseRedraw();  // who asks for a window is about to look at it, or to work it
     if (!key && id == -1) return dialog->m_hWnd;
     return ::GetDlgItem(dialog->m_hWnd, key ? dialog->idForKey(key) : id);
+}
+
+__declspec(dllexport) const wchar_t* pluginLispSignature(int32_t index) {
+    const bool exists = index >= 0 && static_cast<size_t>(index) < std::size(LISP_SIGNATURES);
+    return exists ? LISP_SIGNATURES[index] : nullptr;
 }
 
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds) {

@@ -77,6 +77,13 @@ HWND Documents::findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id
     return nullptr;
 }
 
+std::vector<std::wstring> Documents::signatures() const {
+    std::vector<std::wstring> all;
+    for (const auto& plugin : m_plugins)
+        for (std::wstring& signature : plugin->signatures()) all.push_back(std::move(signature));
+    return all;
+}
+
 bool Documents::define(const std::wstring& name, int code) {
     if (!m_current || !lisp::isWord(lispText(name))) return false;
     const std::wstring key = toLower(name);

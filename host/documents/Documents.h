@@ -59,6 +59,9 @@ class Documents final : public HostDocManager {
     // The window that a plug-in knows under this address; see PLUGIN_FIND_WINDOW in HostPlugin.h.
     HWND findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id) const;
 
+    // What the functions of the plug-ins take, as far as the plug-ins tell.
+    std::vector<std::wstring> signatures() const;
+
     // What hostDefun, hostRegFunc and hostUndef do, on behalf of the plug-in that is being told something or
     // called. One plug-in can't undefine what is another's.
     bool define(const std::wstring& name, int code);

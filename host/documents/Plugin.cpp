@@ -25,6 +25,7 @@ Plugin::Plugin(const std::wstring& path)
     if (!m_module) refuse(L" can't be loaded as a plug-in");
     m_entry = exported<EntryPoint>(m_module, PLUGIN_ENTRY_POINT);
     m_findWindow = exported<FindTileWindow>(m_module, PLUGIN_FIND_WINDOW);
+    m_lispSignature = exported<LispSignature>(m_module, PLUGIN_LISP_SIGNATURE);
     const auto version = exported<ApiVersion>(m_module, PLUGIN_GET_API_VERSION);
     if (!m_entry || !version) refuse(L" is no plug-in: it lacks pluginEntryPoint or pluginGetApiVersion");
     if (version() != HOST_API_VERSION) refuse(L" is built for another version of this host");
@@ -46,4 +47,12 @@ int32_t Plugin::send(PluginMessage message) {
 
 HWND Plugin::findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id) const {
     return m_findWindow ? m_findWindow(dialog, key, id) : nullptr;
+}
+
+std::vector<std::wstring> Plugin::signatures() const {
+    std::vector<std::wstring> signatures;
+    if (!m_lispSignature) return signatures;
+    while (const wchar_t* signature = m_lispSignature(static_cast<int32_t>(signatures.size())))
+        signatures.push_back(signature);
+    return signatures;
 }

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "src/platform/host/HostPlugin.h"
 
@@ -26,6 +27,9 @@ class Plugin {
     // As PLUGIN_FIND_WINDOW in HostPlugin.h; null where the plug-in doesn't export it.
     HWND findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id) const;
 
+    // As PLUGIN_LISP_SIGNATURE in HostPlugin.h; none where the plug-in doesn't export it.
+    std::vector<std::wstring> signatures() const;
+
     void allowUnload() { m_unloadable = true; }
     bool isUnloadable() const { return m_unloadable; }
     void allowSeveralDocuments() { m_severalDocuments = true; }
@@ -35,11 +39,13 @@ class Plugin {
     using EntryPoint = int32_t (*)(int32_t message, void* packet);
     using ApiVersion = uint32_t (*)();
     using FindTileWindow = HWND (*)(const wchar_t* dialog, const wchar_t* key, int32_t id);
+    using LispSignature = const wchar_t* (*)(int32_t index);
 
     std::wstring m_name;
     HMODULE m_module;
     EntryPoint m_entry = nullptr;
     FindTileWindow m_findWindow = nullptr;
+    LispSignature m_lispSignature = nullptr;
     bool m_unloadable = false;
     bool m_severalDocuments = false;
 };

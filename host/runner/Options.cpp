@@ -12,6 +12,7 @@ class Parser {
 
     Options parse() {
         while (!m_rest.empty() && m_options.error.empty()) take(next());
+        if (m_options.error.empty() && m_options.check) checkOperands();
         if (m_options.error.empty() && waitsForNobody()) fail(L"--headless needs a program, -e or -i");
         return m_options;
     }
@@ -24,6 +25,12 @@ class Parser {
     }
 
     void fail(const std::wstring& why) { m_options.error = why; }
+
+    void checkOperands() {
+        if (m_options.steps.empty()) fail(L"--check needs a file");
+        for (const Options::Step& step : m_options.steps)
+            if (step.isExpression) fail(L"--check reads files, and -e is none");
+    }
 
     bool waitsForNobody() const {
         const bool ends = m_options.help || m_options.version || m_options.showDialogs ||
@@ -81,6 +88,8 @@ class Parser {
             m_options.showDialogs = true;
         } else if (argument == L"--check-dialogs") {
             m_options.checkDialogs = true;
+        } else if (argument == L"--check") {
+            m_options.check = true;
         } else if (argument == L"--timeout") {
             takeTimeout(argument);
         } else if (argument == L"--data") {
@@ -122,6 +131,7 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --support DIR      look for Lisp files in DIR too; may be given several times
   --shots DIR        where ui_shot writes its pictures (the working folder)
   --plugin PATH      the plug-in to load (WexDialogs.pgx beside wexhost.exe)
+  --check            read the files as one program, run nothing, and tell what is wrong with them
   --dialogs [NAME]...
                      list the dialogs, or the tiles of those named
   --check-dialogs [MODULE]...
@@ -130,7 +140,7 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --version          print the version
   --                 what follows are files
 
-Exit status: 0 done; 1 a Lisp error; 2 bad usage; 3 a session ended with its dialog still open;
+Exit status: 0 done; 1 a Lisp error or a warning of a check; 2 bad usage; 3 a session ended with its dialog still open;
 4 time ran out; 5 the host crashed.
 )";
 }

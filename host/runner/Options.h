@@ -20,6 +20,7 @@ struct Options {
     bool version = false;
     bool showDialogs = false;
     bool checkDialogs = false;
+    bool check = false;
     double timeoutSeconds = 0;  // 0: no limit
     std::wstring shotsFolder;
     std::wstring plugin;

@@ -14,6 +14,7 @@
 #include "host/drive/Player.h"
 #include "host/drive/UiFunctions.h"
 #include "host/runner/CheckDialogs.h"
+#include "host/runner/CheckFiles.h"
 #include "host/runner/CrashReport.h"
 #include "host/runner/DataFunctions.h"
 #include "host/runner/HostFiles.h"
@@ -194,6 +195,12 @@ std::vector<std::wstring> systemPaths(std::span<const std::wstring> paths) {
     return converted;
 }
 
+std::vector<std::wstring> programFiles(const Options& options) {
+    std::vector<std::wstring> files;
+    for (const Options::Step& step : options.steps) files.push_back(step.text);
+    return files;
+}
+
 int refuse(const Options& options) {
     host().console().error(L"wexhost: " + options.error + L"\nTry wexhost --help.");
     return BAD_USAGE;
@@ -219,6 +226,10 @@ int hostRun(int count, wchar_t** arguments) {
     if (options.checkDialogs) return checkDialogs(systemPaths(options.modules));
     std::optional<Watchdog> watchdog;
     if (options.timeoutSeconds > 0) watchdog.emplace(options.timeoutSeconds);
+    if (options.check) {
+        startHost(options);
+        host().exit(checkFiles(programFiles(options)));
+    }
     work(options);
     host().exit(host().status());
 }

@@ -33,7 +33,7 @@
 
 ; A name that the product doesn't have brings the add-ons in.
 (defun load-and-unload ()
-  (wex_new_dialog "NO_SUCH")
+  (wex_new_dialog "NO_SUCH")  ; check: off
   (ui_alerts)
   (open-and-close)
   (host_unload_plugin "WexDialogs.pgx")

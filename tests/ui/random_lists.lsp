@@ -138,7 +138,7 @@
         (wex_get_tile tile))
   (if (equal tile table) (want (selected-rows) (wex_listctrl_getselectednths tile))))
 
-(defun set-mode (tile) (wex_mode_tile tile 4) (setq operations (put tile 4 operations)))
+(defun set-mode (tile) (wex_mode_tile tile 4) (setq operations (put tile 4 operations)))  ; check: off
 
 (defun add-item (tile / row column text)
   (setq row (- (chance 8) 1) column (chance 4) text (any-text))

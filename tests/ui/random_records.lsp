@@ -66,7 +66,7 @@
   (setq n (any-number))
   (with-number '(setq got (wex_fp_getitem n)) n '(want (nth n records) got)))
 (defun forget () (if (= (chance 8) 0) (progn (wex_fp_savedb) (setq added nil modified nil deleted nil))))
-(defun wrong-calls () (wex_fp_setitem) (wex_fp_setitem 0) (wex_fp_remitem) (wex_fp_additem) (wex_fp_getitem))
+(defun wrong-calls () (wex_fp_setitem) (wex_fp_setitem 0) (wex_fp_remitem) (wex_fp_additem) (wex_fp_getitem))  ; check: off
 (defun begin-anew (/ rows)
   (cond ((= (chance 20) 0)
          (setq rows (mapcar '(lambda (i) (any-texts)) (range (chance 40))) records rows added nil modified nil deleted nil)

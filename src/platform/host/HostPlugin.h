@@ -15,9 +15,14 @@
 //            `key` or, where that is null, by control id; the dialog's own window where `key` is null and
 //            `id` is -1. Null where there is none. Who asks is about to look at the window or to work it, so
 //            all that the plug-in has held back from the screen is drawn first.
+// and, for tools that read programs,
+//   const wchar_t* pluginLispSignature(int32_t index)
+//            the name and the arguments of a Lisp function, as src/LispSignatures.h has them; null past the
+//            last.
 constexpr const char* PLUGIN_ENTRY_POINT = "pluginEntryPoint";
 constexpr const char* PLUGIN_GET_API_VERSION = "pluginGetApiVersion";
 constexpr const char* PLUGIN_FIND_WINDOW = "pluginFindWindow";
+constexpr const char* PLUGIN_LISP_SIGNATURE = "pluginLispSignature";
 
 enum PluginMessage : int32_t {
     PLUGIN_NULL = 0,

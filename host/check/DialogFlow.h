@@ -1,0 +1,31 @@
+// Finds for each call which dialog is current there.
+#pragma once
+
+#include <unordered_map>
+
+#include "host/check/CodeWalk.h"
+
+namespace check {
+
+// Functions are followed to where they are called, actions to where they are bound. A function that nobody
+// calls, or of which more is done than calling it, may meet any dialog.
+class DialogFlow : public CodeWalk {
+  public:
+    using CodeWalk::CodeWalk;
+
+    void follow(const std::vector<ProgramFile*>& files);
+
+    // By the symbol that names the function called.
+    const std::unordered_map<const Form*, DialogSet>& atCalls() const { return m_atCalls; }
+
+  protected:
+    void onCall(const Form& name, const Form* call, std::optional<size_t> count, Flow& flow) override;
+    Flow onDefinition(const Form& form, Word* word, size_t count) override;
+    void onDefinitionEnd(Word* word, const Flow& flow) override;
+
+  private:
+    std::unordered_map<const Form*, DialogSet> m_atCalls;
+    bool m_isChanged = false;
+};
+
+}  // namespace check

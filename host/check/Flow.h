@@ -1,0 +1,56 @@
+// Which dialog is the current one at a place of a program, as far as that is sure.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+namespace check {
+
+struct Dialog;
+
+// The dialogs of which one is current; none of them where no dialog is.
+class DialogSet {
+  public:
+    DialogSet() = default;
+    explicit DialogSet(const Dialog* dialog) : m_dialogs{dialog} {}
+    static DialogSet any();
+
+    bool isAny() const { return m_isAny; }
+    const std::vector<const Dialog*>& dialogs() const { return m_dialogs; }
+    // Whether that made a difference.
+    bool add(const DialogSet& others);
+
+  private:
+    bool m_isAny = false;
+    std::vector<const Dialog*> m_dialogs;
+};
+
+// The dialogs that code opens and starts, from where a function, an action or a file begins.
+class Flow {
+  public:
+    explicit Flow(DialogSet atBegin) : m_atBegin(std::move(atBegin)) {}
+
+    DialogSet current() const;
+    void open(DialogSet dialogs) { m_opened.push_back(std::move(dialogs)); }
+    // When a dialog has run, the one before it is current again.
+    void start();
+    // What a call of code with that flow does.
+    void call(const Flow& code);
+    // What holds where this one and the other come together.
+    void join(const Flow& other);
+
+    // Whether both have opened and not started equally many.
+    bool isLevelWith(const Flow& other) const;
+    bool hasSameEffect(const Flow& other) const;
+
+  private:
+    void lose();
+
+    DialogSet m_atBegin;
+    std::vector<DialogSet> m_opened;
+    // How many dialogs of those that were open at the beginning have been started.
+    size_t m_startedBefore = 0;
+    bool m_isLost = false;
+};
+
+}  // namespace check
