@@ -11,6 +11,8 @@ IMPLEMENT_DYNAMIC(WexEditBox, CEdit)
 namespace {
 
 constexpr int FORMAT_CHARS = 256;
+// Fast enough for a person to see a text run that a program counts up, without a turn of the loop in between.
+constexpr ULONGLONG MS_BETWEEN_TEXTS = 20;
 constexpr UINT PLAIN_BEEP = static_cast<UINT>(-1);
 
 UnitConverters converters(EditMode mode, int unit, int precision) {
@@ -46,6 +48,22 @@ void WexEditBox::setNotation(EditMode mode, int unit, int precision) {
     if (const auto valid = validChars(mode, unit)) m_validChars = *valid;
 }
 
+void WexEditBox::showText(const CString& text) {
+    const ULONGLONG now = GetTickCount64();
+    if (now - m_shownAt >= MS_BETWEEN_TEXTS) {
+        m_shownAt = now;
+        m_awaited.reset();
+        return SetWindowText(text);
+    }
+    if (!m_awaited) PostMessage(WM_NULL);
+    m_awaited = text;
+}
+
+LRESULT WexEditBox::WindowProc(UINT message, WPARAM w, LPARAM l) {
+    if (m_awaited) SetWindowText(*std::exchange(m_awaited, std::nullopt));
+    return CEdit::WindowProc(message, w, l);
+}
+
 void WexEditBox::onSetFocus() {
     m_lastGood = GetWindowText();
     m_focusPending = true;
@@ -76,4 +94,11 @@ void WexEditBox::endEditing() {
     const EditedText edited = endOfEdit(typed, m_lastGood, converters(m_mode, m_unit, m_precision));
     m_lastGood = edited.lastGood;
     SetWindowText(edited.shown);
+}
+
+void setEditValue(CWnd& control, const CString& value, bool /*byKey*/) {
+    if (auto* box = dynamic_cast<WexEditBox*>(&control))
+        box->showText(value);
+    else
+        control.SetWindowText(value);
 }

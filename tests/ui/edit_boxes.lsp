@@ -38,6 +38,21 @@
         (ui_click "DESC") (ui_click "ASMB") (want "7.0000" (ui_text "DESC"))))
     (want '("" "7") notes)))
 
+; The points of a box that aren't as its upper left ones are: its text.
+(defun ink (box / blank)
+  (setq blank (ui_pixel box 3 3))
+  (length (remove-if '(lambda (x) (= (ui_pixel box x 10) blank)) (range 100))))
+
+(test "Of texts set one after the other the last one stands, is read, and is shown when the loop turns"
+  '((in-dialog "ADD_REC" nil
+      '((setq empty (ink "DESC"))
+        (progn (foreach text '("a" "b" "c") (wex_set_tile "DESC" text)) (want "c" (wex_get_tile "DESC")))
+        (progn (foreach text '("d" "" "WWWW") (wex_set_tile "DESC" text)) (ui_char "e") (want "WWWW" (ui_text "DESC")))
+        (foreach text '("WWWW" "MMMMMMMM" "") (wex_set_tile "DESC" text))
+        (want empty (ink "DESC"))
+        (foreach text '("" "" "MMMMMMMM") (wex_set_tile "DESC" text))
+        (want T (< empty (ink "DESC")))))))
+
 (test "The Enter key presses OK, which takes the focus, so that the text is told and rewritten before"
   '((in-dialog "ADD_REC"
       '(progn (wex_setaction_oninit "(wex_edit_setasnumeric \"DESC\" 2 2)")
