@@ -12,6 +12,7 @@ root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 # the call, now and then: with all on one, the figures of two runs agree.
 taskset --cpu-list --pid 0 $$ >/dev/null
 start_wine headless
+forget_dialog_sizes
 built=$root/build/windows
 rows=$(mktemp)
 printer=$(mktemp -d)

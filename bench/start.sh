@@ -5,6 +5,7 @@ set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 . "$root/tools/wine-env.sh"
 start_wine headless
+forget_dialog_sizes
 trap stop_wine EXIT
 runs=15
 

@@ -14,10 +14,22 @@ constexpr wchar_t HEIGHT_ENTRY[] = L"sizeHeight3";
 constexpr wchar_t X_ENTRY[] = L"nTopLeftX3";
 constexpr wchar_t Y_ENTRY[] = L"nTopLeftY3";
 
+StoredPlacement storedIn(const ProfileSection& section) {
+    const auto entry = [&section](const wchar_t* name) { return CWinApp::GetProfileInt(section, name, 0); };
+    return {entry(WIDTH_ENTRY), entry(HEIGHT_ENTRY), entry(X_ENTRY), entry(Y_ENTRY)};
+}
+
 DisplayScale displayScale() { return {hostMonitorDpiXScale(nullptr), hostMonitorDpiYScale(nullptr)}; }
 
+// The primary screen, from the upper left corner 0, 0.
+PixelRect screenRect() {
+    RECT screen;
+    ::GetWindowRect(GetDesktopWindow(), &screen);
+    return pixelRect(screen);
+}
+
 PixelRect workAreaOf(HWND parent) {
-    if (!parent) return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    if (!parent) return screenRect();
     MONITORINFO info = {sizeof info};
     GetMonitorInfoW(MonitorFromWindow(parent, MONITOR_DEFAULTTONEAREST), &info);
     return pixelRect(info.rcWork);
@@ -30,8 +42,9 @@ PixelRect pixelRect(const RECT& rect) { return {rect.left, rect.top, rect.right,
 RECT windowRect(const PixelRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
 CSnapDlg::CSnapDlg(UINT templateId, CWnd* parent) : CDialog(templateId, parent) {
-    m_limits.maxWidth = GetSystemMetrics(SM_CXSCREEN);
-    m_limits.maxHeight = GetSystemMetrics(SM_CYSCREEN);
+    const PixelRect screen = screenRect();
+    m_limits.maxWidth = screen.width();
+    m_limits.maxHeight = screen.height();
 }
 
 const MessageMap& CSnapDlg::messageMap() const {
@@ -52,29 +65,22 @@ bool CSnapDlg::OnInitDialog() {
 
 void CSnapDlg::runEnded() { m_gripRect = {}; }
 
-StoredPlacement CSnapDlg::stored() const {
-    const auto entry = [this](const wchar_t* name) {
-        return CWinApp::GetProfileInt(m_registrySection.c_str(), name, 0);
-    };
-    return {entry(WIDTH_ENTRY), entry(HEIGHT_ENTRY), entry(X_ENTRY), entry(Y_ENTRY)};
-}
-
 PixelRect CSnapDlg::restorePlacement() const {
-    return ::restorePlacement(stored(), pixelRect(GetWindowRect()), GetSystemMetrics(SM_CXSCREEN),
-                              GetSystemMetrics(SM_CYSCREEN), displayScale(),
-                              [this] { return workAreaOf(::GetWindow(m_hWnd, GW_OWNER)); });
+    const ProfileSection section(m_registrySection.c_str(), ProfileSection::For::reading);
+    const PixelRect screen = screenRect();
+    return ::restorePlacement(storedIn(section), pixelRect(GetWindowRect()), screen.width(), screen.height(),
+                              displayScale(), [this] { return workAreaOf(::GetWindow(m_hWnd, GW_OWNER)); });
 }
 
 void CSnapDlg::savePlacement() const {
     if (!isLive()) return;
-    const StoredPlacement store = placementToStore(pixelRect(GetWindowRect()), stored(), displayScale());
-    const auto write = [this](const wchar_t* name, int value) {
-        CWinApp::WriteProfileInt(m_registrySection.c_str(), name, value);
-    };
-    write(WIDTH_ENTRY, store.width);
-    write(HEIGHT_ENTRY, store.height);
-    write(X_ENTRY, store.x);
-    write(Y_ENTRY, store.y);
+    const ProfileSection section(m_registrySection.c_str(), ProfileSection::For::writing);
+    const StoredPlacement store =
+        placementToStore(pixelRect(GetWindowRect()), storedIn(section), displayScale());
+    CWinApp::WriteProfileInt(section, WIDTH_ENTRY, store.width);
+    CWinApp::WriteProfileInt(section, HEIGHT_ENTRY, store.height);
+    CWinApp::WriteProfileInt(section, X_ENTRY, store.x);
+    CWinApp::WriteProfileInt(section, Y_ENTRY, store.y);
 }
 
 void CSnapDlg::onSizing(UINT /*edge*/, RECT* proposed) {

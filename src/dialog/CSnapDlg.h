@@ -37,7 +37,6 @@ class CSnapDlg : public CDialog {
     void onSizing(UINT edge, RECT* proposed);
     LRESULT onNcHitTest(POINT at);
     void drawGrip();
-    StoredPlacement stored() const;
 
     SIZE m_gripSize{};
     RECT m_gripRect{};  // in client pixels

@@ -38,7 +38,11 @@ void WexDialog::computeAnchors(const CWnd& control, CCtrlInfo& tile) {
 void WexDialog::placeAtStart() {
     if (!m_resizable) return;
     const StartPlacement start = startPlacement(restorePlacement(), m_limits);
-    ::MoveWindow(m_hWnd, start.rect.left, start.rect.top, start.rect.width(), start.movedHeight, TRUE);
+    PixelRect moved = start.rect;
+    moved.bottom = moved.top + start.movedHeight;
+    // To move a window to where it stands costs as much as to move it elsewhere.
+    if (moved != pixelRect(GetWindowRect()))
+        ::MoveWindow(m_hWnd, moved.left, moved.top, moved.width(), moved.height(), TRUE);
     m_lastClientRect = GetClientRect();
 }
 

@@ -50,6 +50,7 @@ class WaitingRows {
 
 void insertAtTop(const CWnd& list, const CStringArray& rows) {
     const auto count = static_cast<int>(rows.size());
+    if (count == 0) return;
     // Inserting in order gives the same rows as inserting in reverse at the top, and is faster. A list that
     // sorts itself keeps equal rows in insertion order, so there the rows go in reversed, at the top.
     const bool sorts = list.GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING);

@@ -28,7 +28,7 @@ void addEntry(const CWnd& control, const EntryMessages& messages, const wchar_t*
 }  // namespace
 
 void applyListBox(const CWnd& listBox, const CCtrlInfo& tile) {
-    holdRedraw(listBox.m_hWnd);
+    if (!tile.m_listItems.empty()) holdRedraw(listBox.m_hWnd);
     // Inserting in order gives the same rows as inserting in reverse at the top, and is faster.
     for (size_t row = 0; row < tile.m_listItems.size(); ++row)
         listBox.sendStraight(LB_INSERTSTRING, row, reinterpret_cast<LPARAM>(tile.m_listItems[row].c_str()));
@@ -36,7 +36,7 @@ void applyListBox(const CWnd& listBox, const CCtrlInfo& tile) {
 }
 
 void applyComboBox(const CWnd& comboBox, const CCtrlInfo& tile) {
-    holdRedraw(comboBox.m_hWnd);
+    if (!tile.m_listItems.empty()) holdRedraw(comboBox.m_hWnd);
     for (const CString& row : tile.m_listItems)
         comboBox.sendStraight(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str()));
     const int selected = decimalNumber(tile.m_value);

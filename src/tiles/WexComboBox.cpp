@@ -28,11 +28,14 @@ void WexComboBox::discovered(WexDialog& dialog, CCtrlInfo&) {
         return rect.bottom - rect.top;
     };
     if (height() >= row.bottom) return;
-    constexpr auto closedPart = static_cast<WPARAM>(-1);
-    // The height that is set is not the one that is asked for: what lies between them shows by setting it.
-    const LRESULT text = SendMessage(CB_GETITEMHEIGHT, closedPart);
-    SendMessage(CB_SETITEMHEIGHT, closedPart, text);
-    SendMessage(CB_SETITEMHEIGHT, closedPart, text + row.bottom - height());
+    // What stands around the height that is set, which only setting it shows. Under Wine that costs as much
+    // as to make the box, so what the last box had is tried first.
+    static LONG around = 0;
+    for (int attempt = 0; attempt < 2 && height() != row.bottom; ++attempt) {
+        const LONG set = row.bottom - around;
+        SendMessage(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), set);
+        around = height() - set;
+    }
 }
 
 void WexComboBox::onSelectionChanged() {

@@ -22,16 +22,29 @@ void AfxMessageBox(const wchar_t* text) {
     MessageBoxW(GetActiveWindow(), text, APPLICATION, MB_OK | MB_ICONEXCLAMATION);
 }
 
-int CWinApp::GetProfileInt(const wchar_t* section, const wchar_t* entry, int missing) {
-    DWORD value = 0;
-    DWORD size = sizeof value;
-    const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, keyOf(section).c_str(), entry, RRF_RT_REG_DWORD,
-                                        nullptr, &value, &size);
-    return status == ERROR_SUCCESS ? static_cast<int>(value) : missing;
+ProfileSection::ProfileSection(const wchar_t* section, For what) {
+    const std::wstring path = keyOf(section);
+    if (what == For::reading)
+        RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_QUERY_VALUE, &m_key);
+    else
+        RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_QUERY_VALUE | KEY_SET_VALUE,
+                        nullptr, &m_key, nullptr);
 }
 
-bool CWinApp::WriteProfileInt(const wchar_t* section, const wchar_t* entry, int value) {
-    const auto number = static_cast<DWORD>(value);
-    return RegSetKeyValueW(HKEY_CURRENT_USER, keyOf(section).c_str(), entry, REG_DWORD, &number,
-                           sizeof number) == ERROR_SUCCESS;
+ProfileSection::~ProfileSection() {
+    if (m_key) RegCloseKey(m_key);
+}
+
+int CWinApp::GetProfileInt(const ProfileSection& section, const wchar_t* entry, int missing) {
+    DWORD type = 0, value = 0, size = sizeof value;
+    const bool isThere =
+        section.key() && RegQueryValueExW(section.key(), entry, nullptr, &type,
+                                          reinterpret_cast<BYTE*>(&value), &size) == ERROR_SUCCESS;
+    return isThere && type == REG_DWORD ? static_cast<int>(value) : missing;
+}
+
+void CWinApp::WriteProfileInt(const ProfileSection& section, const wchar_t* entry, int value) {
+    if (section.key())
+        RegSetValueExW(section.key(), entry, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value),
+                       sizeof value);
 }
