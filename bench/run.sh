@@ -43,6 +43,7 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
         rows.lsp dialogs.lsp all_dialogs.lsp lists.lsp layout.lsp tables.lsp pages.lsp trees.lsp grids.lsp lookup.lsp records.lsp images.lsp
     "$root/bench/databases.sh"
     "$root/bench/start.sh"
+    "$root/bench/check.sh"
     "$root/tools/package.sh" "$packed" | sed 's/.*\///; s/^/package  /'
 } | tr -d '\r' | tee "$rows"
 

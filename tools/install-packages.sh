@@ -9,6 +9,7 @@ packages=(
     clang libclang-rt-14-dev clang-format googletest python3           # fuzzing, format, tests
     wine wine64 fonts-wine fonts-liberation xvfb xauth util-linux      # running
     sqlite3 libsqlite3-dev unixodbc odbc-postgresql                    # databases
+    nlohmann-json3-dev                                                 # JSON, for editors
     libcups2 ghostscript                                               # printing
     "$@"
 )

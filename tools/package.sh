@@ -29,15 +29,19 @@ done < <(cd "$folder" && find . -name '*.dll' -o -name '*.exe' -o -name '*.pgx')
 
 git ls-files examples docs/images | while IFS= read -r file; do install -D -m 644 "$file" "$folder/$file"; done
 tools/make-pages.py "$folder" README.md docs/*.md
+# The language server reads it.
+cp docs/lisp-functions.md "$folder/docs"
 
 # What stands in the modules and isn't ours.
 mkdir "$folder/licences"
 cp /usr/share/doc/mingw-w64-common/copyright "$folder/licences/mingw-w64.txt"
 cp /usr/share/doc/gcc-mingw-w64-base/copyright "$folder/licences/gcc-runtime.txt"
+cp /usr/share/doc/nlohmann-json3-dev/copyright "$folder/licences/nlohmann-json.txt"
 sed '1d; /^\*\*\*/,$d; s/^\*\* \{0,1\}//' build/windows/sqlite/sqlite3.h >"$folder/licences/sqlite.txt"
 cat >"$folder/licences/README.txt" <<'TEXT'
 Parts of others that the modules carry:
   sqlite.txt        SQLite, in WEXDATASTOREMGDREV.dll: in the public domain
+  nlohmann-json.txt JSON for Modern C++, in hostapi.dll, under the MIT licence
   mingw-w64.txt     the run-time library of mingw-w64, in all modules
   gcc-runtime.txt   the run-time libraries of GCC, in all modules, under the GCC Runtime Library Exception
 TEXT

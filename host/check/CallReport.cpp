@@ -17,11 +17,6 @@ std::u16string counted(size_t count) {
 
 std::u16string orNearest(std::u16string_view wanted, const std::vector<std::u16string>& names) {
     const std::optional<std::u16string> nearest = lisp::nearestName(wanted, names);
-    return nearest ? u"; did you mean " + *nearest + u"?" : std::u16string();
-}
-
-std::u16string orNearestText(std::u16string_view wanted, const std::vector<std::u16string>& names) {
-    const std::optional<std::u16string> nearest = lisp::nearestName(wanted, names);
     return nearest ? u"; did you mean \"" + *nearest + u"\"?" : std::u16string();
 }
 
@@ -32,6 +27,18 @@ bool namesTitle(const Word& function, const Dialog& dialog, std::u16string_view 
     const std::u16string wanted = lisp::upperCase(key);
     return function.name == u"WEX_SET_TILE" &&
            (wanted == u"MAIN_TITLE" || wanted == lisp::upperCase(dialog.name));
+}
+
+bool isKnownVariable(const Word& word) {
+    return word.isSet || word.definition || word.function || word.name.starts_with(u"$") ||
+           word.special != SpecialForm::none || word.name == u"T" || word.name == u"NIL" ||
+           word.name == u"PI";
+}
+
+std::u16string withArticle(const std::u16string& kind) {
+    const bool isVowel =
+        !kind.empty() && std::u16string_view(u"aeiou").find(kind[0]) != std::u16string_view::npos;
+    return (isVowel ? u"an " : u"a ") + kind;
 }
 
 std::u16string nameOfTile(const Form& form) {
@@ -57,21 +64,31 @@ void CallReport::onCall(const Form& name, const Form* call, std::optional<size_t
     }
     // A list that the reader had to end, or one with a dot, may lack some.
     if (count && (!call || (call->isClosed && !call->isDotted))) checkCount(name, *count);
-    if (call && word.function && !word.definition) checkArguments(name, *call);
 }
 
 void CallReport::tellUnknown(const Form& name) {
-    const std::optional<std::u16string> nearest = lisp::nearestName(name.word->name, callableNames());
     // Code that can't be seen may define it.
     if (m_program.hasForeignCode) return;
+    const std::u16string meant = nearest(*name.word, callableNames());
     tell(name, u"there is no function " + small(*name.word) +
-                   (nearest ? u"; did you mean " + lisp::lowerCase(*nearest) + u"?" : u""));
+                   (meant.empty() ? u"" : u"; did you mean " + meant + u"?"));
+}
+
+std::u16string CallReport::nearest(const Word& word, const std::vector<std::u16string>& names) {
+    // A text in which hardly a name is known is no program that somebody mistyped.
+    constexpr size_t MOST_SEARCHES = 200;
+    if (const auto at = m_nearest.find(&word); at != m_nearest.end()) return at->second;
+    if (m_nearest.size() >= MOST_SEARCHES) return {};
+    std::u16string found = lisp::lowerCase(lisp::nearestName(word.name, names).value_or(u""));
+    m_nearest.emplace(&word, found);
+    return found;
 }
 
 void CallReport::checkCount(const Form& name, size_t count) {
     const Word& word = *name.word;
     // A variable of that name may hide the function.
-    if (word.definition && !word.isSet) {
+    if (word.isGiven || bindingOf(name)) return;
+    if (word.definition) {
         const std::vector<size_t>& counts = word.definition->parameterCounts;
         if (std::find(counts.begin(), counts.end(), count) != counts.end()) return;
         // One that defines a function of the host anew may mean either.
@@ -79,7 +96,7 @@ void CallReport::checkCount(const Form& name, size_t count) {
         tell(name, small(word) + u" takes " + counted(counts[0]) + u", got " +
                        lisp::decimal(static_cast<int64_t>(count)));
     }
-    if (word.definition || word.isParameter) return;
+    if (word.definition) return;
     const Function& function = *word.function;
     const bool isTooFew = count < static_cast<size_t>(function.minimum);
     const bool isTooMany = function.maximum >= 0 && count > static_cast<size_t>(function.maximum);
@@ -94,24 +111,19 @@ void CallReport::checkCount(const Form& name, size_t count) {
                    counted(wanted) + u", got " + lisp::decimal(static_cast<int64_t>(count)) + usage);
 }
 
-void CallReport::checkArguments(const Form& name, const Form& call) {
-    const Function& function = *name.word->function;
-    for (size_t i = 1; i < call.items.size(); ++i) {
-        const Form& form = call.items[i];
-        const Argument argument = function.argument(i - 1);
-        if (argument.role == Role::tile)
-            checkTile(name, form, argument.kinds);
-        else if (argument.role == Role::dialog)
-            checkDialog(form);
-        else
-            checkValue(form, function, i, argument.role);
-    }
+void CallReport::onLiteral(const Form& name, const Form& literal, size_t index, const Argument& argument) {
+    if (argument.role == Role::tile)
+        checkTile(name, literal, argument.kinds);
+    else if (argument.role == Role::dialog)
+        checkDialog(literal);
+    else
+        checkValue(name, literal, index, argument.role);
 }
 
-void CallReport::checkValue(const Form& form, const Function& function, size_t index, Role role) {
+void CallReport::checkValue(const Form& name, const Form& form, size_t index, Role role) {
     const auto expected = [&](const char16_t* what) {
-        tell(form, lisp::lowerCase(function.name) + u" takes " + what + u" as argument " +
-                       lisp::decimal(static_cast<int64_t>(index)));
+        tell(form, small(*name.word) + u" takes " + what + u" as argument " +
+                       lisp::decimal(static_cast<int64_t>(index) + 1));
     };
     const bool isInteger = role == Role::integer || role == Role::mode;
     if (isInteger && (form.isString() || form.kind == Form::Kind::real)) return expected(u"an integer");
@@ -123,13 +135,21 @@ void CallReport::checkValue(const Form& form, const Function& function, size_t i
                        u": the modes are 0, 1, 2, 3, 5, 6 and -1");
 }
 
+// A key without its quotation marks.
+void CallReport::onComputed(const Form&, const Form& form, size_t, const Argument& argument) {
+    const bool isName = argument.role == Role::tile || argument.role == Role::dialog;
+    if (!isName || !form.isSymbol() || isKnownVariable(*form.word) || m_program.hasForeignCode) return;
+    tell(form,
+         u"nothing sets the variable " + small(*form.word) + u"; a name stands between quotation marks");
+}
+
 void CallReport::checkDialog(const Form& form) {
     if (!form.isString() || m_program.knowledge.dialog(form.text) || m_program.knowledge.dialogs().empty())
         return;
     std::vector<std::u16string> names;
     for (const auto& [name, dialog] : m_program.knowledge.dialogs()) names.push_back(dialog.name);
     std::sort(names.begin(), names.end());
-    tell(form, u"there is no dialog \"" + form.text + u"\"" + orNearestText(form.text, names));
+    tell(form, u"there is no dialog \"" + form.text + u"\"" + orNearest(form.text, names));
 }
 
 void CallReport::checkTile(const Form& name, const Form& whole, TileKinds kinds) {
@@ -156,42 +176,40 @@ void CallReport::checkTile(const Form& name, const Form& whole, TileKinds kinds)
         misfit = tile->kind;
     }
     if (!misfit.empty())
-        return tell(form, small(*name.word) + u" works on a " + wordsOfKinds(kinds) + u", and " +
-                              nameOfTile(form) + u" of " + dialog.name + u" is a " + std::u16string(misfit));
+        return tell(form, small(*name.word) + u" works on " + withArticle(wordsOfKinds(kinds)) + u", and " +
+                              nameOfTile(form) + u" of " + dialog.name + u" is " +
+                              withArticle(std::u16string(misfit)));
     std::vector<std::u16string> keys;
     for (const Dialog* one : dialogs)
         for (const DialogTile& tile : one->tiles)
             if (!tile.key.empty()) keys.push_back(tile.key);
     const std::u16string verb = dialogs.size() == 1 ? u" has no tile " : u" has a tile ";
-    tell(form, which + verb + nameOfTile(form) + (isKey ? orNearestText(form.text, keys) : u""));
+    tell(form, which + verb + nameOfTile(form) + (isKey ? orNearest(form.text, keys) : u""));
 }
 
 // In this Lisp a variable that was never set is nil, and programs ask for that. But one that nothing sets and
 // whose name is nearly that of one that is set is a slip.
 void CallReport::onVariable(const Form& symbol) {
     const Word& word = *symbol.word;
-    const bool isKnown = word.isSet || word.definition || word.function || word.name.starts_with(u"$") ||
-                         word.special != SpecialForm::none || word.name == u"T" || word.name == u"NIL" ||
-                         word.name == u"PI";
-    if (isKnown || m_program.hasForeignCode || word.name.size() < 3) return;
-    const std::u16string nearest = orNearest(word.name, variableNames());
-    if (!nearest.empty())
-        tell(symbol, u"nothing sets the variable " + small(word) + lisp::lowerCase(nearest));
+    if (isKnownVariable(word) || m_program.hasForeignCode || word.name.size() < 3) return;
+    const std::u16string meant = nearest(word, variableNames());
+    if (!meant.empty())
+        tell(symbol, u"nothing sets the variable " + small(word) + u"; did you mean " + meant + u"?");
 }
 
 const std::vector<std::u16string>& CallReport::callableNames() {
-    if (m_callable.empty())
-        for (const auto& [name, word] : m_program.words)
-            if (word->function || word->definition || word->special != SpecialForm::none)
-                m_callable.push_back(word->name);
+    if (!m_callable.empty()) return m_callable;
+    for (const auto& [name, word] : m_program.words)
+        if (word->function || word->definition || word->special != SpecialForm::none)
+            m_callable.push_back(word->name);
     std::sort(m_callable.begin(), m_callable.end());
     return m_callable;
 }
 
 const std::vector<std::u16string>& CallReport::variableNames() {
-    if (m_variables.empty())
-        for (const auto& [name, word] : m_program.words)
-            if (word->isSet) m_variables.push_back(word->name);
+    if (!m_variables.empty()) return m_variables;
+    for (const auto& [name, word] : m_program.words)
+        if (word->isSet) m_variables.push_back(word->name);
     std::sort(m_variables.begin(), m_variables.end());
     return m_variables;
 }

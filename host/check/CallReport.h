@@ -18,6 +18,8 @@ class CallReport : public CodeWalk {
 
   protected:
     void onCall(const Form& name, const Form* call, std::optional<size_t> count, Flow& flow) override;
+    void onLiteral(const Form& name, const Form& literal, size_t index, const Argument& argument) override;
+    void onComputed(const Form& name, const Form& form, size_t index, const Argument& argument) override;
     void onMalformed(const Form& form, const std::u16string& why) override;
     Flow onDefinition(const Form&, Word* word, size_t) override { return Flow(word->definition->atCall); }
     void onVariable(const Form& symbol) override;
@@ -29,15 +31,17 @@ class CallReport : public CodeWalk {
     }
     void tellUnknown(const Form& name);
     void checkCount(const Form& name, size_t count);
-    void checkArguments(const Form& name, const Form& call);
-    void checkValue(const Form& form, const Function& function, size_t index, Role role);
+    void checkValue(const Form& name, const Form& form, size_t index, Role role);
     void checkDialog(const Form& form);
     void checkTile(const Form& name, const Form& form, TileKinds kinds);
+    // The name that a word was probably meant to be, in lower case; empty where there is none.
+    std::u16string nearest(const Word& word, const std::vector<std::u16string>& names);
     const std::vector<std::u16string>& callableNames();
     const std::vector<std::u16string>& variableNames();
 
     const std::unordered_map<const Form*, DialogSet>& m_atCalls;
     Tell m_tell;
+    std::unordered_map<const Word*, std::u16string> m_nearest;
     std::vector<std::u16string> m_callable;
     std::vector<std::u16string> m_variables;
 };

@@ -30,7 +30,7 @@ class CheckedProgram::Work {
     explicit Work(Program& program) : m_program(program), m_definitions(program), m_flow(program) {}
 
     void run(const std::vector<ProgramFile*>& files) {
-        m_definitions.walkProgram(files);
+        m_definitions.collect(files);
         m_flow.follow(files);
         CallReport report(m_program, m_flow.atCalls(),
                           [this](const ProgramFile& file, uint32_t begin, uint32_t end, std::u16string text) {
@@ -137,13 +137,21 @@ class CheckedProgram::Work {
     std::set<Told> m_told;
 };
 
-CheckedProgram::CheckedProgram(std::vector<Source> sources, const Knowledge& knowledge, FindSource find)
+CheckedProgram::CheckedProgram(std::vector<Source> sources, const Knowledge& knowledge, FindSource find,
+                               const std::vector<std::u16string>& alsoDefined)
     : m_program(std::make_unique<Program>(knowledge, std::move(find))),
       m_work(std::make_unique<Work>(*m_program)) {
     std::vector<ProgramFile*> files;
     for (Source& source : sources) files.push_back(&m_program->addFile(std::move(source)));
+    for (const std::u16string& name : alsoDefined) m_program->words.at(name)->isSet = true;
     m_work->run(files);
     m_findings = m_work->findings();
+}
+
+std::vector<std::u16string> CheckedProgram::definedNames() const {
+    std::vector<std::u16string> names;
+    for (const auto& definition : m_program->definitions) names.push_back(definition->word->name);
+    return names;
 }
 
 CheckedProgram::~CheckedProgram() = default;

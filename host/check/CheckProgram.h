@@ -15,12 +15,15 @@ namespace check {
 class CheckedProgram {
   public:
     // The files are one program, as if they ran one after the other. `knowledge` must outlive the object.
-    CheckedProgram(std::vector<Source> files, const Knowledge& knowledge, FindSource find);
+    // `alsoDefined` are names of functions that come from elsewhere.
+    CheckedProgram(std::vector<Source> files, const Knowledge& knowledge, FindSource find,
+                   const std::vector<std::u16string>& alsoDefined = {});
     ~CheckedProgram();
 
     // By file and place. Also those of files that the program loads.
     const std::vector<Finding>& findings() const { return m_findings; }
-    const Program& program() const { return *m_program; }
+    // The names of the functions that it defines, in capitals.
+    std::vector<std::u16string> definedNames() const;
 
     // The innermost list of the first file around an offset, also within actions, from the outermost; for
     // editors.

@@ -21,7 +21,30 @@ bool testsOpening(const Form& form, const Word* newDialog, bool* isTurned) {
     return passesOn && testsOpening(form.items.back(), newDialog, isTurned);
 }
 
-std::u16string partsWanted(const char16_t* what) { return std::u16string(what); }
+// The elements of a list that stands in the program: '(a b), or (list a b).
+std::vector<const Form*> elementsOf(const Form& form) {
+    std::vector<const Form*> elements;
+    const bool isQuoted = form.kind == Form::Kind::quote && form.items.size() == 1 && form.items[0].isList();
+    const bool isMade = form.head() && form.head()->name == u"LIST";
+    if (isQuoted)
+        for (const Form& item : form.items[0].items) elements.push_back(&item);
+    if (isMade)
+        for (size_t i = 1; i < form.items.size(); ++i) elements.push_back(&form.items[i]);
+    return elements;
+}
+
+// Which element of a list a function such as cadr takes.
+std::optional<size_t> placeTaken(const Word* function) {
+    constexpr std::u16string_view TAKERS[] = {u"CAR", u"CADR", u"CADDR", u"CADDDR"};
+    for (size_t i = 0; function && i < std::size(TAKERS); ++i)
+        if (function->name == TAKERS[i]) return i;
+    return std::nullopt;
+}
+
+bool isLiteral(const Form& form) {
+    const bool isPath = form.kind == Form::Kind::quote;
+    return form.isString() || form.kind == Form::Kind::integer || form.kind == Form::Kind::real || isPath;
+}
 
 }  // namespace
 
@@ -86,7 +109,7 @@ void CodeWalk::walkList(const Form& form, Flow& flow) {
 void CodeWalk::walkSpecial(const Form& form, SpecialForm special, Flow& flow) {
     const size_t count = form.argumentCount();
     const auto wants = [&](bool isRight, const char16_t* what) {
-        if (!isRight && form.isClosed) onMalformed(form, partsWanted(what));
+        if (!isRight && form.isClosed) onMalformed(form, std::u16string(what));
         return isRight;
     };
     switch (special) {
@@ -134,7 +157,7 @@ void CodeWalk::walkSpecial(const Form& form, SpecialForm special, Flow& flow) {
             if (!wants(count >= 2 && form.items[1].isSymbol(), u"foreach takes a variable and a list")) break;
             walk(form.items[2], flow);
             onSet(form.items[1].word, false);
-            walkLoop(form, 3, flow);
+            walkForeach(form, flow);
             break;
         case SpecialForm::lambda: {
             Flow unknown(DialogSet::any());
@@ -155,53 +178,94 @@ void CodeWalk::walkSpecial(const Form& form, SpecialForm special, Flow& flow) {
 }
 
 void CodeWalk::walkCall(const Form& form, Flow& flow) {
-    const Word* const word = form.items[0].word;
-    const Function* function = word->definition ? nullptr : word->function;
     for (size_t i = 1; i < form.items.size(); ++i)
-        walkArgument(form, i, function ? function->argument(i - 1) : Argument{}, flow);
+        walkArgument(form, i, argumentOf(*form.items[0].word, i - 1), flow);
     onCall(form.items[0], &form, form.argumentCount(), flow);
 }
 
 void CodeWalk::walkArgument(const Form& call, size_t index, const Argument& argument, Flow& flow) {
     const Form& form = call.items[index];
     if (form.isString()) onString(form, &call, index - 1);
-    if (form.isString() && argument.role == Role::action) {
-        const ReadText& text = m_program.textOf(form);
-        onAction(form, text);
-        Flow action(flow.current());
-        if (m_depth < DEEPEST) {
-            m_depth += 10;
-            walkAll(text.forms, 0, action);
-            m_depth -= 10;
-        }
-    } else if (form.isString()) {
-        return;
-    } else if (argument.role == Role::function) {
+    if (argument.role == Role::function) {
         const bool isMapcar = call.head()->name == u"MAPCAR";
-        walkFunctionValue(form, isMapcar ? std::optional(call.argumentCount() - 1) : std::nullopt, flow);
-    } else if (argument.role == Role::sessionForms && form.kind == Form::Kind::quote && !form.items.empty()) {
+        return walkFunctionValue(form, isMapcar ? std::optional(call.argumentCount() - 1) : std::nullopt,
+                                 flow, isMapcar ? &call : nullptr);
+    }
+    if (argument.role == Role::sessionForms && form.kind == Form::Kind::quote && !form.items.empty()) {
         const Form& name = call.items[1];
         const Dialog* dialog = name.isString() ? m_program.knowledge.dialog(name.text) : nullptr;
         Flow session(dialog ? DialogSet(dialog) : DialogSet::any());
-        walkAll(form.items[0].items, 0, session);
-    } else {
-        walk(form, flow);
+        return walkAll(form.items[0].items, 0, session);
     }
+    if (!form.isString()) walk(form, flow);
+    if (argument.role == Role::any) return;
+    const std::vector<const Form*> literals = literalsOf(form);
+    for (const Form* literal : literals) walkLiteral(call.items[0], *literal, index - 1, argument, flow);
+    const Binding* binding = form.isSymbol() ? bindingOf(form) : nullptr;
+    if (binding && binding->definition)
+        onParameter(call.items[0], index - 1, *binding->definition, binding->parameter, argument, flow);
+    else if (literals.empty())
+        onComputed(call.items[0], form, index - 1, argument);
 }
 
-void CodeWalk::walkFunctionValue(const Form& form, std::optional<size_t> count, Flow& flow) {
+void CodeWalk::walkLiteral(const Form& name, const Form& literal, size_t index, const Argument& argument,
+                           Flow& flow) {
+    onLiteral(name, literal, index, argument);
+    if (argument.role != Role::action || !literal.isString() || m_depth >= DEEPEST) return;
+    const ReadText& text = m_program.textOf(literal);
+    onAction(literal, text);
+    Flow action(flow.current());
+    // What is bound around it is no longer so when it runs.
+    std::vector<Binding> outer;
+    outer.swap(m_bindings);
+    m_depth += 10;
+    walkAll(text.forms, 0, action);
+    m_depth -= 10;
+    m_bindings.swap(outer);
+}
+
+// The last binding of a name counts; none where the name has been set since.
+const CodeWalk::Binding* CodeWalk::bindingOf(const Form& symbol) const {
+    for (auto at = m_bindings.rbegin(); at != m_bindings.rend(); ++at)
+        if (at->word == symbol.word) return &*at;
+    return nullptr;
+}
+
+std::vector<const Form*> CodeWalk::literalsOf(const Form& form) const {
+    if (isLiteral(form)) return {&form};
+    const std::optional<size_t> place =
+        form.items.size() == 2 && form.items[1].isSymbol() ? placeTaken(form.head()) : std::nullopt;
+    const Binding* binding = form.isSymbol() ? bindingOf(form) : place ? bindingOf(form.items[1]) : nullptr;
+    std::vector<const Form*> literals;
+    if (!binding) return literals;
+    for (const Form* element : binding->elements) {
+        const Form* taken = !place                           ? element
+                            : element->items.size() > *place ? &element->items[*place]
+                                                             : nullptr;
+        if (taken && isLiteral(*taken)) literals.push_back(taken);
+    }
+    return literals;
+}
+
+// `mapping` is the call of mapcar whose lists the function goes through.
+void CodeWalk::walkFunctionValue(const Form& form, std::optional<size_t> count, Flow& flow,
+                                 const Form* mapping) {
     const bool isFunctionForm = form.head() && form.head()->special == SpecialForm::function;
     const bool isQuoteForm = form.head() && form.head()->special == SpecialForm::quote;
     const Form* named = form.kind == Form::Kind::quote && !form.items.empty()       ? &form.items[0]
                         : (isFunctionForm || isQuoteForm) && form.items.size() == 2 ? &form.items[1]
                                                                                     : nullptr;
     if (isLambda(form)) named = &form;
-    if (named && isLambda(*named))
-        walkLambda(*named, 1, flow);
-    else if (named && named->isSymbol())
-        onCall(*named, nullptr, count, flow);
-    else
-        walk(form, flow);
+    if (named && isLambda(*named)) return walkLambda(*named, 1, flow, mapping);
+    if (!named || !named->isSymbol()) return walk(form, flow);
+    for (size_t i = 2; mapping && i < mapping->items.size(); ++i) {
+        const Argument argument = argumentOf(*named->word, i - 2);
+        if (argument.role == Role::any) continue;
+        const std::vector<const Form*> elements = elementsOf(mapping->items[i]);
+        for (const Form* element : elements) walkLiteral(*named, *element, i - 2, argument, flow);
+        if (elements.empty()) onComputed(*named, mapping->items[i], i - 2, argument);
+    }
+    onCall(*named, nullptr, count, flow);
 }
 
 void CodeWalk::walkData(const Form& form) {
@@ -254,6 +318,9 @@ void CodeWalk::walkCond(const Form& form, Flow& flow) {
         Flow inside = opens && isTurned ? before : flow;
         if (opens && !isTurned) flow = before;
         walkAll(clause.items, 1, inside);
+        const bool isFunction = test.isSymbol() && (test.word->function || test.word->definition) &&
+                                !test.word->isSet && clause.items.size() > 1;
+        if (isFunction) onMalformed(clause, u"a clause of cond begins with its condition: ((function …) …)");
         hasElse = hasElse || (test.isSymbol() && test.word->name == u"T");
         const bool isFailure = opens && isTurned;
         if (isFailure) continue;
@@ -295,13 +362,20 @@ void CodeWalk::walkLoop(const Form& form, size_t firstOfBody, Flow& flow) {
     walkAll(form.items, firstOfBody, flow);
 }
 
-size_t CodeWalk::takeParameters(const Form& owner, const Form& list) {
+void CodeWalk::walkForeach(const Form& form, Flow& flow) {
+    const size_t outer = m_bindings.size();
+    m_bindings.push_back({form.items[1].word, elementsOf(form.items[2])});
+    walkLoop(form, 3, flow);
+    m_bindings.resize(outer);
+}
+
+std::vector<Word*> CodeWalk::takeParameters(const Form& owner, const Form& list) {
+    std::vector<Word*> parameters;
     const bool isNil = list.isSymbol() && list.word->name == u"NIL";
     if (!list.isList() && !isNil) {
         onMalformed(owner, u"the list of parameters is missing");
-        return 0;
+        return parameters;
     }
-    size_t count = 0;
     bool isLocal = false;
     for (const Form& parameter : list.items) {
         if (!parameter.isSymbol() || parameter.word->special != SpecialForm::none) {
@@ -310,16 +384,21 @@ size_t CodeWalk::takeParameters(const Form& owner, const Form& list) {
             isLocal = true;
         } else {
             onSet(parameter.word, true);
-            count += isLocal ? 0 : 1;
+            m_bindings.push_back({parameter.word});
+            if (!isLocal) parameters.push_back(parameter.word);
         }
     }
-    return count;
+    return parameters;
 }
 
-void CodeWalk::walkLambda(const Form& form, size_t parameters, Flow& flow) {
-    if (form.items.size() <= parameters) return onMalformed(form, u"the list of parameters is missing");
-    takeParameters(form, form.items[parameters]);
-    walkAll(form.items, parameters + 1, flow);
+void CodeWalk::walkLambda(const Form& form, size_t first, Flow& flow, const Form* mapping) {
+    if (form.items.size() <= first) return onMalformed(form, u"the list of parameters is missing");
+    const size_t outer = m_bindings.size();
+    const size_t count = takeParameters(form, form.items[first]).size();
+    for (size_t i = 0; mapping && i < count && i + 2 < mapping->items.size(); ++i)
+        m_bindings[outer + i].elements = elementsOf(mapping->items[i + 2]);
+    walkAll(form.items, first + 1, flow);
+    m_bindings.resize(outer);
 }
 
 void CodeWalk::walkDefun(const Form& form) {
@@ -328,9 +407,15 @@ void CodeWalk::walkDefun(const Form& form) {
         return;
     }
     Word* const word = form.items[1].word;
-    const size_t count = takeParameters(form.items[1], form.items[2]);
+    const size_t outer = m_bindings.size();
+    const size_t count = takeParameters(form.items[1], form.items[2]).size();
     Flow body = onDefinition(form, word, count);
+    for (size_t i = 0; i < count; ++i) {
+        m_bindings[outer + i].definition = word->definition;
+        m_bindings[outer + i].parameter = i;
+    }
     walkAll(form.items, 3, body);
+    m_bindings.resize(outer);
     onDefinitionEnd(word, body);
 }
 
@@ -341,9 +426,11 @@ void CodeWalk::walkSetq(const Form& form, Flow& flow) {
     for (size_t i = 1; i < form.items.size(); i += 2) {
         const Form& target = form.items[i];
         if (i + 1 < form.items.size()) walk(form.items[i + 1], flow);
-        if (target.isSymbol())
+        if (target.isSymbol()) {
+            if (bindingOf(target)) m_bindings.push_back({target.word});
             onSet(target.word, false);
-        else if (form.isClosed)
+        }
+        if (!target.isSymbol() && form.isClosed)
             onMalformed(target, u"setq sets variables, and this is none");
     }
 }

@@ -22,6 +22,17 @@ bool worksDialog(const Word& word) { return word.name.starts_with(u"UI_"); }
 
 }  // namespace
 
+void Definitions::collect(const std::vector<ProgramFile*>& files) {
+    constexpr int MOST_ROUNDS = 5;
+    for (int round = 0; round < MOST_ROUNDS; ++round) {
+        m_isChanged = false;
+        m_openings.clear();
+        m_opensOthers = false;
+        walkProgram(files);
+        if (!m_isChanged) return;
+    }
+}
+
 bool Definitions::mentions(std::u16string_view text) const {
     return m_mentioned.contains(lisp::upperCase(text));
 }
@@ -37,26 +48,45 @@ void Definitions::onCall(const Form& name, const Form* call, std::optional<size_
     word.isCalled = true;
     if (word.name == u"HOST_LOAD_PLUGIN") m_program.hasForeignCode = true;
     if (word.name == u"SET") noteSet(call && call->items.size() > 1 ? &call->items[1] : nullptr);
-    if (!call) {
-        if (name.word == m_program.newDialog) m_opensOthers = true;
-        return;
-    }
-    if (name.word == m_program.newDialog && call->items.size() > 1) {
-        if (call->items[1].isString())
-            m_openings.push_back({&call->items[1], &file()});
-        else
-            m_opensOthers = true;
-    }
+    if (!call) return;
     const bool isTouching = !worksDialog(word) && !isOneOf(FILLING, word);
     if (isTouching && call->items.size() > 1 && call->items[1].kind == Form::Kind::integer)
         m_touchedIds.insert(call->items[1].number);
+}
+
+void Definitions::onLiteral(const Form& name, const Form& literal, size_t, const Argument& argument) {
+    const bool isSession = name.word->name == u"UI_SESSION";
+    if (argument.role == Role::dialog && literal.isString() && !isSession)
+        m_openings.push_back({&literal, &file()});
+}
+
+void Definitions::onComputed(const Form&, const Form&, size_t, const Argument& argument) {
+    if (argument.role == Role::dialog) m_opensOthers = true;
+}
+
+void Definitions::onParameter(const Form&, size_t, Definition& definition, size_t parameter,
+                              const Argument& argument, const Flow& flow) {
+    const bool isHandedOn =
+        argument.role == Role::dialog ||
+        ((argument.role == Role::tile || argument.role == Role::action) && flow.isAtBegin());
+    if (!isHandedOn) return;
+    std::vector<Argument>& arguments = definition.arguments;
+    if (arguments.size() <= parameter) arguments.resize(parameter + 1);
+    Argument& known = arguments[parameter];
+    if (known.role == Role::any) {
+        known = argument;
+        m_isChanged = true;
+    } else if (known.kinds == ANY_KIND && argument.kinds != ANY_KIND && known.role == argument.role) {
+        known.kinds = argument.kinds;
+        m_isChanged = true;
+    }
 }
 
 // (set 'name value) sets a variable that is known, any other call any variable.
 void Definitions::noteSet(const Form* target) {
     const bool isQuoted = target && target->kind == Form::Kind::quote && !target->items.empty();
     if (isQuoted && target->items[0].isSymbol())
-        target->items[0].word->isSet = true;
+        onSet(target->items[0].word, false);
     else
         m_program.hasForeignCode = true;
 }
@@ -69,7 +99,7 @@ Flow Definitions::onDefinition(const Form&, Word* word, size_t count) {
 
 void Definitions::onSet(Word* word, bool isParameter) {
     word->isSet = true;
-    word->isParameter = word->isParameter || isParameter;
+    word->isGiven = word->isGiven || !isParameter;
 }
 
 void Definitions::onString(const Form& string, const Form* call, size_t argument) {
@@ -84,7 +114,10 @@ void Definitions::onString(const Form& string, const Form* call, size_t argument
 }
 
 void Definitions::onDataSymbol(const Form& symbol) { symbol.word->isValue = true; }
-void Definitions::onVariable(const Form& symbol) { symbol.word->isValue = true; }
+void Definitions::onVariable(const Form& symbol) {
+    // A parameter of that name is something else.
+    if (!bindingOf(symbol)) symbol.word->isValue = true;
+}
 
 void Definitions::onLoad(const Form&, bool isFound) {
     if (!isFound) m_program.hasForeignCode = true;

@@ -20,6 +20,9 @@ class Definitions : public CodeWalk {
 
     // The openings of dialogs that stand in the program by name, in the program's order, and whether it opens
     // others too.
+    // Walks the program until nothing more comes to light.
+    void collect(const std::vector<ProgramFile*>& files);
+
     const std::vector<Opening>& openings() const { return m_openings; }
     bool opensOthers() const { return m_opensOthers; }
     // Whether a string of the program, but for the names of sessions, is that text. In any letter case.
@@ -32,6 +35,10 @@ class Definitions : public CodeWalk {
 
   protected:
     void onCall(const Form& name, const Form* call, std::optional<size_t> count, Flow& flow) override;
+    void onLiteral(const Form& name, const Form& literal, size_t index, const Argument& argument) override;
+    void onComputed(const Form& name, const Form& form, size_t index, const Argument& argument) override;
+    void onParameter(const Form& name, size_t index, Definition& definition, size_t parameter,
+                     const Argument& argument, const Flow& flow) override;
     Flow onDefinition(const Form& form, Word* word, size_t count) override;
     void onSet(Word* word, bool isParameter) override;
     void onString(const Form& string, const Form* call, size_t argument) override;
@@ -44,6 +51,7 @@ class Definitions : public CodeWalk {
 
     std::vector<Opening> m_openings;
     bool m_opensOthers = false;
+    bool m_isChanged = false;
     std::set<std::u16string, std::less<>> m_mentioned;
     std::set<std::u16string, std::less<>> m_touched;
     std::set<std::u16string, std::less<>> m_beginnings;

@@ -24,18 +24,48 @@ void DialogFlow::follow(const std::vector<ProgramFile*>& files) {
 void DialogFlow::onCall(const Form& name, const Form* call, std::optional<size_t>, Flow& flow) {
     Word* const word = name.word;
     if (Definition* definition = word->definition) {
+        if (!definition->arguments.empty()) m_atCalls[&name].add(flow.current());
         m_isChanged = definition->atCall.add(flow.current()) || m_isChanged;
         const Flow effect = definition->effect;
         flow.call(effect);
         return;
     }
     if (word == m_program.newDialog) {
-        const bool isNamed = call && call->items.size() > 1 && call->items[1].isString();
-        const Dialog* dialog = isNamed ? m_program.knowledge.dialog(call->items[1].text) : nullptr;
-        flow.open(dialog ? DialogSet(dialog) : DialogSet::any());
+        flow.open(call ? m_named : DialogSet::any());
+        m_named = DialogSet::any();
     }
     if (word->function && word->function->isAboutDialogs()) m_atCalls[&name].add(flow.current());
     if (word == m_program.startDialog) flow.start();
+}
+
+void DialogFlow::onLiteral(const Form& function, const Form& literal, size_t index,
+                           const Argument& argument) {
+    if (argument.role != Role::dialog) return;
+    const Dialog* dialog = literal.isString() ? m_program.knowledge.dialog(literal.text) : nullptr;
+    name(function, index, dialog ? DialogSet(dialog) : DialogSet::any());
+}
+
+void DialogFlow::onComputed(const Form& function, const Form&, size_t index, const Argument& argument) {
+    if (argument.role == Role::dialog) name(function, index, DialogSet::any());
+}
+
+void DialogFlow::onParameter(const Form& function, size_t index, Definition& definition, size_t parameter,
+                             const Argument& argument, const Flow&) {
+    if (argument.role != Role::dialog) return;
+    const bool isKnown = definition.word->isCalled && !definition.word->isValue;
+    if (!isKnown) return name(function, index, DialogSet::any());
+    name(function, index, parameter < definition.named.size() ? definition.named[parameter] : DialogSet());
+}
+
+// A name that is given to a function of the program is one that its parameter may have.
+void DialogFlow::name(const Form& function, size_t index, const DialogSet& dialogs) {
+    Definition* definition = function.word->definition;
+    if (!definition) {
+        m_named = dialogs;
+        return;
+    }
+    if (definition->named.size() <= index) definition->named.resize(index + 1);
+    m_isChanged = definition->named[index].add(dialogs) || m_isChanged;
 }
 
 Flow DialogFlow::onDefinition(const Form&, Word* word, size_t) { return Flow(word->definition->atCall); }

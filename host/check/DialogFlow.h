@@ -20,11 +20,19 @@ class DialogFlow : public CodeWalk {
 
   protected:
     void onCall(const Form& name, const Form* call, std::optional<size_t> count, Flow& flow) override;
+    void onLiteral(const Form& name, const Form& literal, size_t index, const Argument& argument) override;
+    void onComputed(const Form& name, const Form& form, size_t index, const Argument& argument) override;
+    void onParameter(const Form& name, size_t index, Definition& definition, size_t parameter,
+                     const Argument& argument, const Flow& flow) override;
     Flow onDefinition(const Form& form, Word* word, size_t count) override;
     void onDefinitionEnd(Word* word, const Flow& flow) override;
 
   private:
+    void name(const Form& function, size_t index, const DialogSet& dialogs);
+
     std::unordered_map<const Form*, DialogSet> m_atCalls;
+    // Of the call whose arguments have just been walked.
+    DialogSet m_named;
     bool m_isChanged = false;
 };
 

@@ -31,6 +31,8 @@ class Flow {
     explicit Flow(DialogSet atBegin) : m_atBegin(std::move(atBegin)) {}
 
     DialogSet current() const;
+    // Whether the dialog that was current at the beginning still is.
+    bool isAtBegin() const { return m_opened.empty() && m_startedBefore == 0 && !m_isLost; }
     void open(DialogSet dialogs) { m_opened.push_back(std::move(dialogs)); }
     // When a dialog has run, the one before it is current again.
     void start();

@@ -20,8 +20,8 @@ struct Word {
     const Function* function = nullptr;  // of the host or a plug-in
     Definition* definition = nullptr;    // by defun
     SpecialForm special{};
-    bool isSet = false;        // a parameter, a local variable, or set somewhere
-    bool isParameter = false;  // a parameter or a local variable of some function
+    bool isSet = false;    // a parameter, a local variable, or set somewhere
+    bool isGiven = false;  // set by more than a call
     bool isCalled = false;
     bool isValue = false;  // named where it isn't called: who knows who calls it
 };

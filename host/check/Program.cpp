@@ -20,6 +20,12 @@ constexpr NamedForm SPECIAL_FORMS[] = {
 
 }  // namespace
 
+Argument argumentOf(const Word& function, size_t index) {
+    if (!function.definition) return function.function ? function.function->argument(index) : Argument{};
+    const std::vector<Argument>& arguments = function.definition->arguments;
+    return index < arguments.size() ? arguments[index] : Argument{};
+}
+
 Program::Program(const Knowledge& known, FindSource find) : knowledge(known), m_find(std::move(find)) {
     for (const NamedForm& special : SPECIAL_FORMS) words.at(special.name)->special = special.form;
     for (const auto& [name, function] : known.functions()) words.at(name)->function = &function;

@@ -51,9 +51,16 @@ struct ProgramFile {
 struct Definition {
     Word* word = nullptr;
     std::vector<size_t> parameterCounts;
+    // What the parameters are, as far as the body hands them on while the caller's dialog is current.
+    std::vector<Argument> arguments;
+    // The dialogs whose names are given for each parameter that is one.
+    std::vector<DialogSet> named;
     DialogSet atCall;
     Flow effect{DialogSet()};
 };
+
+// What an argument of that function is, counted from 0.
+Argument argumentOf(const Word& function, size_t index);
 
 class Program {
   public:

@@ -34,7 +34,7 @@ class Parser {
 
     bool waitsForNobody() const {
         const bool ends = m_options.help || m_options.version || m_options.showDialogs ||
-                          m_options.checkDialogs || m_options.interactive;
+                          m_options.checkDialogs || m_options.languageServer || m_options.interactive;
         return m_options.headless && m_options.steps.empty() && !ends;
     }
 
@@ -90,6 +90,8 @@ class Parser {
             m_options.checkDialogs = true;
         } else if (argument == L"--check") {
             m_options.check = true;
+        } else if (argument == L"--language-server") {
+            m_options.languageServer = true;
         } else if (argument == L"--timeout") {
             takeTimeout(argument);
         } else if (argument == L"--data") {
@@ -132,6 +134,7 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --shots DIR        where ui_shot writes its pictures (the working folder)
   --plugin PATH      the plug-in to load (WexDialogs.pgx beside wexhost.exe)
   --check            read the files as one program, run nothing, and tell what is wrong with them
+  --language-server  serve an editor by the language server protocol, on standard input and output
   --dialogs [NAME]...
                      list the dialogs, or the tiles of those named
   --check-dialogs [MODULE]...

@@ -21,6 +21,7 @@ struct Options {
     bool showDialogs = false;
     bool checkDialogs = false;
     bool check = false;
+    bool languageServer = false;
     double timeoutSeconds = 0;  // 0: no limit
     std::wstring shotsFolder;
     std::wstring plugin;

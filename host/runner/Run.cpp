@@ -22,6 +22,7 @@
 #include "host/runner/MainFrame.h"
 #include "host/runner/Options.h"
 #include "host/runner/Prompt.h"
+#include "host/runner/ServeEditor.h"
 #include "host/runner/ShowDialogs.h"
 #include "host/runner/TempFolder.h"
 #include "host/runner/Terminal.h"
@@ -226,6 +227,10 @@ int hostRun(int count, wchar_t** arguments) {
     if (options.checkDialogs) return checkDialogs(systemPaths(options.modules));
     std::optional<Watchdog> watchdog;
     if (options.timeoutSeconds > 0) watchdog.emplace(options.timeoutSeconds);
+    if (options.languageServer) {
+        startHost(options);
+        host().exit(serveEditor());
+    }
     if (options.check) {
         startHost(options);
         host().exit(checkFiles(programFiles(options)));

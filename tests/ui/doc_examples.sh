@@ -6,10 +6,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 documents=(README.md docs/lisp-functions.md docs/sessions.md docs/dialogs.md)
-awk -v folder="$work" '
-    /^```lisp$/ { inside = 1; file = sprintf("%s/%02d.lsp", folder, ++count); printf "; %s, line %d\n", FILENAME, FNR > file; next }
-    /^```$/     { inside = 0 }
-    inside      { print > file }' "${documents[@]}"
+tests/support/doc_examples.awk "$work" "${documents[@]}"
 
 passed=0 failed=0
 for example in "$work"/*.lsp; do
