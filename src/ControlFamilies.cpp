@@ -32,7 +32,7 @@ void applyEditLimit(const CWnd& edit, const CCtrlInfo& tile) {
     edit.SendMessage(EM_LIMITTEXT, tile.m_editLimit);
 }
 
-constexpr ControlFamily families[] = {
+constexpr ControlFamily FAMILIES[] = {
     {.kind = ControlKind::slideImage, .typeWord = L"Slide", .make = make<WexSlideImage>},
     {.kind = ControlKind::frame, .typeWord = L"Frame", .make = make<WexFrame>},
     {.kind = ControlKind::imageButton, .typeWord = L"ImageButton", .make = make<WexButtonSt>},
@@ -82,9 +82,9 @@ constexpr ControlFamily families[] = {
 };
 
 constexpr bool standInOrder() {
-    for (size_t at = 0; at < std::size(families); ++at)
-        if (families[at].kind != static_cast<ControlKind>(at)) return false;
-    return std::size(families) == static_cast<size_t>(ControlKind::unknown) + 1;
+    for (size_t at = 0; at < std::size(FAMILIES); ++at)
+        if (FAMILIES[at].kind != static_cast<ControlKind>(at)) return false;
+    return std::size(FAMILIES) == static_cast<size_t>(ControlKind::unknown) + 1;
 }
 static_assert(standInOrder(), "a family is found by its place: one row for each ControlKind, in its order");
 
@@ -97,10 +97,10 @@ const ExtraControl* extraControlOf(const CString& dialogName) {
     return dialogName == REPORT_DIALOG ? &REPORT_TAB : nullptr;
 }
 
-const ControlFamily& familyOf(ControlKind kind) { return families[static_cast<size_t>(kind)]; }
+const ControlFamily& familyOf(ControlKind kind) { return FAMILIES[static_cast<size_t>(kind)]; }
 
 const ControlFamily* familyOfType(const CString& typeWord) {
-    for (const ControlFamily& family : families)
+    for (const ControlFamily& family : FAMILIES)
         if (typeWord == family.typeWord) return &family;
     return nullptr;
 }

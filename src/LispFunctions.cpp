@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr WexLispFunctionRow rows[] = {
+constexpr WexLispFunctionRow ROWS[] = {
     {L"wex_new_dialog", withArguments<newDialog>},
     {L"wex_start_dialog", withAnyArguments<startDialog>},
     {L"wex_done_dialog", withAnyArguments<doneDialog>},
@@ -118,20 +118,20 @@ constexpr WexLispFunctionRow rows[] = {
     {L"wex_fp_getdeleted", withAnyArguments<recordsGetDeleted>},
     {L"wex_fp_savedb", withAnyArguments<recordsForgetChanges>},
 };
-static_assert(std::size(rows) == 94);
-static_assert(std::equal(std::begin(rows), std::end(rows), std::begin(LISP_SIGNATURES),
+static_assert(std::size(ROWS) == 94);
+static_assert(std::equal(std::begin(ROWS), std::end(ROWS), std::begin(LISP_SIGNATURES),
                          std::end(LISP_SIGNATURES),
                          [](const WexLispFunctionRow& row, const wchar_t* signature) {
                              return std::wstring_view(row.name) == signatureName(signature);
                          }),
               "each row has its signature");
 
-constexpr auto slots = [] {
-    std::array<const WexLispFunctionRow*, std::size(rows)> pointers{};
-    for (size_t code = 0; code < pointers.size(); ++code) pointers[code] = &rows[code];
+constexpr auto SLOTS = [] {
+    std::array<const WexLispFunctionRow*, std::size(ROWS)> pointers{};
+    for (size_t code = 0; code < pointers.size(); ++code) pointers[code] = &ROWS[code];
     return pointers;
 }();
 
 }  // namespace
 
-LispTable lispFunctions() { return slots; }
+LispTable lispFunctions() { return SLOTS; }

@@ -67,7 +67,7 @@ class Analyser {
     Symbol* m_form = nullptr;
 };
 
-constexpr SpecialForm specialForms[] = {
+constexpr SpecialForm SPECIAL_FORMS[] = {
     {u"QUOTE", &Analyser::quote},     {u"FUNCTION", &Analyser::function},
     {u"IF", &Analyser::ifForm},       {u"COND", &Analyser::cond},
     {u"AND", &Analyser::andForm},     {u"OR", &Analyser::orForm},
@@ -92,7 +92,7 @@ const Node* Analyser::list(Value form) {
     m_form = head.isSymbol() ? head.asSymbol() : nullptr;
     try {
         if (m_form && m_form->specialForm)
-            result = (this->*specialForms[m_form->specialForm - 1].analyse)(arguments);
+            result = (this->*SPECIAL_FORMS[m_form->specialForm - 1].analyse)(arguments);
         else if (m_form)
             result = call(m_form, arguments);
         else
@@ -272,7 +272,7 @@ Code* analyse(Machine& machine, Value form) {
 
 void defineSpecialForms(Machine& machine) {
     uint8_t number = 0;
-    for (const SpecialForm& form : specialForms) machine.symbols.intern(form.name)->specialForm = ++number;
+    for (const SpecialForm& form : SPECIAL_FORMS) machine.symbols.intern(form.name)->specialForm = ++number;
 }
 
 bool isLambda(Machine& machine, Value list) {

@@ -94,7 +94,7 @@ Value ticks(Call&) {
         int32_t(std::chrono::duration_cast<std::chrono::milliseconds>(now).count() & 0x7FFFFFFF));
 }
 
-constexpr Definition functions[] = {
+constexpr Definition FUNCTIONS[] = {
     {u"eval", evalForm, 1, 1}, {u"apply", applyFunction, 2, 2}, {u"mapcar", mapcar, 2, -1},
     {u"read", readForm, 1, 1}, {u"load", load, 1, 2},           {u"set", set, 2, 2},
     {u"type", typeOf, 1, 1},   {u"boundp", isBound, 1, 1},      {u"symbol-name", symbolName, 1, 1},
@@ -108,6 +108,6 @@ void defineAll(Interpreter& lisp, std::span<const Definition> functions) {
         lisp.defineNative(entry.name, entry.function, nullptr, entry.minimum, entry.maximum);
 }
 
-void defineControlFunctions(Interpreter& lisp) { defineAll(lisp, functions); }
+void defineControlFunctions(Interpreter& lisp) { defineAll(lisp, FUNCTIONS); }
 
 }  // namespace lisp

@@ -146,7 +146,7 @@ Value fileBase(Call& call) { return nameOf(call, toPath(call.text(0)).stem()); }
 Value fileExtension(Call& call) { return nameOf(call, toPath(call.text(0)).extension()); }
 Value fileFolder(Call& call) { return nameOf(call, toPath(call.text(0)).parent_path()); }
 
-constexpr Definition functions[] = {
+constexpr Definition FUNCTIONS[] = {
     {u"open", openFile, 2, 2},
     {u"close", closeFile, 1, 1},
     {u"read-line", readLine, 1, 1},
@@ -167,6 +167,6 @@ constexpr Definition functions[] = {
 
 }  // namespace
 
-void defineFileFunctions(Interpreter& lisp) { defineAll(lisp, functions); }
+void defineFileFunctions(Interpreter& lisp) { defineAll(lisp, FUNCTIONS); }
 
 }  // namespace lisp

@@ -133,7 +133,7 @@ Value range(Call& call) {
     return result;
 }
 
-constexpr Definition functions[] = {
+constexpr Definition FUNCTIONS[] = {
     {u"cons", cons, 2, 2},
     {u"list", list, 0, -1},
     {u"append", append, 0, -1},
@@ -155,7 +155,7 @@ constexpr Definition functions[] = {
 }  // namespace
 
 void defineListFunctions(Interpreter& lisp) {
-    defineAll(lisp, functions);
+    defineAll(lisp, FUNCTIONS);
     for (const char16_t* path : paths)
         lisp.defineNative(u"c" + std::u16string(path) + u"r", carCdr, const_cast<char16_t*>(path), 1, 1);
 }

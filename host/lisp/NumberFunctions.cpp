@@ -172,7 +172,7 @@ Value isPositive(Call& call) { return Value::truth(call.number(0) > 0); }
 Value isEven(Call& call) { return Value::truth(call.integer(0) % 2 == 0); }
 Value isOdd(Call& call) { return Value::truth(call.integer(0) % 2 != 0); }
 
-constexpr Definition functions[] = {
+constexpr Definition FUNCTIONS[] = {
     {u"+", addNumbers, 0, -1},
     {u"-", subtractNumbers, 1, -1},
     {u"*", multiplyNumbers, 0, -1},
@@ -216,7 +216,7 @@ constexpr Definition functions[] = {
 }  // namespace
 
 void defineNumberFunctions(Interpreter& lisp) {
-    defineAll(lisp, functions);
+    defineAll(lisp, FUNCTIONS);
     lisp.setSymbol(u"pi", Value::real(std::numbers::pi));
 }
 

@@ -60,7 +60,7 @@ Value writeCharacter(Call& call) {
     return call[0];
 }
 
-constexpr Definition functions[] = {
+constexpr Definition FUNCTIONS[] = {
     {u"princ", princ, 0, 2},
     {u"prin1", prin1, 0, 2},
     {u"print", print, 0, 2},
@@ -72,6 +72,6 @@ constexpr Definition functions[] = {
 
 }  // namespace
 
-void defineOutputFunctions(Interpreter& lisp) { defineAll(lisp, functions); }
+void defineOutputFunctions(Interpreter& lisp) { defineAll(lisp, FUNCTIONS); }
 
 }  // namespace lisp

@@ -37,7 +37,7 @@ Value areEqual(Call& call) {
     return Value::truth(isEqual(call.lisp.machine(), call[0], call[1], fuzz));
 }
 
-constexpr Definition functions[] = {
+constexpr Definition FUNCTIONS[] = {
     {u"null", isNull, 1, 1},      {u"not", isNull, 1, 1},           {u"atom", isAtom, 1, 1},
     {u"listp", isList, 1, 1},     {u"consp", isCons, 1, 1},         {u"stringp", isString, 1, 1},
     {u"symbolp", isSymbol, 1, 1}, {u"numberp", isNumber, 1, 1},     {u"integerp", isInteger, 1, 1},
@@ -47,6 +47,6 @@ constexpr Definition functions[] = {
 
 }  // namespace
 
-void definePredicates(Interpreter& lisp) { defineAll(lisp, functions); }
+void definePredicates(Interpreter& lisp) { defineAll(lisp, FUNCTIONS); }
 
 }  // namespace lisp

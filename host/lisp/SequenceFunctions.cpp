@@ -115,7 +115,7 @@ Value sort(Call& call) {
     return call.lisp.list(values);
 }
 
-constexpr Definition functions[] = {
+constexpr Definition FUNCTIONS[] = {
     {u"remove-if", removeIf, 2, 2}, {u"remove-if-not", removeIfNot, 2, 2}, {u"some", some, 2, 2},
     {u"every", every, 2, 2},        {u"member-if", memberIf, 2, 2},        {u"reduce", reduce, 2, 3},
     {u"sort", sort, 2, 2},
@@ -123,6 +123,6 @@ constexpr Definition functions[] = {
 
 }  // namespace
 
-void defineSequenceFunctions(Interpreter& lisp) { defineAll(lisp, functions); }
+void defineSequenceFunctions(Interpreter& lisp) { defineAll(lisp, FUNCTIONS); }
 
 }  // namespace lisp

@@ -187,7 +187,7 @@ Value equalIgnoringCase(Call& call) {
 Value displayed(Call& call) { return call.lisp.string(call.lisp.display(call[0])); }
 Value printed(Call& call) { return call.lisp.string(call.lisp.print(call[0])); }
 
-constexpr Definition functions[] = {
+constexpr Definition FUNCTIONS[] = {
     {u"strcat", concatenate, 0, -1},
     {u"strlen", length, 0, -1},
     {u"substr", part, 2, 3},
@@ -216,6 +216,6 @@ constexpr Definition functions[] = {
 
 }  // namespace
 
-void defineStringFunctions(Interpreter& lisp) { defineAll(lisp, functions); }
+void defineStringFunctions(Interpreter& lisp) { defineAll(lisp, FUNCTIONS); }
 
 }  // namespace lisp

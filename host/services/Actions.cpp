@@ -20,16 +20,16 @@ struct Binding {
     std::wstring_view subject;
 };
 
-constexpr std::array bindings = {
+constexpr std::array BINDINGS = {
     Binding{L"wex_action_tile", L"", L""},
     Binding{L"wex_setaction_oninit", L"OnInit", L"on-init "},
     Binding{L"wex_setaction_onsize", L"OnSize", L"on-size "},
 };
 
 const Binding* bindingOf(std::wstring_view function) {
-    const auto found = std::find_if(bindings.begin(), bindings.end(),
+    const auto found = std::find_if(BINDINGS.begin(), BINDINGS.end(),
                                     [&](const Binding& binding) { return binding.function == function; });
-    return found == bindings.end() ? nullptr : &*found;
+    return found == BINDINGS.end() ? nullptr : &*found;
 }
 
 std::wstring textOf(const HostValue* node) {

@@ -7,7 +7,7 @@ struct ClassRow {
     ControlKind kind;
 };
 
-constexpr ClassRow classRows[] = {
+constexpr ClassRow CLASS_ROWS[] = {
     {L"GXWND", ControlKind::grid},         {L"SysTabControl32", ControlKind::tab},
     {L"SysTreeView32", ControlKind::tree}, {L"Edit", ControlKind::edit},
     {L"Static", ControlKind::staticText},  {L"ListBox", ControlKind::listBox},
@@ -23,7 +23,7 @@ ControlKind controlKindOf(const ControlTraits& control, const ButtonCaptions& ca
         return isImageButtonCaption(control.caption, captions) ? ControlKind::imageButton
                                                                : ControlKind::button;
     }
-    for (const ClassRow& row : classRows)
+    for (const ClassRow& row : CLASS_ROWS)
         if (row.className == control.className) return row.kind;
     return ControlKind::unknown;
 }

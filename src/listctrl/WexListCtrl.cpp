@@ -13,7 +13,7 @@ IMPLEMENT_DYNAMIC(WexListCtrl, CListCtrl)
 namespace {
 
 // The field of a source that each column shows. kept: the second field isn't shown.
-constexpr int sourceFields[] = {0, 2, 3};
+constexpr int SOURCE_FIELDS[] = {0, 2, 3};
 
 // The dialog whose list shows the source.
 constexpr UINT SOURCE_DIALOG = 1898;
@@ -47,9 +47,9 @@ void WexListCtrl::onGetDispInfo(NMHDR* header) {
     LVITEMW& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
     if (!m_dataSource || !(item.mask & LVIF_TEXT)) return;
     const auto column = static_cast<size_t>(item.iSubItem);
-    const bool isShown = column < std::size(sourceFields);
+    const bool isShown = column < std::size(SOURCE_FIELDS);
     // kept: the record is fetched for a column without a field too, and is an exception where it isn't there.
-    const CString text = m_dataSource->field(item.iItem, sourceFields[isShown ? column : 0]);
+    const CString text = m_dataSource->field(item.iItem, SOURCE_FIELDS[isShown ? column : 0]);
     if (isShown) lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
 }
 

@@ -9,8 +9,8 @@ struct EntryMessages {
     UINT add, selected, remove, insert;
 };
 
-constexpr EntryMessages listBoxMessages{LB_ADDSTRING, LB_GETCURSEL, LB_DELETESTRING, LB_INSERTSTRING};
-constexpr EntryMessages comboBoxMessages{CB_ADDSTRING, CB_GETCURSEL, CB_DELETESTRING, CB_INSERTSTRING};
+constexpr EntryMessages LIST_BOX_MESSAGES{LB_ADDSTRING, LB_GETCURSEL, LB_DELETESTRING, LB_INSERTSTRING};
+constexpr EntryMessages COMBO_BOX_MESSAGES{CB_ADDSTRING, CB_GETCURSEL, CB_DELETESTRING, CB_INSERTSTRING};
 
 void addEntry(const CWnd& control, const EntryMessages& messages, const wchar_t* text, int operation) {
     const auto entry = reinterpret_cast<LPARAM>(text);
@@ -57,9 +57,9 @@ void emptyListBox(CWnd& listBox, bool /*byKey*/) { listBox.SendMessage(LB_RESETC
 void emptyComboBox(CWnd& comboBox, bool /*byKey*/) { comboBox.SendMessage(CB_RESETCONTENT); }
 
 void addToListBox(CWnd& listBox, const wchar_t* entry, int operation) {
-    addEntry(listBox, listBoxMessages, entry, operation);
+    addEntry(listBox, LIST_BOX_MESSAGES, entry, operation);
 }
 
 void addToComboBox(CWnd& comboBox, const wchar_t* entry, int operation) {
-    addEntry(comboBox, comboBoxMessages, entry, operation);
+    addEntry(comboBox, COMBO_BOX_MESSAGES, entry, operation);
 }

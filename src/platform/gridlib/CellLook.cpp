@@ -5,7 +5,7 @@
 namespace {
 
 // Every attribute: a new one is named here and in the struct.
-constexpr auto attributes = std::make_tuple(
+constexpr auto ATTRIBUTES = std::make_tuple(
     &CellLook::control, &CellLook::readOnly, &CellLook::wrap, &CellLook::horizontal, &CellLook::merge,
     &CellLook::interior, &CellLook::textColor, &CellLook::format, &CellLook::places, &CellLook::choices);
 
@@ -21,13 +21,13 @@ void CellLook::apply(const CellLook& over) {
     const auto take = [&](auto attribute) {
         if (over.*attribute) this->*attribute = over.*attribute;
     };
-    std::apply([&](auto... attribute) { (take(attribute), ...); }, attributes);
+    std::apply([&](auto... attribute) { (take(attribute), ...); }, ATTRIBUTES);
     hasValue = hasValue || over.hasValue;
 }
 
 size_t CellLook::hash() const {
     size_t hash = hasValue;
     const auto add = [&](const auto& value) { hash = hash * 1000003 + (value ? hashOf(*value) + 1 : 0); };
-    std::apply([&](auto... attribute) { (add(this->*attribute), ...); }, attributes);
+    std::apply([&](auto... attribute) { (add(this->*attribute), ...); }, ATTRIBUTES);
     return hash;
 }
