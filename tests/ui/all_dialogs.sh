@@ -1,11 +1,6 @@
 #!/bin/bash
 # Every dialog that the host lists opens under its name, and Esc closes it.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 bin=build/windows/bin
 
 wine64 $bin/wexhost.exe --dialogs | tr -d '\r' >"$work/listed"

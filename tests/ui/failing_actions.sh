@@ -1,12 +1,7 @@
 #!/bin/bash
 # An error in an action ends nothing but that action: what is told about it, and the exit status, are all that the
 # person has to find it. Each case runs a program of its own and compares all that it prints.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 failed=0
 
 # check NAME STATUS PROGRAM PRINTED [OPTION...]

@@ -1,11 +1,6 @@
 #!/bin/bash
 # Without the data store's module a setup says so each time, makes no table, and all else goes on.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 cp build/windows/bin/{wexhost.exe,hostapi.dll,WexDialogs.pgx,WexDialogsRes.dll} "$work"
 
 printed=$(cd "$work" && wine64 wexhost.exe --headless --timeout 60 -e '(progn

@@ -1,12 +1,8 @@
 #!/bin/bash
 # A dialog of 77 tiles that was sized to and fro looks as one that starts in that size, and so does a page, also one that was
 # hidden meanwhile; where Lisp moved tiles the dialog looks as when all is drawn anew: nothing is left behind or missing. Usage: tests/ui/resized_pictures.sh [KIND]    another kind of start_wine, as headless-classic
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine "${1:-headless}"
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+kind=${1:-headless}
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 
 cat >"$work/resize.lsp" <<'LISP'
 ; Boxes, lists, the frame and one label grow; buttons follow the right edge or the corner.

@@ -1,12 +1,7 @@
 #!/bin/bash
 # Three hosts work the same dialog at the same time, and its actions load each time. No host leaves its temporary folder
 # behind, even if it was killed.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 host() { wine64 build/windows/bin/wexhost.exe --headless --timeout 200 "$@"; }
 left_folders() { find "$WINEPREFIX/drive_c/users" -name 'wexhost-*' -type d; }
 

@@ -1,11 +1,6 @@
 #!/bin/bash
 # Other programs show exported slides as they are: ImageMagick the bitmap, libwmf the metafile.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 WEX_EXPORTS="Z:$work" wine64 build/windows/testbin/slides_ui_test.exe --gtest_filter='SlideExport.As*' >"$work/log" ||
     { cat "$work/log"; exit 1; }
 

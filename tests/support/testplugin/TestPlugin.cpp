@@ -116,6 +116,15 @@ int32_t command() {
     return RESULT_SET;
 }
 
+// Writes a text into a file: name, text, whether over another file, and whether with a byte order mark.
+int32_t write() {
+    const HostValue* name = hostGetArgs();
+    const HostValue* overwrites = name->next->next;
+    hostRetInt(HostMemFile::createTextFile(name->value.stringValue, name->next->value.stringValue,
+                                           overwrites->type == HV_TRUE, overwrites->next->type == HV_TRUE));
+    return RESULT_SET;
+}
+
 // Sends a message to the module of that name as the host does; gives its answer.
 int32_t send() {
     const HostValue* module = hostGetArgs();
@@ -203,6 +212,7 @@ constexpr Row ROWS[] = {
     {L"t_move", &move},
     {L"t_unfocus", &unfocus},
     {L"t_crash", &crash},
+    {L"t_write", &write},
 };
 constexpr int COUNT = ARRAYSIZE(ROWS);
 

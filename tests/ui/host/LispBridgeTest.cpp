@@ -101,6 +101,14 @@ TEST(LispBridge, OfTwoPluginsWithTheSameNamesTheNewestIsCalledWhileItIsThere) {
         "\"program.lsp:1: (host_unload_plugin): second.pgx isn't loaded\"\n");
 }
 
+TEST(LispBridge, AFileOfTextIsUtf8WithAMarkWhereItIsAskedFor) {
+    const TempFile file(L"written.txt");
+    EXPECT_EQ(values("(progn (setq file \"" + file.path.generic_string() +
+                     "\") 0) (t_write file \"äb\" T nil) (file-size file) "
+                     "(t_write file \"äb\" T T) (file-size file) (t_write file \"c\" nil nil)"),
+              "0\n0\n3\n0\n6\n80\n");
+}
+
 TEST(LispBridge, AListThatIsNestedTooDeeplyIsRefusedInSoManyWords) {
     EXPECT_EQ(values("(repeat 1000 (setq deep (list deep))) " + tried("(= 1 (length (t_echo deep)))") +
                      tried("(t_echo (list deep))"))

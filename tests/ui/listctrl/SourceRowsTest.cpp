@@ -88,22 +88,6 @@ TEST_F(SourceRows, AreAskedForWhereTheyAreInSight) {
     EXPECT_LE(static_cast<int>(rows.askedRows.size()), 2 * (page + 2));
 }
 
-TEST_F(SourceRows, ShowTheirFirstThirdAndFourthFieldInThePlaceOfWaitingRows) {
-    Shown shown(DIALOG_OF_ROWS, [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_listItems = {L"one"}; });
-    EXPECT_EQ(shown.cell(777'776, 0), L"777776.0");
-    EXPECT_EQ(shown.cell(777'776, 1), L"777776.2");
-    EXPECT_EQ(shown.cell(777'776, 2), L"777776.3");
-    EXPECT_EQ(shown.cell(777'776, 3), L"");
-    EXPECT_EQ(shown.cell(777'777, 2), L"") << "the row has no such field";
-
-    wchar_t room[4] = {};
-    LVITEMW item{};
-    item.pszText = room;
-    item.cchTextMax = 4;
-    shown.list().SendMessage(LVM_GETITEMTEXTW, 12, reinterpret_cast<LPARAM>(&item));
-    EXPECT_STREQ(item.pszText, L"12.");
-}
-
 TEST_F(SourceRows, AreSelectedByTheirState) {
     Shown shown(DIALOG_OF_ROWS, [](WexDialog& dialog) { dialog.tileForId(TABLE)->m_value = L"500000"; });
     EXPECT_EQ(shown.selected(), std::vector{500'000});
