@@ -12,9 +12,21 @@ host() { wine64 build/windows/bin/wexhost.exe "$@" | tr -d '\r'; }
 
 # Those of add-ons end with the name of their module.
 host --dialogs | grep -v '\.dll$' | awk '{ print $1 }' | sort >"$work/names"
+# Which tiles stand on which page is the program's to say.
+pages() {
+    case $1 in
+        HELP_PROJ_SETTINGS) pages='(wex_tab_add "TABS" "Settings" "LABEL0" "TOPICS" "ABOUT" "TEXT")
+            (wex_tab_add "TABS" "Files" "LABEL1" "FILES" "B_OPEN") (wex_tab_add "TABS" "Notes" "LABEL2" "NOTES")' ;;
+        SETUP_COMPONENT_XREF) pages='(wex_tab_add "TABS" "Style" "MODE" "TEXT" "GRAPHICAL" "TABLE" "SETUP" "SAME_SHEET")
+            (wex_tab_add "TABS" "Format" "FORMATS" "LABEL0" "SAME_FMT" "LABEL1" "OTHER_FMT" "LABEL2" "BETWEEN" "LABEL3" "SAMPLE")
+            (wex_tab_add "TABS" "Components" "LABEL4" "TYPES" "ALL" "NONE")' ;;
+        *) return 0 ;;
+    esac
+    printf '(wex_setaction_oninit "%s")' "${pages//\"/\\\"}"
+}
 while read -r name; do
     printf "(ui_session \"%s\" '((ui_shot \"%s.png\") (ui_key \"ESC\")))\n" "$name" "$name"
-    printf '(wex_new_dialog "%s") (wex_start_dialog)\n' "$name"
+    printf '(wex_new_dialog "%s") %s (wex_start_dialog)\n' "$name" "$(pages "$name")"
 done <"$work/names" >"$work/shots.lsp"
 rm -f $pictures/*.png
 forget_dialog_sizes
