@@ -1,6 +1,7 @@
 // What the module exports to the host.
 #include <windows.h>
 
+#include <algorithm>
 #include <optional>
 
 #include "src/LispFunctions.h"
@@ -38,6 +39,19 @@ WexDialog* runningDialog(const wchar_t* name) {
     return nullptr;
 }
 
+// Empty for a window that has no name of its own.
+CString nameOf(HWND window) {
+    for (const auto& dialog : g_dialogs.dialogs()) {
+        if (!dialog->isLive()) continue;
+        if (dialog->m_hWnd == window) return dialog->m_name;
+        if (::GetParent(window) != dialog->m_hWnd) continue;
+        const int id = ::GetDlgCtrlID(window);
+        const CString key = dialog->keyForId(id);
+        return dialog->idForKey(key) == id ? key : CString();
+    }
+    return {};
+}
+
 }  // namespace
 
 extern "C" {
@@ -59,6 +73,13 @@ __declspec(dllexport) HWND pluginFindWindow(const wchar_t* dialogName, const wch
 __declspec(dllexport) const wchar_t* pluginLispSignature(int32_t index) {
     const bool exists = index >= 0 && static_cast<size_t>(index) < std::size(LISP_SIGNATURES);
     return exists ? LISP_SIGNATURES[index] : nullptr;
+}
+
+__declspec(dllexport) int32_t pluginNameWindow(HWND window, wchar_t* name, int32_t size) {
+    const CString found = nameOf(window);
+    if (found.empty() || found.size() >= static_cast<size_t>(size)) return 0;
+    *std::copy(found.begin(), found.end(), name) = L'\0';
+    return static_cast<int32_t>(found.size());
 }
 
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds) {

@@ -49,7 +49,7 @@ done
 
 # Of the host's folders each may use those before it.
 order=''
-for folder in lisp units check editor database graphics services documents exports drive runner; do
+for folder in lisp units check editor database graphics services documents exports drive record runner; do
     order="$order${order:+|}host/$folder/"
     may_not_include host/$folder 'host/' "$order" 'the host has this folder above'
 done

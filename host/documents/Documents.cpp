@@ -84,6 +84,14 @@ std::vector<std::wstring> Documents::signatures() const {
     return all;
 }
 
+std::wstring Documents::nameOfWindow(HWND window) const {
+    for (auto plugin = m_plugins.rbegin(); plugin != m_plugins.rend(); ++plugin) {
+        const std::wstring name = (*plugin)->nameOfWindow(window);
+        if (!name.empty()) return name;
+    }
+    return {};
+}
+
 bool Documents::define(const std::wstring& name, int code) {
     if (!m_current || !lisp::isWord(lispText(name))) return false;
     const std::wstring key = toLower(name);

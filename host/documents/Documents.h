@@ -62,6 +62,9 @@ class Documents final : public HostDocManager {
     // What the functions of the plug-ins take, as far as the plug-ins tell.
     std::vector<std::wstring> signatures() const;
 
+    // The key of a tile's window or the name of a dialog, see PLUGIN_NAME_WINDOW there; empty for none.
+    std::wstring nameOfWindow(HWND window) const;
+
     // What hostDefun, hostRegFunc and hostUndef do, on behalf of the plug-in that is being told something or
     // called. One plug-in can't undefine what is another's.
     bool define(const std::wstring& name, int code);

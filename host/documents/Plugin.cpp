@@ -26,6 +26,7 @@ Plugin::Plugin(const std::wstring& path)
     m_entry = exported<EntryPoint>(m_module, PLUGIN_ENTRY_POINT);
     m_findWindow = exported<FindTileWindow>(m_module, PLUGIN_FIND_WINDOW);
     m_lispSignature = exported<LispSignature>(m_module, PLUGIN_LISP_SIGNATURE);
+    m_nameWindow = exported<NameWindow>(m_module, PLUGIN_NAME_WINDOW);
     const auto version = exported<ApiVersion>(m_module, PLUGIN_GET_API_VERSION);
     if (!m_entry || !version) refuse(L" is no plug-in: it lacks pluginEntryPoint or pluginGetApiVersion");
     if (version() != HOST_API_VERSION) refuse(L" is built for another version of this host");
@@ -55,4 +56,11 @@ std::vector<std::wstring> Plugin::signatures() const {
     while (const wchar_t* signature = m_lispSignature(static_cast<int32_t>(signatures.size())))
         signatures.push_back(signature);
     return signatures;
+}
+
+std::wstring Plugin::nameOfWindow(HWND window) const {
+    constexpr int32_t LONGEST_NAME = 256;
+    std::wstring name(LONGEST_NAME, L'\0');
+    name.resize(m_nameWindow ? m_nameWindow(window, name.data(), LONGEST_NAME) : 0);
+    return name;
 }

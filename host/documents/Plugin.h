@@ -30,6 +30,9 @@ class Plugin {
     // As PLUGIN_LISP_SIGNATURE in HostPlugin.h; none where the plug-in doesn't export it.
     std::vector<std::wstring> signatures() const;
 
+    // As PLUGIN_NAME_WINDOW there; empty where the plug-in doesn't export it.
+    std::wstring nameOfWindow(HWND window) const;
+
     void allowUnload() { m_unloadable = true; }
     bool isUnloadable() const { return m_unloadable; }
     void allowSeveralDocuments() { m_severalDocuments = true; }
@@ -40,12 +43,14 @@ class Plugin {
     using ApiVersion = uint32_t (*)();
     using FindTileWindow = HWND (*)(const wchar_t* dialog, const wchar_t* key, int32_t id);
     using LispSignature = const wchar_t* (*)(int32_t index);
+    using NameWindow = int32_t (*)(HWND window, wchar_t* name, int32_t size);
 
     std::wstring m_name;
     HMODULE m_module;
     EntryPoint m_entry = nullptr;
     FindTileWindow m_findWindow = nullptr;
     LispSignature m_lispSignature = nullptr;
+    NameWindow m_nameWindow = nullptr;
     bool m_unloadable = false;
     bool m_severalDocuments = false;
 };

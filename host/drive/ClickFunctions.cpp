@@ -87,10 +87,10 @@ Spot spotOf(Call& call, const Tile& tile, size_t count) {
 }
 
 // Where to press for "tile [x y]": that point of its client area, or the middle.
-Spot pointOf(Call& call, const Tile& tile) {
+Spot pointOf(Call& call, const Tile& tile, bool mayLieOutside) {
     if (countBeforeKeys(call, 1) < 2) return middleOf(tile.window());
     const Spot spot{tile.window(), {call.integer(1), call.integer(2)}};
-    if (!isInView(spot))
+    if (!mayLieOutside && !isInView(spot))
         tile.fail(L"point " + std::to_wstring(spot.point.x) + L" " + std::to_wstring(spot.point.y) +
                   L" lies outside of it");
     return spot;
@@ -101,7 +101,7 @@ template <Press press>
 Value pressPoint(Call& call) {
     const Tile tile(call, 0);
     tile.mustBeWorkable();
-    pressWith(press, pointOf(call, tile), heldKeys(call, 1));
+    pressWith(press, pointOf(call, tile, press == &letGo), heldKeys(call, 1));
     return Value::none();
 }
 
@@ -148,8 +148,16 @@ void sweepCells(Call& call, const Tile& tile, const GridWindow& grid, const KeyS
     sweepTile(tile, from, *to, keys);
 }
 
-// (ui_pick tile item [column] [keys]), (ui_pick grid row column [row column] [keys]); a list of items is
-// picked one by one, but in a tree it is the path of one.
+// Of the cell with choices that is open in the grid.
+Spot choiceSpot(Call& call, const Tile& grid) {
+    const HWND field = GetFocus();
+    const auto choices = GetParent(field) == grid.window() ? itemsOf(field) : nullptr;
+    if (!choices) grid.fail(L"no cell with choices is open in it");
+    return choices->show(indexOf(call, grid, *choices, call[1]), 0);
+}
+
+// (ui_pick tile item [column] [keys]), (ui_pick grid row column [row column] [keys]), (ui_pick grid
+// "choice"); a list of items is picked one by one, but in a tree it is the path of one.
 Value pick(Call& call) {
     const Tile tile(call, 0);
     tile.mustBeWorkable();
@@ -157,7 +165,9 @@ Value pick(Call& call) {
     const size_t count = countBeforeKeys(call, 2);
     const auto grid = gridOf(tile.window());
     const auto items = itemsOf(tile.window());
-    if (grid && count > 3) {
+    if (grid && call[1].isString()) {
+        pressWith(&click, choiceSpot(call, tile), NO_KEYS);
+    } else if (grid && count > 3) {
         sweepCells(call, tile, *grid, keys);
     } else if (call[1].isCons() && items && !items->tree()) {
         pickAll(call, tile);

@@ -22,6 +22,14 @@ std::optional<GridCellLook> GridWindow::cell(GridPlace place) const {
     return cell;
 }
 
+std::optional<GridHit> GridWindow::hit(POINT at) const {
+    GridHit found;
+    found.x = at.x;
+    found.y = at.y;
+    if (!ask(GridQuestion::Hit, found)) return std::nullopt;
+    return found;
+}
+
 std::optional<Spot> GridWindow::spotOf(GridPlace place) const {
     const auto found = cell(place);
     if (!found || found->rect.width() <= 0 || found->rect.height() <= 0) return std::nullopt;

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <vector>
+
 class DialogObserver {
   public:
     // The modal loop of `dialog` has nothing more to do. Told once each time it runs empty.
@@ -16,8 +18,8 @@ class DialogObserver {
     ~DialogObserver() = default;
 };
 
-// Watches while it lives; one at a time. The observer's calls may run Lisp and open dialogs, and must not
-// throw.
+// Watches while it lives. Who began to watch first is told first. The observer's calls may run Lisp and open
+// dialogs, and must not throw.
 //
 // A modal loop that runs empty tells the dialog's owner, and the owners of nested dialogs pass that on until
 // it comes to the main frame. So no hook sees the messages, each of which would cost more than its handling.
@@ -33,7 +35,10 @@ class IdleWatch {
 
   private:
     static LRESULT CALLBACK windowHook(int code, WPARAM w, LPARAM l) noexcept;
+    template <class Tell>
+    static void tellAll(Tell tell);
 
-    static inline DialogObserver* s_observer = nullptr;
-    HHOOK m_hook;
+    static inline std::vector<DialogObserver*> s_observers;
+    static inline HHOOK s_hook = nullptr;
+    DialogObserver* m_observer;
 };

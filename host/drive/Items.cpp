@@ -41,6 +41,16 @@ class ListBoxItems : public ControlItems {
         send(LB_GETITEMRECT, index, &rect);
         return middle(rect);
     }
+    int hit(POINT at) const override {
+        RECT client;
+        GetClientRect(m_window, &client);
+        for (int i = static_cast<int>(send(LB_GETTOPINDEX)); PtInRect(&client, at) && i < count(); ++i) {
+            RECT rect{};
+            send(LB_GETITEMRECT, i, &rect);
+            if (PtInRect(&rect, at)) return i;
+        }
+        return -1;
+    }
 };
 
 class ComboBoxItems : public ControlItems {
@@ -66,6 +76,8 @@ class ComboBoxItems : public ControlItems {
         list().bringIntoView(index, 0);
     }
     Spot at(int index, int) const override { return list().at(index, 0); }
+    // Of the list's client area.
+    int hit(POINT at) const override { return list().hit(at); }
 
   private:
     ListBoxItems list() const {
@@ -109,6 +121,11 @@ class ListViewItems : public ControlItems {
         scrollAcross(m_window, cellRect(index, column));
     }
     Spot at(int index, int column) const override { return middle(cellRect(index, column)); }
+    int hit(POINT at) const override {
+        LVHITTESTINFO hit{};
+        hit.pt = at;
+        return static_cast<int>(send(LVM_HITTEST, 0, &hit));
+    }
     std::optional<Spot> checkBoxOf(int index) const override {
         const Spot spot = at(index, 0);
         return foundLeftOf(spot, [&](POINT point) {
@@ -176,6 +193,11 @@ class TabItems : public ControlItems {
         }
     }
     Spot at(int index, int) const override { return middle(itemRect(index)); }
+    int hit(POINT at) const override {
+        TCHITTESTINFO hit{};
+        hit.pt = at;
+        return static_cast<int>(send(TCM_HITTEST, 0, &hit));
+    }
 
   private:
     static void pressArrow(HWND arrows, bool right) {
@@ -219,13 +241,23 @@ int Items::find(lisp::Value item) const {
 
 int Items::findPath(lisp::Value item) const {
     if (!tree()) return -1;
-    std::vector<std::wstring> wanted;
+    int found = -1;
     for (const lisp::Value step : lisp::Elements(item)) {
-        if (!step.isString()) return -1;
-        wanted.push_back(wideText(step.asString()));
+        found = findChild(found, step);
+        if (found < 0) return -1;
     }
-    for (int i = 0; i < count(); ++i)
-        if (text(i) == wanted.back() && tree()->path(i) == wanted) return i;
+    return found;
+}
+
+// Of -1 the items of the root.
+int Items::findChild(int parent, lisp::Value step) const {
+    const std::wstring wanted = step.isString() ? wideText(step.asString()) : std::wstring();
+    int place = 0;
+    for (int i = 0; i < count(); ++i) {
+        if (tree()->parent(i) != parent) continue;
+        if (step.isString() ? text(i) == wanted : step.isInteger() && step.asInteger() == place) return i;
+        ++place;
+    }
     return -1;
 }
 

@@ -16,6 +16,8 @@ class TreeLook {
   public:
     // The texts from the root to the item.
     virtual std::vector<std::wstring> path(int index) const = 0;
+    // The place of the item whose branch it stands in; -1 for one of the root.
+    virtual int parent(int index) const = 0;
     virtual bool isOpen(int index) const = 0;
     // The number of the image that is drawn: that of a selected item is another. -1 for none.
     virtual int image(int index) const = 0;
@@ -52,11 +54,14 @@ class Items {
     // Both at once.
     Spot show(int index, int column) const;
     // The entry that Lisp means: by its name, or by its text, the first one of that text; in a tree by a list
-    // of the texts from the root to it, too. -1 for none.
+    // that leads from the root to it, too, of texts, or of numbers among the siblings, from 0. -1 for none.
     int find(lisp::Value item) const;
+    // The entry at a point of the control's client area; -1 for none.
+    virtual int hit(POINT at) const = 0;
 
   private:
-    int findPath(lisp::Value texts) const;
+    int findPath(lisp::Value steps) const;
+    int findChild(int parent, lisp::Value step) const;
 };
 
 // Null for a control that is no list.

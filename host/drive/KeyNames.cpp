@@ -13,11 +13,12 @@ struct NamedKey {
 
 // The codes are those of the system's WinUser.h.
 constexpr NamedKey KEYS[] = {
-    {L"enter", 0x0D},    {L"return", 0x0D}, {L"esc", 0x1B},       {L"escape", 0x1B}, {L"tab", 0x09},
-    {L"space", 0x20},    {L"back", 0x08},   {L"backspace", 0x08}, {L"delete", 0x2E}, {L"del", 0x2E},
-    {L"insert", 0x2D},   {L"ins", 0x2D},    {L"home", 0x24},      {L"end", 0x23},    {L"pageup", 0x21},
-    {L"pagedown", 0x22}, {L"left", 0x25},   {L"up", 0x26},        {L"right", 0x27},  {L"down", 0x28},
-    {L"plus", 0x6B},     {L"minus", 0x6D},  {L"star", 0x6A},      {L"apps", 0x5D},
+    {L"enter", 0x0D},    {L"return", 0x0D},    {L"esc", 0x1B},  {L"escape", 0x1B}, {L"tab", 0x09},
+    {L"space", 0x20},    {L"backspace", 0x08}, {L"back", 0x08}, {L"delete", 0x2E}, {L"del", 0x2E},
+    {L"insert", 0x2D},   {L"ins", 0x2D},       {L"home", 0x24}, {L"end", 0x23},    {L"pageup", 0x21},
+    {L"pagedown", 0x22}, {L"left", 0x25},      {L"up", 0x26},   {L"right", 0x27},  {L"down", 0x28},
+    {L"shift", 0x10},    {L"ctrl", 0x11},      {L"alt", 0x12},  {L"plus", 0x6B},   {L"minus", 0x6D},
+    {L"star", 0x6A},     {L"apps", 0x5D},
 };
 
 constexpr int FIRST_FUNCTION_KEY = 0x70;
@@ -40,7 +41,28 @@ std::optional<int> keyNamed(const std::wstring& name) {
     return std::nullopt;
 }
 
+// In lower case; empty for none. Of several names the first one of the table.
+std::wstring nameOf(int key) {
+    if ((key >= L'A' && key <= L'Z') || (key >= L'0' && key <= L'9'))
+        return std::wstring(1, static_cast<wchar_t>(key >= L'A' ? key - L'A' + L'a' : key));
+    const int function = key - FIRST_FUNCTION_KEY + 1;
+    if (function >= 1 && function <= FUNCTION_KEYS) return L"f" + std::to_wstring(function);
+    for (const NamedKey& known : KEYS)
+        if (known.virtualKey == key) return std::wstring(known.name);
+    return {};
+}
+
 }  // namespace
+
+std::wstring keyStrokeName(const KeyStroke& stroke) {
+    const std::wstring key = nameOf(stroke.virtualKey);
+    if (key.empty()) return {};
+    std::wstring name = stroke.shift ? L"SHIFT+" : L"";
+    if (stroke.control) name += L"CTRL+";
+    if (stroke.alt) name += L"ALT+";
+    for (const wchar_t c : key) name += c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - L'a' + L'A') : c;
+    return name;
+}
 
 std::optional<KeyStroke> parseKeyStroke(std::wstring_view text) {
     std::wstring rest = toLower(text);

@@ -49,6 +49,15 @@ bool isShownButton(HWND window) {
     return window && hasClass(window, L"Button") && (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE);
 }
 
+// The button of that id, or the first one; null where there is none.
+HWND buttonOf(HWND box, int id) {
+    HWND button = GetDlgItem(box, id);
+    if (isShownButton(button)) return button;
+    button = GetWindow(box, GW_CHILD);
+    while (button && !isShownButton(button)) button = GetWindow(button, GW_HWNDNEXT);
+    return button;
+}
+
 }  // namespace
 
 bool isSystemDialog(HWND window) { return hasClass(window, L"#32770"); }
@@ -80,16 +89,23 @@ int boxButton(std::wstring_view name) {
     return 0;
 }
 
+std::wstring_view boxButtonName(int button) {
+    for (const NamedButton& known : NAMED_BUTTONS)
+        if (known.id == button) return known.name;
+    return {};
+}
+
+int usualButton(HWND box) {
+    const HWND button = buttonOf(box, IDOK);
+    return button ? GetDlgCtrlID(button) : IDOK;
+}
+
 void answerBox(HWND box, const BoxAnswer& answer) {
     // A dialog for files has a combo box for the name, or an edit box.
     for (const int id : {FILE_NAME_COMBO, FILE_NAME_EDIT})
         if (const HWND name = GetDlgItem(box, id); name && !answer.text.empty())
             SetWindowTextW(name, answer.text.c_str());
-    HWND button = GetDlgItem(box, answer.button);
-    if (!isShownButton(button)) {
-        button = GetWindow(box, GW_CHILD);
-        while (button && !isShownButton(button)) button = GetWindow(button, GW_HWNDNEXT);
-    }
+    const HWND button = buttonOf(box, answer.button);
     const int id = button ? GetDlgCtrlID(button) : answer.button;
     PostMessageW(box, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
 }

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <string>
+#include <string_view>
 
 // Whether the window is a dialog of the system's class.
 bool isSystemDialog(HWND window);
@@ -33,6 +34,11 @@ struct BoxAnswer {
 
 // The id of a button by its name in capitals, such as "CANCEL"; 0 for another name.
 int boxButton(std::wstring_view name);
+
+// The other way round; empty for another id.
+std::wstring_view boxButtonName(int button);
+// The button that a box is answered with if nobody says otherwise: OK, or its first one.
+int usualButton(HWND box);
 
 // Has the box answered as soon as its loop runs; where it lacks the button, with its first one (such as Yes).
 void answerBox(HWND box, const BoxAnswer& answer);

@@ -1,23 +1,8 @@
 #include "host/drive/Shot.h"
 
-#include <wincodec.h>
-
 #include <algorithm>
-#include <vector>
-
-#include "host/lisp/Error.h"
-#include "host/services/Texts.h"
 
 namespace {
-
-// The pixels of a window: 32 bits each, blue first, rows from the top.
-struct Picture {
-    int width = 0;
-    int height = 0;
-    std::vector<BYTE> pixels;
-
-    UINT rowBytes() const { return static_cast<UINT>(width) * 4; }
-};
 
 // What a picture is copied into.
 class PictureSurface {
@@ -43,11 +28,10 @@ class PictureSurface {
     HDC dc() const { return m_dc; }
     // Empty where there was no memory for it.
     Picture picture() const {
-        Picture picture{m_size.cx, m_size.cy, {}};
-        if (!m_section) return picture;
+        if (!m_section) return {};
         GdiFlush();
-        const auto* first = static_cast<const BYTE*>(m_bits);
-        picture.pixels.assign(first, first + static_cast<size_t>(picture.rowBytes()) * m_size.cy);
+        Picture picture(m_size.cx, m_size.cy);
+        std::copy_n(static_cast<const BYTE*>(m_bits), picture.pixels.size(), picture.pixels.begin());
         return picture;
     }
 
@@ -77,9 +61,26 @@ void copyVisible(HWND window, SIZE size, HDC to, RECT screen) {
     ReleaseDC(window, source);
 }
 
+// A caret blinks, and would stand in one picture and not in the next.
+class NoCaret {
+  public:
+    NoCaret() : m_hidden(HideCaret(nullptr)) {}
+    ~NoCaret() {
+        if (m_hidden) ShowCaret(nullptr);
+    }
+    NoCaret(const NoCaret&) = delete;
+    NoCaret& operator=(const NoCaret&) = delete;
+
+  private:
+    BOOL m_hidden;
+};
+
+}  // namespace
+
 // Copying from the window's own surface gets its children too, and what other windows cover, but not what
 // lies off the screen: a window that isn't wholly on it is pushed across it, and back to where it was.
 Picture pictureOf(HWND window) {
+    const NoCaret noCaret;
     RECT rect;
     GetWindowRect(window, &rect);
     const SIZE size = {rect.right - rect.left, rect.bottom - rect.top};
@@ -102,69 +103,4 @@ Picture pictureOf(HWND window) {
     }
     moveTo(window, {rect.left, rect.top});
     return surface.picture();
-}
-
-// Holds a reference to a component's object.
-template <class Interface>
-class Reference {
-  public:
-    Reference() = default;
-    ~Reference() {
-        if (m_object) m_object->Release();
-    }
-    Reference(const Reference&) = delete;
-    Reference& operator=(const Reference&) = delete;
-
-    Interface* operator->() const { return m_object; }
-    Interface* get() const { return m_object; }
-    Interface** out() { return &m_object; }
-
-  private:
-    Interface* m_object = nullptr;
-};
-
-void check(HRESULT result) {
-    if (FAILED(result)) throw result;
-}
-
-void encode(const Picture& picture, const std::wstring& path) {
-    Reference<IWICImagingFactory> factory;
-    Reference<IWICStream> stream;
-    Reference<IWICBitmapEncoder> encoder;
-    Reference<IWICBitmapFrameEncode> frame;
-    check(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                           reinterpret_cast<void**>(factory.out())));
-    check(factory->CreateStream(stream.out()));
-    check(stream->InitializeFromFilename(path.c_str(), GENERIC_WRITE));
-    check(factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.out()));
-    check(encoder->Initialize(stream.get(), WICBitmapEncoderNoCache));
-    check(encoder->CreateNewFrame(frame.out(), nullptr));
-    check(frame->Initialize(nullptr));
-    check(frame->SetSize(picture.width, picture.height));
-    WICPixelFormatGUID format = GUID_WICPixelFormat24bppBGR;
-    check(frame->SetPixelFormat(&format));
-    // The alpha that a window leaves in its surface means nothing.
-    const UINT stride = static_cast<UINT>(picture.width) * 3;
-    std::vector<BYTE> opaque(static_cast<size_t>(stride) * picture.height);
-    for (size_t i = 0; i < opaque.size() / 3; ++i) {
-        std::copy_n(&picture.pixels[i * 4], 3, &opaque[i * 3]);
-    }
-    check(frame->WritePixels(picture.height, stride, static_cast<UINT>(opaque.size()), opaque.data()));
-    check(frame->Commit());
-    check(encoder->Commit());
-}
-
-}  // namespace
-
-void photograph(HWND window, const std::wstring& path) {
-    const Picture picture = pictureOf(window);
-    const HRESULT begun = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    HRESULT result = picture.pixels.empty() ? E_OUTOFMEMORY : S_OK;
-    try {
-        if (SUCCEEDED(result)) encode(picture, path);
-    } catch (HRESULT failed) {
-        result = failed;
-    }
-    if (SUCCEEDED(begun)) CoUninitialize();
-    if (FAILED(result)) throw lisp::Error(u"can't write the picture " + lispText(path));
 }

@@ -3,8 +3,7 @@
 
 #include <windows.h>
 
-#include <string>
+#include "host/drive/Picture.h"
 
-// Writes the whole window, its caption too, to a PNG file. Throws lisp::Error where the file can't be
-// written.
-void photograph(HWND window, const std::wstring& path);
+// The whole window, its caption too, without the caret. Empty where there was no memory for it.
+Picture pictureOf(HWND window);

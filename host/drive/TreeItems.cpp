@@ -54,6 +54,15 @@ class TreeItems : public ControlItems, public TreeLook {
         return item.cChildren ? part(index, TVHT_ONITEMBUTTON) : std::nullopt;
     }
 
+    int hit(POINT at) const override {
+        TVHITTESTINFO hit{};
+        hit.pt = at;
+        send(TVM_HITTEST, 0, &hit);
+        for (int i = 0; i < count(); ++i)
+            if (hit.hItem && m_items[i].handle == hit.hItem) return i;
+        return -1;
+    }
+
     const TreeLook* tree() const override { return this; }
     std::vector<std::wstring> path(int index) const override {
         std::vector<std::wstring> texts;
@@ -61,6 +70,7 @@ class TreeItems : public ControlItems, public TreeLook {
         std::reverse(texts.begin(), texts.end());
         return texts;
     }
+    int parent(int index) const override { return m_items[index].parent; }
     bool isOpen(int index) const override { return state(index) & TVIS_EXPANDED; }
     int image(int index) const override {
         TVITEMW item = record(index, TVIF_IMAGE | TVIF_SELECTEDIMAGE);

@@ -1,7 +1,6 @@
 #include "host/drive/UiFunctions.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <span>
 #include <utility>
 
@@ -13,9 +12,9 @@
 #include "host/drive/Menus.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/Mouse.h"
+#include "host/drive/PictureFunctions.h"
 #include "host/drive/Player.h"
 #include "host/drive/ScrollFunctions.h"
-#include "host/drive/Shot.h"
 #include "host/drive/Sizing.h"
 #include "host/drive/Tile.h"
 #include "host/services/Host.h"
@@ -25,8 +24,6 @@ namespace {
 
 using lisp::Call;
 using lisp::Value;
-
-std::wstring g_shotsFolder;
 
 std::wstring wideArgument(Call& call, size_t index) { return wideText(call.text(index)); }
 
@@ -226,27 +223,6 @@ Value alerts(Call& call) {
     return list.list();
 }
 
-// The path of the picture that was taken.
-Value photographed(Call& call, HWND window) {
-    namespace fs = std::filesystem;
-    const fs::path name = call.lisp.files().resolve(call.text(0));
-    const fs::path path = name.is_relative() ? fs::path(g_shotsFolder) / name : name;
-    std::error_code ignored;
-    fs::create_directories(path.parent_path(), ignored);
-    photograph(window, path.wstring());
-    return text(call, path.wstring());
-}
-
-// (ui_shot "file.png"): of the dialog.
-Value shot(Call& call) { return photographed(call, runningDialog()); }
-
-// (draw_shot "file.png"): of the main frame with the drawing.
-Value drawShot(Call& call) {
-    const HWND frame = host().mainFrame();
-    RedrawWindow(frame, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    return photographed(call, frame);
-}
-
 constexpr UiFunction FUNCTIONS[] = {
     {u"ui_session", &session, 2, 2}, {u"ui_type", &type, 2, 2},       {u"ui_key", &key, 1, 2},
     {u"ui_char", &character, 1, 2},  {u"ui_close", &close, 0, 0},     {u"ui_size", &size, 2, 2},
@@ -254,15 +230,14 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_items", &items, 1, 3},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
     {u"ui_box", &box, 0, 0},         {u"ui_cell", &cellLook, 3, 3},   {u"ui_columns", &columns, 1, 1},
     {u"ui_title", &title, 0, 0},     {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},
-    {u"ui_shot", &shot, 1, 1},       {u"draw_shot", &drawShot, 1, 1}, {u"ui_answer", &answer, 1, 2},
+    {u"ui_answer", &answer, 1, 2},
 };
 
 }  // namespace
 
-void defineUiFunctions(lisp::Interpreter& lisp, const std::wstring& shotsFolder) {
-    g_shotsFolder = shotsFolder;
-    for (const std::span<const UiFunction> table :
-         {std::span<const UiFunction>(FUNCTIONS), clickFunctions(), scrollFunctions(), menuFunctions()}) {
+void defineUiFunctions(lisp::Interpreter& lisp) {
+    for (const std::span<const UiFunction> table : {std::span<const UiFunction>(FUNCTIONS), clickFunctions(),
+                                                    scrollFunctions(), menuFunctions(), pictureFunctions()}) {
         for (const UiFunction& function : table)
             lisp.defineNative(function.name, function.function, nullptr, function.minimum, function.maximum);
     }

@@ -14,6 +14,7 @@ class Parser {
         while (!m_rest.empty() && m_options.error.empty()) take(next());
         if (m_options.error.empty() && m_options.check) checkOperands();
         if (m_options.error.empty() && waitsForNobody()) fail(L"--headless needs a program, -e or -i");
+        if (m_options.pictures.size() % 2 == 1) fail(L"--compare-pictures needs pairs of files");
         return m_options;
     }
 
@@ -35,6 +36,7 @@ class Parser {
     bool waitsForNobody() const {
         const bool ends = m_options.help || m_options.version || m_options.showDialogs ||
                           m_options.checkDialogs || m_options.languageServer || m_options.interactive;
+                          m_options.checkDialogs || m_options.comparePictures || m_options.interactive;
         return m_options.headless && m_options.steps.empty() && !ends;
     }
 
@@ -63,7 +65,9 @@ class Parser {
     }
 
     void takeOperand(const std::wstring& argument) {
-        if (m_options.checkDialogs) {
+        if (m_options.comparePictures) {
+            m_options.pictures.push_back(argument);
+        } else if (m_options.checkDialogs) {
             m_options.modules.push_back(argument);
         } else if (m_options.showDialogs) {
             m_options.dialogs.push_back(argument);
@@ -92,12 +96,18 @@ class Parser {
             m_options.check = true;
         } else if (argument == L"--language-server") {
             m_options.languageServer = true;
+        } else if (argument == L"--compare-pictures") {
+            m_options.comparePictures = true;
+        } else if (argument == L"--approve") {
+            m_options.approve = true;
         } else if (argument == L"--timeout") {
             takeTimeout(argument);
         } else if (argument == L"--data") {
             takeData(argument);
         } else if (argument == L"--support") {
             m_options.supportFolders.push_back(operand(argument));
+        } else if (argument == L"--record") {
+            m_options.record = operand(argument);
         } else if (argument == L"--shots") {
             m_options.shotsFolder = operand(argument);
         } else if (argument == L"--plugin") {
@@ -128,10 +138,12 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   -i                 prompt on the terminal, after the files
   --headless         nobody is there: play the programs' sessions, answer all alerts
   --play             play the programs' sessions where the person can watch
+  --record OUT.lsp   write what the person does in the dialogs as sessions that do it again
   --timeout SECONDS  give up after that time; inf for never
   --data DATABASE    open it for the programs: FILE.sqlite, or odbc:CONNECT STRING
   --support DIR      look for Lisp files in DIR too; may be given several times
   --shots DIR        where ui_shot writes its pictures (the working folder)
+  --approve          ui_same_shot takes how the dialogs look now as how they shall look
   --plugin PATH      the plug-in to load (WexDialogs.pgx beside wexhost.exe)
   --check            read the files as one program, run nothing, and tell what is wrong with them
   --language-server  serve an editor by the language server protocol, on standard input and output
@@ -139,6 +151,8 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
                      list the dialogs, or the tiles of those named
   --check-dialogs [MODULE]...
                      check key lists and dialog templates, and how the dialogs look
+  --compare-pictures A.png B.png ...
+                     fail where the second one of a pair doesn't look as the first
   --help             print this text
   --version          print the version
   --                 what follows are files

@@ -22,15 +22,19 @@ struct Options {
     bool checkDialogs = false;
     bool check = false;
     bool languageServer = false;
+    bool comparePictures = false;
+    bool approve = false;
     double timeoutSeconds = 0;  // 0: no limit
     std::wstring shotsFolder;
+    std::wstring record;  // the file to record into; empty for none
     std::wstring plugin;
     std::wstring data;  // which database is open at the start; empty for none
     std::vector<std::wstring> supportFolders;
     std::vector<Step> steps;
-    std::vector<std::wstring> dialogs;  // the operands of --dialogs
-    std::vector<std::wstring> modules;  // the operands of --check-dialogs
-    std::wstring error;                 // what is wrong with the command line; empty if nothing
+    std::vector<std::wstring> dialogs;   // the operands of --dialogs
+    std::vector<std::wstring> modules;   // the operands of --check-dialogs
+    std::vector<std::wstring> pictures;  // the operands of --compare-pictures
+    std::wstring error;                  // what is wrong with the command line; empty if nothing
 
     // Whether sessions are played: they are meant for runs without a person.
     bool playsSessions() const { return headless || play; }

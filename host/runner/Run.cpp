@@ -11,10 +11,13 @@
 #include "host/documents/CallFrame.h"
 #include "host/documents/Documents.h"
 #include "host/documents/DrawingFunctions.h"
+#include "host/drive/PictureFunctions.h"
 #include "host/drive/Player.h"
 #include "host/drive/UiFunctions.h"
+#include "host/record/Recorder.h"
 #include "host/runner/CheckDialogs.h"
 #include "host/runner/CheckFiles.h"
+#include "host/runner/ComparePictures.h"
 #include "host/runner/CrashReport.h"
 #include "host/runner/DataFunctions.h"
 #include "host/runner/HostFiles.h"
@@ -42,6 +45,23 @@ constexpr wchar_t GREETING[] = L"Type a Lisp expression, or the name of a comman
 void reportError(const std::wstring& text) {
     host().console().error(text);
     host().fail(LISP_ERROR);
+}
+
+std::wstring quotedWord(const std::wstring& word) {
+    const bool isPlain = !word.empty() && word.find_first_of(L" '\"()$&;<>|*?`\\") == word.npos;
+    return isPlain ? word : L"'" + word + L"'";
+}
+
+// Tells how what is recorded is played: in front of the same programs.
+std::wstring recordingHead(const Options& options) {
+    std::wstring words = quotedWord(options.record);
+    for (const Options::Step& step : options.steps)
+        words += (step.isExpression ? L" -e " : L" ") + quotedWord(step.text);
+    return L"; What a person did in the dialogs of a program. To do it again, with nobody there or where it "
+           L"can be seen:\n"
+           L";\n"
+           L";   wexhost --headless " +
+           words + L"\n;   wexhost --play " + words + L"\n";
 }
 
 // Where Lisp looks for files: the support folders, then the folders of the programs.
@@ -99,6 +119,11 @@ void endHost() {
     tempFolder().reset();
 }
 
+// Lives to the end of the process.
+void startRecording(const Options& options) {
+    if (!options.record.empty()) new Recorder(systemPath(options.record), recordingHead(options));
+}
+
 void startHost(const Options& options) {
     // For the services of the platform that plug-ins use on this thread, such as that of pictures.
     OleInitialize(nullptr);
@@ -106,13 +131,15 @@ void startHost(const Options& options) {
     host().setAtExit(&endHost);
     makeTempFolder();
     host().setHeadless(options.headless);
+    startRecording(options);
     player().setPlays(options.playsSessions());
     lisp::Interpreter& lisp = host().lisp();
     lisp.setOutput([](std::u16string_view text) { host().console().print(wideText(text)); });
     lisp.setFileAccess(filesFor(options));
     defineHostFunctions(lisp);
     defineDrawingFunctions(lisp);
-    defineUiFunctions(lisp, systemPath(options.shotsFolder).wstring());
+    defineUiFunctions(lisp);
+    setPictureChoices({systemPath(options.shotsFolder).wstring(), options.approve});
     defineDataFunctions(lisp);
     documents().open();
     openChosenData(options.data);
@@ -225,6 +252,7 @@ int hostRun(int count, wchar_t** arguments) {
     }
     if (options.showDialogs) return showDialogs(options.dialogs);
     if (options.checkDialogs) return checkDialogs(systemPaths(options.modules));
+    if (options.comparePictures) return comparePictures(systemPaths(options.pictures));
     std::optional<Watchdog> watchdog;
     if (options.timeoutSeconds > 0) watchdog.emplace(options.timeoutSeconds);
     if (options.languageServer) {

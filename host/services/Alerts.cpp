@@ -10,8 +10,10 @@ void Alerts::show(std::wstring_view text) {
     record(text);
     if (!m_attended) return;
     const HWND active = GetActiveWindow();
+    m_showing = true;
     MessageBoxW(active ? active : host().mainFrame(), std::wstring(text).c_str(), L"WexHost",
                 MB_OK | MB_ICONEXCLAMATION);
+    m_showing = false;
 }
 
 void Alerts::record(std::wstring_view text) {

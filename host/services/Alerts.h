@@ -19,6 +19,9 @@ class Alerts {
     // The texts since the last call, oldest first.
     std::vector<std::wstring> take();
 
+    // Whether one waits in a box at this moment.
+    bool isShowing() const { return m_showing; }
+
     // Whether a person has to see a box: not while a session plays, nor headless.
     void setAttended(bool attended) { m_attended = attended; }
 
@@ -26,4 +29,5 @@ class Alerts {
     Console& m_console;
     std::vector<std::wstring> m_texts;
     bool m_attended = true;
+    bool m_showing = false;
 };

@@ -18,7 +18,8 @@ enum class GridQuestion : uintptr_t {
     Table = 1,  // GridTableLook
     Cell = 2,   // GridCellLook, of the cell that its `at` names
     Show =
-        3,  // GridPlace: scrolls that cell into view, as far as it can be; nothing of the selection changes
+        3,    // GridPlace: scrolls that cell into view, as far as it can be; nothing of the selection changes
+    Hit = 4,  // GridHit; no cell lies where the answer is 0
 };
 
 // Row 0 holds the heads of the columns, column 0 those of the rows; data begins at row 1, column 1.
@@ -49,6 +50,14 @@ struct GridTableLook {
 };
 
 // The texts belong to the grid, until it is asked again or changes.
+// What a press means at a point of the window, in client pixels.
+struct GridHit {
+    int32_t x = 0, y = 0;       // filled by who asks
+    GridPlace at;               // of merged cells the first
+    bool onBorder = false;      // the border of a column or row, which is about to be sized
+    bool opensChoices = false;  // the arrow of a cell with choices
+};
+
 struct GridCellLook {
     GridPlace at;  // filled by who asks
 

@@ -84,6 +84,7 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     CellPlace hit(POINT at) const;
     CellPlace hitWithin(POINT at) const;
     Gesture borderAt(POINT at, CellPlace& track) const;
+    bool hasChoiceArrow(CellPlace place, POINT at) const;
     void onMouseMove(UINT keys, POINT at);
     void onLButtonUp(UINT keys, POINT at);
     void onLButtonDblClk(UINT keys, POINT at);
@@ -134,6 +135,7 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     bool answer(GridQuestion question, void* record);
     void tell(GridTableLook& table);
     bool tell(GridCellLook& cell);
+    bool tell(GridHit& point) const;
     LRESULT onGetObject(WPARAM w, LPARAM l);
     LRESULT onSelect(WPARAM place, LPARAM flags);
     LRESULT onCellAt(WPARAM x, LPARAM y);

@@ -24,8 +24,19 @@ bool CGXGridWnd::answer(GridQuestion question, void* record) {
             }
             return true;
         }
+        case GridQuestion::Hit:
+            return tell(*static_cast<GridHit*>(record));
     }
     return false;
+}
+
+bool CGXGridWnd::tell(GridHit& point) const {
+    CellPlace track;
+    const CellPlace place = hit({point.x, point.y});
+    point.at = {place.row, place.col};
+    point.onBorder = borderAt({point.x, point.y}, track) != Gesture::none;
+    point.opensChoices = hasChoiceArrow(place, {point.x, point.y});
+    return m_table.has(place.row, place.col);
 }
 
 void CGXGridWnd::tell(GridTableLook& table) {

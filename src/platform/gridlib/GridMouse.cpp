@@ -9,6 +9,8 @@ namespace {
 
 // How near to a border it can be taken, in pixels at 96 dots per inch.
 constexpr int BORDER_REACH = 4;
+// How wide the arrow of a cell with choices is.
+constexpr int CHOICE_ARROW = 14;
 // Nothing is dragged smaller than this.
 constexpr int32_t SMALLEST_TRACK = 6;
 // How many rows decide how wide a column is made to fit.
@@ -162,6 +164,11 @@ void CGXGridWnd::endGesture() {
     if (ended == Gesture::selecting) tellSelection(false, false);
 }
 
+bool CGXGridWnd::hasChoiceArrow(CellPlace place, POINT at) const {
+    return isEditableAt(place) && cellKind(m_table.style(place.row, place.col)) == CellKind::choice &&
+           at.x >= shownCell(scene(), place).rect.right - m_look.scaled(CHOICE_ARROW);
+}
+
 void CGXGridWnd::onLButtonUp(UINT, POINT at) {
     if (m_gesture == Gesture::none) return;
     const bool isClick = m_gesture == Gesture::selecting && hit(at) == m_pressed;
@@ -169,10 +176,9 @@ void CGXGridWnd::onLButtonUp(UINT, POINT at) {
     endGesture();
     if (!isClick || !isLive() || pressed != m_selection.current() || !isEditableAt(pressed)) return;
     const CellKind kind = cellKind(m_table.style(pressed.row, pressed.col));
-    const RECT rect = shownCell(scene(), pressed).rect;
     if (kind == CellKind::check) {
         toggle(pressed);
-    } else if (kind == CellKind::choice && at.x >= rect.right - m_look.scaled(14)) {
+    } else if (hasChoiceArrow(pressed, at)) {
         if (startEditing(false)) m_editor.dropDown();
     }
 }

@@ -15,6 +15,9 @@
 //            `key` or, where that is null, by control id; the dialog's own window where `key` is null and
 //            `id` is -1. Null where there is none. Who asks is about to look at the window or to work it, so
 //            all that the plug-in has held back from the screen is drawn first.
+//   int32_t  pluginNameWindow(HWND window, wchar_t* name, int32_t size)
+//            the other way round: the key of a tile's window, or the name of a running dialog, in `name` with
+//            room for `size` characters. The result is its length; 0 where the window has none, or no room.
 // and, for tools that read programs,
 //   const wchar_t* pluginLispSignature(int32_t index)
 //            the name and the arguments of a Lisp function, as src/LispSignatures.h has them; null past the
@@ -23,6 +26,7 @@ constexpr const char* PLUGIN_ENTRY_POINT = "pluginEntryPoint";
 constexpr const char* PLUGIN_GET_API_VERSION = "pluginGetApiVersion";
 constexpr const char* PLUGIN_FIND_WINDOW = "pluginFindWindow";
 constexpr const char* PLUGIN_LISP_SIGNATURE = "pluginLispSignature";
+constexpr const char* PLUGIN_NAME_WINDOW = "pluginNameWindow";
 
 enum PluginMessage : int32_t {
     PLUGIN_NULL = 0,

@@ -14,10 +14,21 @@ TEST(KeyNames, KeysAndHeldKeysInAnyCaseAndOrder) {
 }
 
 TEST(KeyNames, OtherTextsAreNoKeys) {
-    for (const wchar_t* text : {L"", L"+", L"Shift", L"Shift+", L"+A", L"Shift+Shift+A", L"A+Shift", L"f0",
-                                L"f13", L"f01", L"enterr", L"\u00E4", L" a"}) {
+    for (const wchar_t* text : {L"", L"+", L"Shift+", L"+A", L"Shift+Shift+A", L"A+Shift", L"f0", L"f13",
+                                L"f01", L"enterr", L"\u00E4", L" a"}) {
         EXPECT_FALSE(parseKeyStroke(text)) << text;
     }
+}
+
+TEST(KeyNames, AStrokeIsNamedAsItIsRead) {
+    EXPECT_EQ(keyStrokeName({.virtualKey = 'A', .shift = true, .control = true}), L"SHIFT+CTRL+A");
+    for (int key = 0; key < 256; ++key) {
+        const KeyStroke stroke{.virtualKey = key, .alt = true};
+        const std::wstring name = keyStrokeName(stroke);
+        if (!name.empty()) EXPECT_EQ(parseKeyStroke(name), stroke) << key;
+    }
+    EXPECT_EQ(keyStrokeName({.virtualKey = 0x11}), L"CTRL");
+    EXPECT_EQ(keyStrokeName({.virtualKey = 0xFF}), L"");
 }
 
 }  // namespace

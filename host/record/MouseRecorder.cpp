@@ -1,0 +1,289 @@
+#include "host/record/MouseRecorder.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <algorithm>
+
+namespace {
+
+using Kind = RecordedStep::Kind;
+
+POINT pointOf(const MSG& message) { return {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)}; }
+
+std::wstring pointText(POINT at) { return L" " + std::to_wstring(at.x) + L" " + std::to_wstring(at.y); }
+
+// With a blank in front; empty where none is held.
+std::wstring heldKeys(WPARAM keys) {
+    const bool shift = keys & MK_SHIFT, control = keys & MK_CONTROL;
+    if (shift && control) return L" \"SHIFT+CTRL\"";
+    return shift ? L" \"SHIFT\"" : control ? L" \"CTRL\"" : L"";
+}
+
+std::wstring call(const wchar_t* function, const NamedTile& tile, const std::wstring& rest = {}) {
+    return std::wstring(L"(") + function + L" " + tile.name + rest + L")";
+}
+
+bool isButton(const NamedTile& tile) { return hasWindowClass(tile.window, WC_BUTTONW); }
+bool isEdit(HWND window) { return hasWindowClass(window, WC_EDITW); }
+bool isHeader(HWND window) { return hasWindowClass(window, WC_HEADERW); }
+
+// The column whose head lies there, not its border; -1 for none.
+int headAt(HWND header, POINT at) {
+    HDHITTESTINFO hit{};
+    hit.pt = at;
+    const auto column =
+        static_cast<int>(SendMessageW(header, HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+    return hit.flags & HHT_ONHEADER ? column : -1;
+}
+
+// What the entry's button or check box is worked by; null elsewhere.
+const wchar_t* partFunction(HWND control, POINT at) {
+    if (hasWindowClass(control, WC_TREEVIEWW)) {
+        TVHITTESTINFO hit{};
+        hit.pt = at;
+        SendMessageW(control, TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        return hit.flags & TVHT_ONITEMBUTTON      ? L"ui_expand"
+               : hit.flags & TVHT_ONITEMSTATEICON ? L"ui_check"
+                                                  : nullptr;
+    }
+    if (!hasWindowClass(control, WC_LISTVIEWW)) return nullptr;
+    LVHITTESTINFO hit{};
+    hit.pt = at;
+    SendMessageW(control, LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    return hit.flags == LVHT_ONITEMSTATEICON ? L"ui_check" : nullptr;
+}
+
+// Whether the point lies on the entry itself and not beside it, on its line.
+bool isOnEntry(HWND control, POINT at) {
+    if (!hasWindowClass(control, WC_TREEVIEWW)) return true;
+    TVHITTESTINFO hit{};
+    hit.pt = at;
+    SendMessageW(control, TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    return hit.flags & (TVHT_ONITEM | TVHT_ONITEMBUTTON | TVHT_ONITEMSTATEICON);
+}
+
+std::wstring placeText(GridPlace at) {
+    return L" " + std::to_wstring(at.row) + L" " + std::to_wstring(at.column);
+}
+
+bool areSame(GridPlace a, GridPlace b) { return a.row == b.row && a.column == b.column; }
+
+}  // namespace
+
+void MouseRecorder::add(Press& press, Kind kind, std::wstring form) {
+    press.step = m_journal.add(press.dialog, {kind, press.tile.name, std::move(form), {}});
+}
+
+void MouseRecorder::addDouble(Press& press, const std::wstring& first, std::wstring form) {
+    RecordedStep* last = m_journal.recording().last();
+    if (last && last->form == first) {
+        last->form = std::move(form);
+        m_journal.write();
+    } else {
+        add(press, Kind::other, std::move(form));
+    }
+}
+
+// The button of an earlier press came up where nobody saw it, as when the press has brought up a box: it was
+// no click.
+void MouseRecorder::dropUnfinished(HWND dialog) {
+    for (const Press& press : m_down)
+        if (press.dialog == dialog && press.step && isButton(press.tile))
+            m_journal.setForm(*press.step, call(L"ui_hold", press.tile));
+    std::erase_if(m_down, [=](const Press& press) { return press.dialog == dialog; });
+}
+
+void MouseRecorder::windowGone(HWND window) {
+    std::erase_if(m_down, [=](const Press& press) { return press.dialog == window; });
+}
+
+void MouseRecorder::pressed(const MSG& message, HWND dialog) {
+    dropUnfinished(dialog);
+    Press press{
+        dialog,      message.hwnd, tileOf(message.hwnd, dialog), pointOf(message), heldKeys(message.wParam),
+        std::nullopt};
+    if (!press.tile) return;
+    const bool isRight = message.message == WM_RBUTTONDOWN || message.message == WM_RBUTTONDBLCLK;
+    if (isRight) return pressedRight(press);
+    pressedLeft(press, message.message == WM_LBUTTONDBLCLK);
+    m_down.push_back(std::move(press));
+}
+
+void MouseRecorder::pressedLeft(Press& press, bool isDouble) {
+    const HWND control = press.tile.window;
+    const bool isCombo = hasWindowClass(control, WC_COMBOBOXW);
+    if (isEdit(press.window)) {
+        // Where the focus is already only the caret moves.
+        const bool ofGrid = gridOf(control).has_value();
+        if (GetFocus() != press.window && !ofGrid) add(press, Kind::focus, call(L"ui_click", press.tile));
+    } else if (isCombo) {
+        pressedCombo(press);
+    } else if (isHeader(press.window)) {
+        press.entry = isDouble ? -1 : headAt(press.window, press.at);
+    } else if (isButton(press.tile)) {
+        const std::wstring click = call(L"ui_click", press.tile);
+        if (isDouble)
+            addDouble(press, click, call(L"ui_dblclick", press.tile));
+        else
+            add(press, Kind::click, click);
+    } else if (gridOf(control)) {
+        if (press.window == control) pressedCell(press, isDouble);
+    } else if (const auto items = itemsOf(control)) {
+        if (press.window == control) pressedEntry(press, *items, isDouble);
+    } else {
+        add(press, Kind::other, call(L"ui_click", press.tile, pointText(press.at)));
+    }
+}
+
+// A press beside the rows of a list control is lost; beside the entries of other lists it may move the focus.
+void MouseRecorder::pressedEntry(Press& press, const Items& items, bool isDouble) {
+    const HWND control = press.tile.window;
+    if (isDouble && hasWindowClass(control, WC_TABCONTROLW)) return;
+    press.entry = items.hit(press.at);
+    if (press.entry < 0 || !isOnEntry(control, press.at)) {
+        press.entry = -1;
+        if (!hasWindowClass(control, WC_LISTVIEWW) && !hasWindowClass(control, WC_TABCONTROLW))
+            add(press, Kind::other, call(L"ui_click", press.tile, pointText(press.at)));
+        return;
+    }
+    const std::wstring item = L" " + itemName(items, press.entry) + press.keys;
+    if (const wchar_t* part = partFunction(control, press.at)) {
+        add(press, Kind::other, call(part, press.tile, L" " + itemName(items, press.entry)));
+        press.entry = -1;
+    } else if (isDouble) {
+        addDouble(press, call(L"ui_pick", press.tile, item), call(L"ui_dblclick", press.tile, item));
+        press.entry = -1;
+    } else {
+        add(press, Kind::other, call(L"ui_pick", press.tile, item));
+    }
+}
+
+void MouseRecorder::pressedCell(Press& press, bool isDouble) {
+    press.cell = gridOf(press.tile.window)->hit(press.at);
+    if (press.cell && press.cell->onBorder) press.cell.reset();
+    if (!press.cell) return;
+    const GridPlace at = press.cell->at;
+    const std::wstring pick =
+        at.row == 0 && at.column > 0
+            ? call(L"ui_header", press.tile, L" " + std::to_wstring(at.column) + press.keys)
+            : call(L"ui_pick", press.tile, placeText(at) + press.keys);
+    if (isDouble)
+        addDouble(press, pick, call(L"ui_dblclick", press.tile, placeText(at) + press.keys));
+    else
+        add(press, Kind::other, pick);
+}
+
+// The list of the box is picked from when the button comes up. Of a box to type in only the arrow opens it.
+void MouseRecorder::pressedCombo(Press& press) {
+    const HWND control = press.tile.window;
+    const bool isOpen = SendMessageW(control, CB_GETDROPPEDSTATE, 0, 0);
+    if (press.window != control) {
+        // Beside the list that is open: it closes.
+        RECT client;
+        GetClientRect(press.window, &client);
+        const bool isPopup = !(GetWindowLongW(press.window, GWL_STYLE) & WS_CHILD);
+        if (isPopup && !PtInRect(&client, press.at)) add(press, Kind::other, call(L"ui_click", press.tile));
+        return;
+    }
+    const bool ofChoices = (GetWindowLongW(control, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
+    add(press, isOpen ? Kind::other : Kind::open,
+        call(L"ui_click", press.tile, ofChoices ? std::wstring() : pointText(press.at)));
+}
+
+void MouseRecorder::pressedRight(const Press& press) {
+    if (isEdit(press.window)) return;
+    std::wstring where;
+    const HWND control = press.tile.window;
+    if (const auto grid = gridOf(control)) {
+        if (const auto cell = grid->hit(press.at)) where = placeText(cell->at);
+    } else if (const auto items = press.window == control ? itemsOf(control) : nullptr) {
+        const int entry = items->hit(press.at);
+        if (entry >= 0) where = L" " + itemName(*items, entry);
+    }
+    m_journal.add(press.dialog, {Kind::other,
+                                 press.tile.name,
+                                 call(L"ui_rclick", press.tile, where.empty() ? where : where + press.keys),
+                                 {}});
+}
+
+void MouseRecorder::released(const MSG& message, HWND dialog) {
+    const auto found = std::find_if(m_down.begin(), m_down.end(),
+                                    [&](const Press& down) { return down.window == message.hwnd; });
+    if (message.message != WM_LBUTTONUP) return;
+    const Press press = found == m_down.end() ? Press{} : *found;
+    if (found != m_down.end()) m_down.erase(found);
+    const POINT at = pointOf(message);
+    if (hasWindowClass(message.hwnd, L"ComboLBox")) return releasedList(dialog, message);
+    if (!press.window) return;
+    RECT client;
+    GetClientRect(press.window, &client);
+    if (isHeader(press.window)) {
+        if (press.entry >= 0 && headAt(press.window, at) == press.entry)
+            m_journal.add(dialog,
+                          {Kind::other,
+                           press.tile.name,
+                           call(L"ui_header", press.tile, L" " + std::to_wstring(press.entry) + press.keys),
+                           {}});
+    } else if (press.entry >= 0) {
+        releasedEntry(press, at);
+    } else if (press.cell) {
+        releasedCell(press, at);
+    } else if (press.step && isButton(press.tile) && !PtInRect(&client, at)) {
+        m_journal.setForm(*press.step, call(L"ui_hold", press.tile));
+        m_journal.add(dialog,
+                      {Kind::other, press.tile.name, call(L"ui_release", press.tile, pointText(at)), {}});
+    }
+}
+
+void MouseRecorder::releasedEntry(const Press& press, POINT at) {
+    const auto items = itemsOf(press.tile.window);
+    const int entry = items ? items->hit(at) : -1;
+    if (entry < 0 || entry == press.entry || !press.step || hasWindowClass(press.window, WC_TABCONTROLW))
+        return;
+    m_journal.setForm(*press.step, call(L"ui_sweep", press.tile,
+                                        L" " + itemName(*items, press.entry) + L" " +
+                                            itemName(*items, entry) + press.keys));
+}
+
+void MouseRecorder::releasedCell(const Press& press, POINT at) {
+    const auto grid = gridOf(press.tile.window);
+    const auto cell = grid ? grid->hit(at) : std::nullopt;
+    if (!cell || !press.step) return;
+    if (!areSame(cell->at, press.cell->at)) {
+        m_journal.setForm(*press.step, call(L"ui_pick", press.tile,
+                                            placeText(press.cell->at) + placeText(cell->at) + press.keys));
+    } else if (cell->opensChoices) {
+        m_journal.add(press.dialog, {Kind::other, {}, L"(ui_key \"F4\")", {}});
+    }
+}
+
+// The list of a combo box takes the entry where the button comes up.
+void MouseRecorder::releasedList(HWND dialog, const MSG& message) {
+    const NamedTile tile = tileOf(message.hwnd, dialog);
+    COMBOBOXINFO parts = {sizeof parts};
+    if (!tile) return;
+    // Of a grid's cell the combo box stands within the tile.
+    HWND combo = tile.window;
+    if (!hasWindowClass(combo, WC_COMBOBOXW))
+        combo = GetAncestor(GetFocus(), GA_PARENT) == combo ? GetFocus() : nullptr;
+    if (!combo || !GetComboBoxInfo(combo, &parts) || parts.hwndList != message.hwnd) return;
+    const auto items = itemsOf(combo);
+    const int entry = items->hit(pointOf(message));
+    if (entry >= 0)
+        m_journal.add(dialog,
+                      {Kind::pick, tile.name, call(L"ui_pick", tile, L" " + itemName(*items, entry)), {}});
+}
+
+// Lists, trees and grids only scroll, and what is picked in them later is scrolled into view by itself.
+void MouseRecorder::wheelTurned(const MSG& message, HWND dialog) {
+    const NamedTile tile = tileOf(message.hwnd, dialog);
+    const HWND control = tile.window;
+    if (!tile || hasWindowClass(message.hwnd, L"ComboLBox") || isEdit(message.hwnd) || gridOf(control))
+        return;
+    if (!hasWindowClass(control, WC_COMBOBOXW) && itemsOf(control)) return;
+    const int notches = GET_WHEEL_DELTA_WPARAM(message.wParam) / WHEEL_DELTA;
+    if (notches)
+        m_journal.add(dialog,
+                      {Kind::other, tile.name, call(L"ui_wheel", tile, L" " + std::to_wstring(notches)), {}});
+}

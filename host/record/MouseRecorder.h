@@ -1,0 +1,52 @@
+// Records presses of the mouse's buttons: what was pressed, not where.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/drive/GridWindow.h"
+#include "host/record/Journal.h"
+#include "host/record/TileNames.h"
+
+class MouseRecorder {
+  public:
+    explicit MouseRecorder(Journal& journal) : m_journal(journal) {}
+
+    // Both are told of messages that are about to be handled, of windows of that dialog.
+    void pressed(const MSG& message, HWND dialog);
+    void released(const MSG& message, HWND dialog);
+    void wheelTurned(const MSG& message, HWND dialog);
+    void windowGone(HWND window);
+
+  private:
+    // A button that is down.
+    struct Press {
+        HWND dialog, window;
+        NamedTile tile;
+        POINT at;
+        std::wstring keys;  // held meanwhile, as the functions of sessions take them
+        std::optional<Recording::Place> step;
+        int entry = -1;  // the item or the column that was pressed
+        std::optional<GridHit> cell;
+    };
+
+    void pressedLeft(Press& press, bool isDouble);
+    void pressedRight(const Press& press);
+    void pressedEntry(Press& press, const Items& items, bool isDouble);
+    void pressedCell(Press& press, bool isDouble);
+    void pressedCombo(Press& press);
+    void releasedEntry(const Press& press, POINT at);
+    void releasedCell(const Press& press, POINT at);
+    void releasedList(HWND dialog, const MSG& message);
+
+    void add(Press& press, RecordedStep::Kind kind, std::wstring form);
+    // In place of the first press of a double one.
+    void addDouble(Press& press, const std::wstring& first, std::wstring form);
+    void dropUnfinished(HWND dialog);
+
+    Journal& m_journal;
+    std::vector<Press> m_down;
+};

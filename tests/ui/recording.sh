@@ -1,0 +1,29 @@
+#!/bin/bash
+# Dialogs of all kinds are worked at random, and what was recorded of that is played: the actions hear the same.
+# Usage: tests/ui/recording.sh [FIRST [COUNT [EACH]]]    COUNT dialogs from number FIRST on, EACH of them in a host
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+first=${1:-0} count=${2:-20} each=${3:-10}
+. tools/wine-env.sh
+start_wine headless
+work=$(mktemp -d)
+trap 'rm -rf "$work"; stop_wine' EXIT
+forms=tests/support/recording
+host() { wine64 build/windows/testbin/wexhost.exe --headless --timeout 250 "$@" 2>"$work/errors" | tr -d '\r'; }
+failed=0
+
+for ((n = first; n < first + count; n += each)); do
+    run=(-e "(run-forms $n $((n + each > first + count ? first + count - n : each)))")
+    # The person may do what ends a dialog before its session does, which is an error of that session.
+    host --record "$work/recorded.lsp" $forms/forms.lsp $forms/person.lsp "${run[@]}" >"$work/worked" || [ $? = 1 ] || { cat "$work/errors"; exit 1; }
+    status=0
+    host $forms/forms.lsp "$work/recorded.lsp" "${run[@]}" >"$work/played" || status=$?
+    if [ $status != 0 ] || ! diff -u --label worked --label played "$work/worked" "$work/played"; then
+        echo "FAILED: dialogs from $n on, status $status"
+        cat "$work/errors"
+        failed=1
+        mkdir -p build/test-logs
+        cp "$work/recorded.lsp" "build/test-logs/recorded-$n.lsp"
+    fi
+done
+exit $failed
