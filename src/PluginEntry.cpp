@@ -44,7 +44,7 @@ CString nameOf(HWND window) {
     for (const auto& dialog : g_dialogs.dialogs()) {
         if (!dialog->isLive()) continue;
         if (dialog->m_hWnd == window) return dialog->m_name;
-        if (::GetParent(window) != dialog->m_hWnd) continue;
+        if (::GetAncestor(window, GA_PARENT) != dialog->m_hWnd) continue;
         const int id = ::GetDlgCtrlID(window);
         const CString key = dialog->keyForId(id);
         return dialog->idForKey(key) == id ? key : CString();

@@ -77,7 +77,9 @@ std::wstring keyForm(const KeyStroke& stroke) {
 
 void KeyRecorder::update() {
     resolveFocus();
-    if (!m_typing || !IsWindow(m_typing->edit)) return;
+    // What comes of the text when the box was left is the program's.
+    if (m_typing && GetFocus() != m_typing->edit) m_typing.reset();
+    if (!m_typing) return;
     const std::wstring now = textWithLineFeeds(m_typing->edit);
     const bool isNew = now != m_typing->before || m_typing->isForced;
     m_journal.setForm(m_typing->step, isNew

@@ -51,8 +51,9 @@ void Recorder::taken(const MSG& message) {
         return told(message.hwnd, kind, message.wParam);
     HWND dialog = dialogOf(message.hwnd);
     const HMENU menu = openMenu();
-    // A menu takes the input from whatever window.
-    if (menu) dialog = documents().findWindow(nullptr, nullptr, -1);
+    // A menu takes the input from whatever window, and the list of a combo box need not know whose it is.
+    if (menu || hasWindowClass(message.hwnd, L"ComboLBox"))
+        dialog = documents().findWindow(nullptr, nullptr, -1);
     if (!isPluginDialog(dialog)) return;
     m_journal.dialogSeen(dialog);
     if (!m_journal.knows(dialog)) return;

@@ -95,16 +95,19 @@ HWND dialogOf(HWND window) {
 NamedTile tileOf(HWND window, HWND dialog) {
     if (const HWND combo = comboOfList(window, dialog)) window = combo;
     std::wstring inner;  // the ids that lead on from the tile
+    bool isReached = true;
     for (HWND at = window; at && at != dialog; at = GetParent(at)) {
         if (hasParts(at)) {
             window = at;
             inner.clear();
+            isReached = true;
         }
         if (GetParent(at) == dialog) {
+            if (!isReached) return {};
             const std::wstring name = tileName(at);
             return {window, inner.empty() || name.empty() ? name : L"'(" + name + inner + L")"};
         }
-        if (!isReachedById(at)) return {};
+        isReached = isReached && isReachedById(at);
         inner = L" " + std::to_wstring(GetDlgCtrlID(at)) + inner;
     }
     return {};

@@ -83,7 +83,7 @@ void WindowRecorder::menuInput(const MSG& message, HMENU menu, HWND dialog) {
         case WM_KEYDOWN: {
             const auto selected =
                 std::find_if(items.begin(), items.end(), [](const MenuItem& item) { return item.selected; });
-            if (message.wParam == VK_RETURN && selected != items.end())
+            if (message.wParam == VK_RETURN && selected != items.end() && !selected->disabled)
                 return addMenuItem(dialog, selected->text);
             const std::wstring name = keyStrokeName({static_cast<int>(message.wParam)});
             const bool isArrow = message.wParam >= VK_END && message.wParam <= VK_DOWN;
