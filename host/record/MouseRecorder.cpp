@@ -85,17 +85,11 @@ void MouseRecorder::addDouble(Press& press, const std::wstring& first, std::wstr
     }
 }
 
-// The button of an earlier press came up where nobody saw it, as when the press has brought up a box: it was
-// no click.
 void MouseRecorder::dropUnfinished(HWND dialog) {
     for (const Press& press : m_down)
         if (press.dialog == dialog && press.step && isButton(press.tile))
             m_journal.setForm(*press.step, call(L"ui_hold", press.tile));
     std::erase_if(m_down, [=](const Press& press) { return press.dialog == dialog; });
-}
-
-void MouseRecorder::windowGone(HWND window) {
-    std::erase_if(m_down, [=](const Press& press) { return press.dialog == window; });
 }
 
 void MouseRecorder::pressed(const MSG& message, HWND dialog) {

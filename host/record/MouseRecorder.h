@@ -19,7 +19,9 @@ class MouseRecorder {
     void pressed(const MSG& message, HWND dialog);
     void released(const MSG& message, HWND dialog);
     void wheelTurned(const MSG& message, HWND dialog);
-    void windowGone(HWND window);
+    // A key is pressed in that dialog, or it goes. The button of an earlier press came up where nobody saw
+    // it, as when the press has brought up a box: it was no click.
+    void dropUnfinished(HWND dialog);
 
   private:
     // A button that is down.
@@ -45,7 +47,6 @@ class MouseRecorder {
     void add(Press& press, RecordedStep::Kind kind, std::wstring form);
     // In place of the first press of a double one.
     void addDouble(Press& press, const std::wstring& first, std::wstring form);
-    void dropUnfinished(HWND dialog);
 
     Journal& m_journal;
     std::vector<Press> m_down;

@@ -74,6 +74,7 @@ void Recorder::takenInput(const MSG& message, HWND dialog) {
             return m_mouse.wheelTurned(message, dialog);
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
+            m_mouse.dropUnfinished(dialog);
             return m_keys.keyDown(message, dialog);
         case WM_KEYUP:
             return m_keys.keyUp(message, dialog);
@@ -111,6 +112,6 @@ void Recorder::dialogIdle(HWND dialog) {
 
 void Recorder::windowGone(HWND window) {
     m_keys.windowGone(window);
-    m_mouse.windowGone(window);
+    m_mouse.dropUnfinished(window);
     m_journal.dialogGone(window);
 }

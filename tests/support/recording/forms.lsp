@@ -13,7 +13,7 @@
 (defun rows (n) (mapcar '(lambda (i) (strcat (any-word) "\t" (itoa (chance 4)))) (range n)))
 
 ; A tree's items have other handles in each run.
-(setq items nil)
+(setq items nil branches nil)
 (defun shown (value / item)
   (setq item (if (= $key "tree") (assoc value items)))
   (cond (item (cdr item)) ((= $key "tree") "?") (T value)))
@@ -40,7 +40,8 @@
   (repeat (1+ (chance 3))
     (setq text (any-word)
           item (if parent (wex_tree_insertchild "TREE" parent text) (wex_tree_insertparent "TREE" text))
-          items (cons (cons (itoa item) text) items))
+          items (cons (cons (itoa item) text) items)
+          branches (if parent (cons parent branches) branches))
     (if (< depth 3) (branch item (1+ depth)))))
 
 (defun start-kinds ()
@@ -86,7 +87,7 @@
 (setq forms '(kinds buttons grid record kinds))
 
 (defun run-form (number / form)
-  (setq state (1+ (* 7 number)) items nil form (nth (rem number (length forms)) forms))
+  (setq state (1+ (* 7 number)) items nil branches nil form (nth (rem number (length forms)) forms))
   (repeat 3 (chance 2))
   (if before-form (before-form number form))
   (prin1 (list number form))

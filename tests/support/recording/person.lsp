@@ -32,7 +32,7 @@
                (ui_click "COMBO") (ui_pick "DROPLIST" (choice 12)) (ui_wheel "DROPLIST" (any '(1 -1)))
                (progn (ui_click "DROPLIST") (after '((ui_key "DOWN") (ui_key (any '("ENTER" "ESC" "TAB"))))))
                (ui_pick "TAB" (choice 4)) (ui_pick "TREE" (any-item)) (ui_pick "TREE" (any-item))
-               (ui_expand "TREE" (any-item)) (ui_dblclick "TREE" (any-item)) (ui_rclick "TREE" (any-item))
+               (ui_expand "TREE" (any branches)) (ui_dblclick "TREE" (any-item)) (ui_rclick "TREE" (any-item))
                (pick "LISTVIEW" 12) (pick "LISTVIEW" 12) (pick "LISTVIEW" 12)
                (ui_header "LISTVIEW" (choice 2)) (menu-of '(ui_rclick "LISTVIEW" (choice 12)))
                (ui_type "LINES" (any '("one" "a\nb" ""))) (ui_click "LINES") (ui_char "\r") (ui_click "READONLY")
