@@ -78,14 +78,6 @@ Spot cellSpot(const Tile& tile, const GridWindow& grid, GridPlace place) {
     return *spot;
 }
 
-// Where to press for "tile [item [column]]", or "tile [row column]" of a grid: the entry, or the middle of
-// the tile where none is named.
-Spot spotOf(Call& call, const Tile& tile, size_t count) {
-    if (count < 2) return middleOf(tile.window());
-    if (const auto grid = gridOf(tile.window())) return cellSpot(tile, *grid, placeOf(call, 1));
-    return entrySpot(call, tile, call[1], count > 2 ? call.integerOr(2, 0) : 0);
-}
-
 // Where to press for "tile [x y]": that point of its client area, or the middle.
 Spot pointOf(Call& call, const Tile& tile, bool mayLieOutside) {
     if (countBeforeKeys(call, 1) < 2) return middleOf(tile.window());
@@ -94,6 +86,17 @@ Spot pointOf(Call& call, const Tile& tile, bool mayLieOutside) {
         tile.fail(L"point " + std::to_wstring(spot.point.x) + L" " + std::to_wstring(spot.point.y) +
                   L" lies outside of it");
     return spot;
+}
+
+// Where to press for "tile [item [column]]", "tile x y" of a tree or of what has no entries, or "tile [row
+// column]" of a grid: the entry, or the middle of the tile where none is named.
+Spot spotOf(Call& call, const Tile& tile, size_t count) {
+    if (count < 2) return middleOf(tile.window());
+    if (const auto grid = gridOf(tile.window())) return cellSpot(tile, *grid, placeOf(call, 1));
+    const auto items = itemsOf(tile.window());
+    const bool isPoint = count > 2 && call[1].isInteger() && call[2].isInteger();
+    if (isPoint && (!items || items->tree())) return pointOf(call, tile, false);
+    return entrySpot(call, tile, call[1], count > 2 ? call.integerOr(2, 0) : 0);
 }
 
 // (ui_click tile [x y] [keys])

@@ -1,6 +1,7 @@
 #include "host/drive/Keyboard.h"
 
 #include "host/drive/Player.h"
+#include "host/drive/RealInput.h"
 
 namespace {
 
@@ -16,6 +17,12 @@ constexpr LPARAM RELEASED = LPARAM(1) << 31;
 
 // Posted keys leave the thread's keyboard state alone, where programs look for Shift, Ctrl and Alt.
 void setKeys(const KeyStroke& stroke, BYTE state) {
+    if (usesRealInput()) {
+        if (stroke.shift) sendKey(VK_SHIFT, state != 0);
+        if (stroke.control) sendKey(VK_CONTROL, state != 0);
+        if (stroke.alt) sendKey(VK_MENU, state != 0);
+        return;
+    }
     BYTE keys[256];
     GetKeyboardState(keys);
     const auto set = [&](int both, int left) { keys[both] = keys[left] = state; };
@@ -28,7 +35,13 @@ void setKeys(const KeyStroke& stroke, BYTE state) {
 }  // namespace
 
 void typeText(HWND window, std::wstring_view text) {
-    for (const wchar_t c : text) PostMessageW(window, WM_CHAR, c == L'\n' ? L'\r' : c, 1);
+    const bool isReal = usesRealInput() && text.find_first_of(L"\r\x1B") == text.npos;
+    for (const wchar_t c : text) {
+        if (isReal)
+            sendCharacter(c == L'\n' ? L'\r' : c);
+        else
+            PostMessageW(window, WM_CHAR, c == L'\n' ? L'\r' : c, 1);
+    }
 }
 
 void pressKey(HWND window, const KeyStroke& stroke) {
@@ -38,6 +51,11 @@ void pressKey(HWND window, const KeyStroke& stroke) {
     const bool system = withAlt || stroke.virtualKey == VK_F10;
     const LPARAM alt = withAlt ? ALT_HELD : 0;
     setKeys(stroke, KEY_DOWN);
+    if (usesRealInput()) {
+        sendKey(stroke.virtualKey, true);
+        player().steps().add(nullptr, [=] { sendKey(stroke.virtualKey, false); });
+        return player().steps().add(nullptr, [=] { setKeys(stroke, 0); });
+    }
     PostMessageW(window, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key, scan | alt);
     if (stroke.virtualKey == VK_F1 && !stroke.alt) PostMessageW(window, WM_KEYF1, 0, 0);
     player().steps().add(nullptr, [=] {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/drive/MessageBoxes.h"
+#include "host/drive/RealInput.h"
 
 namespace {
 
@@ -137,7 +138,25 @@ LRESULT CALLBACK PostedMouse::messageHook(int code, WPARAM removed, LPARAM l) no
     return CallNextHookEx(nullptr, code, removed, l);
 }
 
+DWORD eventFlag(UINT message) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            return MOUSEEVENTF_LEFTDOWN;
+        case WM_LBUTTONUP:
+            return MOUSEEVENTF_LEFTUP;
+        case WM_RBUTTONDOWN:
+            return MOUSEEVENTF_RIGHTDOWN;
+        case WM_RBUTTONUP:
+            return MOUSEEVENTF_RIGHTUP;
+        default:
+            return 0;
+    }
+}
+
+// The real mouse needs no keys with a message, since they are held.
 void post(const Spot& spot, UINT message, WPARAM keys) {
+    if (usesRealInput()) return moveMouse(spot, eventFlag(message));
     mouse().post({spot.window, message, keys, MAKELPARAM(spot.point.x, spot.point.y)});
 }
 
@@ -158,14 +177,26 @@ void hold(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONDOWN, MK_LBUTTON
 
 void letGo(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONUP, keys); }
 
-void click(const Spot& spot, WPARAM keys) {
+void click(const Spot& wanted, WPARAM keys) {
+    if (usesRealInput()) {
+        const Spot spot = besideLastClick(wanted);
+        post(spot, WM_LBUTTONDOWN, keys);
+        return post(spot, WM_LBUTTONUP, keys);
+    }
+    const Spot& spot = wanted;
     const LPARAM at = MAKELPARAM(spot.point.x, spot.point.y);
     mouse().postClick({spot.window, WM_LBUTTONDOWN, MK_LBUTTON | keys, at},
                       {spot.window, WM_LBUTTONUP, keys, at});
 }
 
-void doubleClick(const Spot& spot, WPARAM keys) {
-    click(spot, keys);
+void doubleClick(const Spot& wanted, WPARAM keys) {
+    const Spot spot = usesRealInput() ? besideLastClick(wanted) : wanted;
+    if (usesRealInput()) {
+        post(spot, WM_LBUTTONDOWN, keys);
+        post(spot, WM_LBUTTONUP, keys);
+    } else {
+        click(spot, keys);
+    }
     post(spot, WM_LBUTTONDBLCLK, MK_LBUTTON | keys);
     post(spot, WM_LBUTTONUP, keys);
 }

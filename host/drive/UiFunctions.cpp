@@ -14,6 +14,7 @@
 #include "host/drive/Mouse.h"
 #include "host/drive/PictureFunctions.h"
 #include "host/drive/Player.h"
+#include "host/drive/RealInput.h"
 #include "host/drive/ScrollFunctions.h"
 #include "host/drive/Sizing.h"
 #include "host/drive/Tile.h"
@@ -132,6 +133,14 @@ Value drag(Call& call) {
     return Value::none();
 }
 
+// (ui_input "REAL"), (ui_input "POSTED")
+Value input(Call& call) {
+    const std::wstring kind = wideArgument(call, 0);
+    if (kind != L"REAL" && kind != L"POSTED") call.expected(0, "REAL or POSTED");
+    useRealInput(kind == L"REAL");
+    return Value::none();
+}
+
 // (ui_wait form): evaluating the whole call again asks the form again.
 Value wait(Call& call) {
     if (call[0].isNil()) player().repeatForm();
@@ -230,7 +239,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_items", &items, 1, 3},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
     {u"ui_box", &box, 0, 0},         {u"ui_cell", &cellLook, 3, 3},   {u"ui_columns", &columns, 1, 1},
     {u"ui_title", &title, 0, 0},     {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},
-    {u"ui_answer", &answer, 1, 2},
+    {u"ui_answer", &answer, 1, 2},   {u"ui_input", &input, 1, 1},
 };
 
 }  // namespace

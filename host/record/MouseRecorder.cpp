@@ -126,7 +126,11 @@ void MouseRecorder::pressedLeft(Press& press, bool isDouble) {
     } else if (const auto items = itemsOf(control)) {
         if (press.window == control) pressedEntry(press, *items, isDouble);
     } else {
-        add(press, Kind::other, call(L"ui_click", press.tile, pointText(press.at)));
+        const std::wstring click = call(L"ui_click", press.tile, pointText(press.at));
+        if (isDouble)
+            addDouble(press, click, call(L"ui_dblclick", press.tile, pointText(press.at)));
+        else
+            add(press, Kind::other, click);
     }
 }
 
@@ -137,8 +141,12 @@ void MouseRecorder::pressedEntry(Press& press, const Items& items, bool isDouble
     press.entry = items.hit(press.at);
     if (press.entry < 0 || !isOnEntry(control, press.at)) {
         press.entry = -1;
-        if (!hasWindowClass(control, WC_LISTVIEWW) && !hasWindowClass(control, WC_TABCONTROLW))
-            add(press, Kind::other, call(L"ui_click", press.tile, pointText(press.at)));
+        const std::wstring click = call(L"ui_click", press.tile, pointText(press.at));
+        if (hasWindowClass(control, WC_LISTVIEWW) || hasWindowClass(control, WC_TABCONTROLW)) return;
+        if (isDouble && items.tree())
+            addDouble(press, click, call(L"ui_dblclick", press.tile, pointText(press.at)));
+        else
+            add(press, Kind::other, click);
         return;
     }
     const std::wstring item = L" " + itemName(items, press.entry) + press.keys;

@@ -1,9 +1,10 @@
 #!/bin/bash
 # Dialogs of all kinds are worked at random, and what was recorded of that is played: the actions hear the same.
-# Usage: tests/ui/recording.sh [FIRST [COUNT [EACH]]]    COUNT dialogs from number FIRST on, EACH of them in a host
+# Usage: tests/ui/recording.sh [FIRST [COUNT [EACH [INPUT]]]]    COUNT dialogs from number FIRST on, EACH of them in a
+# host, by the input that is POSTED or that of the REAL mouse and keyboard; without a name by either in turn
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-first=${1:-0} count=${2:-20} each=${3:-10}
+first=${1:-0} count=${2:-20} each=${3:-5} inputs=(${4:-POSTED REAL})
 . tools/wine-env.sh
 start_wine headless
 work=$(mktemp -d)
@@ -14,12 +15,13 @@ failed=0
 
 for ((n = first; n < first + count; n += each)); do
     run=(-e "(run-forms $n $((n + each > first + count ? first + count - n : each)))")
+    input=${inputs[$(((n - first) / each % ${#inputs[@]}))]}
     # The person may do what ends a dialog before its session does, which is an error of that session.
-    host --record "$work/recorded.lsp" $forms/forms.lsp $forms/person.lsp "${run[@]}" >"$work/worked" || [ $? = 1 ] || { cat "$work/errors"; exit 1; }
+    host --record "$work/recorded.lsp" $forms/forms.lsp $forms/person.lsp -e "(ui_input \"$input\")" "${run[@]}" >"$work/worked" || [ $? = 1 ] || { cat "$work/errors"; exit 1; }
     status=0
     host $forms/forms.lsp "$work/recorded.lsp" "${run[@]}" >"$work/played" || status=$?
-    if [ $status != 0 ] || ! diff -u --label worked --label played "$work/worked" "$work/played"; then
-        echo "FAILED: dialogs from $n on, status $status"
+    if ! diff -u --label worked --label played "$work/worked" "$work/played" || [ $status != 0 ]; then
+        echo "FAILED: dialogs from $n on, $input input, status $status"
         cat "$work/errors"
         failed=1
         mkdir -p build/test-logs

@@ -13,12 +13,15 @@
 (defun rows (n) (mapcar '(lambda (i) (strcat (any-word) "\t" (itoa (chance 4)))) (range n)))
 
 ; A tree's items have other handles in each run.
-(setq items nil branches nil)
+(setq items nil branches nil opened nil)
 (defun shown (value / item)
   (setq item (if (= $key "tree") (assoc value items)))
   (cond (item (cdr item)) ((= $key "tree") "?") (T value)))
 
+(defun toggle (item) (setq opened (if (member item opened) (remove item opened) (cons item opened))))
+
 (defun heard ()
+  (if (and (= $key "tree") (= $reason 16)) (toggle (atoi $value)))
   (prin1 (list $key (shown $value) $reason))
   (terpri)
   (cond ((= 0 (chance 14)) (nested))
@@ -87,7 +90,7 @@
 (setq forms '(kinds buttons grid record kinds))
 
 (defun run-form (number / form)
-  (setq state (1+ (* 7 number)) items nil branches nil form (nth (rem number (length forms)) forms))
+  (setq state (1+ (* 7 number)) items nil branches nil opened nil form (nth (rem number (length forms)) forms))
   (repeat 3 (chance 2))
   (if before-form (before-form number form))
   (prin1 (list number form))

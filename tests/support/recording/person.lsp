@@ -23,7 +23,12 @@
   (setq keys (any-keys))
   (if keys (ui_pick tile (choice count) keys) (ui_pick tile (choice count))))
 
-(defun any-item () (atoi (car (any items))))
+; An item that is hidden is shown by the session, and not by a person.
+(defun visible (item / above)
+  (setq above (wex_tree_getparent "TREE" item))
+  (or (= above -1) (and (member above opened) (visible above))))
+(defun any-item () (any (remove-if-not 'visible (mapcar '(lambda (item) (atoi (car item))) items))))
+(defun any-branch () (any (remove-if-not 'visible branches)))
 
 (defun act-kinds ()
   (eval (any '((ui_type "EDIT" (any-text)) (ui_click "EDIT") (ui_char "k") (press) (press) (press)
@@ -32,7 +37,7 @@
                (ui_click "COMBO") (ui_pick "DROPLIST" (choice 12)) (ui_wheel "DROPLIST" (any '(1 -1)))
                (progn (ui_click "DROPLIST") (after '((ui_key "DOWN") (ui_key (any '("ENTER" "ESC" "TAB"))))))
                (ui_pick "TAB" (choice 4)) (ui_pick "TREE" (any-item)) (ui_pick "TREE" (any-item))
-               (ui_expand "TREE" (any branches)) (ui_dblclick "TREE" (any-item)) (ui_rclick "TREE" (any-item))
+               (ui_expand "TREE" (any-branch)) (ui_dblclick "TREE" (any-item)) (ui_rclick "TREE" (any-item))
                (pick "LISTVIEW" 12) (pick "LISTVIEW" 12) (pick "LISTVIEW" 12)
                (ui_header "LISTVIEW" (choice 2)) (menu-of '(ui_rclick "LISTVIEW" (choice 12)))
                (ui_type "LINES" (any '("one" "a\nb" ""))) (ui_click "LINES") (ui_char "\r") (ui_click "READONLY")
