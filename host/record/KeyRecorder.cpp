@@ -11,9 +11,6 @@ using Kind = RecordedStep::Kind;
 
 constexpr LPARAM SCAN_CODE = 0x00FF0000;
 
-// The style bit of a tile for slides, which acts when it is pressed.
-constexpr LONG SLIDE_TILE = 0x20000;
-
 bool isDown(int key) { return GetKeyState(key) < 0; }
 
 bool isModifier(WPARAM key) {
@@ -63,7 +60,8 @@ bool leavesText(HWND edit, const KeyStroke& stroke) {
 
 // Whether Space does the same as a click.
 bool isClickedBySpace(HWND window) {
-    if (!hasWindowClass(window, WC_BUTTONW) || GetWindowLongW(window, GWL_EXSTYLE) & SLIDE_TILE) return false;
+    const bool isPicture = SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_STATIC;
+    if (!hasWindowClass(window, WC_BUTTONW) || isPicture) return false;
     const LONG kind = GetWindowLongW(window, GWL_STYLE) & BS_TYPEMASK;
     return kind != BS_OWNERDRAW && kind != BS_RADIOBUTTON && kind != BS_AUTORADIOBUTTON &&
            kind != BS_GROUPBOX;

@@ -1,6 +1,7 @@
 #include "host/record/Recorder.h"
 
 #include "host/documents/Documents.h"
+#include "host/drive/GridWindow.h"
 #include "host/drive/Menus.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/services/Host.h"
@@ -58,8 +59,10 @@ void Recorder::taken(const MSG& message) {
     m_journal.dialogSeen(dialog);
     if (!m_journal.knows(dialog)) return;
     if (!menu) return takenInput(message, dialog);
-    // What the menu of an edit box does shows in the text.
-    if (!hasWindowClass(GetFocus(), L"Edit")) m_windows.menuInput(message, menu, dialog);
+    // What the menu of an edit box does shows in its text.
+    const HWND focus = GetFocus();
+    if (!hasWindowClass(focus, L"Edit") || gridOf(GetParent(focus)))
+        m_windows.menuInput(message, menu, dialog);
 }
 
 void Recorder::takenInput(const MSG& message, HWND dialog) {
