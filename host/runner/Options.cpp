@@ -35,8 +35,8 @@ class Parser {
 
     bool waitsForNobody() const {
         const bool ends = m_options.help || m_options.version || m_options.showDialogs ||
-                          m_options.checkDialogs || m_options.languageServer || m_options.interactive;
-                          m_options.checkDialogs || m_options.comparePictures || m_options.interactive;
+                          m_options.checkDialogs || m_options.languageServer || m_options.comparePictures ||
+                          m_options.interactive;
         return m_options.headless && m_options.steps.empty() && !ends;
     }
 

@@ -4,6 +4,7 @@
 
 #include <ole2.h>
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
 #include <vector>
@@ -47,7 +48,9 @@ void reportError(const std::wstring& text) {
     host().fail(LISP_ERROR);
 }
 
-std::wstring quotedWord(const std::wstring& word) {
+// As it stands in a line of comment.
+std::wstring quotedWord(std::wstring word) {
+    std::replace(word.begin(), word.end(), L'\n', L' ');
     const bool isPlain = !word.empty() && word.find_first_of(L" '\"()$&;<>|*?`\\") == word.npos;
     return isPlain ? word : L"'" + word + L"'";
 }

@@ -1,11 +1,6 @@
 #!/bin/bash
 # A session compares how its dialog looks with an approved picture that lies beside the program.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 mkdir "$work/forms"
 failed=0
 

@@ -2,13 +2,8 @@
 # Dialogs of all kinds are worked at random, and what was recorded of that is played: the actions hear the same.
 # Usage: tests/ui/recording.sh [FIRST [COUNT [EACH [INPUT]]]]    COUNT dialogs from number FIRST on, EACH of them in a
 # host, by the input that is POSTED or that of the REAL mouse and keyboard; without a name by either in turn
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 first=${1:-0} count=${2:-20} each=${3:-5} inputs=(${4:-POSTED REAL})
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
 forms=tests/support/recording
 host() { wine64 build/windows/testbin/wexhost.exe --headless --timeout 250 "$@" 2>"$work/errors" | tr -d '\r'; }
 failed=0
