@@ -1,6 +1,7 @@
 #include "host/check/CallReport.h"
 
 #include <algorithm>
+#include <span>
 
 #include "host/lisp/NearestName.h"
 #include "host/lisp/Text.h"
@@ -161,7 +162,7 @@ void CallReport::checkTile(const Form& name, const Form& whole, TileKinds kinds)
     if (!isKey && form.kind != Form::Kind::integer) return;
     const auto at = m_atCalls.find(&name);
     if (at == m_atCalls.end() || at->second.isAny() || at->second.dialogs().empty()) return;
-    const std::vector<const Dialog*>& dialogs = at->second.dialogs();
+    const std::span<const Dialog* const> dialogs = at->second.dialogs();
     const Dialog& dialog = *dialogs[0];
     const std::u16string which =
         dialogs.size() == 1 ? dialog.name : u"none of the dialogs that it may be called for";

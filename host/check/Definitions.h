@@ -52,6 +52,8 @@ class Definitions : public CodeWalk {
     std::vector<Opening> m_openings;
     bool m_opensOthers = false;
     bool m_isChanged = false;
+    // Strings that have been taken.
+    std::unordered_set<const Form*> m_seen;
     std::set<std::u16string, std::less<>> m_mentioned;
     std::set<std::u16string, std::less<>> m_touched;
     std::set<std::u16string, std::less<>> m_beginnings;

@@ -14,7 +14,6 @@ void DialogFlow::follow(const std::vector<ProgramFile*>& files) {
         if (!definition->word->isCalled || definition->word->isValue) definition->atCall = DialogSet::any();
     for (int round = 0; round < MOST_ROUNDS; ++round) {
         m_isChanged = false;
-        m_atCalls.clear();
         walkProgram(files);
         if (!m_isChanged) return;
     }
@@ -26,8 +25,7 @@ void DialogFlow::onCall(const Form& name, const Form* call, std::optional<size_t
     if (Definition* definition = word->definition) {
         if (!definition->arguments.empty()) m_atCalls[&name].add(flow.current());
         m_isChanged = definition->atCall.add(flow.current()) || m_isChanged;
-        const Flow effect = definition->effect;
-        flow.call(effect);
+        flow.call(definition->effect);
         return;
     }
     if (word == m_program.newDialog) {

@@ -1,7 +1,6 @@
 #include "host/check/Flow.h"
 
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 namespace check {
@@ -15,19 +14,26 @@ DialogSet DialogSet::any() {
 bool DialogSet::add(const DialogSet& others) {
     bool isChanged = others.m_isAny && !m_isAny;
     m_isAny = m_isAny || others.m_isAny;
-    for (const Dialog* dialog : others.m_dialogs) {
-        const auto at =
-            std::lower_bound(m_dialogs.begin(), m_dialogs.end(), dialog, std::less<const Dialog*>());
-        if (at != m_dialogs.end() && *at == dialog) continue;
-        m_dialogs.insert(at, dialog);
-        isChanged = true;
-    }
+    for (const Dialog* dialog : others.dialogs()) isChanged = addOne(dialog) || isChanged;
     return isChanged;
 }
 
-DialogSet Flow::current() const {
+bool DialogSet::addOne(const Dialog* dialog) {
+    const std::span<const Dialog* const> known = dialogs();
+    if (std::find(known.begin(), known.end(), dialog) != known.end()) return false;
+    if (!m_one) {
+        m_one = dialog;
+        return true;
+    }
+    if (m_several.empty()) m_several.push_back(m_one);
+    m_several.push_back(dialog);
+    return true;
+}
+
+const DialogSet& Flow::current() const {
+    static const DialogSet any = DialogSet::any();
     if (!m_opened.empty()) return m_opened.back();
-    return m_isLost || m_startedBefore > 0 ? DialogSet::any() : m_atBegin;
+    return m_isLost || m_startedBefore > 0 ? any : m_atBegin;
 }
 
 void Flow::start() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 namespace check {
@@ -12,17 +13,24 @@ struct Dialog;
 class DialogSet {
   public:
     DialogSet() = default;
-    explicit DialogSet(const Dialog* dialog) : m_dialogs{dialog} {}
+    explicit DialogSet(const Dialog* dialog) : m_one(dialog) {}
     static DialogSet any();
 
     bool isAny() const { return m_isAny; }
-    const std::vector<const Dialog*>& dialogs() const { return m_dialogs; }
+    std::span<const Dialog* const> dialogs() const {
+        return m_several.empty() ? std::span(&m_one, m_one ? 1 : 0)
+                                 : std::span<const Dialog* const>(m_several);
+    }
     // Whether that made a difference.
     bool add(const DialogSet& others);
 
   private:
     bool m_isAny = false;
-    std::vector<const Dialog*> m_dialogs;
+    bool addOne(const Dialog* dialog);
+
+    // Mostly it is one. With more, all of them stand in the vector.
+    const Dialog* m_one = nullptr;
+    std::vector<const Dialog*> m_several;
 };
 
 // The dialogs that code opens and starts, from where a function, an action or a file begins.
@@ -30,7 +38,7 @@ class Flow {
   public:
     explicit Flow(DialogSet atBegin) : m_atBegin(std::move(atBegin)) {}
 
-    DialogSet current() const;
+    const DialogSet& current() const;
     // Whether the dialog that was current at the beginning still is.
     bool isAtBegin() const { return m_opened.empty() && m_startedBefore == 0 && !m_isLost; }
     void open(DialogSet dialogs) { m_opened.push_back(std::move(dialogs)); }

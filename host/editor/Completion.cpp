@@ -46,7 +46,9 @@ void addTiles(Completion& completion, const check::CheckedProgram& program, cons
     const check::DialogSet at = program.dialogAt(call);
     const bool isSure = !at.isAny() && !at.dialogs().empty();
     std::set<std::u16string> told;
-    for (const check::Dialog* dialog : isSure ? at.dialogs() : program.openedDialogs())
+    std::vector<const check::Dialog*> dialogs(at.dialogs().begin(), at.dialogs().end());
+    if (!isSure) dialogs = program.openedDialogs();
+    for (const check::Dialog* dialog : dialogs)
         for (const check::DialogTile& tile : dialog->tiles)
             if (!tile.key.empty() && told.insert(tile.key).second)
                 completion.items.push_back(
