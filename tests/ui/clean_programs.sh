@@ -1,11 +1,6 @@
 #!/bin/bash
 # The check finds nothing wrong with the programs of this tree: examples, the examples of the documents, sessions of the tests.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 
 tests/support/doc_examples.awk "$work" README.md docs/lisp-functions.md docs/sessions.md docs/dialogs.md
 checked=0 failed=0

@@ -25,6 +25,9 @@ TEST(Options, WhatIsWrongIsNamed) {
     EXPECT_EQ(parse({L"--data", L"odbc:x"}).error, L"--data: odbc: x is no NAME=VALUE");
     EXPECT_EQ(parse({L"--data", L"x.sqlite", L"a.lsp"}).data, L"x.sqlite");
     EXPECT_EQ(parse({L"--timeout", L"2.5"}).timeoutSeconds, 2.5);
+    EXPECT_EQ(parse({L"--check"}).error, L"--check needs a file");
+    EXPECT_EQ(parse({L"--check", L"a.lsp", L"-e", L"1"}).error, L"--check reads files, and -e is none");
+    EXPECT_EQ(parse({L"--headless", L"--language-server"}).error, L"");
     EXPECT_EQ(parse({L"--headless"}).error, L"--headless needs a program, -e or -i");
     EXPECT_EQ(parse({L"--headless", L"-i"}).error, L"");
     EXPECT_EQ(parse({L"--compare-pictures", L"a.png"}).error, L"--compare-pictures needs pairs of files");
