@@ -48,8 +48,12 @@ std::u16string nameOfTile(const Form& form) {
 
 }  // namespace
 
-CallReport::CallReport(Program& program, const std::unordered_map<const Form*, DialogSet>& atCalls, Tell tell)
-    : CodeWalk(program), m_atCalls(atCalls), m_tell(std::move(tell)) {}
+CallReport::CallReport(Program& program, const std::unordered_map<const Form*, DialogSet>& atCalls, Tell tell,
+                       IsNeverOpened isNeverOpened)
+    : CodeWalk(program),
+      m_atCalls(atCalls),
+      m_tell(std::move(tell)),
+      m_isNeverOpened(std::move(isNeverOpened)) {}
 
 void CallReport::onMalformed(const Form& form, const std::u16string& why) { tell(form, why); }
 
@@ -116,7 +120,7 @@ void CallReport::onLiteral(const Form& name, const Form& literal, size_t index, 
     if (argument.role == Role::tile)
         checkTile(name, literal, argument.kinds);
     else if (argument.role == Role::dialog)
-        checkDialog(literal);
+        checkDialog(name, literal);
     else
         checkValue(name, literal, index, argument.role);
 }
@@ -144,9 +148,14 @@ void CallReport::onComputed(const Form&, const Form& form, size_t, const Argumen
          u"nothing sets the variable " + small(*form.word) + u"; a name stands between quotation marks");
 }
 
-void CallReport::checkDialog(const Form& form) {
-    if (!form.isString() || m_program.knowledge.dialog(form.text) || m_program.knowledge.dialogs().empty())
+void CallReport::checkDialog(const Form& function, const Form& form) {
+    if (!form.isString() || m_program.knowledge.dialogs().empty()) return;
+    if (m_program.knowledge.dialog(form.text)) {
+        const bool isSession = function.word->name == u"UI_SESSION";
+        if (isSession && m_isNeverOpened(form.text))
+            tell(form, u"the program never opens the dialog \"" + form.text + u"\" of this session");
         return;
+    }
     std::vector<std::u16string> names;
     for (const auto& [name, dialog] : m_program.knowledge.dialogs()) names.push_back(dialog.name);
     std::sort(names.begin(), names.end());

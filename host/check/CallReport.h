@@ -13,8 +13,12 @@ class CallReport : public CodeWalk {
     using Tell =
         std::function<void(const ProgramFile& file, uint32_t begin, uint32_t end, std::u16string text)>;
 
+    // Whether the program surely never opens the dialog of that name.
+    using IsNeverOpened = std::function<bool(std::u16string_view dialog)>;
+
     // `atCalls`: which dialog is current, by the symbols that name the functions called.
-    CallReport(Program& program, const std::unordered_map<const Form*, DialogSet>& atCalls, Tell tell);
+    CallReport(Program& program, const std::unordered_map<const Form*, DialogSet>& atCalls, Tell tell,
+               IsNeverOpened isNeverOpened);
 
   protected:
     void onCall(const Form& name, const Form* call, std::optional<size_t> count, Flow& flow) override;
@@ -32,7 +36,7 @@ class CallReport : public CodeWalk {
     void tellUnknown(const Form& name);
     void checkCount(const Form& name, size_t count);
     void checkValue(const Form& name, const Form& form, size_t index, Role role);
-    void checkDialog(const Form& form);
+    void checkDialog(const Form& name, const Form& form);
     void checkTile(const Form& name, const Form& form, TileKinds kinds);
     // The name that a word was probably meant to be, in lower case; empty where there is none.
     std::u16string nearest(const Word& word, const std::vector<std::u16string>& names);
@@ -41,6 +45,7 @@ class CallReport : public CodeWalk {
 
     const std::unordered_map<const Form*, DialogSet>& m_atCalls;
     Tell m_tell;
+    IsNeverOpened m_isNeverOpened;
     std::unordered_map<const Word*, std::u16string> m_nearest;
     std::vector<std::u16string> m_callable;
     std::vector<std::u16string> m_variables;

@@ -32,16 +32,20 @@ class CheckedProgram::Work {
     void run(const std::vector<ProgramFile*>& files) {
         m_definitions.collect(files);
         m_flow.follow(files);
-        CallReport report(m_program, m_flow.atCalls(),
-                          [this](const ProgramFile& file, uint32_t begin, uint32_t end, std::u16string text) {
-                              tell(file, begin, end, std::move(text), false);
-                          });
+        CallReport report(
+            m_program, m_flow.atCalls(),
+            [this](const ProgramFile& file, uint32_t begin, uint32_t end, std::u16string text) {
+                tell(file, begin, end, std::move(text), false);
+            },
+            [this](std::u16string_view dialog) {
+                return !m_program.hasForeignCode && !m_definitions.opensOthers() &&
+                       !m_definitions.mentions(dialog);
+            });
         report.walkProgram(files);
         for (const auto& file : m_program.files)
             for (const Fault& fault : file->read.faults)
                 tell(*file, fault.begin, fault.end, fault.text, false);
         tellIdleTiles();
-        SessionReport(*this).walkProgram(files);
     }
 
     std::vector<Finding> findings() const {
@@ -73,28 +77,6 @@ class CheckedProgram::Work {
             return std::tie(begin, end, isNote, text, file) <
                    std::tie(other.begin, other.end, other.isNote, other.text, other.file);
         }
-    };
-
-    // Sessions that wait for dialogs which the program never opens.
-    class SessionReport : public CodeWalk {
-      public:
-        explicit SessionReport(Work& work) : CodeWalk(work.m_program), m_work(work) {}
-
-      protected:
-        void onCall(const Form& name, const Form* call, std::optional<size_t>, Flow&) override {
-            if (name.word->name != u"UI_SESSION" || !call || call->items.size() < 2) return;
-            const Form& dialog = call->items[1];
-            const bool isSure = dialog.isString() && m_program.knowledge.dialog(dialog.text) &&
-                                !m_program.hasForeignCode && !m_work.m_definitions.mentions(dialog.text);
-            if (isSure && !m_work.m_definitions.opensOthers())
-                m_work.tell(file(), dialog.begin, dialog.end,
-                            u"the program never opens the dialog \"" + dialog.text + u"\" of this session",
-                            false);
-        }
-        Flow onDefinition(const Form&, Word*, size_t) override { return Flow(DialogSet()); }
-
-      private:
-        Work& m_work;
     };
 
     void tell(const ProgramFile& file, uint32_t begin, uint32_t end, std::u16string text, bool isNote) {

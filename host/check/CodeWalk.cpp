@@ -406,6 +406,7 @@ void CodeWalk::walkDefun(const Form& form) {
         if (form.isClosed) onMalformed(form, u"defun takes a name and a list of parameters");
         return;
     }
+    if (knowsDefinition(form)) return;
     Word* const word = form.items[1].word;
     const size_t outer = m_bindings.size();
     const size_t count = takeParameters(form.items[1], form.items[2]).size();

@@ -33,6 +33,8 @@ class CodeWalk {
     virtual void onParameter(const Form& /*name*/, size_t /*index*/, Definition&, size_t /*parameter*/,
                              const Argument&, const Flow&) {}
     virtual void onMalformed(const Form&, const std::u16string&) {}
+    // Whether a walk before this one has seen all there is to see of a definition.
+    virtual bool knowsDefinition(const Form&) { return false; }
     // A function's definition: when its body is walked, and afterwards.
     virtual Flow onDefinition(const Form&, Word*, size_t) { return Flow(DialogSet::any()); }
     virtual void onDefinitionEnd(Word*, const Flow&) {}

@@ -1,5 +1,7 @@
 #include "host/check/DialogFlow.h"
 
+#include <algorithm>
+
 namespace check {
 
 namespace {
@@ -24,7 +26,10 @@ void DialogFlow::onCall(const Form& name, const Form* call, std::optional<size_t
     Word* const word = name.word;
     if (Definition* definition = word->definition) {
         if (!definition->arguments.empty()) m_atCalls[&name].add(flow.current());
-        m_isChanged = definition->atCall.add(flow.current()) || m_isChanged;
+        if (definition->atCall.add(flow.current())) {
+            definition->atCallChanged = ++m_clock;
+            m_isChanged = true;
+        }
         flow.call(definition->effect);
         return;
     }
@@ -63,16 +68,30 @@ void DialogFlow::name(const Form& function, size_t index, const DialogSet& dialo
         return;
     }
     if (definition->named.size() <= index) definition->named.resize(index + 1);
-    m_isChanged = definition->named[index].add(dialogs) || m_isChanged;
+    if (definition->named[index].add(dialogs)) noteWideChange();
 }
 
-Flow DialogFlow::onDefinition(const Form&, Word* word, size_t) { return Flow(word->definition->atCall); }
+void DialogFlow::noteWideChange() {
+    m_widelyChanged = ++m_clock;
+    m_isChanged = true;
+}
+
+bool DialogFlow::knowsDefinition(const Form& form) {
+    const auto at = m_walkedAt.find(&form);
+    const unsigned changed = std::max(form.items[1].word->definition->atCallChanged, m_widelyChanged);
+    return at != m_walkedAt.end() && at->second > changed;
+}
+
+Flow DialogFlow::onDefinition(const Form& form, Word* word, size_t) {
+    m_walkedAt[&form] = ++m_clock;
+    return Flow(word->definition->atCall);
+}
 
 void DialogFlow::onDefinitionEnd(Word* word, const Flow& flow) {
     Definition& definition = *word->definition;
     if (definition.effect.hasSameEffect(flow)) return;
     definition.effect = flow;
-    m_isChanged = true;
+    noteWideChange();
 }
 
 }  // namespace check

@@ -24,16 +24,23 @@ class DialogFlow : public CodeWalk {
     void onComputed(const Form& name, const Form& form, size_t index, const Argument& argument) override;
     void onParameter(const Form& name, size_t index, Definition& definition, size_t parameter,
                      const Argument& argument, const Flow& flow) override;
+    bool knowsDefinition(const Form& form) override;
     Flow onDefinition(const Form& form, Word* word, size_t count) override;
     void onDefinitionEnd(Word* word, const Flow& flow) override;
 
   private:
+    void noteWideChange();
     void name(const Form& function, size_t index, const DialogSet& dialogs);
 
     std::unordered_map<const Form*, DialogSet> m_atCalls;
     // Of the call whose arguments have just been walked.
     DialogSet m_named;
     bool m_isChanged = false;
+    // A clock of changes: when each definition was walked last, and when something changed that may reach any
+    // of them.
+    unsigned m_clock = 1;
+    unsigned m_widelyChanged = 0;
+    std::unordered_map<const Form*, unsigned> m_walkedAt;
 };
 
 }  // namespace check

@@ -57,6 +57,7 @@ struct Definition {
     std::vector<DialogSet> named;
     DialogSet atCall;
     Flow effect{DialogSet()};
+    unsigned atCallChanged = 0;  // when, by the clock of who follows the calls
 };
 
 // What an argument of that function is, counted from 0.
