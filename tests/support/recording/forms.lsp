@@ -24,7 +24,9 @@
   (if (and (= $key "tree") (= $reason 16)) (toggle (atoi $value)))
   (prin1 (list $key (shown $value) $reason))
   (terpri)
-  (cond ((= 0 (chance 14)) (nested))
+  ; Where a press itself brings up a dialog, the real button comes up there, and a session's waits.
+  (cond ((and calm (/= $reason 1)) nil)
+        ((= 0 (chance 14)) (nested))
         ((= 0 (chance 20)) (wex_alert (any-word) (one-of '(1 2 3))))
         ((= 0 (chance 12)) (wex_set_tile (one-of '("EDIT" "CAT" "VALUE" "CHECK" "LISTBOX")) (itoa (chance 3))))
         ; A session that picks from a combo box puts the focus there itself: what that ends, nobody has ended by input.
@@ -37,6 +39,7 @@
   (prin1 (list "nested" (wex_start_dialog)))
   (terpri))
 (setq before-nested nil before-form nil)
+(if (not (boundp 'calm)) (setq calm nil))
 
 (defun bind (keys) (foreach key keys (wex_action_tile key "(heard)")))
 
