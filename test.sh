@@ -37,8 +37,8 @@ fuzz() {
         -artifact_prefix="$logs/fuzz-$1-" "$found" "tests/fuzz/corpus/$1"
 }
 
-# Runs the host with nobody there.
-host() { wine64 "$bin/wexhost.exe" --headless --timeout 300 --shots "$logs/shots" "$@"; }
+# Runs the host with nobody there. A program that is warned of what it doesn't say it does on purpose fails.
+host() { wine64 "$bin/wexhost.exe" --headless --warn=error --timeout 300 --shots "$logs/shots" "$@"; }
 
 # An example is right when it prints what stands under its name in tests/ui/examples.
 example() {

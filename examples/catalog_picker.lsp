@@ -30,7 +30,7 @@
 (setq all-makers "(all)")
 
 ; The field in front of the first title is passed over. Blanks behind a title make its column wider.
-(defun columns (titles) (string-join (cons "columns" titles) "\t"))
+(defun columns (titles) (string-join (cons "" titles) "\t"))
 
 (defun fill (tile rows)
   (wex_start_list tile)

@@ -119,7 +119,7 @@
   (open-parts)
   (read-parts)
   (wex_new_dialog "LOOKUP_FP")
-  (wex_listctrl_setcolumns "DLST" "x\tNumber               \tAssembly     \tBlock               ")
+  (wex_listctrl_setcolumns "DLST" "\tNumber               \tAssembly     \tBlock               ")
   (wex_start_list "MFG")
   (wex_add_list (cons "(all)" makers))
   (wex_end_list)

@@ -12,6 +12,7 @@
 (setq icon-project 0 icon-folder 1 icon-open 2 icon-drawing 3)
 
 (defun start-tree (/ project)
+  (wex_listctrl_setcolumns "LST" "\tDrawing\tDescription")
   (wex_listctrl_setcolumnwidth "LST" 0 80)
   (wex_listctrl_setcolumnwidth "LST" 1 180)
   (wex_tree_setupimagelist "SEC" "PROJECT" "FOLDER" "FOLDER_OPEN" "DRAWING")
@@ -61,7 +62,6 @@
 
 (defun pick-drawing (/ unfilled shown picked)
   (wex_new_dialog "PICK_BY_SEC")
-  (wex_listctrl_setcolumns "LST" "x\tDrawing\tDescription")
   (wex_setaction_oninit "(start-tree)")
   (wex_action_tile "SEC" "(tree-event)")
   (wex_action_tile "LST" "(if (/= $value \"\") (pick (atoi $value)))")

@@ -63,7 +63,7 @@
   (wex_set_tile "B_LOCATE" "&Turn")
   (foreach tile '("SORT" "HELP") (wex_mode_tile tile 6))
   (foreach tile '("OK" "B_LOCATE") (wex_mode_tile tile 1))
-  (wex_listctrl_setcolumns "LST" "columns\tSymbol                        ")
+  (wex_listctrl_setcolumns "LST" "\tSymbol                        ")
   (wex_start_list "LST")
   (wex_add_list (mapcar 'car symbols))
   (wex_end_list)

@@ -29,7 +29,7 @@
   (wex_tab_add "TABS" "Style" "MODE" "TEXT" "GRAPHICAL" "TABLE" "SETUP" "SAME_SHEET")
   (wex_tab_add "TABS" "Format" "FORMATS" "LABEL0" "SAME_FMT" "LABEL1" "OTHER_FMT" "LABEL2" "BETWEEN" "LABEL3" "SAMPLE")
   (wex_tab_add "TABS" "Components" "LABEL4" "TYPES" "ALL" "NONE")
-  (wex_listctrl_setcolumns "TYPES" "columns\tType                    ")
+  (wex_listctrl_setcolumns "TYPES" "\tType                    ")
   (wex_start_list "TYPES")
   (wex_add_list component-types)
   (wex_end_list)

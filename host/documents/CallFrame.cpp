@@ -19,9 +19,15 @@ int32_t run(const PluginFunction& function) {
 
 }  // namespace
 
-CallFrame::CallFrame(lisp::Interpreter& lisp, const PluginFunction& function,
+CallFrame::CallFrame(lisp::Interpreter& lisp, const std::wstring& name, const PluginFunction& function,
                      std::span<const lisp::Value> arguments)
-    : m_lisp(lisp), m_function(function), m_arguments(arguments), m_outer(s_current), m_result(lisp) {
+    : m_lisp(lisp),
+      m_name(name),
+      m_place(lisp.placeMark()),
+      m_function(function),
+      m_arguments(arguments),
+      m_outer(s_current),
+      m_result(lisp) {
     s_current = this;
 }
 
@@ -48,7 +54,7 @@ lisp::Value callPluginFunction(lisp::Call& call) {
         throw lisp::Error(u"no plug-in defines " + lispText(function.name) + u" any more");
     }
     const PluginFunction newest = function.definitions.back();
-    CallFrame frame(call.lisp, newest, call.arguments);
+    CallFrame frame(call.lisp, function.name, newest, call.arguments);
     if (Actions::isBinding(function.name)) {
         host().actions().note(function.name, frame.arguments(), call.lisp.place());
     }

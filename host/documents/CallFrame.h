@@ -29,8 +29,8 @@ struct LispFunction {
 
 class CallFrame {
   public:
-    // `arguments` must outlive the frame.
-    CallFrame(lisp::Interpreter& lisp, const PluginFunction& function,
+    // `name` and `arguments` must outlive the frame.
+    CallFrame(lisp::Interpreter& lisp, const std::wstring& name, const PluginFunction& function,
               std::span<const lisp::Value> arguments);
     ~CallFrame() { s_current = m_outer; }
     CallFrame(const CallFrame&) = delete;
@@ -41,6 +41,9 @@ class CallFrame {
     // Whether a function of `plugin` is being called.
     static bool isRunning(const Plugin* plugin);
 
+    // Of the Lisp function, and where it was called.
+    const std::wstring& name() const { return m_name; }
+    lisp::Place place() const { return m_place; }
     int code() const { return m_function.code; }
     Plugin* plugin() const { return m_function.plugin; }
     // Made at the first question, since many functions ask for none. Throws lisp::Error for a list that is
@@ -59,6 +62,8 @@ class CallFrame {
     static inline CallFrame* s_current = nullptr;
 
     lisp::Interpreter& m_lisp;
+    const std::wstring& m_name;
+    lisp::Place m_place;
     PluginFunction m_function;
     std::span<const lisp::Value> m_arguments;
     CallFrame* m_outer;

@@ -225,12 +225,16 @@ Value dialogs(Call& call) {
     return list.list();
 }
 
-// (ui_alerts): what was said since the last call.
-Value alerts(Call& call) {
+Value texts(Call& call, const std::vector<std::wstring>& lines) {
     lisp::ListBuilder list(call.lisp);
-    for (const std::wstring& said : host().alerts().take()) list.add(text(call, said));
+    for (const std::wstring& line : lines) list.add(text(call, line));
     return list.list();
 }
+
+// (ui_alerts), (ui_warnings): what was said since the last call.
+Value alerts(Call& call) { return texts(call, host().alerts().take()); }
+
+Value warnings(Call& call) { return texts(call, host().warnings().take()); }
 
 constexpr UiFunction FUNCTIONS[] = {
     {u"ui_session", &session, 2, 2}, {u"ui_type", &type, 2, 2},       {u"ui_key", &key, 1, 2},
@@ -239,7 +243,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_items", &items, 1, 3},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},
     {u"ui_box", &box, 0, 0},         {u"ui_cell", &cellLook, 3, 3},   {u"ui_columns", &columns, 1, 1},
     {u"ui_title", &title, 0, 0},     {u"ui_dialogs", &dialogs, 0, 0}, {u"ui_alerts", &alerts, 0, 0},
-    {u"ui_answer", &answer, 1, 2},   {u"ui_input", &input, 1, 1},
+    {u"ui_answer", &answer, 1, 2},   {u"ui_input", &input, 1, 1},     {u"ui_warnings", &warnings, 0, 0},
 };
 
 }  // namespace

@@ -176,7 +176,11 @@ void Interpreter::setFileAccess(std::unique_ptr<FileAccess> access) {
 
 void Interpreter::interrupt() { m_machine->interrupt(); }
 void Interpreter::clearInterrupt() { m_machine->clearInterrupt(); }
-SourceLine Interpreter::place() const { return m_machine->place(); }
+SourceLine Interpreter::place() const { return lineOf(placeMark()); }
+
+Place Interpreter::placeMark() const { return m_machine->currentPlace(); }
+
+SourceLine Interpreter::lineOf(Place mark) const { return m_machine->lineOf(mark); }
 void Interpreter::setCollectAlways(bool always) { m_machine->setCollectAlways(always); }
 size_t Interpreter::heapBytesInUse() const { return m_machine->heap.used(); }
 Root*& Interpreter::rootList() { return m_machine->heap.roots(); }

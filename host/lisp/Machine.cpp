@@ -136,8 +136,7 @@ void Machine::locate(Error& error) const {
                  m_function ? lowerCase(m_function->name) : std::u16string());
 }
 
-SourceLine Machine::place() const {
-    Place place = currentPlace();
+SourceLine Machine::lineOf(Place place) const {
     if (!place.file) return {};
     std::lock_guard lock(m_fileNamesLock);
     return {m_fileNames[place.file - 1], int(place.line)};

@@ -68,7 +68,7 @@ class Machine {
         return {uint32_t(packed >> 32), uint32_t(packed)};
     }
     void locate(Error& error) const;
-    SourceLine place() const;
+    SourceLine lineOf(Place place) const;
 
     // Around each entry from C++: knows the shallowest, and puts the stack back after an exception.
     class Entry {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/runner/DialogKinds.h"
-#include "host/runner/DialogTemplate.h"
+#include "src/platform/base/DialogTemplate.h"
 #include "src/platform/base/KeyListText.h"
 
 // The room that a control has for its text, in dialog units.

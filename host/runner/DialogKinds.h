@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "host/runner/DialogTemplate.h"
 #include "src/platform/base/CString.h"
+#include "src/platform/base/DialogTemplate.h"
 
 // A button of exactly that caption, in any case, shows an icon alone; the tip says what it does, and has its
 // mnemonic.

@@ -45,6 +45,13 @@ Value resources(Call& call) {
         {Value::integer(held.windows), Value::integer(held.gdiObjects), Value::integer(held.kernelHandles)});
 }
 
+// (host_warn flag): whether warnings are told from now on. Gives what held before.
+Value tellWarnings(Call& call) {
+    const bool before = host().warnings().isHeard();
+    host().warnings().setHeard(!call[0].isNil());
+    return before ? Value::truth() : Value::nil();
+}
+
 Value exitProgram(Call& call) { host().exit(call.integerOr(0, host().status())); }
 
 }  // namespace
@@ -54,6 +61,7 @@ void defineHostFunctions(lisp::Interpreter& lisp) {
     lisp.defineNative(u"host_close_document", &closeDocument, nullptr, 0, 0);
     lisp.defineNative(u"host_load_plugin", &loadPlugin, nullptr, 1, 1);
     lisp.defineNative(u"host_unload_plugin", &unloadPlugin, nullptr, 0, 1);
+    lisp.defineNative(u"host_warn", &tellWarnings, nullptr, 1, 1);
     lisp.defineNative(u"host_resources", &resources, nullptr, 0, 0);
     lisp.defineNative(u"exit", &exitProgram, nullptr, 0, 1);
     defineUnitFunctions(lisp);

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "host/runner/DialogTemplate.h"
 #include "host/runner/LayoutFindings.h"
+#include "src/platform/base/DialogTemplate.h"
 
 class OpenedDialog {
   public:

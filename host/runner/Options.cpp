@@ -1,10 +1,20 @@
 #include "host/runner/Options.h"
 
+#include <algorithm>
 #include <cwchar>
+#include <iterator>
+#include <utility>
 
 #include "host/services/DataChoice.h"
 
 namespace {
+
+constexpr std::pair<std::wstring_view, WarningMode> WARN_MODES[] = {
+    {L"", WarningMode::on},
+    {L"=on", WarningMode::on},
+    {L"=off", WarningMode::off},
+    {L"=error", WarningMode::error},
+};
 
 class Parser {
   public:
@@ -64,6 +74,17 @@ class Parser {
         if (!wrong.empty()) fail(option + L": " + wrong);
     }
 
+    // --warn[=MODE]
+    void takeWarn(const std::wstring& option) {
+        const std::wstring mode = option.substr(std::wstring_view(L"--warn").size());
+        const auto found = std::find_if(std::begin(WARN_MODES), std::end(WARN_MODES),
+                                        [&](const auto& known) { return mode == known.first; });
+        if (found == std::end(WARN_MODES))
+            fail(option + L": only --warn, --warn=off and --warn=error are known");
+        else
+            m_options.warn = found->second;
+    }
+
     void takeOperand(const std::wstring& argument) {
         if (m_options.comparePictures) {
             m_options.pictures.push_back(argument);
@@ -100,6 +121,10 @@ class Parser {
             m_options.comparePictures = true;
         } else if (argument == L"--approve") {
             m_options.approve = true;
+        } else if (argument == L"--no-warn") {
+            m_options.warn = WarningMode::off;
+        } else if (argument.starts_with(L"--warn")) {
+            takeWarn(argument);
         } else if (argument == L"--timeout") {
             takeTimeout(argument);
         } else if (argument == L"--data") {
@@ -139,6 +164,8 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --headless         nobody is there: play the programs' sessions, answer all alerts
   --play             play the programs' sessions where the person can watch
   --record OUT.lsp   write what the person does in the dialogs as sessions that do it again
+  --warn, --no-warn  tell, or don't, what a program's calls couldn't do; without a person it is told
+  --warn=error       the same, and a warning makes the exit status 1
   --timeout SECONDS  give up after that time; inf for never
   --data DATABASE    open it for the programs: FILE.sqlite, or odbc:CONNECT STRING
   --support DIR      look for Lisp files in DIR too; may be given several times

@@ -1,10 +1,13 @@
 // The command line of wexhost. Portable.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "host/services/Warnings.h"
 
 struct Options {
     // A file to load or an expression to evaluate; they run in the order in which they were given.
@@ -24,6 +27,7 @@ struct Options {
     bool languageServer = false;
     bool comparePictures = false;
     bool approve = false;
+    std::optional<WarningMode> warn;
     double timeoutSeconds = 0;  // 0: no limit
     std::wstring shotsFolder;
     std::wstring record;  // the file to record into; empty for none
@@ -38,6 +42,10 @@ struct Options {
 
     // Whether sessions are played: they are meant for runs without a person.
     bool playsSessions() const { return headless || play; }
+    // Warnings are for whoever reads what is printed, and so for a person only who asks for them.
+    WarningMode warningMode() const {
+        return warn.value_or(playsSessions() ? WarningMode::on : WarningMode::off);
+    }
 };
 
 // `arguments` without the program's own name.

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "host/runner/DialogKinds.h"
-#include "host/runner/DialogTemplate.h"
+#include "src/platform/base/DialogTemplate.h"
 
 struct ResourceModule {
     struct Free {

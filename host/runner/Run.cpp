@@ -31,6 +31,7 @@
 #include "host/runner/TempFolder.h"
 #include "host/runner/Terminal.h"
 #include "host/runner/Watchdog.h"
+#include "host/services/DataModule.h"
 #include "host/services/Host.h"
 #include "host/services/ProgramFolder.h"
 #include "host/services/Texts.h"
@@ -100,6 +101,16 @@ HWND makeMainFrame() {
     return frame.window();
 }
 
+// The host's own kind of warning, beside those of plug-ins.
+constexpr int32_t DATABASE_FAILED = -1;
+
+void warnOfData(HostText line) {
+    const CallFrame* frame = CallFrame::current();
+    if (frame)
+        host().warn({frame->place(), frame->name(), DATABASE_FAILED},
+                    L"a call of the database failed: " + std::wstring(line.text, line.length));
+}
+
 // Removed by endHost.
 std::unique_ptr<TempFolder>& tempFolder() {
     static auto& folder = *new std::unique_ptr<TempFolder>;
@@ -135,6 +146,7 @@ void startHost(const Options& options) {
     makeTempFolder();
     host().setHeadless(options.headless);
     startRecording(options);
+    host().warnings().setMode(options.warningMode());
     player().setPlays(options.playsSessions());
     lisp::Interpreter& lisp = host().lisp();
     lisp.setOutput([](std::u16string_view text) { host().console().print(wideText(text)); });
@@ -144,6 +156,7 @@ void startHost(const Options& options) {
     defineUiFunctions(lisp);
     setPictureChoices({systemPath(options.shotsFolder).wstring(), options.approve});
     defineDataFunctions(lisp);
+    setDataFailureListener(&warnOfData);
     documents().open();
     openChosenData(options.data);
     loadPlugin(options.plugin);

@@ -11,9 +11,17 @@
 
 namespace {
 
-void reportToConsole(HostText line) { host().console().error({line.text, line.length}); }
+void (*g_listener)(HostText line) = nullptr;
+
+// What a record table asks for fails without a word to its program.
+void reportFailure(HostText line) {
+    host().console().error({line.text, line.length});
+    if (g_listener) g_listener(line);
+}
 
 }  // namespace
+
+void setDataFailureListener(void (*listener)(HostText line)) { g_listener = listener; }
 
 int32_t loadManagedModule(const wchar_t* fileName) {
     const std::wstring path = (programFolder() / fileName).wstring();
@@ -22,7 +30,7 @@ int32_t loadManagedModule(const wchar_t* fileName) {
         const DWORD error = GetLastError();
         return error ? static_cast<int32_t>(error) : ERROR_MOD_NOT_FOUND;
     }
-    if (DataAccess* const access = loadedDataAccess()) access->setReporter(&reportToConsole);
+    if (DataAccess* const access = loadedDataAccess()) access->setReporter(&reportFailure);
     return 0;
 }
 

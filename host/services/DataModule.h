@@ -14,3 +14,6 @@ int32_t loadManagedModule(const wchar_t* fileName);
 DataAccess& dataAccess();
 // The same where the module has been loaded; null before.
 DataAccess* loadedDataAccess();
+
+// Hears what failed for a record table, when it has been printed.
+void setDataFailureListener(void (*listener)(HostText line));

@@ -9,6 +9,7 @@
 #include "host/services/Actions.h"
 #include "host/services/Alerts.h"
 #include "host/services/Console.h"
+#include "host/services/Warnings.h"
 
 class Host {
   public:
@@ -18,6 +19,11 @@ class Host {
     lisp::Interpreter& lisp() { return m_lisp; }
     Actions& actions() { return m_actions; }
     Alerts& alerts() { return m_alerts; }
+    Warnings& warnings() { return m_warnings; }
+
+    // Prints a warning, unless one of its kind was told there. Whether it was printed.
+    bool warn(const Warnings::Site& site, std::wstring_view words, std::wstring_view wanted = {},
+              std::span<const std::wstring> candidates = {});
 
     // The window in front of which dialogs open: what `make` gives at the first question.
     HWND mainFrame();
@@ -33,7 +39,8 @@ class Host {
         if (!m_status) m_status = status;
     }
 
-    // Ends the process, after `work` and when all that was printed has been handed on.
+    // Ends the process, after `work` and when all that was printed has been handed on. Warnings that count as
+    // errors make a status of 0 that of an error.
     [[noreturn]] void exit(int status);
     void setAtExit(std::function<void()> work) { m_atExit = std::move(work); }
 
@@ -42,6 +49,7 @@ class Host {
     lisp::Interpreter m_lisp;
     Actions m_actions{m_lisp};
     Alerts m_alerts;
+    Warnings m_warnings{m_lisp};
     std::function<HWND()> m_makeMainFrame;
     std::function<void()> m_atExit;
     HWND m_mainFrame = nullptr;

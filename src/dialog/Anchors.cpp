@@ -1,5 +1,12 @@
 #include "src/dialog/Anchors.h"
 
+bool isAnchorCode(int code) {
+    int rest = code;
+    for (const int weight : {300, 150, 75, 38, 25, 10, 1})
+        if (rest >= weight) rest -= weight;
+    return rest == 0 || code == -1;
+}
+
 AnchorOffsets anchorOffsets(int code, const PixelRect& control, int width, int height, HeightShares shares) {
     AnchorOffsets offsets;
     offsets.heightAtStart = height;

@@ -21,6 +21,9 @@ struct AnchorOffsets {
     HeightShares shares;
 };
 
+// Whether the code is a sum of the weights that anchorOffsets knows, or -1 for no anchor.
+bool isAnchorCode(int code);
+
 // The offsets of an anchor code, a sum of weights that is read from the largest down, each at most once: 300
 // vertical and 150 horizontal centre, 75 all edges, 38 bottom, 25 right, 10 left, 1 top. `width` and `height`
 // are those of the client area at the start. kept: the vertical centre takes the whole height where the

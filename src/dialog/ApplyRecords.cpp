@@ -3,6 +3,7 @@
 
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/TemplateAnchors.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/dialog/WexDialog.h"
 #include "src/platform/host/HostServices.h"
 #include "src/platform/mfc/RedrawHold.h"
@@ -25,6 +26,7 @@ bool WexDialog::OnInitDialog() {
     callLispAction(m_onInitAction);
     takeTemplateAnchors();
     applyRecords();
+    m_hasApplied = true;
     placeAtStart();
     return true;
 }
@@ -57,7 +59,11 @@ void WexDialog::applyRecords() {
         const int id = tile.m_ctrlId >= 0 ? tile.m_ctrlId : idForKey(tile.m_key);
         if (id == -1) continue;
         CWnd* control = tile.m_control && tile.m_control->isLive() ? tile.m_control : itemForId(id);
-        if (!control) continue;
+        if (!control) {
+            // Ids without a key were told of when they were used.
+            if (m_tiles.keys.hasId(id)) warnUnknownTile(*this, {.key = tile.m_key});
+            continue;
+        }
         computeAnchors(*control, tile);
         applyTile(*control, tile);
     }

@@ -1,9 +1,23 @@
 #include "src/dialog/CurrentTile.h"
 
-#include "src/dialog/WexDialog.h"
+#include "src/dialog/TileWarnings.h"
+
+WexDialog* dialogToWork() {
+    WexDialog* dialog = currentDialog();
+    if (!dialog) [[unlikely]]
+        warnNoDialog();
+    return dialog;
+}
+
+WexDialog* runningDialog() {
+    WexDialog* dialog = dialogToWork();
+    if (!dialog || dialog->m_hWnd) return dialog;
+    warnNotStarted(*dialog);
+    return nullptr;
+}
 
 CWnd* controlOf(const TileAddress& tile) {
-    const WexDialog* dialog = currentDialog();
+    const WexDialog* dialog = runningDialog();
     return dialog ? dialog->itemFor(tile) : nullptr;
 }
 
@@ -11,5 +25,6 @@ bool isOfClass(const CWnd* control, const wchar_t* className, TextId alert) {
     if (!control) return false;
     if (control->className() == className) return true;
     alertText(alert);
+    warnOtherKind(*control, alert == TEXT_NOT_A_GRID ? L"grids" : L"list controls");
     return false;
 }

@@ -3,6 +3,7 @@
 #include <new>
 
 #include "src/dialog/ParentWindow.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/dialog/WexDialog.h"
 #include "src/platform/base/EventText.h"
 #include "src/shell/EventFile.h"
@@ -14,6 +15,13 @@ namespace {
 int32_t g_dialogPosX = -1;
 int32_t g_dialogPosY = -1;
 
+constexpr wchar_t BINDS_TOO_LATE[] = L"actions are bound between wex_new_dialog and wex_start_dialog";
+
+void warnUnknownDialog(const CString& name) {
+    if (isHeard(WARN_UNKNOWN_DIALOG))
+        tellWarning(WARN_UNKNOWN_DIALOG, L"there is no dialog " + quoted(name), name, dialogNames());
+}
+
 // Defines the function of an action in the event file, and gives its name.
 CString defineAction(const WexDialog& dialog, const CString& key, const CString& lispText) {
     const CString suffix = dialog.m_name + key;
@@ -23,7 +31,8 @@ CString defineAction(const WexDialog& dialog, const CString& key, const CString&
 
 void setDialogAction(LispCall& call, CString WexDialog::*action, const wchar_t* word) {
     const auto lispText = call.text();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
+    if (dialog && dialog->isRunning()) warnRuns(*dialog, BINDS_TOO_LATE);
     if (dialog && lispText) dialog->*action = defineAction(*dialog, word, *lispText);
     call.retVoid();
 }
@@ -34,7 +43,9 @@ void runToItsEnd(WexDialog& dialog) {
     struct Removal {
         ~Removal() { g_dialogs.removeNewest(); }
     } const removal;
-    if (dialog.DoModal() != 0) g_doneStatus = -1;
+    const int result = dialog.DoModal();
+    if (result != 0) g_doneStatus = -1;
+    if (result == -1) warnUnlessTemplate(dialog);
 }
 
 }  // namespace
@@ -50,6 +61,7 @@ void newDialog(LispCall& call) {
     const auto source = findDialog(g_dialogName);
     if (!source) {
         alertText(TEXT_NO_SUCH_DIALOG);
+        warnUnknownDialog(g_dialogName);
         return call.retNil();
     }
     std::unique_ptr<WexDialog> dialog;
@@ -67,8 +79,9 @@ void newDialog(LispCall& call) {
 
 void startDialog(LispCall& call) {
     if (!loadEventFile(g_dialogName)) return call.retVoid();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     // A dialog that is running already can't run a second time.
+    if (dialog && dialog->isRunning()) warnRuns(*dialog, L"it can't be started a second time");
     if (!dialog || dialog->isRunning()) return call.retVoid();
     dialog->m_registrySection = L"Wex_" + g_dialogName;
     runToItsEnd(*dialog);
@@ -76,9 +89,10 @@ void startDialog(LispCall& call) {
 }
 
 void doneDialog(LispCall& call) {
-    g_doneStatus = call.shortNumber().value_or(0);
-    WexDialog* dialog = currentDialog();
+    g_doneStatus = call.shortOr(0);
+    WexDialog* dialog = dialogToWork();
     if (!dialog) return call.retVoid();
+    if (!dialog->isRunning()) warnNotStarted(*dialog);
     dialog->EndDialog(0);
     call.retNil();
 }
@@ -87,11 +101,15 @@ void actionTile(LispCall& call) {
     const TileAddress tile = call.tile();
     const CString lispText = call.textOrEmpty();
     if (call.lacksArgument()) return call.retNil();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     if (!dialog) return call.retVoid();
     // With neither a key nor an id the key is "-1".
     const CString key = tile.key.IsEmpty() ? CString(std::to_wstring(tile.controlId())) : tile.key;
     CCtrlInfo* record = tile.isById() ? dialog->tileForId(tile.controlId()) : dialog->tileForKey(key);
+    if (dialog->isRunning())
+        warnRuns(*dialog, BINDS_TOO_LATE);
+    else
+        dialog->checkTile(tile, record);
     record->m_action = defineAction(*dialog, key, lispText);
     call.retT();
 }

@@ -10,6 +10,10 @@ void WexDialog::setControlValue(CWnd* control, const CString& value, bool byKey)
         control->SetWindowText(value);
 }
 
+bool WexDialog::isOwnTitle(const CString& key) const {
+    return key == m_name || equalIgnoringCase(key, L"main_title");
+}
+
 void WexDialog::setValueFor(const TileAddress& tile, const CString& value) {
     if (tile.isById())
         setValueById(tile.controlId(), value);
@@ -18,19 +22,25 @@ void WexDialog::setValueFor(const TileAddress& tile, const CString& value) {
 }
 
 void WexDialog::setValueByKey(const CString& key, const CString& value) {
-    if (key == m_name || equalIgnoringCase(key, L"main_title")) {
+    const bool isTitle = isOwnTitle(key);
+    if (isTitle) {
         if (isLive())
             SetWindowText(value);
         else
             m_title = value;
     }
-    setControlValue(itemForKey(key), value, true);
-    if (CCtrlInfo* tile = tileForKey(key)) tile->m_value = value;
+    CWnd* control = itemForKey(key);
+    setControlValue(control, value, true);
+    CCtrlInfo* tile = tileForKey(key);
+    if (tile) tile->m_value = value;
+    if (!control && !isTitle) checkTile({.key = key}, tile);
 }
 
 void WexDialog::setValueById(int id, const CString& value) {
-    setControlValue(itemForId(id), value, false);
+    CWnd* control = itemForId(id);
+    setControlValue(control, value, false);
     CCtrlInfo* tile = tileForId(id);
+    if (!control) checkTile({.key = {}, .id = static_cast<uint32_t>(id)}, tile);
     if (tile->m_key.IsEmpty()) tile->m_key = keyForId(id);
     tile->m_value = value;
 }

@@ -4,6 +4,7 @@
 
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/Pressable.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/platform/base/DialogResources.h"
 
 IMPLEMENT_DYNAMIC(WexDialog, CSnapDlg)
@@ -48,7 +49,9 @@ bool asksForMenu(const MSG& message) {
 }  // namespace
 
 WexDialog::WexDialog(const DialogSource& source, CWnd* parent)
-    : CSnapDlg(static_cast<UINT>(source.id), parent), m_templateId(static_cast<UINT>(source.id)) {
+    : CSnapDlg(static_cast<UINT>(source.id), parent),
+      m_templateId(static_cast<UINT>(source.id)),
+      m_source(source) {
     m_templateModule = source.templates;
     if (auto list = source.keyList()) {
         m_name = std::move(list->name);
@@ -74,11 +77,25 @@ CWnd* WexDialog::itemForId(int id) const {
 }
 
 CWnd* WexDialog::itemFor(const TileAddress& tile) const {
-    return tile.isById() ? itemForId(tile.controlId()) : itemForKey(tile.key);
+    CWnd* item = tile.isById() ? itemForId(tile.controlId()) : itemForKey(tile.key);
+    if (!item && m_hWnd) [[unlikely]]
+        warnUnknownTile(*this, tile);
+    return item;
 }
 
 CCtrlInfo* WexDialog::tileFor(const TileAddress& tile) {
-    return tile.isById() ? tileForId(tile.controlId()) : tileForKey(tile.key);
+    CCtrlInfo* record = tile.isById() ? tileForId(tile.controlId()) : tileForKey(tile.key);
+    if (!m_hWnd) checkTile(tile, record);
+    return record;
+}
+
+void WexDialog::checkTile(const TileAddress& tile, const CCtrlInfo* record) const {
+    const bool hasKey =
+        tile.isById() ? m_tiles.keys.hasId(tile.controlId()) : record && record->m_ctrlId >= 0;
+    if (m_hWnd)
+        warnUnknownTile(*this, tile);
+    else if (!hasKey)
+        warnUnlessInTemplate(*this, tile);
 }
 
 const MessageMap& WexDialog::messageMap() const {
@@ -163,7 +180,7 @@ void WexDialog::onSize(UINT type, int width, int height) {
 // A dialog that was closed out of order stays listed and may run again: its records wait for new controls.
 void WexDialog::runEnded() {
     CSnapDlg::runEnded();
-    m_discovered = false;
+    m_discovered = m_hasApplied = false;
     m_focusId = -1;
     m_lastClientRect = m_initialClientRect = {};
     if (m_deferPos) EndDeferWindowPos(std::exchange(m_deferPos, nullptr));

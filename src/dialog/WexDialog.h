@@ -24,11 +24,14 @@ class WexDialog : public CSnapDlg {
     // The control of a key or an id; null without a window, and where there is none.
     CWnd* itemForKey(const CString& key) const;
     CWnd* itemForId(int id) const;
+    // These two are for Lisp functions: the author is told where the dialog hasn't got the tile.
     CWnd* itemFor(const TileAddress& tile) const;
     CCtrlInfo* tileForId(int id) { return m_tiles.forId(id); }
     CCtrlInfo* tileForKey(const CString& key) { return m_tiles.forKey(key); }
     CCtrlInfo* tileForControl(const CWnd* control) const { return m_tiles.forControl(control); }
     CCtrlInfo* tileFor(const TileAddress& tile);
+    // The same for a tile that was found to have no window; before the start its record tells.
+    void checkTile(const TileAddress& tile, const CCtrlInfo* record) const;
 
     // --- values (SetValue.cpp)
 
@@ -46,18 +49,23 @@ class WexDialog : public CSnapDlg {
     // Fits the labels, and draws the dialog anew where controls were moved.
     void redrawMoved();
 
+    // Whether what Lisp had said before the start has been carried over to the controls.
+    bool hasApplied() const { return m_hasApplied; }
+
     // --- events
 
     bool PreTranslateMessage(MSG& message) override;
 
     UINT m_templateId;
+    DialogSource m_source;
     std::vector<std::unique_ptr<TileControl>> m_controls;  // every wrapper that discovery made
     TileRecords m_tiles;
     CString m_onInitAction;  // names of Lisp functions
     CString m_onSizeAction;
     RECT m_lastClientRect{};           // of the last layout
     RECT m_initialClientRect{};        // at the start: the base for anchors
-    CCtrlInfo* m_listTile = nullptr;   // of the open wex_start_list
+    CCtrlInfo* m_listTile = nullptr;   // of the last wex_start_list
+    bool m_isListOpen = false;         // until wex_end_list
     CCtrlInfo* m_imageTile = nullptr;  // of the open wex_start_image
     CString m_name;                    // lower case
     HDWP m_deferPos = nullptr;         // the open wex_start_controlmove
@@ -96,10 +104,13 @@ class WexDialog : public CSnapDlg {
     void applyTile(CWnd& control, CCtrlInfo& tile);
     void applyMode(CWnd& control, CCtrlInfo& tile);
     void setControlValue(CWnd* control, const CString& value, bool byKey);
+    // Whether that key names the dialog's title.
+    bool isOwnTitle(const CString& key) const;
 
     // Whether discovery has run. The platform sends WM_SIZE while it creates the window, before that: nobody
     // resized anything then, and no on-size action runs.
     bool m_discovered = false;
+    bool m_hasApplied = false;
 };
 
 // All dialogs that were made and have not ended.

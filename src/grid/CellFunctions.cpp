@@ -55,6 +55,27 @@ void setCell(WexGrid& grid, int row, int column, int code, const CGXStyle& style
     grid.LockUpdate(wasLocked);
 }
 
+bool isCode(int code) {
+    return code == NO_CODE || code == CODE_ONE_LINE || code == CODE_SEVERAL_LINES ||
+           code >= FIRST_CONTROL_CODE;
+}
+
+bool isCellValue(const HostValue& value) {
+    switch (value.type) {
+        case HV_SHORT:
+        case HV_LONG:
+        case HV_REAL:
+        case HV_ANGLE:
+        case HV_ORIENT:
+        case HV_STRING:
+        case HV_TRUE:
+        case HV_NIL:
+            return true;
+        default:
+            return false;
+    }
+}
+
 int writeRow(WexGrid& grid, const CString& text, int row, bool merges, int verticalCode) {
     const EditBracket bracket(*grid.GetParam());
     return buildGridRow(grid, text, row, merges, verticalCode, rowCellStyle(GetSysColor(COLOR_WINDOW)));
@@ -65,10 +86,15 @@ int writeRow(WexGrid& grid, const CString& text, int row, bool merges, int verti
 void gridSetCell(LispCall& call) {
     WexGrid* grid = gridArgument(call);
     const int row = call.wholeNumber(), column = call.wholeNumber();
-    const int code = call.shortOrLong().value_or(NO_CODE);
+    const int code = call.shortOrLongOr(NO_CODE);
     const HostValue* value = call.next();
+    if (!value) call.warnMissing();
+    if (grid) warnUnlessInGrid(*grid, row, column);
     if (!grid || !value || column == NO_COLUMN || grid->GetColCount() == 0) return call.retNil();
-    setCell(*grid, row, column, code, cellStyle(*value, row, code, call.text()));
+    if (!isCellValue(*value)) call.warnMistyped(*value, L"a string, a number, T or nil");
+    if (value->type == HV_STRING && row != 0 && !isCode(code))
+        warn(WARN_NO_EFFECT, [=] { return noSuch(L"code", code); });
+    setCell(*grid, row, column, code, cellStyle(*value, row, code, call.optionalText()));
     grid->Redraw(2, true);
     call.retVoid();
 }
@@ -77,6 +103,7 @@ void gridGetCell(LispCall& call) {
     const WexGrid* grid = gridArgument(call);
     const int row = call.wholeNumber(), column = call.wholeNumber();
     if (!grid || call.lacksArgument()) return call.retNil();
+    warnUnlessInGrid(*grid, row, column);
     call.ret(grid->GetValueRowCol(static_cast<uint32_t>(row), static_cast<uint32_t>(column)));
 }
 
@@ -87,9 +114,10 @@ void gridSetRow(LispCall& call) {
     const bool works = grid && !call.lacksArgument();
     const bool merges = call.isThereAndNotNil();
     // kept: a merge flag, also nil, needs the vertical code behind it; wex_grid_addrow does without
-    const bool hasFlag = !call.lacksArgument();
-    const int verticalCode = call.shortOrLong().value_or(NO_VERTICAL_CODE);
+    const bool hasFlag = !call.isPastEnd();
+    const int verticalCode = call.shortOrLongOr(NO_VERTICAL_CODE);
     call.retNil();
+    if (works) warnUnlessInGrid(*grid, row, 0);
     if (works && !(hasFlag && call.lacksArgument())) writeRow(*grid, text, row, merges, verticalCode);
 }
 
@@ -98,6 +126,6 @@ void gridAddRow(LispCall& call) {
     const CString text = call.textOrEmpty();
     if (!grid || call.lacksArgument()) return call.retNil();
     const bool merges = call.isThereAndNotNil();
-    const int verticalCode = call.shortOrLong().value_or(NO_VERTICAL_CODE);
+    const int verticalCode = call.shortOrLongOr(NO_VERTICAL_CODE);
     call.ret(writeRow(*grid, text, NEW_ROW, merges, verticalCode));
 }

@@ -10,3 +10,12 @@ WexGrid* gridOf(CWnd* control) {
 }
 
 WexGrid* gridArgument(LispCall& call) { return gridOf(controlOf(call.tile())); }
+
+void warnOutsideGrid(const WexGrid& grid, int row, int column) {
+    warn(WARN_OUTSIDE, [&] {
+        const bool isRow = static_cast<uint32_t>(row) > grid.GetRowCount();
+        const uint32_t last = isRow ? grid.GetRowCount() : grid.GetColCount();
+        return (isRow ? L"row " : L"column ") + std::to_wstring(isRow ? row : column) +
+               L" is outside the grid, whose last one is " + std::to_wstring(last);
+    });
+}

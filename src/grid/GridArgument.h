@@ -8,3 +8,11 @@
 // dialog didn't look at is null too.
 WexGrid* gridOf(CWnd* control);
 WexGrid* gridArgument(LispCall& call);
+
+// Tells the author of a row or a column that the grid hasn't got.
+void warnOutsideGrid(const WexGrid& grid, int row, int column);
+inline void warnUnlessInGrid(const WexGrid& grid, int row, int column) {
+    if (static_cast<uint32_t>(row) > grid.GetRowCount() || static_cast<uint32_t>(column) > grid.GetColCount())
+        [[unlikely]]
+        warnOutsideGrid(grid, row, column);
+}

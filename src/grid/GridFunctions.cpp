@@ -13,10 +13,18 @@ namespace {
 constexpr int MOST_ROWS = 16'000'000;
 constexpr int MOST_COLUMNS = 65'535;
 
-uint32_t placeArgument(LispCall& call) { return static_cast<uint32_t>(call.wholeNumber()); }
+CGXRange rangeOf(int top, int left, int bottom, int right) {
+    const auto place = [](int number) { return static_cast<uint32_t>(number); };
+    return {place(top), place(left), place(bottom), place(right)};
+}
+
+int lastColumnOf(int columns) { return std::max(columns, 1) - 1; }
 
 uint8_t alignmentNamed(const CString& code) {
     if (code == L"C") return ALIGN_CENTER;
+    if (code != L"R" && code != L"L")
+        warn(WARN_NO_EFFECT,
+             [&] { return quoted(code) + L" is none of \"L\", \"C\" and \"R\", and counts as \"L\""; });
     return code == L"R" ? ALIGN_RIGHT : ALIGN_LEFT;
 }
 
@@ -27,9 +35,14 @@ void gridSetRowColumns(LispCall& call) {
     const int rows = call.wholeNumber(), given = call.wholeNumber();
     if (!grid || call.lacksArgument()) return call.retNil();
     const int columns = given == 0 ? 1 : given;
+    if (rows < 0 || rows > MOST_ROWS || lastColumnOf(columns) > MOST_COLUMNS)
+        warn(WARN_OUTSIDE, [=] {
+            return L"a grid can't have " + std::to_wstring(rows) + L" rows and " + std::to_wstring(columns) +
+                   L" columns: what can't be stays as it is";
+        });
     const UndoPause pause(*grid->GetParam());
     if (rows >= 0 && rows <= MOST_ROWS) grid->SetRowCount(static_cast<uint32_t>(rows), 2);
-    const int lastColumn = std::max(columns, 1) - 1;
+    const int lastColumn = lastColumnOf(columns);
     if (lastColumn <= MOST_COLUMNS) grid->SetColCount(static_cast<uint32_t>(lastColumn), 2);
     // kept: a single row's header stays as it is
     if (rows >= 2 && columns >= 1) {
@@ -45,18 +58,22 @@ void gridSetRowColumns(LispCall& call) {
 
 void gridSetRowHeight(LispCall& call) {
     WexGrid* grid = gridArgument(call);
-    const uint32_t row = placeArgument(call);
+    const int given = call.wholeNumber();
     const auto height = call.shortNumber();
     if (!grid || call.lacksArgument()) return call.retNil();
+    warnUnlessInGrid(*grid, given, 0);
+    const auto row = static_cast<uint32_t>(given);
     if (height) grid->SetRowHeight(row, row, *height, nullptr, 2, 0);
     call.retVoid();
 }
 
 void gridSetColumnWidth(LispCall& call) {
     WexGrid* grid = gridArgument(call);
-    const uint32_t column = placeArgument(call);
+    const int given = call.wholeNumber();
     const auto width = call.shortNumber();
     if (!grid || call.lacksArgument()) return call.retNil();
+    warnUnlessInGrid(*grid, 0, given);
+    const auto column = static_cast<uint32_t>(given);
     if (width) grid->SetColWidth(column, column, *width, nullptr, 2, 0);
     call.retVoid();
 }
@@ -77,12 +94,14 @@ void gridGetRowCount(LispCall& call) {
 
 void gridClearCells(LispCall& call) {
     WexGrid* grid = gridArgument(call);
-    const uint32_t top = placeArgument(call), left = placeArgument(call);
-    const uint32_t bottom = placeArgument(call), right = placeArgument(call);
+    const int top = call.wholeNumber(), left = call.wholeNumber();
+    const int bottom = call.wholeNumber(), right = call.wholeNumber();
     if (!grid || call.lacksArgument()) return call.retNil();
+    warnUnlessInGrid(*grid, top, left);
+    warnUnlessInGrid(*grid, bottom, right);
     const bool styles = call.isTrueOrNotZero();
     const EditBracket bracket(*grid->GetParam());
-    if (grid->GetColCount() > 0) grid->ClearCells(CGXRange(top, left, bottom, right), styles);
+    if (grid->GetColCount() > 0) grid->ClearCells(rangeOf(top, left, bottom, right), styles);
     call.retVoid();
 }
 
@@ -92,6 +111,7 @@ void gridSetJustification(LispCall& call) {
     const uint8_t alignment = alignmentNamed(call.textOrEmpty());
     const bool works = grid && !call.lacksArgument() && column >= 0;
     call.retNil();
+    if (grid) warnUnlessInGrid(*grid, 0, column);
     if (!works) return;
     const auto aligned = static_cast<uint32_t>(column);
     grid->setJustification(aligned, alignment);
@@ -107,6 +127,7 @@ void gridSortColByText(LispCall& call) {
     WexGrid* grid = gridArgument(call);
     const int column = call.wholeNumber();
     if (!grid || call.lacksArgument()) return call.retNil();
+    warnUnlessInGrid(*grid, 0, column);
     sortRowsByText(*grid, column, call.isTrueOrNotZero(), 1, -1);
     call.retVoid();
 }

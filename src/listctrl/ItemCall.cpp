@@ -19,6 +19,8 @@ std::optional<ItemCall> itemCallFrom(const HostValue* arguments) {
     readNumber(arguments, call.row);
     readNumber(arguments, call.column);
     if (!arguments) return std::nullopt;
-    if (const wchar_t* text = textOf(*arguments)) call.text = text;
+    const wchar_t* text = textOf(*arguments);
+    call.isText = text;
+    if (text) call.text = text;
     return call;
 }

@@ -16,9 +16,9 @@ void insertColumn(const CWnd& list, int index, const CString& title, int width) 
     list.SendMessage(LVM_INSERTCOLUMNW, index, reinterpret_cast<LPARAM>(&column));
 }
 
-void deleteColumn(const CWnd& list, int column) {
+bool deleteColumn(const CWnd& list, int column) {
     holdRedraw(list.m_hWnd);
-    list.SendMessage(LVM_DELETECOLUMN, column);
+    return list.SendMessage(LVM_DELETECOLUMN, column);
 }
 
 void applyColumnText(const CWnd& list, const CString& text) {
@@ -32,7 +32,7 @@ void applyColumnText(const CWnd& list, const CString& text) {
         insertColumn(list, index++, column.title, column.width);
 }
 
-void renameColumn(const CWnd& list, int column, const CString& title) {
+bool renameColumn(const CWnd& list, int column, const CString& title) {
     const HWND header = headerOf(list);
     wchar_t text[256] = {};
     HDITEMW item = {};
@@ -40,10 +40,10 @@ void renameColumn(const CWnd& list, int column, const CString& title) {
     item.pszText = text;
     item.cchTextMax = static_cast<int>(std::size(text));
     const auto parameter = reinterpret_cast<LPARAM>(&item);
-    if (!SendMessageW(header, HDM_GETITEMW, column, parameter)) return;
+    if (!SendMessageW(header, HDM_GETITEMW, column, parameter)) return false;
     item.pszText = text;
     lstrcpynW(text, title.c_str(), static_cast<int>(std::size(text)));
-    SendMessageW(header, HDM_SETITEMW, column, parameter);
+    return SendMessageW(header, HDM_SETITEMW, column, parameter);
 }
 
 void fitColumns(const CWnd& list) {

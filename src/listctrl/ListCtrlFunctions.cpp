@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "src/dialog/WexDialog.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/listctrl/ItemCall.h"
 #include "src/listctrl/ListCells.h"
 #include "src/listctrl/ListCheck.h"
@@ -40,13 +40,47 @@ bool isUsableListControl(const CWnd* control) {
     return false;
 }
 
+void warnNoColumn(int column) {
+    warn(WARN_OUTSIDE, [=] { return L"the list has no column " + std::to_wstring(column); });
+}
+
+// What becomes of the text, where that isn't what the numbers say.
+void warnOfItem(const CWnd& list, const ItemCall& item, int rows) {
+    if (!item.isText) warn(WARN_NO_EFFECT, L"the text is no string: it counts as an empty one");
+    const auto number = [](int n) { return std::to_wstring(n); };
+    if (!item.setsCell(rows)) {
+        // A row behind the last one is where the text goes.
+        if (item.row > rows || item.row < -1)
+            warn(WARN_OUTSIDE, [&] {
+                return L"the list has no row " + number(item.row) + L": the text becomes row " + number(rows);
+            });
+    } else if (item.column == -1) {
+        warn(WARN_NO_EFFECT,
+             [&] { return L"row " + number(item.row) + L" is set by a column only, and none is given"; });
+    } else if (item.column < 0 || item.row < 0 || (item.column > 0 && item.column >= columnCount(list))) {
+        warnNoColumn(item.column);
+    }
+}
+
+// Behind the first tab comes the first column's title.
+void warnOfColumnText(const CString& text) {
+    const CString first = text.substr(0, text.find(L'\t'));
+    if (!first.IsEmpty())
+        warn(WARN_NO_EFFECT, [&] {
+            return quoted(first) + L" makes no column: titles stand behind tabs, the first one too";
+        });
+}
+
+constexpr wchar_t ONLY_T[] = L"only T is understood: what is on stays on";
+constexpr std::wstring_view LIST_CONTROL_CLASS[] = {L"SysListView32"};
+
 }  // namespace
 
 void listAddColumn(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const std::optional<CString> title = call.text();
     if (!list || !title) return call.retNil();
-    const int given = call.shortNumber().value_or(-1);
+    const int given = call.shortOr(-1);
     const double width = (given == -1 ? DEFAULT_WIDTH : given) * displayScale();
     insertColumn(*list, columnCount(*list), *title, static_cast<int>(std::lround(width)));
     call.retVoid();
@@ -54,9 +88,12 @@ void listAddColumn(LispCall& call) {
 
 void listAddItem(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
-    const std::optional<ItemCall> item = itemCallFrom(call.next());
+    const std::optional<ItemCall> item = itemCallFrom(call.rest());
+    if (!item) call.warnMissing();
     if (!list || !item) return call.retNil();
-    if (item->setsCell(rowCount(*list)))
+    const int rows = rowCount(*list);
+    if (item->row != -1 || !item->isText) warnOfItem(*list, *item, rows);
+    if (item->setsCell(rows))
         setCell(*list, item->row, item->column, item->text);
     else
         appendRow(*list, item->text);
@@ -67,7 +104,8 @@ void listSetColumnWidth(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const int column = columnArgument(call);
     if (!list || column == -1) return call.retNil();
-    list->SendMessage(LVM_SETCOLUMNWIDTH, column, widthParameter(call.shortNumber().value_or(-1)));
+    if (!list->SendMessage(LVM_SETCOLUMNWIDTH, column, widthParameter(call.shortOr(-1))))
+        warnNoColumn(column);
     call.retVoid();
 }
 
@@ -76,6 +114,7 @@ void listGetColumnWidth(LispCall& call) {
     const int column = columnArgument(call);
     if (!list || column == -1) return call.retNil();
     const auto pixels = static_cast<int>(list->SendMessage(LVM_GETCOLUMNWIDTH, column));
+    if (pixels == 0 && column >= columnCount(*list)) warnNoColumn(column);
     call.ret(static_cast<int>(std::lround(pixels / displayScale())));
 }
 
@@ -84,7 +123,10 @@ void listShowGridLines(LispCall& call) {
     const bool show = call.isTrue();
     if (!list || call.lacksArgument()) return call.retNil();
     call.retVoid();
-    if (!show) return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
+    if (!show) {
+        warn(WARN_NO_EFFECT, ONLY_T);
+        return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
+    }
     list->SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, LVS_EX_GRIDLINES);
 }
 
@@ -93,10 +135,13 @@ void listSetColumns(LispCall& call) {
     const CString text = call.textOrEmpty();
     if (call.lacksArgument()) return call.retNil();
     call.retVoid();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     if (!dialog) return;
+    warnOfColumnText(text);
+    if (!dialog->m_hWnd) warnUnlessOfClass(*dialog, tile, LIST_CONTROL_CLASS, L"list controls");
     if (CWnd* control = dialog->itemFor(tile)) {
         if (!isUsableListControl(control)) return;
+        if (columnCount(*control) > 0) warn(WARN_NO_EFFECT, L"the list has columns already, and keeps them");
         keepColumnText(*control, text);
         applyColumnText(*control, text);
     } else if (CCtrlInfo* record = dialog->tileFor(tile)) {
@@ -119,7 +164,7 @@ void listDeleteColumn(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const int column = columnArgument(call);
     if (!list || column == -1) return call.retNil();
-    deleteColumn(*list, column);
+    if (!deleteColumn(*list, column)) warnNoColumn(column);
     call.retVoid();
 }
 
@@ -128,7 +173,7 @@ void listRenameColumn(LispCall& call) {
     const int column = columnArgument(call);
     const std::optional<CString> title = call.text();
     if (!list || column == -1 || !title) return call.retNil();
-    renameColumn(*list, column, *title);
+    if (!renameColumn(*list, column, *title)) warnNoColumn(column);
     call.retVoid();
 }
 

@@ -1,5 +1,6 @@
 #include "src/listctrl/ListRows.h"
 
+#include "src/dialog/EntrySelection.h"
 #include "src/listctrl/ListCells.h"
 #include "src/listctrl/RowSelection.h"
 #include "src/listctrl/RowText.h"
@@ -96,6 +97,8 @@ void applyListControl(const CWnd& list, const CCtrlInfo& tile) {
 // kept: only the key path clears the selection by a negative row.
 void setListControlValue(CWnd& list, const CString& value, bool byKey) {
     const int row = decimalNumber(value);
+    if (row == 0) warnUnlessNumber(value);
+    if (row >= rowCount(list)) warnNoEntry(list, value);
     if (row >= 0)
         selectRow(list, row);
     else if (byKey)

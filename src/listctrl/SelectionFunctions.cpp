@@ -1,11 +1,13 @@
 #include "src/listctrl/SelectionFunctions.h"
 
-#include "src/dialog/WexDialog.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/listctrl/ListCheck.h"
 #include "src/listctrl/RowSelection.h"
 #include "src/listctrl/WexListCtrl.h"
 
 namespace {
+
+constexpr std::wstring_view LIST_CLASSES[] = {L"SysListView32", L"ListBox"};
 
 // A list view beyond the ids that are walked isn't wrapped, and has no flags.
 WexListCtrl* wrapperOf(CWnd* list) { return dynamic_cast<WexListCtrl*>(list); }
@@ -17,7 +19,10 @@ void listAllowSorting(LispCall& call) {
     const bool allow = call.isTrue();
     if (!list || call.lacksArgument()) return call.retNil();
     call.retVoid();
-    if (!allow) return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
+    if (!allow) {
+        warn(WARN_NO_EFFECT, L"only T is understood: sorting can't be taken back");
+        return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
+    }
     if (WexListCtrl* wrapper = wrapperOf(list)) wrapper->m_allowSorting = true;
 }
 
@@ -31,8 +36,9 @@ void listEnableDblClick(LispCall& call) {
     const bool enable = call.isTrue();
     if (call.lacksArgument()) return call.retNil();
     call.retVoid();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     if (!dialog) return;
+    if (!dialog->m_hWnd) warnUnlessOfClass(*dialog, address, LIST_CLASSES, L"list controls and list boxes");
     if (CCtrlInfo* tile = dialog->tileFor(address)) tile->m_dblClickEnabled = enable;
     CWnd* control = dialog->itemFor(address);
     if (!control) return;

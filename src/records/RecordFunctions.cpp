@@ -13,7 +13,23 @@ constexpr size_t FIELDS_OF_ADDED = 5;
 // kept: -1 stands for no number, where any other bad one is an error.
 std::optional<int> recordNumber(LispCall& call) {
     const std::optional<int> number = call.shortOrLong();
+    if (number == -1) call.warnOfArgument([] { return CString(L"-1 is no number of a record"); });
     return number == -1 ? std::nullopt : number;
+}
+
+// Whether there is a table to work on.
+bool hasTable() {
+    if (!g_recordTable) [[unlikely]]
+        warn(WARN_NOT_NOW, L"no table is set up: wex_fp_setupdatasrc sets one up");
+    return g_recordTable != nullptr;
+}
+
+void warnOfTooMany(const std::vector<CString>& texts, size_t fields) {
+    if (texts.size() > fields) [[unlikely]]
+        warn(WARN_NO_EFFECT, [&] {
+            return L"of " + std::to_wstring(texts.size()) + L" texts the record takes " +
+                   std::to_wstring(fields);
+        });
 }
 
 std::wstring_view textAt(const std::vector<CString>& texts, size_t at) {
@@ -28,7 +44,7 @@ void retRecords(LispCall& call, const Records& records, RecordOf recordOf) {
 }
 
 void retTracked(LispCall& call, TrackedRecords WexRecordTable::*records) {
-    if (!g_recordTable) return call.retVoid();
+    if (!hasTable()) return call.retVoid();
     retRecords(call, (*g_recordTable).*records, [](const auto& entry) { return entry.second; });
 }
 
@@ -36,13 +52,15 @@ void retTracked(LispCall& call, TrackedRecords WexRecordTable::*records) {
 
 void recordsSetUp(LispCall& call) {
     call.retVoid();
-    if (g_recordTable) return;
+    if (g_recordTable) return warn(WARN_NOT_NOW, L"a table is set up already: wex_fp_cleardatasrc ends it");
     HostDataStore* store = newDataStore();
-    if (!store) return;
+    if (!store) return warn(WARN_DATABASE, L"the data store isn't there: no table is set up");
     g_recordTable = std::make_unique<WexRecordTable>(*store);
     g_rowSource = &g_recordSource;
     if (!call.hasArguments()) return;
     const std::vector<CString> names = call.listTexts();
+    if (names.size() < 2 || names[1].IsEmpty())
+        warn(WARN_NO_EFFECT, L"no table is named: the list is to be (database table order-column)");
     g_recordTable->setUp(textAt(names, 0), textAt(names, 1), textAt(names, 2));
 }
 
@@ -52,11 +70,11 @@ void recordsClear(LispCall& call) {
     call.retVoid();
 }
 
-void recordsGetCount(LispCall& call) { call.retLong(g_recordTable ? g_recordTable->Count() : 0); }
+void recordsGetCount(LispCall& call) { call.retLong(hasTable() ? g_recordTable->Count() : 0); }
 
 void recordsGetItem(LispCall& call) {
     const std::optional<int> number = recordNumber(call);
-    if (!number || !g_recordTable) return call.retVoid();
+    if (!number || !hasTable()) return call.retVoid();
     const Record* record = g_recordTable->At(*number);
     ResultChain fields;
     if (record) fields.appendFields(*record);
@@ -68,9 +86,10 @@ void recordsSetItem(LispCall& call) {
     if (!number) return call.retVoid();
     call.retNone();
     const std::vector<CString> texts = call.listTexts();
-    if (!g_recordTable || call.lacksArgument()) return;
+    if (!hasTable() || call.lacksArgument()) return;
     const Record* before = g_recordTable->At(*number);
     if (!before) throw WexIndexError();
+    warnOfTooMany(texts, before->size());
     const Record after(before->size(), [&](size_t at) {
         return at < texts.size() ? std::wstring_view(texts[at]) : before->field(at);
     });
@@ -78,10 +97,14 @@ void recordsSetItem(LispCall& call) {
 }
 
 void recordsAddItem(LispCall& call) {
-    if (!call.hasArguments()) return call.retVoid();
+    if (!call.hasArguments()) {
+        call.warnMissing();
+        return call.retVoid();
+    }
     call.retNone();
-    if (!g_recordTable) return;
+    if (!hasTable()) return;
     const std::vector<CString> texts = call.listTexts();
+    warnOfTooMany(texts, FIELDS_OF_ADDED);
     g_recordTable->Add({FIELDS_OF_ADDED, [&](size_t at) { return textAt(texts, at); }});
 }
 
@@ -89,7 +112,7 @@ void recordsRemoveItem(LispCall& call) {
     const std::optional<int> number = recordNumber(call);
     if (!number) return call.retVoid();
     call.retNone();
-    if (g_recordTable) g_recordTable->Remove(*number);
+    if (hasTable()) g_recordTable->Remove(*number);
 }
 
 void recordsGetAdded(LispCall& call) { retTracked(call, &WexRecordTable::m_added); }
@@ -97,12 +120,12 @@ void recordsGetAdded(LispCall& call) { retTracked(call, &WexRecordTable::m_added
 void recordsGetModified(LispCall& call) { retTracked(call, &WexRecordTable::m_modified); }
 
 void recordsGetDeleted(LispCall& call) {
-    if (!g_recordTable) return call.retVoid();
+    if (!hasTable()) return call.retVoid();
     retRecords(call, g_recordTable->m_deleted, [](const Record& record) { return record; });
 }
 
 void recordsForgetChanges(LispCall& call) {
-    if (!g_recordTable) return call.retVoid();
+    if (!hasTable()) return call.retVoid();
     g_recordTable->forgetChanges();
     call.retNone();
 }

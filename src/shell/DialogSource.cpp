@@ -19,6 +19,13 @@ int idForNameIn(HMODULE module, const CString& name) {
     return -1;
 }
 
+void addNamesOf(HMODULE module, CStringArray& names) {
+    for (int id = FIRST_KEY_LIST_ID; id <= LAST_KEY_LIST_ID; ++id) {
+        const CString name = keyListName(stringView(module, id));
+        if (!name.IsEmpty()) names.push_back(name);
+    }
+}
+
 struct FreeModule {
     void operator()(HMODULE module) const { FreeLibrary(module); }
 };
@@ -46,6 +53,10 @@ std::optional<KeyListText> DialogSource::keyList() const {
     return parseKeyList(loadString(keyLists, id, KEY_LIST_CHARS + 1));
 }
 
+std::optional<KeyListText> DialogSource::spelledKeyList() const {
+    return splitKeyList(loadString(keyLists, id, KEY_LIST_CHARS + 1));
+}
+
 int dialogIdForName(const CString& name) { return idForNameIn(g_moduleInstance, name); }
 
 std::optional<DialogSource> findDialog(const CString& name) {
@@ -54,4 +65,11 @@ std::optional<DialogSource> findDialog(const CString& name) {
         if (const int id = idForNameIn(addOn.get(), name); id >= 0)
             return DialogSource{id, addOn.get(), addOn.get()};
     return std::nullopt;
+}
+
+CStringArray dialogNames() {
+    CStringArray names;
+    addNamesOf(g_moduleInstance, names);
+    for (const AddOn& addOn : addOns()) addNamesOf(addOn.get(), names);
+    return names;
 }

@@ -12,6 +12,12 @@ int KeyList::idForKey(std::wstring_view key) const {
     return found == m_keys.end() ? -1 : FIRST_KEY_CONTROL_ID + static_cast<int>(found - m_keys.begin());
 }
 
+bool KeyList::hasId(int id) const {
+    const int position = id - FIRST_KEY_CONTROL_ID;
+    return id == OK_CONTROL_ID || id == CANCEL_CONTROL_ID ||
+           (position >= 0 && position < static_cast<int>(m_keys.size()));
+}
+
 CString KeyList::keyForId(int id) const {
     const int position = id - FIRST_KEY_CONTROL_ID;
     if (position >= 0 && position < static_cast<int>(m_keys.size())) return m_keys[position];

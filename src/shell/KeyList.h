@@ -19,6 +19,9 @@ class KeyList {
     // The key of a control id, lower case; "control not found" where the list has none.
     CString keyForId(int id) const;
 
+    // Whether the id is that of OK, of Cancel, or of a position.
+    bool hasId(int id) const;
+
     const CStringArray& keys() const { return m_keys; }
 
   private:

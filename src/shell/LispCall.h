@@ -9,6 +9,7 @@
 #include "src/platform/base/CString.h"
 #include "src/platform/host/HostLisp.h"
 #include "src/shell/ResourceScope.h"
+#include "src/shell/Warning.h"
 
 // How a tile is named: by key or by control id.
 struct TileAddress {
@@ -28,6 +29,7 @@ struct WholePoint {
 
 // The argument chain of one Lisp call and its result. An argument is one node: a list's begin, elements and
 // end count as one each. Every reader takes the next node, whatever it holds, and bears the name of its rule.
+// The author is told of a node that a reader can't use; nil is fine for an argument that may be left out.
 class LispCall {
   public:
     LispCall() : m_next(hostGetArgs()) {}
@@ -40,14 +42,33 @@ class LispCall {
     // The next node, and null past the last one. The host's.
     const HostValue* next();
     // Whether a reader asked for a node past the last one. A function that needs an argument asks this once
-    // it has read it: one of a wrong type is there, too.
-    bool lacksArgument() const { return m_lacksArgument; }
+    // it has read it: one of a wrong type is there, too. The author is told.
+    bool lacksArgument() const {
+        if (m_lacksArgument) [[unlikely]]
+            warnMissing();
+        return m_lacksArgument;
+    }
+    // The same of an argument that may be left out.
+    bool isPastEnd() const { return m_lacksArgument; }
+    // All nodes that are left, for a function that reads them itself.
+    const HostValue* rest();
+    // Tells the author that an argument is missing behind the last one.
+    void warnMissing() const;
+    // Tells the author that an argument isn't what the function takes. `expected` such as "a string".
+    void warnMistyped(const HostValue& node, const wchar_t* expected) const;
+    // Tells of the argument that was read last: `words` go on after its number.
+    template <class Words>
+    void warnOfArgument(Words words) const {
+        warn(WARN_ARGUMENT + argumentNumber(m_last),
+             [&] { return L"argument " + std::to_wstring(argumentNumber(m_last)) + L": " + words(); });
+    }
 
     // A string is a key and a short a control id; any other node is an empty key without an id, and so is -1.
     TileAddress tile();
 
     // The text of a string; nothing for any other node.
     std::optional<CString> text();
+    std::optional<CString> optionalText();
     CString textOrEmpty() { return text().value_or(CString()); }
     // A string as it stands, a short or a long in decimal; empty for any other node.
     CString textOrDecimal();
@@ -58,12 +79,15 @@ class LispCall {
 
     // The number of a short; nothing for any other node.
     std::optional<int> shortNumber();
+    std::optional<int> optionalShort();
+    int shortOr(int otherwise) { return optionalShort().value_or(otherwise); }
     std::optional<int> shortOrLong();
+    int shortOrLongOr(int otherwise);
     // A real is truncated.
     std::optional<int> shortOrReal();
     // A short, a long, or a real truncated; 0 for any other node.
     int wholeNumber();
-    // Both numbers truncated; nothing for any other node.
+    // Both numbers truncated; nothing for any other node, of which nobody is told.
     std::optional<WholePoint> point();
 
     // T itself, and nothing else.
@@ -98,14 +122,32 @@ class LispCall {
   private:
     void setsResult() { ++m_results; }
 
+    enum class Need { required, optional };
+
     // What `convert` makes of the next node; nothing past the last one.
     template <class Value>
-    std::optional<Value> read(std::optional<Value> (*convert)(const HostValue& node)) {
+    std::optional<Value> read(std::optional<Value> (*convert)(const HostValue& node), const wchar_t* expected,
+                              Need need = Need::required) {
         const HostValue* node = next();
-        return node ? convert(*node) : std::nullopt;
+        if (!node) {
+            if (need == Need::required) warnMissing();
+            return std::nullopt;
+        }
+        const std::optional<Value> value = convert(*node);
+        if (!value && !(need == Need::optional && node->type == HV_NIL)) [[unlikely]]
+            warnMistyped(*node, expected);
+        return value;
     }
 
+    // The number of the argument that the node is or begins, from 1; of null, of the one behind the last.
+    static int argumentNumber(const HostValue* node);
+    // Tells the author of more arguments than the function takes.
+    static void warnUnused();
+    // The strings from `node` up to the end of the list, or to the first element that is none.
+    void addTexts(std::vector<CString>& texts);
+
     const HostValue* m_next;
+    const HostValue* m_last = nullptr;
     bool m_lacksArgument = false;
     int m_results = 0;
 };

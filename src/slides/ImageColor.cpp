@@ -48,4 +48,9 @@ uint32_t resolved(int number) {
 
 }  // namespace
 
+bool isImageColor(int number) {
+    const bool isEntry = number >= 0 && static_cast<size_t>(number) < g_slideColors.size();
+    return isEntry || number == -2 || number == -15 || number == -16 || number == -18;
+}
+
 uint32_t imageColor(int number) { return resolved(renumbered(number)); }

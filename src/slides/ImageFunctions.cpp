@@ -3,14 +3,16 @@
 #include <array>
 #include <optional>
 
-#include "src/dialog/CurrentTile.h"
-#include "src/dialog/WexDialog.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/platform/host/HostServices.h"
 #include "src/slides/ImageColor.h"
 #include "src/slides/WexSlideImage.h"
 
 namespace {
 
+constexpr wchar_t IMAGE_TILES[] = L"image tiles";
+constexpr std::wstring_view BUTTON_CLASS[] = {L"Button"};
+constexpr wchar_t NO_IMAGE[] = L"no image is open: wex_start_image opens one";
 constexpr wchar_t SLIDE_TYPE[] = L"Slide";
 // With the NUL. A file with a longer path isn't found.
 constexpr size_t PATH_CHARS = 100;
@@ -19,8 +21,9 @@ constexpr int REFUSED = -1;
 
 std::optional<CString> findFile(const CString& name) {
     wchar_t found[PATH_CHARS] = {};
-    if (hostFindFile(name.c_str(), found, PATH_CHARS) != HOST_NORMAL) return std::nullopt;
-    return found;
+    if (hostFindFile(name.c_str(), found, PATH_CHARS) == HOST_NORMAL) return found;
+    warn(WARN_NOT_FOUND, [&] { return L"there is no file " + quoted(name) + L", or its path is too long"; });
+    return std::nullopt;
 }
 
 // The image tile of a record; null where it is another kind of tile or has no window.
@@ -36,7 +39,7 @@ WexSlideImage* imageOf(const TileAddress& tile) {
     WexDialog* dialog = currentDialog();
     const CCtrlInfo* record = dialog ? dialog->tileFor(tile) : nullptr;
     WexSlideImage* image = record ? imageOf(*record) : nullptr;
-    return image ? image : controlAs<WexSlideImage>(tile);
+    return image ? image : controlAs<WexSlideImage>(tile, IMAGE_TILES);
 }
 
 // The record of a tile on which an image is opened: even without a key it gets one.
@@ -59,6 +62,10 @@ std::optional<std::array<int, count>> shorts(LispCall& call) {
         numbers[at] = *number;
     }
     return numbers;
+}
+
+void warnUnlessColor(const LispCall& call, int color) {
+    if (!isImageColor(color)) call.warnOfArgument([=] { return noSuch(L"color", color) + L": it is black"; });
 }
 
 // "library(member)".
@@ -85,6 +92,11 @@ void keepSlide(CCtrlInfo& record, const SlideName& slide, const PixelRect& rect)
     record.m_slideRect = rect;
 }
 
+void showPicture(WexSlideImage& image, const CString& file, bool fit) {
+    if (!image.LoadPicture(file, fit))
+        warn(WARN_NOT_FOUND, [&] { return quoted(file) + L" is no picture that can be read"; });
+}
+
 // Shows what the name says on the open image. False for a file that isn't found.
 bool showNamed(CCtrlInfo& record, const CString& name, const PixelRect& rect) {
     std::optional<SlideName> slide = slideName(name);
@@ -100,11 +112,12 @@ bool showNamed(CCtrlInfo& record, const CString& name, const PixelRect& rect) {
     WexSlideImage* image = imageOf(record);
     if (!image) return true;
     if (slide) {
-        image->ShowSlide(slide->library, slide->member, rect);
+        if (!image->ShowSlide(slide->library, slide->member, rect))
+            warnNoSlide(slide->library, slide->member);
         return true;
     }
     const auto picture = findFile(name);
-    if (picture) image->LoadPicture(*picture, true);
+    if (picture) showPicture(*image, *picture, true);
     return picture.has_value();
 }
 
@@ -112,9 +125,14 @@ bool showNamed(CCtrlInfo& record, const CString& name, const PixelRect& rect) {
 
 void startImage(LispCall& call) {
     const TileAddress tile = call.tile();
-    if (WexDialog* dialog = currentDialog()) {
+    if (WexDialog* dialog = dialogToWork()) {
+        if (dialog->m_imageTile) warn(WARN_NOT_NOW, L"another image is still open: wex_end_image closes it");
         dialog->m_imageTile = &imageRecord(*dialog, tile);
-        if (WexSlideImage* image = imageOf(*dialog->m_imageTile)) image->reset();
+        if (!dialog->m_hWnd) warnUnlessOfClass(*dialog, tile, BUTTON_CLASS, IMAGE_TILES);
+        if (WexSlideImage* image = imageOf(*dialog->m_imageTile))
+            image->reset();
+        else if (dialog->m_hWnd)
+            controlAs<WexSlideImage>(tile, IMAGE_TILES);
     }
     call.retVoid();
 }
@@ -124,6 +142,7 @@ void vectorImage(LispCall& call) {
     const auto numbers = shorts<5>(call);
     if (!numbers) return;
     const auto [x1, y1, x2, y2, color] = *numbers;
+    warnUnlessColor(call, color);
     if (WexSlideImage* image = imageOf(tile)) image->drawVector({x1, y1}, {x2, y2}, imageColor(color));
     call.retVoid();
 }
@@ -136,6 +155,7 @@ void fillImage(LispCall& call) {
     const auto numbers = shorts<5>(call);
     if (!numbers) return;
     const auto [x, y, width, height, color] = *numbers;
+    warnUnlessColor(call, color);
     if (image) image->fillRect({x, y, x + width, y + height}, imageColor(color));
     call.retVoid();
 }
@@ -149,7 +169,8 @@ void slideImage(LispCall& call) {
     }
     const auto name = call.text();
     if (!name) return call.ret(REFUSED);
-    const WexDialog* dialog = currentDialog();
+    const WexDialog* dialog = dialogToWork();
+    if (dialog && !dialog->m_imageTile) warn(WARN_NOT_NOW, NO_IMAGE);
     if (!dialog || !dialog->m_imageTile) return call.retVoid();
     const auto [x, y, width, height] = numbers;
     if (!showNamed(*dialog->m_imageTile, *name, {x, y, x + width, y + height})) return call.ret(REFUSED);
@@ -157,7 +178,8 @@ void slideImage(LispCall& call) {
 }
 
 void endImage(LispCall& call) {
-    if (WexDialog* dialog = currentDialog()) {
+    if (WexDialog* dialog = dialogToWork()) {
+        if (!dialog->m_imageTile) warn(WARN_NOT_NOW, NO_IMAGE);
         WexSlideImage* image = dialog->m_imageTile ? imageOf(*dialog->m_imageTile) : nullptr;
         if (image) image->takeSnapshot();
         dialog->m_imageTile = nullptr;
@@ -167,7 +189,7 @@ void endImage(LispCall& call) {
 
 void loadPictureFile(LispCall& call) {
     const TileAddress tile = call.tile();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     const CCtrlInfo* record = dialog ? dialog->tileFor(tile) : nullptr;
     const auto name = call.text();
     if (call.lacksArgument()) return call.ret(REFUSED);
@@ -176,6 +198,9 @@ void loadPictureFile(LispCall& call) {
     if (!file) return call.ret(REFUSED);
     const bool fit = call.isOneOrNoNumber();
     WexSlideImage* image = record ? imageOf(*record) : nullptr;
-    if (image) image->LoadPicture(*file, fit);
+    if (image)
+        showPicture(*image, *file, fit);
+    else
+        controlAs<WexSlideImage>(tile, IMAGE_TILES);
     call.retVoid();
 }

@@ -4,6 +4,7 @@
 
 #include "src/dialog/EventBridge.h"
 #include "src/dialog/WexDialog.h"
+#include "src/shell/Warning.h"
 #include "src/slides/DcSurface.h"
 
 namespace {
@@ -36,6 +37,13 @@ void drawSlide(const CDC& dc, const CSlideObject& slide, const PixelRect& rect, 
 }
 
 }  // namespace
+
+void warnNoSlide(const CString& file, const CString& member) {
+    warn(WARN_NOT_FOUND, [&] {
+        return quoted(file) +
+               (member.IsEmpty() ? CString(L" is no slide") : CString(L" has no slide " + quoted(member)));
+    });
+}
 
 // The client area to draw on. The focus mark is off meanwhile: it turns the colors under it, and what is
 // drawn over a part of it couldn't be turned back.
@@ -95,7 +103,8 @@ void WexSlideImage::discovered(WexDialog&, CCtrlInfo& tile) { m_tile = &tile; }
 void WexSlideImage::applyRecord(CCtrlInfo& tile) {
     TileControl::applyRecord(tile);
     m_tile = &tile;
-    if (!tile.m_slideFile.IsEmpty()) ShowSlide(tile.m_slideFile, tile.m_auxText, tile.m_slideRect);
+    if (!tile.m_slideFile.IsEmpty() && !ShowSlide(tile.m_slideFile, tile.m_auxText, tile.m_slideRect))
+        warnNoSlide(tile.m_slideFile, tile.m_auxText);
 }
 
 // --- drawing
@@ -133,7 +142,7 @@ void WexSlideImage::fillRect(const RECT& rect, COLORREF color) {
     ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, L"", 0, nullptr);
 }
 
-void WexSlideImage::ShowSlide(const CString& file, const CString& member, const PixelRect& rect) {
+bool WexSlideImage::ShowSlide(const CString& file, const CString& member, const PixelRect& rect) {
     clearSlides();
     const Drawing dc(*this);
     clear(dc);
@@ -141,11 +150,12 @@ void WexSlideImage::ShowSlide(const CString& file, const CString& member, const 
     m_slideFile = file;
     m_slideName = member;
     m_slideRect = rect;
-    if (m_library.Load(m_slideFile) != 1) return;
+    if (m_library.Load(m_slideFile) != 1) return false;
     const CSlideObject* slide = m_library.Find(m_slideName);
-    if (!slide) return;
+    if (!slide) return false;
     if (m_slideRect.width() <= 0 || m_slideRect.height() <= 0) m_slideRect = pixelRect(GetClientRect());
     drawSlide(dc, *slide, m_slideRect, 0);
+    return true;
 }
 
 void WexSlideImage::DrawSlideObject(const CSlideObject& slide) {
@@ -174,7 +184,7 @@ void WexSlideImage::takeSnapshot() {
     m_snapshot = std::move(bitmap);
 }
 
-void WexSlideImage::LoadPicture(const CString& path, bool fit) {
+bool WexSlideImage::LoadPicture(const CString& path, bool fit) {
     m_fit = fit;
     // Before the next one is read: two large ones would have to be held at once.
     m_picture.reset();
@@ -182,6 +192,7 @@ void WexSlideImage::LoadPicture(const CString& path, bool fit) {
     // An older snapshot would hide it.
     m_snapshot.reset();
     redraw();
+    return static_cast<bool>(m_picture);
 }
 
 void WexSlideImage::redraw() const {

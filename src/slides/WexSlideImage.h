@@ -14,6 +14,9 @@
 #include "src/platform/mfc/Drawing.h"
 #include "src/slides/CSlideLibObject.h"
 
+// Tells the author that a file hasn't the slide that was to be shown.
+void warnNoSlide(const CString& file, const CString& member);
+
 class WexSlideImage : public CButton, public TileControl {
   public:
     WexSlideImage();
@@ -33,15 +36,15 @@ class WexSlideImage : public CButton, public TileControl {
     void drawVector(POINT from, POINT to, COLORREF color);
     void fillRect(const RECT& rect, COLORREF color);
     // Black, and on it the member of a slide library, stretched over the rectangle; over the whole client
-    // area where that has no width or height. Black alone where there is no such slide.
-    void ShowSlide(const CString& file, const CString& member, const PixelRect& rect);
+    // area where that has no width or height. Black alone, and false, where there is no such slide.
+    bool ShowSlide(const CString& file, const CString& member, const PixelRect& rect);
     // The same for a slide at hand: over the whole client area, in its proportions. The tile doesn't keep it.
     void DrawSlideObject(const CSlideObject& slide);
     // What stands in the client area becomes what a paint shows, unless the dialog isn't visible.
     void takeSnapshot();
 
-    // Shows the picture in a file. One that can't be read leaves the tile without a picture.
-    void LoadPicture(const CString& path, bool fit);
+    // Shows the picture in a file. One that can't be read leaves the tile without a picture, and gives false.
+    bool LoadPicture(const CString& path, bool fit);
 
   protected:
     const MessageMap& messageMap() const override;

@@ -1,34 +1,51 @@
 #include "src/tiles/ListFunctions.h"
 
-#include "src/dialog/WexDialog.h"
+#include "src/dialog/TileWarnings.h"
 
 namespace {
 
+constexpr wchar_t NO_LIST[] = L"no list is open: wex_start_list opens one";
+constexpr wchar_t LIST_TILES[] = L"list boxes, combo boxes, list controls and grids";
+constexpr std::wstring_view LIST_CLASSES[] = {L"ListBox", L"ComboBox", L"SysListView32", L"GXWND"};
+
+bool isOperation(int operation) {
+    return operation == LIST_CHANGE_ROW || (operation >= LIST_CHANGE && operation <= LIST_NEW);
+}
+
 // The dialog is asked for with each item: an alert for the one before lets others run.
 void addItem(const CString& text) {
-    const WexDialog* dialog = currentDialog();
+    const WexDialog* dialog = dialogToWork();
     if (!dialog) return;
     CCtrlInfo* tile = dialog->m_listTile;
-    if (!tile) return alertText(TEXT_NO_LIST_OPEN);
+    if (!tile) {
+        warn(WARN_NOT_NOW, NO_LIST);
+        return alertText(TEXT_NO_LIST_OPEN);
+    }
     if (!tile->m_control) return tile->m_listItems.push_back(text);
     CWnd& control = *tile->m_control;
     const ControlFamily* family = familyOfType(control.className());
     if (family && family->addEntry)
         family->addEntry(control, text.c_str(), dialog->tileForControl(&control)->listOperation());
+    else
+        warnOtherKind(control, L"list boxes, combo boxes and list controls");
 }
 
 }  // namespace
 
 void startList(LispCall& call) {
     const TileAddress address = call.tile();
-    const int operation = call.shortNumber().value_or(LIST_NEW);
-    const int index = call.shortNumber().value_or(-1);
+    const int operation = call.shortOr(LIST_NEW);
+    if (!isOperation(operation)) call.warnOfArgument([=] { return noSuch(L"list operation", operation); });
+    const int index = call.shortOr(-1);
     call.retVoid();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     if (!dialog) return;
+    if (dialog->m_isListOpen) warn(WARN_NOT_NOW, L"another list is still open: wex_end_list closes it");
     CCtrlInfo* tile = dialog->tileFor(address);
+    if (!dialog->m_hWnd) warnUnlessOfClass(*dialog, address, LIST_CLASSES, LIST_TILES);
     if (CWnd* control = dialog->itemFor(address)) {
         const ControlFamily* family = familyOfType(control->className());
+        if (!family || !family->emptyEntries) warnOtherKind(*control, LIST_TILES);
         if (operation == LIST_NEW && family && family->emptyEntries)
             family->emptyEntries(*control, !address.isById());
         if (tile) tile->m_listItems.clear();
@@ -36,6 +53,7 @@ void startList(LispCall& call) {
     if (!tile) return;
     if (operation == LIST_NEW) tile->m_listItems.clear();
     dialog->m_listTile = tile;
+    dialog->m_isListOpen = true;
     tile->m_listIndex = index;
     tile->setListOperation(operation);
 }
@@ -47,10 +65,13 @@ void addList(LispCall& call) {
 
 void endList(LispCall& call) {
     const bool flag = call.isTrueOrShort();
-    const int number = call.shortNumber().value_or(-1);
+    const int number = call.shortOr(-1);
     call.retNil();
-    WexDialog* dialog = currentDialog();
-    CCtrlInfo* tile = dialog ? dialog->m_listTile : nullptr;
+    WexDialog* dialog = dialogToWork();
+    if (!dialog) return;
+    CCtrlInfo* tile = dialog->m_listTile;
+    if (!dialog->m_isListOpen) warn(WARN_NOT_NOW, NO_LIST);
+    dialog->m_isListOpen = false;
     if (!tile) return;
     tile->m_endListFlag = flag;
     tile->m_endListIndex = number;

@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <utility>
 
-#include "src/dialog/CurrentTile.h"
-#include "src/dialog/WexDialog.h"
+#include "src/dialog/TileWarnings.h"
 
 namespace {
 
 // The lowest limit of a dialog's width and height, in pixels at 96 dots per inch.
 constexpr int SMALLEST = 50;
+
+constexpr wchar_t NO_MOVE[] = L"no move is open: wex_start_controlmove opens one";
 
 // Reads width and height and hands them to `set`, where both can be used.
 template <class Set>
@@ -17,7 +18,7 @@ void setLimits(LispCall& call, Set set) {
     const auto width = call.shortNumber();
     const auto height = call.shortNumber();
     if (call.lacksArgument()) return call.retNil();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     if (dialog && width && height) set(*dialog, *width, *height);
     call.retVoid();
 }
@@ -28,8 +29,12 @@ void setResizing(LispCall& call) {
     const TileAddress address = call.tile();
     const auto code = call.shortNumber();
     if (call.lacksArgument()) return call.retNil();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     if (dialog && code) {
+        if (!isAnchorCode(*code))
+            call.warnOfArgument([&] { return std::to_wstring(*code) + L" is no sum of anchor weights"; });
+        if (dialog->hasApplied())
+            warnRuns(*dialog, L"anchors count from its start action (wex_setaction_oninit)");
         dialog->m_resizable = true;
         if (CCtrlInfo* tile = dialog->tileFor(address)) tile->m_resizeCode = *code;
     }
@@ -38,6 +43,8 @@ void setResizing(LispCall& call) {
 
 void setMinResizing(LispCall& call) {
     setLimits(call, [](WexDialog& dialog, int width, int height) {
+        if (std::min(width, height) < SMALLEST)
+            warn(WARN_NO_EFFECT, L"a dialog is at least 50 pixels wide and high, whatever the limit");
         dialog.m_limits.minWidth = std::max(width, SMALLEST);
         dialog.m_limits.minHeight = std::max(height, SMALLEST);
         dialog.m_resizable = true;
@@ -53,7 +60,9 @@ void setMaxResizing(LispCall& call) {
 
 void startControlMove(LispCall& call) {
     const auto count = call.shortOrReal();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
+    if (dialog && dialog->m_deferPos)
+        warn(WARN_NOT_NOW, L"a move is open already: wex_end_controlmove makes it");
     if (dialog && count) dialog->m_deferPos = BeginDeferWindowPos(*count);
     call.retVoid();
 }
@@ -66,6 +75,7 @@ void moveControl(LispCall& call) {
     const auto height = call.shortOrReal();
     const CWnd* control = controlOf(tile);
     if (!control || call.lacksArgument()) return call.retNil();
+    if (!currentDialog()->m_deferPos) warn(WARN_NOT_NOW, NO_MOVE);
     // kept: the handle that comes back isn't stored, so the count that was given has to cover all moves.
     if (x && y && width && height)
         DeferWindowPos(currentDialog()->m_deferPos, control->m_hWnd, nullptr, *x, *y, *width, *height,
@@ -74,7 +84,8 @@ void moveControl(LispCall& call) {
 }
 
 void endControlMove(LispCall& call) {
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
+    if (dialog && !dialog->m_deferPos) warn(WARN_NOT_NOW, NO_MOVE);
     if (dialog && dialog->m_deferPos) {
         EndDeferWindowPos(std::exchange(dialog->m_deferPos, nullptr));
         dialog->redrawMoved();

@@ -32,7 +32,8 @@ void focusByKey(const CWnd& control) {
 
 // kept: by id the focus is only set where it is already.
 void focusById(const CWnd& control, const WexDialog& dialog) {
-    if (!control.holdsFocus()) return;
+    if (!control.holdsFocus())
+        return warn(WARN_NO_EFFECT, L"mode 2 by an id moves no focus: give the tile's key");
     control.SetFocus();
     dialog.SendMessage(WM_PAINT);
 }
@@ -47,7 +48,7 @@ void applyLiveMode(const CWnd& control, const WexDialog& dialog, const TileAddre
         case MODE_FOCUS:
             return tile.isById() ? focusById(control, dialog) : focusByKey(control);
         case MODE_SELECT_TEXT:
-            if (!control.IsKindOf(RUNTIME_CLASS(CEdit))) return;
+            if (!control.IsKindOf(RUNTIME_CLASS(CEdit))) return warnOtherKind(control, L"edit boxes");
             control.SendMessage(EM_SETSEL, 0, editLimit);
             control.SendMessage(EM_SCROLLCARET);
             return;
@@ -59,11 +60,18 @@ void applyLiveMode(const CWnd& control, const WexDialog& dialog, const TileAddre
     }
 }
 
+bool isMode(int mode) {
+    const bool isControls = mode == -1;  // as the template has it
+    return isControls || (mode >= MODE_ENABLE && mode <= MODE_HIDE && mode != MODE_NOTHING);
+}
+
 // The client area of an image tile in device pixels; empty for any other tile.
 RECT imageTileArea(const TileAddress& tile) {
     const CWnd* control = controlOf(tile);
-    if (!control || control->GetRuntimeClass() != RUNTIME_CLASS(CButton)) return {};
-    return control->GetClientRect();
+    if (!control) return {};
+    if (control->GetRuntimeClass() == RUNTIME_CLASS(CButton)) return control->GetClientRect();
+    warnOtherKind(*control, L"image tiles");
+    return {};
 }
 
 }  // namespace
@@ -72,15 +80,14 @@ void setTile(LispCall& call) {
     const TileAddress tile = call.tile();
     const CString value = call.textOrDecimal();
     if (call.lacksArgument()) return call.retNil();
-    if (WexDialog* dialog = currentDialog()) dialog->setValueFor(tile, value);
+    if (WexDialog* dialog = dialogToWork()) dialog->setValueFor(tile, value);
     call.retVoid();
 }
 
 void getTile(LispCall& call) {
     const TileAddress tile = call.tile();
-    const WexDialog* dialog = currentDialog();
-    if (!dialog) return call.retVoid();
-    CWnd* control = dialog->itemFor(tile);
+    if (!dialogToWork()) return call.retVoid();
+    CWnd* control = controlOf(tile);
     if (!control) return call.retNil();
     call.ret(controlValue(*control));
 }
@@ -89,8 +96,9 @@ void modeTile(LispCall& call) {
     const TileAddress tile = call.tile();
     const auto mode = call.shortNumber();
     if (call.lacksArgument()) return call.retNil();
-    WexDialog* dialog = currentDialog();
+    WexDialog* dialog = dialogToWork();
     if (dialog && mode) {
+        if (!isMode(*mode)) call.warnOfArgument([&] { return noSuch(L"mode", *mode); });
         CCtrlInfo* record = dialog->tileFor(tile);
         if (record) record->setMode(*mode);
         const CCtrlInfo unrecorded;

@@ -1,5 +1,6 @@
 #include "src/tiles/WindowFunctions.h"
 
+#include "src/dialog/CurrentTile.h"
 #include "src/dialog/ParentWindow.h"
 #include "src/dialog/WexDialog.h"
 
@@ -24,7 +25,9 @@ UINT iconOf(std::optional<int> code) {
 
 void alert(LispCall& call) {
     const CString text = call.textOrEmpty();
-    const UINT icon = iconOf(call.shortNumber());
+    const auto code = call.optionalShort();
+    if (code && (*code < 0 || *code > 4)) call.warnOfArgument([&] { return noSuch(L"icon", *code); });
+    const UINT icon = iconOf(code);
     const CWnd* owner = findParentWindow();
     MessageBoxW(owner ? owner->m_hWnd : nullptr, text.c_str(), resourceText(TEXT_ALERT_CAPTION).c_str(),
                 MB_OK | icon);
@@ -33,7 +36,7 @@ void alert(LispCall& call) {
 
 void enableDialog(LispCall& call) {
     const bool enable = call.isNeitherNilNorZero();
-    const WexDialog* dialog = currentDialog();
+    const WexDialog* dialog = runningDialog();
     if (dialog && dialog->isLive()) {
         dialog->EnableWindow(enable);
         if (enable) SetActiveWindow(dialog->m_hWnd);
@@ -43,7 +46,7 @@ void enableDialog(LispCall& call) {
 
 void setTitleBar(LispCall& call) {
     const CString text = call.textOrEmpty();
-    const WexDialog* dialog = currentDialog();
+    const WexDialog* dialog = runningDialog();
     if (dialog && dialog->isLive()) dialog->SetWindowText(text);
     call.retNil();
 }

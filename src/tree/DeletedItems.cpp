@@ -30,7 +30,10 @@ void DeletedItems::bury(const CWnd& tree) {
     if (going.has(tree, nextTreeItem(tree, TVGN_CARET))) tree.SendMessage(TVM_SELECTITEM, TVGN_CARET, 0);
     for (const HTREEITEM item : going.m_items) deleteTreeItem(tree, item);
     if (!going.m_all) return;
-    if (going.m_younger.empty()) return deleteTreeItem(tree, TVI_ROOT);
+    if (going.m_younger.empty()) {
+        deleteTreeItem(tree, TVI_ROOT);
+        return;
+    }
     for (HTREEITEM next, item = nextTreeItem(tree, TVGN_ROOT); item; item = next) {
         next = nextTreeItem(tree, TVGN_NEXT, item);
         if (!going.m_younger.count(item)) deleteTreeItem(tree, item);

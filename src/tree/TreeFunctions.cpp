@@ -11,6 +11,26 @@ namespace {
 // An item that no control knows.
 const HTREEITEM UNKNOWN_ITEM = reinterpret_cast<HTREEITEM>(-1);
 
+// The control of the tile argument, whatever it is.
+CWnd* treeArgument(LispCall& call) {
+    CWnd* control = controlOf(call.tile());
+    if (control && !WexTree::of(control) && control->className() != L"SysTreeView32")
+        warnOtherKind(*control, L"trees");
+    return control;
+}
+
+// Tells the author of an item that the tree doesn't know. Asked where it couldn't be worked, as the control
+// takes long to tell.
+void warnUnlessItem(const CWnd& tree, HTREEITEM item) {
+    // The platform's own numbers, such as that of all items.
+    const bool isPlace =
+        handleNumber(item) >= handleNumber(TVI_ROOT) && handleNumber(item) <= handleNumber(TVI_SORT);
+    if (!item || isPlace || !isHeard(WARN_OUTSIDE) || (item != UNKNOWN_ITEM && treeItem(tree, item))) return;
+    const std::wstring name =
+        item == UNKNOWN_ITEM ? L"such item" : L"item " + std::to_wstring(handleNumber(item));
+    tellWarning(WARN_OUTSIDE, L"the tree has no " + name);
+}
+
 // One that is no integer is null.
 HTREEITEM itemArgument(LispCall& call, const CWnd* tree) {
     const HTREEITEM item = handleOf(call.shortOrLong().value_or(0));
@@ -25,7 +45,7 @@ struct Target {
 };
 
 Target targetArguments(LispCall& call) {
-    CWnd* tree = controlOf(call.tile());
+    CWnd* tree = treeArgument(call);
     return {tree, itemArgument(call, tree)};
 }
 
@@ -35,8 +55,8 @@ bool canWork(const LispCall& call, const CWnd* tree) { return tree && !call.lack
 // Up to two more numbers behind the first image. With a third one the second is passed over.
 TreeItemImages imageArguments(int image, LispCall& call) {
     TreeItemImages images{image};
-    images.selected = call.shortNumber().value_or(-1);
-    if (const auto alternate = call.shortNumber()) {
+    images.selected = call.shortOr(-1);
+    if (const auto alternate = call.optionalShort()) {
         images.selected = image;
         images.alternate = *alternate;
     }
@@ -44,17 +64,20 @@ TreeItemImages imageArguments(int image, LispCall& call) {
 }
 
 void sendItem(const CWnd& tree, UINT message, WPARAM how, HTREEITEM item) {
-    tree.SendMessage(message, how, reinterpret_cast<LPARAM>(item));
+    if (!tree.SendMessage(message, how, reinterpret_cast<LPARAM>(item))) warnUnlessItem(tree, item);
 }
 
 void insertItem(LispCall& call, bool underParent, bool behindPrevious) {
-    CWnd* tree = controlOf(call.tile());
+    CWnd* tree = treeArgument(call);
     const HTREEITEM parent = underParent ? itemArgument(call, tree) : nullptr;
     const HTREEITEM after = behindPrevious ? itemArgument(call, tree) : TVI_LAST;
     const CString text = call.textOrEmpty();
     if (!canWork(call, tree)) return call.retNil();
-    const TreeItemImages images = imageArguments(call.shortNumber().value_or(-1), call);
-    call.retLong(handleNumber(insertTreeItem(*tree, parent, after, text, images)));
+    const TreeItemImages images = imageArguments(call.shortOr(-1), call);
+    const HTREEITEM made = insertTreeItem(*tree, parent, after, text, images);
+    if (!made) warnUnlessItem(*tree, parent);
+    if (!made && behindPrevious) warnUnlessItem(*tree, after);
+    call.retLong(handleNumber(made));
 }
 
 // -1 for none, and for one that is deleted.
@@ -66,11 +89,9 @@ void answerItem(LispCall& call, const CWnd* tree, HTREEITEM item) {
         call.retLong(handleNumber(item));
 }
 
-void deleteItem(CWnd& tree, HTREEITEM item) {
-    if (auto* wrapper = WexTree::of(&tree))
-        wrapper->deleteItem(item);
-    else
-        deleteTreeItem(tree, item);
+bool deleteItem(CWnd& tree, HTREEITEM item) {
+    auto* wrapper = WexTree::of(&tree);
+    return wrapper ? wrapper->deleteItem(item) : deleteTreeItem(tree, item);
 }
 
 // The code of TVM_EXPAND; nothing for a mode that there isn't.
@@ -101,7 +122,10 @@ void treeSetItemData(LispCall& call) {
     const auto [tree, item] = targetArguments(call);
     const int data = call.shortOrLong().value_or(0);
     CTreeDataItem* record = canWork(call, tree) ? needTreeRecord(*tree, item) : nullptr;
-    if (record) record->m_data = data;
+    if (record)
+        record->m_data = data;
+    else if (tree)
+        warnUnlessItem(*tree, item);
     call.retNil();
 }
 
@@ -109,22 +133,24 @@ void treeGetItemData(LispCall& call) {
     const auto [tree, item] = targetArguments(call);
     if (call.lacksArgument()) return call.retNil();
     if (const CTreeDataItem* record = tree ? treeRecord(*tree, item) : nullptr)
-        call.retLong(record->m_data);
-    else
-        call.ret(0);
+        return call.retLong(record->m_data);
+    if (tree) warnUnlessItem(*tree, item);
+    call.ret(0);
 }
 
 void treeSetItemText(LispCall& call) {
     const auto [tree, item] = targetArguments(call);
     const CString text = call.textOrEmpty();
-    if (canWork(call, tree)) setTreeItemText(*tree, item, text);
+    if (canWork(call, tree) && !setTreeItemText(*tree, item, text)) warnUnlessItem(*tree, item);
     call.retNil();
 }
 
 void treeGetItemText(LispCall& call) {
     const auto [tree, item] = targetArguments(call);
     if (call.lacksArgument()) return call.retNil();
-    call.ret(tree ? treeItemText(*tree, item) : CString());
+    const CString text = tree ? treeItemText(*tree, item) : CString();
+    if (tree && text.IsEmpty()) warnUnlessItem(*tree, item);
+    call.ret(text);
 }
 
 void treeSetItemImages(LispCall& call) {
@@ -133,7 +159,10 @@ void treeSetItemImages(LispCall& call) {
     if (!canWork(call, tree)) return call.retNil();
     const TreeItemImages images = imageArguments(image, call);
     setTreeItemImages(*tree, item, images.image, images.selected);
-    if (CTreeDataItem* record = needTreeRecord(*tree, item)) record->m_alternateImage = images.alternate;
+    if (CTreeDataItem* record = needTreeRecord(*tree, item))
+        record->m_alternateImage = images.alternate;
+    else
+        warnUnlessItem(*tree, item);
     call.retNil();
 }
 
@@ -141,6 +170,7 @@ void treeGetItemImages(LispCall& call) {
     const auto [tree, item] = targetArguments(call);
     if (!canWork(call, tree)) return call.retNil();
     const auto shown = treeItem(*tree, item);
+    if (!shown) warnUnlessItem(*tree, item);
     const CTreeDataItem* record = treeRecord(*tree, item);
     const auto asShort = [](int number) -> int { return static_cast<int16_t>(number); };
     const int images[] = {asShort(shown ? shown->image : -1), asShort(shown ? shown->selected : -1),
@@ -150,12 +180,12 @@ void treeGetItemImages(LispCall& call) {
 
 void treeDeleteItem(LispCall& call) {
     const auto [tree, item] = targetArguments(call);
-    if (canWork(call, tree)) deleteItem(*tree, item);
+    if (canWork(call, tree) && !deleteItem(*tree, item)) warnUnlessItem(*tree, item);
     call.retNil();
 }
 
 void treeDeleteAllItems(LispCall& call) {
-    if (CWnd* tree = controlOf(call.tile())) deleteItem(*tree, TVI_ROOT);
+    if (CWnd* tree = treeArgument(call)) deleteItem(*tree, TVI_ROOT);
     call.retNil();
 }
 
@@ -169,7 +199,7 @@ void treeSortChildren(LispCall& call) {
 }
 
 void treeGetCurSel(LispCall& call) {
-    const CWnd* tree = controlOf(call.tile());
+    const CWnd* tree = treeArgument(call);
     answerItem(call, tree, tree ? nextTreeItem(*tree, TVGN_CARET) : nullptr);
 }
 
@@ -185,12 +215,14 @@ void treeSelectItem(LispCall& call) {
 void treeGetParent(LispCall& call) {
     const auto [tree, item] = targetArguments(call);
     if (call.lacksArgument()) return call.retNil();
-    answerItem(call, tree, tree ? nextTreeItem(*tree, TVGN_PARENT, item) : nullptr);
+    const HTREEITEM parent = tree ? nextTreeItem(*tree, TVGN_PARENT, item) : nullptr;
+    if (tree && !parent) warnUnlessItem(*tree, item);
+    answerItem(call, tree, parent);
 }
 
 // kept: the count is given, and then nil, which stands.
 void treeGetCount(LispCall& call) {
-    if (const CWnd* tree = controlOf(call.tile()))
+    if (const CWnd* tree = treeArgument(call))
         call.retForNow(static_cast<int>(tree->SendMessage(TVM_GETCOUNT)));
     call.retNil();
 }
@@ -198,7 +230,9 @@ void treeGetCount(LispCall& call) {
 void treeExpandItem(LispCall& call) {
     const auto [tree, item] = targetArguments(call);
     const bool works = canWork(call, tree);
-    const auto code = expandCode(call.shortNumber().value_or(0));
+    const int mode = call.shortOr(0);
+    const auto code = expandCode(mode);
+    if (!code) call.warnOfArgument([=] { return noSuch(L"mode", mode); });
     if (works && code) {
         releaseRedraw();
         sendItem(*tree, TVM_EXPAND, *code, item);
@@ -207,8 +241,9 @@ void treeExpandItem(LispCall& call) {
 }
 
 void treeSetupImageList(LispCall& call) {
-    CWnd* tree = controlOf(call.tile());
-    const HostValue* icons = call.next();
-    if (canWork(call, tree)) setTreeImages(*tree, icons);
+    CWnd* tree = treeArgument(call);
+    const HostValue* icons = call.rest();
+    if (!icons) call.warnMissing();
+    if (tree && icons) setTreeImages(*tree, icons);
     call.retNil();
 }

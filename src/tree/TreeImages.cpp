@@ -5,6 +5,7 @@
 #include "src/platform/host/HostServices.h"
 #include "src/shell/Module.h"
 #include "src/shell/ValueOf.h"
+#include "src/shell/Warning.h"
 #include "src/tree/WexTree.h"
 
 namespace {
@@ -19,7 +20,13 @@ void addIcon(const CImageList& images, const wchar_t* name, int side) {
     const auto icon = static_cast<HICON>(
         g_resourceInstance ? LoadImageW(g_resourceInstance, name, IMAGE_ICON, side, side, 0) : nullptr);
     images.Add(icon);
-    if (icon) DestroyIcon(icon);
+    if (icon)
+        DestroyIcon(icon);
+    else
+        warn(WARN_NOT_FOUND, [=] {
+            return L"there is no icon " +
+                   (IS_INTRESOURCE(name) ? CString(std::to_wstring(LOWORD(name))) : quoted(name));
+        });
 }
 
 }  // namespace

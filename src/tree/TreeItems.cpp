@@ -48,10 +48,10 @@ HTREEITEM nextTreeItem(const CWnd& tree, WPARAM relation, HTREEITEM item) {
         tree.sendStraight(TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
 }
 
-void setTreeItemText(const CWnd& tree, HTREEITEM item, const CString& text) {
+bool setTreeItemText(const CWnd& tree, HTREEITEM item, const CString& text) {
     TVITEMW change = request(TVIF_TEXT, item);
     change.pszText = const_cast<wchar_t*>(text.c_str());
-    sendItem(tree, TVM_SETITEMW, change);
+    return sendItem(tree, TVM_SETITEMW, change);
 }
 
 void setTreeItemImages(const CWnd& tree, HTREEITEM item, int image, int selected) {
@@ -61,8 +61,8 @@ void setTreeItemImages(const CWnd& tree, HTREEITEM item, int image, int selected
     sendItem(tree, TVM_SETITEMW, change);
 }
 
-void deleteTreeItem(const CWnd& tree, HTREEITEM item) {
-    tree.SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item));
+bool deleteTreeItem(const CWnd& tree, HTREEITEM item) {
+    return tree.SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item));
 }
 
 // All is given with the insertion: for any later message the control would look the item up among all others,

@@ -31,10 +31,11 @@ CString treeItemText(const CWnd& tree, HTREEITEM item);
 // The item that stands in that relation to `item`, a TVGN_ value; null for none.
 HTREEITEM nextTreeItem(const CWnd& tree, WPARAM relation, HTREEITEM item = nullptr);
 
-void setTreeItemText(const CWnd& tree, HTREEITEM item, const CString& text);
+// False for an item that the control doesn't know.
+bool setTreeItemText(const CWnd& tree, HTREEITEM item, const CString& text);
 void setTreeItemImages(const CWnd& tree, HTREEITEM item, int image, int selected);
-// With its children. All items for null and TVI_ROOT.
-void deleteTreeItem(const CWnd& tree, HTREEITEM item);
+// With its children. All items for null and TVI_ROOT. False for an item that the control doesn't know.
+bool deleteTreeItem(const CWnd& tree, HTREEITEM item);
 
 // Inserts behind `after`, which may be TVI_LAST, under `parent`, null for the top. An alternate image makes a
 // record, where the tree keeps records. Null where the control makes no item, and where its handle would not

@@ -70,30 +70,31 @@ LRESULT WexTree::WindowProc(UINT message, WPARAM w, LPARAM l) {
     return result;
 }
 
-void WexTree::deleteItem(HTREEITEM item) {
-    if (m_messages > 0)
-        deleteLater(item);
-    else
-        deleteTreeItem(*this, item);
+bool WexTree::deleteItem(HTREEITEM item) {
+    return m_messages > 0 ? deleteLater(item) : deleteTreeItem(*this, item);
 }
 
-void WexTree::deleteLater(HTREEITEM item) {
+bool WexTree::deleteLater(HTREEITEM item) {
     // An alert or a dialog of the action may stand before the item goes.
     Invalidate();
-    if (!item || item == TVI_ROOT) return m_deleted.addAll();
+    if (!item || item == TVI_ROOT) {
+        m_deleted.addAll();
+        return true;
+    }
     const HTREEITEM inherits[] = {nextTreeItem(*this, TVGN_NEXT, item),
                                   nextTreeItem(*this, TVGN_PARENT, item),
                                   nextTreeItem(*this, TVGN_PREVIOUS, item)};
-    if (!treeItem(*this, item)) return;
+    if (!treeItem(*this, item)) return false;
     m_deleted.add(item);
     const HTREEITEM selected = nextTreeItem(*this, TVGN_CARET);
-    if (!hasDeleted(selected)) return;
+    if (!hasDeleted(selected)) return true;
     // The selection goes to whom the control would give it.
     for (const HTREEITEM heir : inherits)
         if (heir && !hasDeleted(heir)) {
             SendMessage(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(heir));
-            return;
+            break;
         }
+    return true;
 }
 
 bool WexTree::tellLisp(EventReason reason, HTREEITEM item) {

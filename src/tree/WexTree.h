@@ -36,8 +36,8 @@ class WexTree : public CTreeCtrl, public TileControl {
     // --- what Lisp sees of the items
 
     // Deletes the item with its children, all items for null and TVI_ROOT: at once, or when the control has
-    // done with the message that it is at work on.
-    void deleteItem(HTREEITEM item);
+    // done with the message that it is at work on. False for an item that the control doesn't know.
+    bool deleteItem(HTREEITEM item);
     // Whether the item is deleted, though the control may still have it.
     bool hasDeleted(HTREEITEM item) const { return m_deleted.has(*this, item); }
     void itemMade(HTREEITEM item) { m_deleted.made(item); }
@@ -47,7 +47,7 @@ class WexTree : public CTreeCtrl, public TileControl {
     const MessageMap& messageMap() const override;
 
   private:
-    void deleteLater(HTREEITEM item);
+    bool deleteLater(HTREEITEM item);
 
     // Tells Lisp. True where its action has deleted the item.
     bool tellLisp(EventReason reason, HTREEITEM item);

@@ -10,7 +10,7 @@
 (defun in-list (session)
   (setq notes nil)
   (in-dialog "ODD_KINDS"
-    '(progn (wex_listctrl_setcolumns "LISTVIEW" "x\tName\tSize")
+    '(progn (wex_listctrl_setcolumns "LISTVIEW" "\tName\tSize")
             (wex_start_list "LISTVIEW") (wex_add_list '("alpha\t10" "beta\t9" "gamma\t100")) (wex_end_list)
             (wex_action_tile "LISTVIEW" "(note $value)"))
     session))

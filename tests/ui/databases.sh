@@ -134,7 +134,7 @@ server_goes_away_under_a_list() {
 (wex_fp_cleardatasrc)
 (wex_fp_setupdatasrc '("" "Parts" "PN"))
 (wex_new_dialog "LOOKUP_FP")
-(wex_listctrl_setcolumns "DLST" "x\tNumber")
+(wex_listctrl_setcolumns "DLST" "\tNumber")
 (wex_start_dialog)
 END
     open_host

@@ -1,4 +1,5 @@
 ; How a dialog is opened, ends and tells its status; how dialogs nest.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 (defun run-with (session) (run-dialog "CONFIRM_DELREC" nil session))
 (defun status-of (action) (run-dialog "CONFIRM_DELREC" '(wex_action_tile "OK" action) '((ui_click "OK"))))

@@ -1,7 +1,7 @@
 ; What the functions of sessions do is what a person's hands would do.
 
 (defun fill-table (tile)
-  (wex_listctrl_setcolumns tile "x\tName\tSize")
+  (wex_listctrl_setcolumns tile "\tName\tSize")
   (fill tile '("alpha\t10" "beta\t9" "gamma\t100" "delta\t1")))
 
 (defun in-list (session)
@@ -80,7 +80,7 @@
   '((setq long "0123456789")
     (repeat 10 (setq long (strcat long long)))
     (in-dialog "ODD_TABLES" nil
-      '((wex_listctrl_setcolumns "TABLE" "x\tName")
+      '((wex_listctrl_setcolumns "TABLE" "\tName")
         (fill "TABLE" (list long))
         (want 10240 (strlen (car (ui_items "TABLE"))))))))
 

@@ -1,4 +1,5 @@
 ; Edit boxes that take distances and angles: what can be typed, and what becomes of it when the person leaves the box.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 ; Runs ADD_REC with DESC in a notation, as in "numeric 2 2"; the focus is in ASMB, and the action of DESC notes its text.
 (defun with-box (notation session / words)

@@ -8,7 +8,7 @@ failed=0
 check() {
     local status=0
     printf '%s\n' "$3" >"$work/program.lsp"
-    wine64 build/windows/bin/wexhost.exe --headless --timeout 60 "${@:5}" "$work/program.lsp" >"$work/printed" 2>&1 || status=$?
+    wine64 build/windows/bin/wexhost.exe --headless --no-warn --timeout 60 "${@:5}" "$work/program.lsp" >"$work/printed" 2>&1 || status=$?
     diff -u <(echo "$4") <(tr -d '\r' <"$work/printed") && [ $status = "$2" ] && return
     echo "FAILED $1: status $status"
     failed=1

@@ -1,4 +1,5 @@
 ; Image tiles: drawing on them, what stays on the screen, pictures, slides, the focus, clicks, and what the functions give.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 (setq black 0 red 16711680 yellow 16776960 green 65280 cyan 65535)
 

@@ -1,4 +1,5 @@
 ; Columns and rows of list controls: before the run, live, and what the functions refuse.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 ; `before` runs without a window, `init` as the start action.
 (defun in-tables (before init session)

@@ -3,7 +3,7 @@
 ; What is selected in a dialog's list after the first row and the last were.
 (defun selected-of-two (dialog tile / selected)
   (in-dialog dialog
-    '(progn (wex_listctrl_setcolumns tile "columns\tName      \tValue     ") (fill tile '("a\t1" "b\t2" "c\t3")))
+    '(progn (wex_listctrl_setcolumns tile "\tName      \tValue     ") (fill tile '("a\t1" "b\t2" "c\t3")))
     '((wex_set_tile tile 0)
       (wex_set_tile tile 2)
       (want '("a\t1" "b\t2" "c\t3") (ui_items tile))

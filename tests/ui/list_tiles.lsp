@@ -1,4 +1,5 @@
 ; Filling list boxes and combo boxes, before and during the run, and what a selection tells Lisp.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 (defun in-lists (prepared session) (in-dialog "DISP_ASSYVALS" prepared session))
 

@@ -3,7 +3,7 @@
 . "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 cp build/windows/bin/{wexhost.exe,hostapi.dll,WexDialogs.pgx} "$work"
 
-printed=$(cd "$work" && wine64 wexhost.exe --headless --timeout 60 -e '(progn
+printed=$(cd "$work" && wine64 wexhost.exe --headless --no-warn --timeout 60 -e '(progn
     (print (wex_new_dialog "NO_SUCH"))
     (print (wex_new_dialog "ADD_REC"))
     (print (wex_start_dialog))

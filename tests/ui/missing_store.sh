@@ -3,7 +3,7 @@
 . "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 cp build/windows/bin/{wexhost.exe,hostapi.dll,WexDialogs.pgx,WexDialogsRes.dll} "$work"
 
-printed=$(cd "$work" && wine64 wexhost.exe --headless --timeout 60 -e '(progn
+printed=$(cd "$work" && wine64 wexhost.exe --headless --no-warn --timeout 60 -e '(progn
     (repeat 2 (wex_fp_setupdatasrc (list "project" "Parts" "PN")))
     (print (list (wex_fp_getcount) (wex_fp_getitem 0) (wex_fp_getadded)))
     (ui_session "LOOKUP_FP" (list (quote (print (ui_items "DLST"))) (quote (ui_click "Cancel"))))

@@ -1,4 +1,5 @@
 ; Controls that no shipped dialog has, in an add-on that only the tests build.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 (test "Captions with arrows and marks become icons; the text that stays is what the rules leave"
   '((in-dialog "ODD_BUTTONS" nil

@@ -1,4 +1,5 @@
 ; To which window a dialog and a message box belong, and what else the host may ask of the plug-in.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 (host_load_plugin "build/windows/tests/testplugin.pgx")
 (setq frame "WexHost - Drawing1")

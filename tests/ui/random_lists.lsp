@@ -5,6 +5,7 @@
 ;
 ; beside the add-on of odd dialogs: with build/windows/testbin/wexhost.exe. Where the platform decides (which rows a click
 ; on one of several selected rows leaves, whether a click on the selected entry is told) it is Wine that was asked.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 (if (not (boundp 'seed)) (setq seed 1))
 (if (not (boundp 'events)) (setq events 2000))

@@ -1,4 +1,5 @@
 ; Dialogs with pages: which controls show, what the keys do, and how the pages look.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 ; Which of the tiles show.
 (defun shown (tiles) (remove-if-not '(lambda (tile) (look tile "visible")) tiles))

@@ -1,4 +1,5 @@
 ; Trees: items as Lisp makes and asks them, and what a person's clicks and keys do and tell.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 ; A session in a dialog with a tree, whose events are noted as (item reason). The forms of `make` come first.
 (defun in-tree (make session)

@@ -13,8 +13,8 @@ constexpr int CANCEL_CONTROL_ID = 2;
 constexpr int FIRST_KEY_CONTROL_ID = 110;
 
 struct KeyListText {
-    CString name;       // lower case
-    CStringArray keys;  // lower case, by position; empty where a position has no key
+    CString name;
+    CStringArray keys;  // by position; empty where a position has no key
 };
 
 // The text before the first comma, as it stands; empty where there is no comma.
@@ -22,4 +22,6 @@ std::wstring_view keyListName(std::wstring_view text);
 
 // Splits a key list at its commas; nothing is trimmed and the last field counts even when it is empty. The
 // first comma is searched from the second character on. Nothing where there is none.
+std::optional<KeyListText> splitKeyList(std::wstring_view text);
+// The same with all of it in lower case.
 std::optional<KeyListText> parseKeyList(std::wstring_view text);

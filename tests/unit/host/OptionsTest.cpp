@@ -28,12 +28,21 @@ TEST(Options, WhatIsWrongIsNamed) {
     EXPECT_EQ(parse({L"--check"}).error, L"--check needs a file");
     EXPECT_EQ(parse({L"--check", L"a.lsp", L"-e", L"1"}).error, L"--check reads files, and -e is none");
     EXPECT_EQ(parse({L"--headless", L"--language-server"}).error, L"");
+    EXPECT_NE(parse({L"--warn=loud"}).error, L"");
     EXPECT_EQ(parse({L"--headless"}).error, L"--headless needs a program, -e or -i");
     EXPECT_EQ(parse({L"--headless", L"-i"}).error, L"");
     EXPECT_EQ(parse({L"--compare-pictures", L"a.png"}).error, L"--compare-pictures needs pairs of files");
     for (const wchar_t* text : {L"soon", L"", L"0", L"-1", L"5s", L"nan"}) {
         EXPECT_NE(parse({L"--timeout", text}).error, L"") << text;
     }
+}
+
+TEST(Options, WarningsAreForRunsWithoutAPerson) {
+    EXPECT_EQ(parse({L"x.lsp"}).warningMode(), WarningMode::off);
+    EXPECT_EQ(parse({L"x.lsp", L"--warn"}).warningMode(), WarningMode::on);
+    EXPECT_EQ(parse({L"--play", L"x.lsp"}).warningMode(), WarningMode::on);
+    EXPECT_EQ(parse({L"--headless", L"x.lsp", L"--warn=error"}).warningMode(), WarningMode::error);
+    EXPECT_EQ(parse({L"--headless", L"x.lsp", L"--no-warn"}).warningMode(), WarningMode::off);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "host/runner/DialogTemplate.h"
+#include "src/platform/base/DialogTemplate.h"
 
 #include <array>
 
