@@ -32,7 +32,9 @@ std::optional<fs::path> HostFiles::find(std::u16string_view name) const {
     std::error_code ignored;
     for (const fs::path& folder : folders) {
         for (const fs::path& file : names) {
-            if (fs::is_regular_file(folder / file, ignored)) return folder / file;
+            if (!fs::is_regular_file(folder / file, ignored)) continue;
+            if (m_listener) m_listener(folder / file);
+            return folder / file;
         }
     }
     return std::nullopt;

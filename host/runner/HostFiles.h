@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,10 +17,16 @@ class HostFiles : public lisp::FileAccess {
     // `folders`: where `find` looks behind the working folder, in this order.
     explicit HostFiles(std::vector<std::filesystem::path> folders) : m_folders(std::move(folders)) {}
 
+    // Hears of each file that is found, as often as it is.
+    void setListener(std::function<void(const std::filesystem::path& file)> listener) {
+        m_listener = std::move(listener);
+    }
+
     std::filesystem::path resolve(std::u16string_view name) const override;
     // Also under the name with `.lsp` behind it, where it has no extension.
     std::optional<std::filesystem::path> find(std::u16string_view name) const override;
 
   private:
     std::vector<std::filesystem::path> m_folders;
+    std::function<void(const std::filesystem::path&)> m_listener;
 };

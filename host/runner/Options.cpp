@@ -16,6 +16,9 @@ constexpr std::pair<std::wstring_view, WarningMode> WARN_MODES[] = {
     {L"=error", WarningMode::error},
 };
 
+// What a watching host starts the program's with; nobody else has a use for it.
+constexpr std::wstring_view WATCHED = L"--watched=";
+
 class Parser {
   public:
     explicit Parser(std::span<const std::wstring> arguments) : m_rest(arguments) {}
@@ -25,6 +28,7 @@ class Parser {
         if (m_options.error.empty() && m_options.check) checkOperands();
         if (m_options.error.empty() && waitsForNobody()) fail(L"--headless needs a program, -e or -i");
         if (m_options.pictures.size() % 2 == 1) fail(L"--compare-pictures needs pairs of files");
+        if (m_options.error.empty() && m_options.watch && !hasFile()) fail(L"--watch needs a program");
         return m_options;
     }
 
@@ -41,6 +45,11 @@ class Parser {
         if (m_options.steps.empty()) fail(L"--check needs a file");
         for (const Options::Step& step : m_options.steps)
             if (step.isExpression) fail(L"--check reads files, and -e is none");
+    }
+
+    bool hasFile() const {
+        return std::any_of(m_options.steps.begin(), m_options.steps.end(),
+                           [](const Options::Step& step) { return !step.isExpression; });
     }
 
     bool waitsForNobody() const {
@@ -121,6 +130,10 @@ class Parser {
             m_options.comparePictures = true;
         } else if (argument == L"--approve") {
             m_options.approve = true;
+        } else if (argument == L"--watch") {
+            m_options.watch = true;
+        } else if (argument.starts_with(WATCHED)) {
+            m_options.watched = argument.substr(WATCHED.size());
         } else if (argument == L"--no-warn") {
             m_options.warn = WarningMode::off;
         } else if (argument.starts_with(L"--warn")) {
@@ -164,6 +177,7 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --headless         nobody is there: play the programs' sessions, answer all alerts
   --play             play the programs' sessions where the person can watch
   --record OUT.lsp   write what the person does in the dialogs as sessions that do it again
+  --watch            run the program anew whenever it is saved, or what it loads: its dialog opens again as it was
   --warn, --no-warn  tell, or don't, what a program's calls couldn't do; without a person it is told
   --warn=error       the same, and a warning makes the exit status 1
   --timeout SECONDS  give up after that time; inf for never

@@ -28,6 +28,8 @@ struct Options {
     bool comparePictures = false;
     bool approve = false;
     std::optional<WarningMode> warn;
+    bool watch = false;
+    std::wstring watched;  // by which process and through which folder, see WatchLink.h; empty for nobody
     double timeoutSeconds = 0;  // 0: no limit
     std::wstring shotsFolder;
     std::wstring record;  // the file to record into; empty for none

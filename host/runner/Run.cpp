@@ -30,7 +30,9 @@
 #include "host/runner/ShowDialogs.h"
 #include "host/runner/TempFolder.h"
 #include "host/runner/Terminal.h"
+#include "host/runner/Watch.h"
 #include "host/runner/Watchdog.h"
+#include "host/runner/WatchedRun.h"
 #include "host/services/DataModule.h"
 #include "host/services/Host.h"
 #include "host/services/ProgramFolder.h"
@@ -75,7 +77,12 @@ std::unique_ptr<HostFiles> filesFor(const Options& options) {
     for (const Options::Step& step : options.steps) {
         if (!step.isExpression) folders.push_back(systemPath(step.text).parent_path());
     }
-    return std::make_unique<HostFiles>(std::move(folders));
+    auto files = std::make_unique<HostFiles>(std::move(folders));
+    if (!options.watched.empty()) {
+        static WatchedRun& run = *new WatchedRun(options.watched);
+        files->setListener([](const std::filesystem::path& file) { run.noteFile(file); });
+    }
+    return files;
 }
 
 void loadPlugin(const std::wstring& named) {
@@ -256,7 +263,8 @@ int hostRun(int count, wchar_t** arguments) {
     reportCrashes();
     SetConsoleOutputCP(CP_UTF8);
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
-    const Options options = parseOptions(std::vector<std::wstring>(arguments + 1, arguments + count));
+    const std::vector<std::wstring> given(arguments + 1, arguments + count);
+    const Options options = parseOptions(given);
     if (!options.error.empty()) return refuse(options);
     if (options.help) {
         host().console().print(usage());
@@ -269,6 +277,7 @@ int hostRun(int count, wchar_t** arguments) {
     if (options.showDialogs) return showDialogs(options.dialogs);
     if (options.checkDialogs) return checkDialogs(systemPaths(options.modules));
     if (options.comparePictures) return comparePictures(systemPaths(options.pictures));
+    if (options.watch) return watchProgram(options, given);
     std::optional<Watchdog> watchdog;
     if (options.timeoutSeconds > 0) watchdog.emplace(options.timeoutSeconds);
     if (options.languageServer) {
