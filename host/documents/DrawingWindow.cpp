@@ -74,14 +74,36 @@ const cad::Block* DrawingWindow::shownBlock() {
 
 void DrawingWindow::show(const cad::Block& block, const HostVector3d& direction) {
     m_asked = block.id();
-    m_view.setVisualStyle(HostVisualStyle(direction.x == 0.0 && direction.y == 0.0 ? HOST_STYLE_WIREFRAME_2D
-                                                                                   : HOST_STYLE_SHADED));
+    setStyle(direction.x == 0.0 && direction.y == 0.0 ? HOST_STYLE_WIREFRAME_2D : HOST_STYLE_SHADED);
     m_shown = block.id();
     m_view.eraseAll();
     ShownBlock drawable(block.id());
     m_view.add(&drawable, nullptr);
     fit(block, direction);
     m_wasEmpty = block.extents().isEmpty();
+    drawingChanged();
+}
+
+bool DrawingWindow::isEmpty() {
+    const cad::Block* block = shownBlock();
+    return !block || block->extents().isEmpty();
+}
+
+void DrawingWindow::fit() { see(direction()); }
+
+void DrawingWindow::see(const HostVector3d& direction) {
+    if (isEmpty()) return;
+    const cad::Block& block = *shownBlock();
+    const int style = m_style;
+    // What wasn't painted yet isn't in the view either.
+    if (m_shown != block.id() || m_wasEmpty) show(block, direction);
+    fit(block, direction);
+    setStyle(style);
+}
+
+void DrawingWindow::setStyle(int style) {
+    m_style = style;
+    m_view.setVisualStyle(HostVisualStyle(style));
     drawingChanged();
 }
 
@@ -108,11 +130,11 @@ void DrawingWindow::paint() {
     RECT area;
     GetClientRect(m_window, &area);
     m_pixels.resize(area.right, area.bottom);
-    const cad::Block* block = shownBlock();
-    const bool isEmpty = !block || block->extents().isEmpty();
-    if (isEmpty) {
+    const bool empty = isEmpty();
+    if (empty) {
         paintEmptyDrawing(dc, area, m_dpi);
     } else {
+        const cad::Block* block = shownBlock();
         // Another drawing, or the first things in one, are shown whole; what comes later leaves the view as
         // it is.
         if (m_shown != block->id() || m_wasEmpty)
@@ -121,7 +143,7 @@ void DrawingWindow::paint() {
         m_view.update();
         paintAxes(dc, area, m_dpi, m_view.viewingMatrix());
     }
-    m_wasEmpty = isEmpty;
+    m_wasEmpty = empty;
     EndPaint(m_window, &paint);
 }
 
@@ -149,9 +171,18 @@ void DrawingWindow::pan(double x, double y) {
     m_view.dolly(toView * HostVector3d{-x, y, 0.0});
 }
 
+void DrawingWindow::rightButtonUp(POINT at) {
+    ReleaseCapture();
+    if (at.x != m_pressed.x || at.y != m_pressed.y) return;
+    ClientToScreen(m_window, &at);
+    SendMessageW(GetParent(m_window), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(m_window),
+                 MAKELPARAM(at.x, at.y));
+}
+
 void DrawingWindow::dragTo(POINT at) {
     const double x = at.x - m_last.x, y = at.y - m_last.y;
     m_last = at;
+    if (x == 0.0 && y == 0.0) return;
     if (m_drag == Drag::pan) {
         pan(x, y);
     } else {
@@ -163,7 +194,7 @@ void DrawingWindow::dragTo(POINT at) {
 
 void DrawingWindow::orbit(double x, double y) {
     // What leaves the plan is seen with its faces.
-    m_view.setVisualStyle(HostVisualStyle(HOST_STYLE_SHADED));
+    setStyle(HOST_STYLE_SHADED);
     m_view.orbit(x, y);
     drawingChanged();
 }
@@ -200,6 +231,7 @@ bool DrawingWindow::handle(UINT message, WPARAM w, LPARAM l) {
             beginDrag(w & MK_SHIFT ? Drag::orbit : Drag::pan, at);
             return true;
         case WM_RBUTTONDOWN:
+            m_pressed = at;
             beginDrag(Drag::orbit, at);
             return true;
         case WM_MOUSEMOVE:
@@ -207,15 +239,16 @@ bool DrawingWindow::handle(UINT message, WPARAM w, LPARAM l) {
             return true;
         case WM_LBUTTONUP:
         case WM_MBUTTONUP:
-        case WM_RBUTTONUP:
             ReleaseCapture();
+            return true;
+        case WM_RBUTTONUP:
+            rightButtonUp(at);
             return true;
         case WM_CAPTURECHANGED:
             m_drag = Drag::none;
             return true;
         case WM_MBUTTONDBLCLK:
-            if (const cad::Block* block = shownBlock()) fit(*block, m_view.camera().back());
-            drawingChanged();
+            fit();
             return true;
         case WM_MOUSEWHEEL: {
             POINT inside = at;

@@ -1,6 +1,6 @@
 // Shows the current drawing in the main frame: a drag of the left or middle button pans, one of the right
 // button or with Shift orbits, the wheel zooms about the pointer, a double click of the middle button shows
-// all.
+// all. A click of the right button asks the main frame for a menu (WM_CONTEXTMENU).
 #pragma once
 
 #include <windows.h>
@@ -23,6 +23,16 @@ class DrawingWindow {
     void setDpi(int dpi);
     // Shows that block of the current drawing whole, seen against `direction`.
     void show(const cad::Block& block, const HostVector3d& direction);
+    // Whether there is anything to see; the next three do nothing where there isn't.
+    bool isEmpty();
+    // All of it, from where it is seen now, and seen against `direction`.
+    void fit();
+    void see(const HostVector3d& direction);
+    // HOST_STYLE_…
+    void setStyle(int style);
+    int style() const { return m_style; }
+    // From what is seen towards who looks at it; of length 1.
+    HostVector3d direction() { return m_view.camera().back(); }
     // By angles in radians towards the right and upward; by a factor; by pixels to the right and upward.
     void orbit(double x, double y);
     void zoom(double factor);
@@ -42,6 +52,7 @@ class DrawingWindow {
     // The block that is to be seen; null where no document is open.
     const cad::Block* shownBlock();
     void fit(const cad::Block& block, const HostVector3d& direction);
+    void rightButtonUp(POINT at);
     void beginDrag(Drag drag, POINT at);
     void dragTo(POINT at);
     void zoomAt(POINT at, double factor);
@@ -58,6 +69,8 @@ class DrawingWindow {
     cad::ObjectId m_asked = 0;
     cad::ObjectId m_shown = 0;
     bool m_wasEmpty = true;
+    int m_style = HOST_STYLE_WIREFRAME_2D;
     Drag m_drag = Drag::none;
     POINT m_last{};
+    POINT m_pressed{};  // where the right button went down; where it came up it is a click
 };

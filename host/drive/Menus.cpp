@@ -20,16 +20,12 @@ constexpr UINT MENU_OF_WINDOW = 0x01E1;
 constexpr int MENU_CLASS_CHARS = 8;
 constexpr wchar_t MENU_CLASS[] = L"#32768";
 
-struct Placed {
-    HWND window = nullptr;
-};
-
-BOOL CALLBACK takeFirstMenu(HWND window, LPARAM found) noexcept {
+BOOL CALLBACK takeMenu(HWND window, LPARAM found) noexcept {
     wchar_t name[MENU_CLASS_CHARS] = {};
     GetClassNameW(window, name, MENU_CLASS_CHARS);
-    if (lstrcmpW(name, MENU_CLASS) != 0 || !IsWindowVisible(window)) return TRUE;
-    reinterpret_cast<Placed*>(found)->window = window;
-    return FALSE;
+    if (lstrcmpW(name, MENU_CLASS) == 0 && IsWindowVisible(window))
+        reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
+    return TRUE;
 }
 
 // Of an item that draws itself the text stands where assistive programs look for it.
@@ -125,11 +121,22 @@ constexpr UiFunction FUNCTIONS[] = {{u"ui_menu", &menu, 0, 1}};
 
 }  // namespace
 
+std::vector<HWND> menuWindows() {
+    std::vector<HWND> found;
+    EnumThreadWindows(GetCurrentThreadId(), &takeMenu, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
 HMENU openMenu() {
-    Placed found;
-    EnumThreadWindows(GetCurrentThreadId(), &takeFirstMenu, reinterpret_cast<LPARAM>(&found));
-    if (!found.window) return nullptr;
-    return reinterpret_cast<HMENU>(SendMessageW(found.window, MENU_OF_WINDOW, 0, 0));
+    const std::vector<HWND> windows = menuWindows();
+    if (windows.empty()) return nullptr;
+    return reinterpret_cast<HMENU>(SendMessageW(windows.front(), MENU_OF_WINDOW, 0, 0));
+}
+
+bool worksMenu() {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetCurrentThreadId(), &info) && (info.flags & GUI_INMENUMODE);
 }
 
 std::vector<MenuItem> menuItems(HMENU menu) {

@@ -20,8 +20,12 @@ struct MenuItem {
     bool selected = false;
 };
 
+// The windows of the menus that show, the one that was opened last first.
+std::vector<HWND> menuWindows();
 // The menu that was opened last and still shows; null for none.
 HMENU openMenu();
+// Whether a menu's loop runs: that of a menu bar has no menu open at first.
+bool worksMenu();
 // Texts are read as an assistive program reads them, of items that draw themselves too.
 std::vector<MenuItem> menuItems(HMENU menu);
 

@@ -25,6 +25,10 @@ void report(const std::wstring& line, int status) {
     host().fail(status);
 }
 
+std::wstring named(const Session& session) {
+    return session.dialog().empty() ? L"session of the main frame" : L"session " + quoted(session.dialog());
+}
+
 std::wstring printed(lisp::Value form) { return wideText(host().lisp().print(form)); }
 
 }  // namespace
@@ -47,13 +51,30 @@ void Player::queue(std::unique_ptr<Session> session) {
 
 void Player::reportLeftovers() {
     for (const auto& session : m_queue.waiting()) {
-        report(L"session " + quoted(session->dialog()) + L": its dialog was never opened", LISP_ERROR);
+        report(named(*session) + L": its dialog was never opened", LISP_ERROR);
     }
 }
 
-// The plug-in names its newest dialog, and no other than the newest can be idle.
-bool Player::isPluginDialog(HWND dialog) const {
-    return documents().findWindow(nullptr, nullptr, -1) == dialog;
+// The plug-in names its newest dialog, and no other than the newest can be idle; without one the main frame.
+HWND Player::newestPlayable() const {
+    const HWND dialog = documents().findWindow(nullptr, nullptr, -1);
+    return dialog ? dialog : m_frame;
+}
+
+bool Player::hasFrameSession() const {
+    const auto& waiting = m_queue.waiting();
+    return std::any_of(waiting.begin(), waiting.end(),
+                       [](const auto& session) { return session->dialog().empty(); });
+}
+
+void Player::frameIdle(HWND frame) {
+    if (!m_plays) return;
+    m_frame = frame;
+    dialogIdle(frame);
+}
+
+void Player::frameLeft() {
+    if (m_frame) windowGone(m_frame);
 }
 
 // A menu runs a loop of its own, which tells nobody that it is idle. A timer's message comes when there is no
@@ -63,8 +84,8 @@ void Player::watchForMenu() {
 }
 
 void CALLBACK Player::menuTimer(HWND, UINT, UINT_PTR, DWORD) noexcept {
-    const HWND dialog = documents().findWindow(nullptr, nullptr, -1);
-    if (dialog && openMenu()) player().idle(dialog);
+    const HWND dialog = player().newestPlayable();
+    if (dialog && worksMenu()) player().idle(dialog);
 }
 
 void Player::dialogIdle(HWND dialog) {
@@ -75,9 +96,9 @@ void Player::dialogIdle(HWND dialog) {
 void Player::idle(HWND dialog) {
     host().console().flush();
     deliverHeldReleases(nullptr);
-    const bool isPlugins = isPluginDialog(dialog);
-    if (!isPlugins && isSystemDialog(dialog)) answer(dialog);
-    if (!doStep(dialog) && isPlugins) play(dialog);
+    const bool playable = isPlayable(dialog);
+    if (!playable && isSystemDialog(dialog)) answer(dialog);
+    if (!doStep(dialog) && playable) play(dialog);
 }
 
 bool Player::doStep(HWND dialog) {
@@ -90,13 +111,18 @@ bool Player::doStep(HWND dialog) {
     return true;
 }
 
+std::unique_ptr<Session> Player::takeSession(HWND dialog) {
+    return m_queue.take([=, this](const std::wstring& name) {
+        if (name.empty() || dialog == m_frame) return name.empty() && dialog == m_frame;
+        return documents().findWindow(name.c_str(), nullptr, -1) == dialog;
+    });
+}
+
 Player::Run& Player::runOf(HWND dialog) {
     const auto found =
         std::find_if(m_runs.begin(), m_runs.end(), [=](const Run& run) { return run.dialog == dialog; });
     if (found != m_runs.end()) return *found;
-    std::shared_ptr<Session> session = m_queue.take([=](const std::wstring& name) {
-        return documents().findWindow(name.c_str(), nullptr, -1) == dialog;
-    });
+    std::shared_ptr<Session> session = takeSession(dialog);
     if (!session && host().isHeadless()) {
         report(L"no session for dialog " + quoted(textOf(dialog)) + L", and nobody else to work it",
                STILL_OPEN);
@@ -117,8 +143,8 @@ void Player::play(HWND dialog) {
 
 void Player::evaluate(HWND dialog, Session& session) {
     const lisp::Value form = session.takeForm();
-    const std::wstring place = L"session " + quoted(session.dialog()) + L", step " +
-                               std::to_wstring(session.step()) + L": " + printed(form);
+    const std::wstring place =
+        named(session) + L", step " + std::to_wstring(session.step()) + L": " + printed(form);
     m_progress.set(place);
     m_repeat = false;
     m_evaluating.push_back(dialog);
@@ -147,6 +173,10 @@ void Player::wakeAgain(HWND dialog, bool waiting) {
 }
 
 void Player::closeLeftOpen(Run& run) {
+    if (run.dialog == m_frame) {
+        PostMessageW(m_frame, WM_CLOSE, 0, 0);
+        return;
+    }
     const std::wstring dialog = L"dialog " + quoted(textOf(run.dialog));
     if (run.closing) {
         report(dialog + L": the close box does not end it", STILL_OPEN);
@@ -182,6 +212,7 @@ void Player::answer(HWND box) {
 
 void Player::windowGone(HWND window) {
     std::erase(m_answered, window);
+    if (window == m_frame) m_frame = nullptr;
     m_steps.forget(window);
     deliverHeldReleases(window);
     const auto found =
@@ -193,7 +224,7 @@ void Player::windowGone(HWND window) {
     if (m_runs.empty())
         while (m_steps.doNext(nullptr)) continue;
     if (!run.session || run.session->isOver()) return;
-    report(L"session " + quoted(run.session->dialog()) + L": the dialog ended before step " +
+    report(named(*run.session) + L": the dialog ended before step " +
                std::to_wstring(run.session->step() + 1) + L": " + printed(run.session->nextForm()),
            LISP_ERROR);
 }

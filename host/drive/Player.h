@@ -21,7 +21,14 @@ class Player : public DialogObserver {
     bool plays() const { return m_plays; }
     void setPlays(bool plays);
 
+    // A session without a dialog's name is for the main frame, which closes at its end.
     void queue(std::unique_ptr<Session> session);
+    bool hasFrameSession() const;
+    // The loop of the main frame has run empty, and has been left.
+    void frameIdle(HWND frame);
+    void frameLeft();
+    // Whether that loop runs, while sessions are played.
+    bool playsFrame() const { return m_frame != nullptr; }
     // Reports sessions whose dialog never came up.
     void reportLeftovers();
 
@@ -53,7 +60,9 @@ class Player : public DialogObserver {
         bool closing = false;              // its close box was pressed
     };
 
-    bool isPluginDialog(HWND dialog) const;
+    HWND newestPlayable() const;
+    bool isPlayable(HWND dialog) const { return newestPlayable() == dialog; }
+    std::unique_ptr<Session> takeSession(HWND dialog);
     void idle(HWND dialog);
     Run& runOf(HWND dialog);
     bool doStep(HWND dialog);
@@ -67,6 +76,7 @@ class Player : public DialogObserver {
 
     bool m_plays = false;
     bool m_repeat = false;
+    HWND m_frame = nullptr;  // the main frame while its own loop runs
     UINT_PTR m_timer = 0;
     UINT_PTR m_menuTimer = 0;
     SessionQueue m_queue;

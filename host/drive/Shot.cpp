@@ -1,8 +1,14 @@
 #include "host/drive/Shot.h"
 
 #include <algorithm>
+#include <vector>
+
+#include "host/drive/Menus.h"
 
 namespace {
+
+// The grey of what is neither the window nor a menu.
+constexpr BYTE BESIDE_WINDOWS = 0xE0;
 
 // What a picture is copied into.
 class PictureSurface {
@@ -75,12 +81,9 @@ class NoCaret {
     BOOL m_hidden;
 };
 
-}  // namespace
-
 // Copying from the window's own surface gets its children too, and what other windows cover, but not what
 // lies off the screen: a window that isn't wholly on it is pushed across it, and back to where it was.
-Picture pictureOf(HWND window) {
-    const NoCaret noCaret;
+Picture pictureOfOne(HWND window) {
     RECT rect;
     GetWindowRect(window, &rect);
     const SIZE size = {rect.right - rect.left, rect.bottom - rect.top};
@@ -103,4 +106,36 @@ Picture pictureOf(HWND window) {
     }
     moveTo(window, {rect.left, rect.top});
     return surface.picture();
+}
+
+// Puts the picture on another one, with its left upper corner there.
+void paste(const Picture& from, POINT at, Picture& to) {
+    for (int y = 0; y < from.height; ++y)
+        std::copy_n(from.at(0, y), size_t{4} * from.width, to.at(at.x, at.y + y));
+}
+
+}  // namespace
+
+Picture pictureOf(HWND window) {
+    const NoCaret noCaret;
+    const std::vector<HWND> menus = menuWindows();
+    if (menus.empty()) return pictureOfOne(window);
+    std::vector<HWND> windows = {window};
+    windows.insert(windows.end(), menus.rbegin(), menus.rend());
+    RECT whole{};
+    for (const HWND each : windows) {
+        RECT rect;
+        GetWindowRect(each, &rect);
+        UnionRect(&whole, &whole, &rect);
+    }
+    Picture all(whole.right - whole.left, whole.bottom - whole.top);
+    std::fill(all.pixels.begin(), all.pixels.end(), BESIDE_WINDOWS);
+    for (const HWND each : windows) {
+        RECT rect;
+        GetWindowRect(each, &rect);
+        const Picture one = pictureOfOne(each);
+        if (one.pixels.empty()) return one;
+        paste(one, {rect.left - whole.left, rect.top - whole.top}, all);
+    }
+    return all;
 }

@@ -5,5 +5,6 @@
 
 #include "host/drive/Picture.h"
 
-// The whole window, its caption too, without the caret. Empty where there was no memory for it.
+// The whole window, its caption too, without the caret, and the menus that are open. Empty where there was no
+// memory for it.
 Picture pictureOf(HWND window);

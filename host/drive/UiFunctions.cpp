@@ -30,9 +30,10 @@ std::wstring wideArgument(Call& call, size_t index) { return wideText(call.text(
 
 Value text(Call& call, const std::wstring& text) { return call.lisp.string(lispText(text)); }
 
-// (ui_session "NAME" '(form ...))
+// (ui_session "NAME" '(form ...)); nil for the main frame
 Value session(Call& call) {
-    player().queue(std::make_unique<Session>(call.lisp, wideArgument(call, 0), call.list(1)));
+    const std::wstring name = call[0].isNil() ? L"" : wideArgument(call, 0);
+    player().queue(std::make_unique<Session>(call.lisp, name, call.list(1)));
     return Value::none();
 }
 

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 #include "host/services/Texts.h"
 
 namespace fs = std::filesystem;
@@ -20,6 +22,10 @@ bool isUnderWine() {
 fs::path systemPath(const std::wstring& path) {
     const bool isUnixPath = !path.empty() && path[0] == L'/';
     return isUnixPath && isUnderWine() ? fs::path(WHOLE_FILE_SYSTEM + path) : fs::path(path);
+}
+
+void HostFiles::addFolder(const fs::path& folder) {
+    if (std::find(m_folders.begin(), m_folders.end(), folder) == m_folders.end()) m_folders.push_back(folder);
 }
 
 fs::path HostFiles::resolve(std::u16string_view name) const { return systemPath(wideText(name)); }

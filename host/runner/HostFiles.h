@@ -21,6 +21,8 @@ class HostFiles : public lisp::FileAccess {
     void setListener(std::function<void(const std::filesystem::path& file)> listener) {
         m_listener = std::move(listener);
     }
+    // Has `find` look there too, behind the others.
+    void addFolder(const std::filesystem::path& folder);
 
     std::filesystem::path resolve(std::u16string_view name) const override;
     // Also under the name with `.lsp` behind it, where it has no extension.

@@ -148,6 +148,8 @@ class Parser {
             m_options.record = operand(argument);
         } else if (argument == L"--shots") {
             m_options.shotsFolder = operand(argument);
+        } else if (argument == L"--settings") {
+            m_options.settings = operand(argument);
         } else if (argument == L"--plugin") {
             m_options.plugin = operand(argument);
         } else if (argument == L"-e") {
@@ -186,6 +188,8 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --shots DIR        where ui_shot writes its pictures (the working folder)
   --approve          ui_same_shot takes how the dialogs look now as how they shall look
   --plugin PATH      the plug-in to load (WexDialogs.pgx beside wexhost.exe)
+  --settings FILE    what the main frame keeps for the next time (a file of the person's; while sessions
+                     play, nothing is kept without this option)
   --check            read the files as one program, run nothing, and tell what is wrong with them
   --language-server  serve an editor by the language server protocol, on standard input and output
   --dialogs [NAME]...

@@ -34,6 +34,8 @@ struct Options {
     std::wstring shotsFolder;
     std::wstring record;  // the file to record into; empty for none
     std::wstring plugin;
+    std::wstring
+        settings;  // the file that the main frame keeps its place and its history in; empty for the usual one
     std::wstring data;  // which database is open at the start; empty for none
     std::vector<std::wstring> supportFolders;
     std::vector<Step> steps;

@@ -15,6 +15,8 @@
 #include "host/drive/PictureFunctions.h"
 #include "host/drive/Player.h"
 #include "host/drive/UiFunctions.h"
+#include "host/frame/MainFrame.h"
+#include "host/frame/Prompt.h"
 #include "host/record/Recorder.h"
 #include "host/runner/CheckDialogs.h"
 #include "host/runner/CheckFiles.h"
@@ -23,9 +25,7 @@
 #include "host/runner/DataFunctions.h"
 #include "host/runner/HostFiles.h"
 #include "host/runner/HostFunctions.h"
-#include "host/runner/MainFrame.h"
 #include "host/runner/Options.h"
-#include "host/runner/Prompt.h"
 #include "host/runner/ServeEditor.h"
 #include "host/runner/ShowDialogs.h"
 #include "host/runner/TempFolder.h"
@@ -103,9 +103,17 @@ void openChosenData(const std::wstring& choice) {
     }
 }
 
-HWND makeMainFrame() {
-    static MainFrame& frame = *new MainFrame;
-    return frame.window();
+// The files that Lisp finds; the interpreter's.
+HostFiles* g_files = nullptr;
+MainFrame* g_mainFrame = nullptr;
+const Options* g_options = nullptr;
+
+// Where the main frame keeps what a person finds again. Sessions leave no traces of their own accord.
+std::filesystem::path settingsFile() {
+    if (!g_options->settings.empty()) return systemPath(g_options->settings);
+    const wchar_t* folder = _wgetenv(L"LOCALAPPDATA");
+    if (g_options->playsSessions() || !folder) return {};
+    return std::filesystem::path(folder) / L"WexHost" / L"frame.txt";
 }
 
 // The host's own kind of warning, beside those of plug-ins.
@@ -135,6 +143,7 @@ void makeTempFolder() {
 
 // A plug-in of which a function is being called can't be unloaded.
 void endHost() {
+    if (g_mainFrame) g_mainFrame->keepSettings();
     if (!CallFrame::current()) documents().closeAll();
     closeData();
     tempFolder().reset();
@@ -145,7 +154,11 @@ void startRecording(const Options& options) {
     if (!options.record.empty()) new Recorder(systemPath(options.record), recordingHead(options));
 }
 
+HWND makeMainFrame();
+lisp::Value workMainFrameForLisp(lisp::Call&);
+
 void startHost(const Options& options) {
+    g_options = &options;
     // For the services of the platform that plug-ins use on this thread, such as that of pictures.
     OleInitialize(nullptr);
     host().setMainFrame(&makeMainFrame);
@@ -157,8 +170,11 @@ void startHost(const Options& options) {
     player().setPlays(options.playsSessions());
     lisp::Interpreter& lisp = host().lisp();
     lisp.setOutput([](std::u16string_view text) { host().console().print(wideText(text)); });
-    lisp.setFileAccess(filesFor(options));
+    auto files = filesFor(options);
+    g_files = files.get();
+    lisp.setFileAccess(std::move(files));
     defineHostFunctions(lisp);
+    lisp.defineNative(u"host_main_frame", &workMainFrameForLisp, nullptr, 0, 0);
     defineDrawingFunctions(lisp);
     defineUiFunctions(lisp);
     setPictureChoices({systemPath(options.shotsFolder).wstring(), options.approve});
@@ -186,21 +202,49 @@ bool runStep(const Options::Step& step) {
     return false;
 }
 
+void runProgram(const std::wstring& path) {
+    g_files->addFolder(std::filesystem::path(path).parent_path());
+    runStep({false, path});
+    rollBackLeftover(path);
+}
+
+MainFrame& mainFrame() {
+    if (!g_mainFrame) g_mainFrame = new MainFrame({&runProgram, &dialogNames}, settingsFile());
+    return *g_mainFrame;
+}
+
+HWND makeMainFrame() { return mainFrame().window(); }
+
 // Whether the main frame still stands.
 bool dispatchWaitingMessages() {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) return false;
+        if (g_mainFrame && g_mainFrame->translate(message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
     return true;
 }
 
+// Until the frame is closed.
 void workMainFrame() {
+    mainFrame().showOutput();
+    while (dispatchWaitingMessages()) {
+        player().frameIdle(host().mainFrame());
+        WaitMessage();
+    }
+    player().frameLeft();
+}
+
+// (host_main_frame): the person works the main frame, or its session does, until it is closed.
+lisp::Value workMainFrameForLisp(lisp::Call&) {
+    if (player().playsFrame()) throw lisp::Error(u"the main frame is being worked already");
+    if (host().isHeadless() && !player().hasFrameSession())
+        throw lisp::Error(u"the main frame has no session, and nobody else to work it");
     host().mainFrame();
-    host().console().print(GREETING);
-    while (dispatchWaitingMessages()) WaitMessage();
+    workMainFrame();
+    return lisp::Value::none();
 }
 
 void printPrompt(const Prompt& prompt) {
@@ -235,6 +279,8 @@ void work(const Options& options) {
     if (options.interactive) {
         workTerminal();
     } else if (options.steps.empty()) {
+        host().mainFrame();
+        if (!player().plays()) host().console().print(GREETING);
         workMainFrame();
     }
     player().reportLeftovers();

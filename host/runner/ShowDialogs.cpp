@@ -50,6 +50,14 @@ void printTiles(const ListedDialog& dialog, const std::vector<IconCaption>& capt
 
 }  // namespace
 
+std::vector<std::wstring> dialogNames() {
+    const ResourceModules modules = loadResourceModules({});
+    std::vector<std::wstring> names;
+    for (const ListedDialog& dialog : listDialogs(modules.asked))
+        if (dialog.layout) names.push_back(dialog.name);
+    return names;
+}
+
 int showDialogs(std::span<const std::wstring> names) {
     const ResourceModules modules = loadResourceModules({});
     const std::vector<ListedDialog> dialogs = listDialogs(modules.asked);

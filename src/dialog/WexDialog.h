@@ -2,11 +2,11 @@
 // the Lisp program says of its tiles waits in their records.
 #pragma once
 
-#include "src/buttons/CThemeHelperST.h"
 #include "src/dialog/CSnapDlg.h"
 #include "src/dialog/DialogRegistry.h"
 #include "src/dialog/TileControl.h"
 #include "src/dialog/TileRecords.h"
+#include "src/platform/buttons/CThemeHelperST.h"
 #include "src/shell/DialogSource.h"
 #include "src/shell/LispCall.h"
 

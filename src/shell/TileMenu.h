@@ -5,7 +5,7 @@
 //     switch (menu.choose(*this, l, rectOfFocusedItem)) …      // in WM_CONTEXTMENU
 #pragma once
 
-#include "src/buttons/BCMenu.h"
+#include "src/platform/buttons/BCMenu.h"
 #include "src/platform/mfc/CWnd.h"
 
 // Numbers of texts of the resource module.

@@ -1,10 +1,10 @@
 // A button that its caption turned into an image button.
 #pragma once
 
-#include "src/buttons/CXPStyleButtonST.h"
 #include "src/dialog/ButtonState.h"
 #include "src/dialog/Pressable.h"
 #include "src/dialog/TileControl.h"
+#include "src/platform/buttons/CXPStyleButtonST.h"
 
 // It never ends the dialog by itself, whatever its id, and its clicks are not guarded.
 class WexButtonSt : public CXPStyleButtonST, public TileControl, public Pressable {

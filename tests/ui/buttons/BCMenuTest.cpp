@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "src/buttons/BCMenu.h"
+#include "src/platform/buttons/BCMenu.h"
 
 namespace {
 

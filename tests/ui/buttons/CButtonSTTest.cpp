@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "src/buttons/CXPStyleButtonST.h"
+#include "src/platform/buttons/CXPStyleButtonST.h"
 
 #include <commctrl.h>
 

@@ -36,15 +36,21 @@ TEST(Runner, ThePromptGoesOnOverLinesAndErrors) {
 
 // 13 is Enter, 38 and 40 are Up and Down, 27 is Esc.
 TEST(Runner, TheMainFramesCommandLineEvaluatesAndRemembers) {
-    const HostRun run = runHost(
-        {L"--timeout", L"20", L"-e",
-         L"(progn (t_command \"(setq x 5)\" 13) (t_command \"(+ x\" 13) (t_command \"2)\" 13)"
-         L"(setq seen (t_command \"typed\" 38)) (foreach key '(38 38 40 40 40 27) (setq seen (cons (car "
-         L"(t_command \"\" key)) seen))) (prin1 (reverse seen)))"});
-    EXPECT_EQ(run.output,
+    const TempFile settings(L"kept-by-frame.txt");
+    const auto run = [&](const wchar_t* expression) {
+        return runHost({L"--timeout", L"20", L"--settings", settings.path.wstring(), L"-e", expression});
+    };
+    const HostRun first =
+        run(L"(progn (t_command \"(setq x 5)\" 13) (t_command \"(+ x\" 13) (t_command \"2)\" 13)"
+            L"(setq seen (t_command \"typed\" 38)) (foreach key '(38 38 40 40 40 27) (setq seen (cons (car "
+            L"(t_command \"\" key)) seen))) (prin1 (reverse seen)))");
+    EXPECT_EQ(first.output,
               "Command: (setq x 5)\n5\nCommand: (+ x\nmore: 2)\n7\n"
               "(\"Command: (setq x 5)\\r\\n5\\r\\nCommand: (+ x\\r\\nmore: 2)\\r\\n7\\r\\n\" \"2)\" \"(+ x\" "
               "\"(setq x 5)\" \"(+ x\" \"2)\" \"typed\" \"\")");
+    // The next run has the lines of this one.
+    EXPECT_EQ(first.errors, "");
+    EXPECT_EQ(run(L"(prin1 (car (t_command \"\" 38)))").output, "\"2)\"");
 }
 
 TEST(Runner, AlertsAndMessageBoxesAreAnsweredAndRecorded) {

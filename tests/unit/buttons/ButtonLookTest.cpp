@@ -1,4 +1,4 @@
-#include "src/buttons/ButtonLook.h"
+#include "src/platform/buttons/ButtonLook.h"
 
 #include <gtest/gtest.h>
 

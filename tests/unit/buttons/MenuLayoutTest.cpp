@@ -1,4 +1,4 @@
-#include "src/buttons/MenuLayout.h"
+#include "src/platform/buttons/MenuLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,44 @@
+// A push button that draws itself, with an icon beside or instead of its text.
+#pragma once
+
+#include "src/platform/buttons/ButtonIcon.h"
+#include "src/platform/buttons/ButtonLook.h"
+#include "src/platform/mfc/Controls.h"
+
+class CButtonST : public CButton {
+    DECLARE_DYNAMIC(CButtonST)
+
+  public:
+    // Shows that icon, which is the button's from now on; null shows none.
+    void SetIcon(HICON icon);
+    // Says what the button does, in a box that appears when the pointer rests on it; empty for none.
+    void setTip(const CString& tip) { m_tip = tip; }
+    // How icon and text stand to each other. There is one way: 0, the icon on the left.
+    void SetAlign(int align);
+
+    ButtonState state() const;
+
+  protected:
+    // The push button draws itself from now on.
+    void attached() override;
+    const MessageMap& messageMap() const override;
+    // Draws the face with what lies behind it, and takes its border off `content`.
+    virtual void drawFace(HDC dc, const ButtonState& state, RECT& content);
+
+  private:
+    void onDrawItem(DRAWITEMSTRUCT* item);
+    void drawContent(HDC dc, const ButtonState& state, const RECT& content) const;
+    void makeTipWindow();
+    void onMouseMove(UINT keys, POINT at);
+    void onMouseLeave();
+    LRESULT onSetStyle(WPARAM style, LPARAM redraw);
+    LRESULT onGetDlgCode(WPARAM key, LPARAM message);
+    LRESULT onDoubleClick(WPARAM keys, LPARAM at);
+    LRESULT onEraseBackground(HDC dc);
+
+    ButtonIcon m_icon;
+    CString m_tip;
+    bool m_hasTipWindow = false;
+    bool m_hover = false;
+    bool m_default = false;
+};

@@ -1,0 +1,20 @@
+#include "src/platform/buttons/CThemeHelperST.h"
+
+#include <vssym32.h>
+
+#include <utility>
+
+bool CThemeHelperST::drawPushButton(HWND button, HDC dc, ButtonFace face, RECT& content) {
+    if (!m_theme && IsThemeActive()) m_theme = OpenThemeData(button, L"BUTTON");
+    if (!m_theme) return false;
+    const RECT whole = content;
+    const int state = static_cast<int>(face);
+    DrawThemeParentBackground(button, dc, nullptr);
+    DrawThemeBackground(m_theme, dc, BP_PUSHBUTTON, state, &whole, nullptr);
+    GetThemeBackgroundContentRect(m_theme, dc, BP_PUSHBUTTON, state, &whole, &content);
+    return true;
+}
+
+void CThemeHelperST::close() {
+    if (m_theme) CloseThemeData(std::exchange(m_theme, nullptr));
+}
