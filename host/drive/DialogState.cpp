@@ -1,5 +1,7 @@
 #include "host/drive/DialogState.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <optional>
 #include <sstream>

@@ -1,5 +1,7 @@
 #include "src/dialog/Anchors.h"
 
+#include <initializer_list>
+
 bool isAnchorCode(int code) {
     int rest = code;
     for (const int weight : {300, 150, 75, 38, 25, 10, 1})
