@@ -1,4 +1,6 @@
 // What the main frame does when a command is chosen, and what its menus hold.
+#include <windows.h>
+
 #include <commdlg.h>
 #include <shellapi.h>
 
