@@ -44,6 +44,8 @@ echo "$(nproc) cores, $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -n 1)
     "$root/bench/databases.sh"
     "$root/bench/start.sh"
     "$root/bench/check.sh"
+    "$root/bench/watch.sh"
+    "$root/bench/warnings.sh"
     "$root/tools/package.sh" "$packed" | sed 's/.*\///; s/^/package  /'
 } | tr -d '\r' | tee "$rows"
 

@@ -4,6 +4,12 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . tools/wine-env.sh
 
+# Drawn buttons beside the platform's, with the pixels of that display.
+buttons() (
+    start_wine "$1"
+    wine64 build/windows/tests/buttons_ui_test.exe --gtest_brief=1 --gtest_filter='ButtonBeside*'
+)
+
 # sessions KIND SCALE SESSION…
 sessions() (
     start_wine "$1"
@@ -11,6 +17,8 @@ sessions() (
         -e '(report-tests)'
 )
 
+buttons headless-classic
+buttons headless-144
 all=(tests/ui/{list_control,tabs,image_buttons,images,rows,report}.lsp)
 sessions headless-classic 1.0 "${all[@]}"
 sessions headless-144 1.5 "${all[@]}"

@@ -10,9 +10,8 @@ IMPLEMENT_DYNAMIC(CButtonST, CButton)
 
 namespace {
 
-// Between icon and text, and from the border to the focus rectangle, in pixels at 96 dots per inch.
+// Between icon and text, in pixels at 96 dots per inch.
 constexpr int GAP = 4;
-constexpr int FOCUS_INSET = 1;
 
 int scaled(HDC dc, int pixels) {
     return MulDiv(pixels, GetDeviceCaps(dc, LOGPIXELSX), USER_DEFAULT_SCREEN_DPI);
@@ -24,14 +23,19 @@ ButtonBox boxOf(const RECT& rect) {
 
 RECT rectOf(const ButtonBox& box) { return {box.left, box.top, box.left + box.width, box.top + box.height}; }
 
-void drawClassicFace(HDC dc, const ButtonState& state, RECT& content) {
+ButtonGround drawClassicFace(HDC dc, const ButtonState& state, RECT content) {
     FillRect(dc, &content, GetSysColorBrush(COLOR_3DFACE));
     if (state.isDefault && !state.disabled) {
         FrameRect(dc, &content, GetSysColorBrush(COLOR_WINDOWFRAME));
         InflateRect(&content, -1, -1);
     }
-    DrawFrameControl(dc, &content, DFC_BUTTON, DFCS_BUTTONPUSH | (state.pressed ? DFCS_PUSHED : 0));
+    const UINT down = state.isDefault ? DFCS_FLAT : DFCS_PUSHED;
+    DrawFrameControl(dc, &content, DFC_BUTTON, DFCS_BUTTONPUSH | (state.pressed ? down : 0));
+    RECT focus = content;
+    InflateRect(&focus, -2, -2);
     InflateRect(&content, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+    if (!state.disabled) return {content, focus, GetSysColor(COLOR_BTNTEXT)};
+    return {content, focus, GetSysColor(COLOR_3DSHADOW), GetSysColor(COLOR_3DHILIGHT)};
 }
 
 }  // namespace
@@ -68,8 +72,8 @@ ButtonState CButtonST::state() const {
     return {!IsWindowEnabled(m_hWnd), pressed, m_hover, m_default, ::GetFocus() == m_hWnd};
 }
 
-void CButtonST::drawFace(HDC dc, const ButtonState& state, RECT& content) {
-    drawClassicFace(dc, state, content);
+ButtonGround CButtonST::drawFace(HDC dc, const ButtonState& state, const RECT& area) {
+    return drawClassicFace(dc, state, area);
 }
 
 void CButtonST::onDrawItem(DRAWITEMSTRUCT* item) {
@@ -77,37 +81,34 @@ void CButtonST::onDrawItem(DRAWITEMSTRUCT* item) {
     ButtonState now = state();
     now.pressed = item->itemState & ODS_SELECTED;
     const MemoryDC picture(item->hDC, area.right, area.bottom);
-    RECT content = area;
-    drawFace(picture, now, content);
-    drawContent(picture, now, content);
+    drawContent(picture, now, drawFace(picture, now, area));
     picture.copyTo(item->hDC, 0, 0);
 }
 
-void CButtonST::drawContent(HDC dc, const ButtonState& state, const RECT& content) const {
+void CButtonST::drawContent(HDC dc, const ButtonState& state, const ButtonGround& ground) const {
     const SelectedObject font(dc, GetFont() ? GetFont() : GetStockObject(DEFAULT_GUI_FONT));
     const auto hidden = static_cast<UINT>(SendMessage(WM_QUERYUISTATE));
-    const UINT format =
-        DT_SINGLELINE | DT_END_ELLIPSIS | DT_VCENTER | (hidden & UISF_HIDEACCEL ? DT_HIDEPREFIX : 0);
+    const UINT format = DT_SINGLELINE | DT_END_ELLIPSIS | DT_VCENTER | DT_NOCLIP |
+                        (hidden & UISF_HIDEACCEL ? DT_HIDEPREFIX : 0);
     const CString text = GetWindowText();
     RECT measured = {};
     if (!text.empty()) DrawTextW(dc, text.c_str(), -1, &measured, DT_SINGLELINE | DT_CALCRECT);
-    ButtonParts parts =
-        placeButtonParts(boxOf(content), m_icon.size(), {measured.right, measured.bottom}, scaled(dc, GAP));
-    if (state.pressed) {
-        for (ButtonBox* part : {&parts.icon, &parts.text}) {
-            ++part->left;
-            ++part->top;
-        }
-    }
+    const ButtonParts parts = placeButtonParts(boxOf(ground.content), m_icon.size(),
+                                               {measured.right, measured.bottom}, scaled(dc, GAP));
     m_icon.draw(dc, parts.icon.left, parts.icon.top, state.disabled);
     SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, GetSysColor(state.disabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT));
-    RECT textRect = rectOf(parts.text);
-    if (!text.empty()) DrawTextW(dc, text.c_str(), -1, &textRect, format);
-    if (!state.focused || hidden & UISF_HIDEFOCUS) return;
-    RECT focus = content;
-    InflateRect(&focus, -scaled(dc, FOCUS_INSET), -scaled(dc, FOCUS_INSET));
-    DrawFocusRect(dc, &focus);
+    if (!text.empty()) {
+        RECT place = rectOf(parts.text);
+        if (ground.edge != CLR_INVALID) {
+            RECT below = place;
+            OffsetRect(&below, 1, 1);
+            SetTextColor(dc, ground.edge);
+            DrawTextW(dc, text.c_str(), -1, &below, format);
+        }
+        SetTextColor(dc, ground.text);
+        DrawTextW(dc, text.c_str(), -1, &place, format);
+    }
+    if (state.focused && !(hidden & UISF_HIDEFOCUS)) DrawFocusRect(dc, &ground.focus);
 }
 
 // Made when the pointer first comes, since most dialogs end before that. It goes with the dialog, its owner.

@@ -5,6 +5,15 @@
 #include "src/platform/buttons/ButtonLook.h"
 #include "src/platform/mfc/Controls.h"
 
+// What a button's face leaves to be drawn on it: where icon and text stand, where the focus shows, and the
+// text's color, with that of the light edge below it where it has one.
+struct ButtonGround {
+    RECT content;
+    RECT focus;
+    COLORREF text;
+    COLORREF edge = CLR_INVALID;
+};
+
 class CButtonST : public CButton {
     DECLARE_DYNAMIC(CButtonST)
 
@@ -22,12 +31,12 @@ class CButtonST : public CButton {
     // The push button draws itself from now on.
     void attached() override;
     const MessageMap& messageMap() const override;
-    // Draws the face with what lies behind it, and takes its border off `content`.
-    virtual void drawFace(HDC dc, const ButtonState& state, RECT& content);
+    // Draws the face over `area` with what lies behind it.
+    virtual ButtonGround drawFace(HDC dc, const ButtonState& state, const RECT& area);
 
   private:
     void onDrawItem(DRAWITEMSTRUCT* item);
-    void drawContent(HDC dc, const ButtonState& state, const RECT& content) const;
+    void drawContent(HDC dc, const ButtonState& state, const ButtonGround& ground) const;
     void makeTipWindow();
     void onMouseMove(UINT keys, POINT at);
     void onMouseLeave();

@@ -14,9 +14,10 @@ class CThemeHelperST {
     CThemeHelperST(const CThemeHelperST&) = delete;
     CThemeHelperST& operator=(const CThemeHelperST&) = delete;
 
-    // Draws a push button's face with what lies behind it, and takes its border off `content`. False, with
-    // nothing drawn, where no theme is active.
-    bool drawPushButton(HWND button, HDC dc, ButtonFace face, RECT& content);
+    // Draws a push button's face over `content` with what lies behind it, takes its border off `content`, and
+    // tells where the theme shows the focus and the color of its text. False, with nothing drawn, where no
+    // theme is active.
+    bool drawPushButton(HWND button, HDC dc, ButtonFace face, RECT& content, RECT& focus, COLORREF& text);
     // The theme has changed: it is looked up anew.
     void close();
 

@@ -13,9 +13,12 @@ const MessageMap& CXPStyleButtonST::messageMap() const {
     return map;
 }
 
-void CXPStyleButtonST::drawFace(HDC dc, const ButtonState& state, RECT& content) {
-    if (m_themeHelper && m_themeHelper->drawPushButton(m_hWnd, dc, buttonFace(state), content)) return;
-    CButtonST::drawFace(dc, state, content);
+ButtonGround CXPStyleButtonST::drawFace(HDC dc, const ButtonState& state, const RECT& area) {
+    ButtonGround ground{area, area, 0};
+    if (m_themeHelper && m_themeHelper->drawPushButton(m_hWnd, dc, buttonFace(state), ground.content,
+                                                       ground.focus, ground.text))
+        return ground;
+    return CButtonST::drawFace(dc, state, area);
 }
 
 void CXPStyleButtonST::onThemeChanged() {

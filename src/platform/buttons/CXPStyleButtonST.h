@@ -14,7 +14,7 @@ class CXPStyleButtonST : public CButtonST {
 
   protected:
     const MessageMap& messageMap() const override;
-    void drawFace(HDC dc, const ButtonState& state, RECT& content) override;
+    ButtonGround drawFace(HDC dc, const ButtonState& state, const RECT& area) override;
 
   private:
     void onThemeChanged();
