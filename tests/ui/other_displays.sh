@@ -13,6 +13,7 @@ buttons() (
 # sessions KIND SCALE SESSION…
 sessions() (
     start_wine "$1"
+    forget_dialog_sizes
     wine64 build/windows/testbin/wexhost.exe --headless --timeout 300 -e "(setq scale $2)" tests/support/check.lsp "${@:3}" \
         -e '(report-tests)'
 )

@@ -147,7 +147,8 @@ TEST(DialogFindings, textIsMeasuredWhereItIsShownWhole) {
                   control(116, L"Edit", L"scrolls"), control(117, L"Button", L"Push")},
                  tooLong),
         {L"control 110 cuts off its text \"Long\""});
-    EXPECT_EQ(measured, (std::vector<std::wstring>{L"Long wraps 40", L"Line 40", L"Check 28", L"Push 36"}));
+    EXPECT_EQ(measured,
+              (std::vector<std::wstring>{L"Long wraps 40", L"Line 40", L"Check 28", L"Ag 40", L"Push 36"}));
 }
 
 }  // namespace
