@@ -53,9 +53,9 @@
       (if alone (want T (near (car middle) (car size) (icon-side)))
                 (want T (< (car middle) (car size)))))))
 
-; One point to the right and down; a corner more or less may count.
-(defun want-moved (from to)
-  (foreach by (mapcar '- (middle-of to) (middle-of from)) (want T (near by 2 1))))
+; At one place, as in the platform's button, whose face alone changes; a corner more or less may count.
+(defun want-in-place (from to)
+  (foreach by (mapcar '- (middle-of to) (middle-of from)) (want T (near by 0 1))))
 
 ; All looks of one button. The focus comes by the keyboard, since only then it is shown.
 (defun looks (tile color alone)
@@ -71,7 +71,8 @@
     (want nil (equal up focused))
     (ui_hold tile-now)
     (setq pressed (picture tile-now))
-    (want-moved up-box (color-box color-now pressed))
+    (want nil (equal pressed focused))
+    (want-in-place up-box (color-box color-now pressed))
     (ui_release tile-now)
     (want focused (picture tile-now))
     (wex_mode_tile tile-now 1)
