@@ -45,19 +45,20 @@ std::wstring quoted(const std::wstring& argument) {
     return text.append(slashes, L'\\') + L'"';
 }
 
+// The library's own question for a time of writing knows whole seconds only, too few for two saves in a row.
 struct Stamp {
-    fs::file_time_type time;
-    uintmax_t size = 0;
+    uint64_t time = 0;
+    uint64_t size = 0;
     bool operator==(const Stamp&) const = default;
 };
 
 // Nothing while there is no such file, as between the two steps of a save by renaming.
 std::optional<Stamp> stampOf(const fs::path& file) {
-    std::error_code error;
-    Stamp stamp{fs::last_write_time(file, error), 0};
-    if (error) return std::nullopt;
-    stamp.size = fs::file_size(file, error);
-    return error ? std::nullopt : std::optional(stamp);
+    WIN32_FILE_ATTRIBUTE_DATA found{};
+    if (!GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &found)) return std::nullopt;
+    const auto joined = [](DWORD high, DWORD low) { return static_cast<uint64_t>(high) << 32 | low; };
+    return Stamp{joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime),
+                 joined(found.nFileSizeHigh, found.nFileSizeLow)};
 }
 
 bool isLisp(const fs::path& file) { return file.extension() == L".lsp"; }
