@@ -204,7 +204,7 @@ struct Aspect {
     void (*set)(HWND control, const std::wstring& value);
 };
 
-constexpr Aspect aspects[] = {
+constexpr Aspect ASPECTS[] = {
     {L"1page", page, setPage},        {L"2open", openBranches, setOpenBranches},
     {L"3check", check, setCheck},     {L"4selected", selected, setSelected},
     {L"4text", enteredText, setText}, {L"5first", firstInView, setFirstInView},
@@ -248,7 +248,7 @@ DialogState dialogState(HWND dialog) {
                 static_cast<int>(rect.right - rect.left), static_cast<int>(rect.bottom - rect.top)});
     for (HWND control = GetWindow(dialog, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
         const int id = GetDlgCtrlID(control);
-        for (const Aspect& aspect : aspects)
+        for (const Aspect& aspect : ASPECTS)
             if (const auto value = aspect.get(control)) state[keyOf(aspect.name, id)] = *value;
         addCells(state, control);
     }
@@ -280,7 +280,7 @@ void restoreState(HWND dialog, const DialogState& state) {
         if (!control) continue;
         if (what == CELL && numbers.size() == 3 && gridOf(control))
             setCell(numbers[0], {numbers[1], numbers[2]}, value);
-        for (const Aspect& aspect : aspects)
+        for (const Aspect& aspect : ASPECTS)
             // A control of another kind has come in its place.
             if (what == aspect.name && aspect.get(control)) aspect.set(control, value);
     }

@@ -13,6 +13,7 @@
 #include "host/runner/HostFiles.h"
 #include "host/runner/TempFolder.h"
 #include "host/runner/WatchLink.h"
+#include "host/services/CommandLine.h"
 #include "host/services/Host.h"
 #include "host/services/ProgramFolder.h"
 #include "host/services/Texts.h"
@@ -32,18 +33,6 @@ constexpr DWORD PATIENCE_MILLISECONDS = 3000;
 HANDLE g_stop = nullptr;
 
 BOOL WINAPI stop(DWORD) noexcept { return SetEvent(g_stop); }
-
-// As the program's command line is taken apart again.
-std::wstring quoted(const std::wstring& argument) {
-    std::wstring text = L"\"";
-    size_t slashes = 0;
-    for (const wchar_t c : argument) {
-        if (c == L'"') text.append(slashes + 1, L'\\');
-        slashes = c == L'\\' ? slashes + 1 : 0;
-        text += c;
-    }
-    return text.append(slashes, L'\\') + L'"';
-}
 
 // The library's own question for a time of writing knows whole seconds only, too few for two saves in a row.
 struct Stamp {
@@ -105,10 +94,10 @@ class Watch {
     Watch(const Options& options, std::span<const std::wstring> arguments)
         : m_link(std::to_wstring(GetCurrentProcessId())),
           m_end(CreateEventW(nullptr, TRUE, FALSE, endEventName(m_link).c_str())) {
-        m_commandLine = quoted((programFolder() / L"wexhost.exe").wstring()) + L" --watched=" +
-                        quoted(m_link + L"=" + folder().wstring());
+        m_commandLine = quotedArgument((programFolder() / L"wexhost.exe").wstring()) + L" --watched=" +
+                        quotedArgument(m_link + L"=" + folder().wstring());
         for (const std::wstring& argument : arguments)
-            if (argument != L"--watch") m_commandLine += L" " + quoted(argument);
+            if (argument != L"--watch") m_commandLine += L" " + quotedArgument(argument);
         for (const Options::Step& step : options.steps)
             if (!step.isExpression) m_files.add(fs::absolute(systemPath(step.text)));
         const fs::path plugin =

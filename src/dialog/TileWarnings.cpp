@@ -13,7 +13,7 @@ struct KindWord {
     const wchar_t* word;
 };
 
-constexpr KindWord kindWords[] = {
+constexpr KindWord KIND_WORDS[] = {
     {L"Button", L"a button"},
     {L"Edit", L"an edit box"},
     {L"Static", L"a text"},
@@ -27,10 +27,10 @@ constexpr KindWord kindWords[] = {
 };
 
 const wchar_t* kindWord(const CString& className) {
-    const auto found = std::find_if(std::begin(kindWords), std::end(kindWords), [&](const KindWord& kind) {
+    const auto found = std::find_if(std::begin(KIND_WORDS), std::end(KIND_WORDS), [&](const KindWord& kind) {
         return equalIgnoringCase(kind.className, className);
     });
-    return found == std::end(kindWords) ? L"of another kind" : found->word;
+    return found == std::end(KIND_WORDS) ? L"of another kind" : found->word;
 }
 
 CStringArray spelledKeys(const WexDialog& dialog) {

@@ -8,10 +8,10 @@ constexpr wchar_t BACKSPACE = 8;
 constexpr wchar_t ESCAPE = 27;
 
 // In the order of the unit codes.
-constexpr std::array<std::wstring_view, 5> numericChars = {
+constexpr std::array<std::wstring_view, 5> NUMERIC_CHARACTERS = {
     L"Ee+0123456789.-", L"0123456789.-", L"0123456789./' \"-", L"0123456789./' \"-", L"0123456789./-",
 };
-constexpr std::array<std::wstring_view, 5> angularChars = {
+constexpr std::array<std::wstring_view, 5> ANGULAR_CHARACTERS = {
     L"0123456789.-",   L"Dd0123456789.'\"-",          L"Gg0123456789.-",
     L"Rr0123456789.-", L"DdNnSsEeWw 0123456789.'\"-",
 };
@@ -20,7 +20,7 @@ constexpr std::array<std::wstring_view, 5> angularChars = {
 
 std::optional<std::wstring_view> validChars(EditMode mode, int unit) {
     if (unit < 1 || unit > 5 || mode == EditMode::plain) return std::nullopt;
-    return (mode == EditMode::numeric ? numericChars : angularChars)[unit - 1];
+    return (mode == EditMode::numeric ? NUMERIC_CHARACTERS : ANGULAR_CHARACTERS)[unit - 1];
 }
 
 TypedChar filterChar(wchar_t typed, std::wstring_view valid) {

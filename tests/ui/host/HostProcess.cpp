@@ -6,24 +6,14 @@
 #include <fstream>
 #include <iterator>
 
+#include "host/services/CommandLine.h"
+
 namespace fs = std::filesystem;
 
 namespace {
 
 // No test needs longer, and none may hang.
 constexpr wchar_t TIMEOUT_SECONDS[] = L"30";
-
-// As the C run-time of the started program takes it apart again.
-std::wstring quoted(const std::wstring& argument) {
-    std::wstring text = L"\"";
-    size_t backslashes = 0;
-    for (const wchar_t c : argument) {
-        if (c == L'"') text.append(backslashes + 1, L'\\');
-        backslashes = c == L'\\' ? backslashes + 1 : 0;
-        text += c;
-    }
-    return text.append(backslashes, L'\\') + L"\"";
-}
 
 // A file that the started program takes as one of its standard streams.
 class Stream {
@@ -78,8 +68,8 @@ std::wstring buildFolder() {
 
 HostRun startHost(const wchar_t* folder, const std::vector<std::wstring>& arguments,
                   const std::string& input) {
-    std::wstring command = quoted(buildFolder() + L'\\' + folder + L"\\wexhost.exe");
-    for (const std::wstring& argument : arguments) command += L" " + quoted(argument);
+    std::wstring command = quotedArgument(buildFolder() + L'\\' + folder + L"\\wexhost.exe");
+    for (const std::wstring& argument : arguments) command += L" " + quotedArgument(argument);
 
     const Stream in(L"in.txt");
     const Stream out(L"out.txt");
