@@ -20,7 +20,7 @@ class CodeWalk {
 
   protected:
     // A call by name, when its arguments have been walked; `name` is the symbol, `count` the number of
-    // arguments where it is known, and `arguments` the call's form, null where the call comes from a function
+    // arguments where it is known, and the form that of the call, null where the call comes from a function
     // such as mapcar.
     virtual void onCall(const Form&, const Form*, std::optional<size_t>, Flow&) {}
     // What an argument of a call is: itself where it is literal, each element where it goes through a literal

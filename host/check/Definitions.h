@@ -18,11 +18,11 @@ class Definitions : public CodeWalk {
         const ProgramFile* file = nullptr;
     };
 
-    // The openings of dialogs that stand in the program by name, in the program's order, and whether it opens
-    // others too.
     // Walks the program until nothing more comes to light.
     void collect(const std::vector<ProgramFile*>& files);
 
+    // The openings of dialogs that stand in the program by name, in the program's order, and whether it opens
+    // others too.
     const std::vector<Opening>& openings() const { return m_openings; }
     bool opensOthers() const { return m_opensOthers; }
     // Whether a string of the program, but for the names of sessions, is that text. In any letter case.

@@ -37,7 +37,7 @@ class StretchReader {
         m_open.push_back({});
     }
 
-    // `mendsString` ends a string that was left open at the end of the line that `stringEnd` stands in.
+    // The string that begins at `mendAt` was left open: it ends at `mendEnd`.
     void read(size_t mendAt = std::u16string_view::npos, size_t mendEnd = 0) {
         m_mendAt = mendAt;
         m_mendEnd = mendEnd;

@@ -204,11 +204,6 @@ void Knowledge::add(Dialog dialog) {
     m_dialogs.emplace(std::move(name), std::move(dialog));
 }
 
-const Function* Knowledge::function(std::u16string_view name) const {
-    const auto at = m_functions.find(lisp::upperCase(name));
-    return at == m_functions.end() ? nullptr : &at->second;
-}
-
 const Dialog* Knowledge::dialog(std::u16string_view name) const {
     const auto at = m_dialogs.find(lisp::upperCase(name));
     return at == m_dialogs.end() ? nullptr : &at->second;

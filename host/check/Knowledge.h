@@ -78,7 +78,6 @@ class Knowledge {
     void add(Dialog dialog);
 
     // In any letter case; null where there is none.
-    const Function* function(std::u16string_view name) const;
     const Dialog* dialog(std::u16string_view name) const;
     const std::unordered_map<std::u16string, Function>& functions() const { return m_functions; }
     const std::unordered_map<std::u16string, Dialog>& dialogs() const { return m_dialogs; }

@@ -59,6 +59,9 @@ class Documents final : public HostDocManager {
     // The window that a plug-in knows under this address; see PLUGIN_FIND_WINDOW in HostPlugin.h.
     HWND findWindow(const wchar_t* dialog, const wchar_t* key, int32_t id) const;
 
+    // The dialog of the plug-ins' that came last; null for none.
+    HWND newestDialog() const { return findWindow(nullptr, nullptr, -1); }
+
     // What the functions of the plug-ins take, as far as the plug-ins tell.
     std::vector<std::wstring> signatures() const;
 

@@ -57,7 +57,7 @@ void Player::reportLeftovers() {
 
 // The plug-in names its newest dialog, and no other than the newest can be idle; without one the main frame.
 HWND Player::newestPlayable() const {
-    const HWND dialog = documents().findWindow(nullptr, nullptr, -1);
+    const HWND dialog = documents().newestDialog();
     return dialog ? dialog : m_frame;
 }
 

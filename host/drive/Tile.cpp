@@ -8,7 +8,7 @@
 
 HWND runningDialog() {
     // The plug-in is asked in any case, so that it shows what it has put off.
-    const HWND newest = documents().findWindow(nullptr, nullptr, -1);
+    const HWND newest = documents().newestDialog();
     const HWND playing = player().playedDialog();
     const HWND dialog = playing ? playing : newest;
     if (!dialog) throw lisp::Error(u"no dialog is open");

@@ -15,6 +15,7 @@
 #include "host/services/Host.h"
 #include "host/services/ProgramFolder.h"
 #include "host/services/Texts.h"
+#include "host/services/Wine.h"
 #include "src/platform/mfc/SystemFunction.h"
 
 namespace fs = std::filesystem;
@@ -29,18 +30,11 @@ std::u16string dialogExpression(const std::wstring& name) {
     return u"(progn (wex_new_dialog \"" + lispText(name) + u"\") (wex_start_dialog))";
 }
 
-bool isUnderWine() {
-    static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return wine;
-}
-
 // Does the work; what fails is told on the console.
 template <class Work>
 void telling(Work work) {
     try {
         work();
-    } catch (const lisp::Error& error) {
-        host().console().error(wideText(error.text()));
     } catch (const std::exception& error) {
         host().console().error(wideFromUtf8(error.what()));
     }

@@ -35,6 +35,15 @@ std::wstring keyName(WORD key) {
     return std::wstring(1, static_cast<wchar_t>(key));
 }
 
+// "Ctrl+O", or nothing.
+std::wstring shortcutText(const FrameCommand& command) {
+    if (!command.key) return {};
+    std::wstring text;
+    if (command.modifiers & FCONTROL) text += L"Ctrl+";
+    if (command.modifiers & FALT) text += L"Alt+";
+    return text + keyName(command.key);
+}
+
 // The module that this code stands in, which isn't the program's.
 HMODULE ownModule() {
     HMODULE module = nullptr;
@@ -45,19 +54,9 @@ HMODULE ownModule() {
 
 }  // namespace
 
-std::span<const FrameCommand> frameCommands() { return COMMANDS; }
-
 const FrameCommand& frameCommand(UINT id) {
     return *std::find_if(std::begin(COMMANDS), std::end(COMMANDS),
                          [=](const FrameCommand& command) { return command.id == id; });
-}
-
-std::wstring shortcutText(const FrameCommand& command) {
-    if (!command.key) return {};
-    std::wstring text;
-    if (command.modifiers & FCONTROL) text += L"Ctrl+";
-    if (command.modifiers & FALT) text += L"Alt+";
-    return text + keyName(command.key);
 }
 
 std::wstring menuText(const FrameCommand& command) {

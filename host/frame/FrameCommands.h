@@ -39,11 +39,8 @@ struct FrameCommand {
     FrameIcon icon = FrameIcon::none;
 };
 
-std::span<const FrameCommand> frameCommands();
 const FrameCommand& frameCommand(UINT id);
 
-// "Ctrl+O", or nothing.
-std::wstring shortcutText(const FrameCommand& command);
 // As a menu has it: its shortcut behind a tab.
 std::wstring menuText(const FrameCommand& command);
 // As a tip has it: without marks, its shortcut in brackets.

@@ -9,7 +9,7 @@
 #include "host/frame/NameGroups.h"
 #include "src/platform/buttons/BCMenu.h"
 
-// Puts the commands of frameCommands() and others into a menu, with icons for the scale of a window.
+// Puts commands into a menu, with icons for the scale of a window.
 class FrameMenu {
   public:
     FrameMenu(BCMenu& menu, HWND window);

@@ -47,12 +47,10 @@ void Journal::setForm(Recording::Place place, std::wstring form) {
 
 // A crash at any moment leaves the old text or the new one.
 void Journal::write() {
-    const fs::path unfinished = m_file.wstring() + L".tmp";
-    {
-        std::ofstream out(unfinished, std::ios::binary | std::ios::trunc);
-        out << utf8Text(m_recording.text());
-        out.close();
-        if (out && MoveFileExW(unfinished.c_str(), m_file.c_str(), MOVEFILE_REPLACE_EXISTING)) return;
+    try {
+        return writeWhole(m_file.wstring(), utf8Text(m_recording.text()));
+    } catch (const std::exception&) {
+        // It is told once.
     }
     if (!std::exchange(m_failed, true)) {
         host().console().error(L"wexhost: can't write the recording " + m_file.wstring());

@@ -17,7 +17,7 @@ bool isPress(UINT message) {
 }
 bool isKey(UINT message) { return message >= WM_KEYFIRST && message <= WM_KEYLAST; }
 
-bool isPluginDialog(HWND window) { return window && documents().findWindow(nullptr, nullptr, -1) == window; }
+bool isPluginDialog(HWND window) { return window && documents().newestDialog() == window; }
 
 }  // namespace
 
@@ -53,8 +53,7 @@ void Recorder::taken(const MSG& message) {
     HWND dialog = dialogOf(message.hwnd);
     const HMENU menu = openMenu();
     // A menu takes the input from whatever window, and the list of a combo box need not know whose it is.
-    if (menu || hasWindowClass(message.hwnd, L"ComboLBox"))
-        dialog = documents().findWindow(nullptr, nullptr, -1);
+    if (menu || hasWindowClass(message.hwnd, L"ComboLBox")) dialog = documents().newestDialog();
     if (!isPluginDialog(dialog)) return;
     m_journal.dialogSeen(dialog);
     if (!m_journal.knows(dialog)) return;

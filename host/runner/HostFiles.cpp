@@ -5,17 +5,13 @@
 #include <algorithm>
 
 #include "host/services/Texts.h"
+#include "host/services/Wine.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
 constexpr wchar_t WHOLE_FILE_SYSTEM[] = L"Z:";
-
-bool isUnderWine() {
-    static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return wine;
-}
 
 }  // namespace
 

@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::pair<std::wstring_view, WarningMode> WARN_MODES[] = {
     {L"", WarningMode::on},
-    {L"=on", WarningMode::on},
     {L"=off", WarningMode::off},
     {L"=error", WarningMode::error},
 };
@@ -27,7 +26,9 @@ class Parser {
         while (!m_rest.empty() && m_options.error.empty()) take(next());
         if (m_options.error.empty() && m_options.check) checkOperands();
         if (m_options.error.empty() && waitsForNobody()) fail(L"--headless needs a program, -e or -i");
-        if (m_options.pictures.size() % 2 == 1) fail(L"--compare-pictures needs pairs of files");
+        if (m_options.error.empty() && m_options.comparePictures &&
+            (m_options.pictures.empty() || m_options.pictures.size() % 2 == 1))
+            fail(L"--compare-pictures needs pairs of files");
         if (m_options.error.empty() && m_options.watch && !hasFile()) fail(L"--watch needs a program");
         return m_options;
     }
@@ -202,7 +203,7 @@ Runs Lisp programs with the dialog functions. Without a file or an expression it
   --version          print the version
   --                 what follows are files
 
-Exit status: 0 done; 1 a Lisp error or a warning of a check; 2 bad usage; 3 a session ended with its dialog still open;
-4 time ran out; 5 the host crashed.
+Exit status: 0 done; 1 a Lisp error, a warning of a check or with --warn=error, or pictures that differ; 2 bad usage;
+3 a session ended with its dialog still open; 4 time ran out; 5 the host crashed.
 )";
 }

@@ -167,10 +167,11 @@ void startHost(const Options& options) {
     host().setHeadless(options.headless);
     startRecording(options);
     host().warnings().setMode(options.warningMode());
+    // A watched run sees a dialog before a session changes it.
+    auto files = filesFor(options);
     player().setPlays(options.playsSessions());
     lisp::Interpreter& lisp = host().lisp();
     lisp.setOutput([](std::u16string_view text) { host().console().print(wideText(text)); });
-    auto files = filesFor(options);
     g_files = files.get();
     lisp.setFileAccess(std::move(files));
     defineHostFunctions(lisp);

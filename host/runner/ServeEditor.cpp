@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "host/documents/Database.h"
 #include "host/editor/LanguageServer.h"
 #include "host/editor/MessageReader.h"
 #include "host/runner/HostFiles.h"
@@ -20,18 +21,9 @@ namespace fs = std::filesystem;
 
 constexpr DWORD CHUNK = 64 * 1024;
 
-// docs/lisp-functions.md beside the host, or above it where the host stands in a source tree.
 std::string guideText() {
-    std::error_code ignored;
-    for (fs::path folder = programFolder(); !folder.empty(); folder = folder.parent_path()) {
-        const fs::path path = folder / "docs" / "lisp-functions.md";
-        if (fs::is_regular_file(path, ignored)) {
-            std::ifstream file(path, std::ios::binary);
-            return {std::istreambuf_iterator<char>(file), {}};
-        }
-        if (folder == folder.parent_path()) break;
-    }
-    return {};
+    const fs::path guide = findDelivered(L"docs/lisp-functions.md");
+    return guide.empty() ? std::string() : fileBytes(guide.wstring(), HOST_SHARE_READ);
 }
 
 std::string withoutEscapes(std::string_view uri) {
@@ -83,7 +75,7 @@ void send(const std::vector<std::string>& messages) {
     }
 }
 
-// Whether more has come, or may have where it can't be asked.
+// Whether more has come; no, where it can't be asked.
 bool hasMore(HANDLE input) {
     DWORD waiting = 0;
     return PeekNamedPipe(input, nullptr, 0, nullptr, &waiting, nullptr) && waiting > 0;

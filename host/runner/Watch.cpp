@@ -28,7 +28,7 @@ constexpr DWORD LOOK_MILLISECONDS = 50;
 // An editor may save in several writes: so long nothing more is written.
 constexpr std::chrono::milliseconds QUIET(150);
 // A run that doesn't end by itself, as in a loop without an end, is ended.
-constexpr DWORD PATIENCE_MILLISECONDS = 3000;
+constexpr DWORD PATIENCE_MILLISECONDS = 5000;
 
 HANDLE g_stop = nullptr;
 
@@ -142,6 +142,9 @@ class Watch {
         if (!m_process) return;
         SetEvent(m_end);
         if (WaitForSingleObject(m_process, PATIENCE_MILLISECONDS) != WAIT_OBJECT_0) {
+            host().console().error(
+                L"wexhost: the program doesn't end and is stopped; its dialogs may open without what they "
+                L"held");
             TerminateProcess(m_process, 0);
             WaitForSingleObject(m_process, INFINITE);
         }

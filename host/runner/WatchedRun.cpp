@@ -4,8 +4,6 @@
 #include <fstream>
 
 #include "host/documents/Documents.h"
-#include "host/runner/DialogList.h"
-#include "host/runner/ResourceModules.h"
 #include "host/runner/WatchLink.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
@@ -19,16 +17,6 @@ constexpr UINT TICK_MILLISECONDS = 30;
 constexpr wchar_t PRESSED[] = L"7pressed";
 
 WatchedRun* g_run = nullptr;
-
-HWND newestDialog() { return documents().findWindow(nullptr, nullptr, -1); }
-
-std::wstring nameOf(HWND dialog) {
-    const ResourceModules modules = loadResourceModules({});
-    for (const std::vector<ResourceModule>* group : {&modules.asked, &modules.inPlace})
-        for (const ListedDialog& listed : listDialogs(*group))
-            if (documents().findWindow(listed.name.c_str(), nullptr, -1) == dialog) return listed.name;
-    return {};
-}
 
 std::string escaped(const std::wstring& text) {
     std::wstring safe;
@@ -76,15 +64,17 @@ void WatchedRun::noteFile(const fs::path& file) {
         << utf8Text(whole.native()) << '\n';
 }
 
-void CALLBACK WatchedRun::tick(HWND, UINT, UINT_PTR, DWORD) noexcept {
+void CALLBACK WatchedRun::tick(HWND, UINT, UINT_PTR, DWORD) noexcept { g_run->look(); }
+
+void WatchedRun::look() noexcept {
     try {
-        g_run->look();
+        lookAtDialogs();
     } catch (const std::exception& error) {
         host().console().error(wideFromUtf8(error.what()));
     }
 }
 
-void WatchedRun::look() {
+void WatchedRun::lookAtDialogs() {
     // Without the watching host nobody would ever end this one.
     if (WaitForSingleObject(m_watcher, 0) == WAIT_OBJECT_0) host().exit(0);
     if (WaitForSingleObject(m_endEvent, 0) == WAIT_OBJECT_0) {
@@ -92,7 +82,7 @@ void WatchedRun::look() {
         host().exit(0);
     }
     std::erase_if(m_open, [](const Opened& dialog) { return !IsWindow(dialog.window); });
-    const HWND newest = newestDialog();
+    const HWND newest = documents().newestDialog();
     if (!newest || !IsWindowVisible(newest)) return;
     if (m_open.empty() || m_open.back().window != newest) return opened(newest);
     const HWND focus = GetFocus();
@@ -100,14 +90,16 @@ void WatchedRun::look() {
 }
 
 void WatchedRun::opened(HWND dialog) {
-    m_open.push_back({dialog, nameOf(dialog), dialogState(dialog), {}});
+    m_open.push_back({dialog, documents().nameOfWindow(dialog), dialogState(dialog), {}});
     const auto kept = m_kept.extract(m_open.back().name);
     if (kept.empty()) return;
     const DialogState& state = kept.mapped();
     restoreState(dialog, state);
     // What was open in front of it opens again by the button that had opened it.
     const auto pressed = state.find(PRESSED);
-    const HWND button = pressed == state.end() ? nullptr : GetDlgItem(dialog, std::stoi(pressed->second));
+    if (pressed == state.end()) return;
+    m_open.back().pressed = pressed->second;
+    const HWND button = GetDlgItem(dialog, std::stoi(pressed->second));
     if (button && SendMessageW(button, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON))
         PostMessageW(button, BM_CLICK, 0, 0);
 }

@@ -11,8 +11,9 @@
 #include <vector>
 
 #include "host/drive/DialogState.h"
+#include "host/drive/IdleWatch.h"
 
-class WatchedRun {
+class WatchedRun : public DialogObserver {
   public:
     // `link` is the watching process's number, and "=" and the folder that both share.
     explicit WatchedRun(const std::wstring& link);
@@ -21,6 +22,11 @@ class WatchedRun {
 
     // The program found that file: a change of it counts as one of the program.
     void noteFile(const std::filesystem::path& file);
+
+    // Before the first step of a session, which may come sooner than the timer.
+    void dialogIdle(HWND) override { look(); }
+    void messageBoxShown(HWND) override {}
+    void windowGone(HWND) override {}
 
   private:
     struct Opened {
@@ -31,11 +37,13 @@ class WatchedRun {
     };
 
     static void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) noexcept;
-    void look();
+    void look() noexcept;
+    void lookAtDialogs();
     void opened(HWND dialog);
     void keepState() const;
     void readState();
 
+    IdleWatch m_watch{*this};
     HANDLE m_endEvent;
     HANDLE m_watcher;
     std::filesystem::path m_folder;

@@ -27,7 +27,6 @@ class Warnings {
     };
 
     void setMode(WarningMode mode) { m_mode = mode; }
-    WarningMode mode() const { return m_mode; }
     // A program that means to do wrong says so. True: warnings are told again.
     void setHeard(bool heard) { m_heard = heard; }
     bool isHeard() const { return m_heard && m_mode != WarningMode::off; }
@@ -38,8 +37,6 @@ class Warnings {
     // wrong. Nothing for one that isn't new.
     std::optional<std::wstring> tell(const Site& site, std::wstring_view words, std::wstring_view wanted = {},
                                      std::span<const std::wstring> candidates = {});
-    // All is new again.
-    void forget() { m_told.clear(); }
 
     // The lines since the last call, oldest first. Who takes them has expected them: they are no errors.
     std::vector<std::wstring> take();

@@ -13,10 +13,10 @@ fail() {
     cat "$work/printed" "$work/errors"
     exit 1
 }
-# until_printed TEXT: waits for it on either stream
+# until_printed TEXT [TIMES]: waits for it on either stream
 until_printed() {
     local tries=0
-    until grep -qF "$1" "$work/printed" "$work/errors"; do
+    until [ "$(cat "$work/printed" "$work/errors" | grep -cF "$1")" -ge "${2:-1}" ]; do
         tries=$((tries + 1))
         [ $tries -lt 600 ] || fail "\"$1\" was never printed"
         read -rt 0.1 <> <(:) || true
@@ -83,6 +83,7 @@ until_printed 'four is ready'
 mv "$work/addon" "$work/bin/WexDialogs.d/WireGauge.dll"
 touch "$work/bin/WexDialogs.d/WireGauge.dll"
 until_printed 'WireGauge.dll was saved'
+until_printed 'four is ready' 2
 
 kill -INT $watcher
 wait $watcher && status=0 || status=$?

@@ -85,6 +85,7 @@ TEST(ButtonBesideThePlatforms, LooksTheSameInEveryState) {
 
     pair.send(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
     pair.send(WM_MOUSEHOVER, 0, MAKELPARAM(5, 5));
+    EXPECT_NE(pair.shownBy(pair.ours, false), plain);
     EXPECT_EQ(pair.difference(), "") << "hot";
     pair.send(WM_MOUSELEAVE);
     EXPECT_EQ(pair.shownBy(pair.platforms, false), plain);
@@ -95,6 +96,7 @@ TEST(ButtonBesideThePlatforms, LooksTheSameInEveryState) {
     pair.send(BM_SETSTATE, FALSE);
 
     pair.send(BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+    EXPECT_NE(pair.shownBy(pair.ours, false), plain);
     EXPECT_EQ(pair.difference(), "") << "default";
     pair.send(BM_SETSTATE, TRUE);
     EXPECT_EQ(pair.difference(), "") << "default and pressed";

@@ -31,6 +31,7 @@ TEST(Options, WhatIsWrongIsNamed) {
     EXPECT_NE(parse({L"--warn=loud"}).error, L"");
     EXPECT_EQ(parse({L"--headless"}).error, L"--headless needs a program, -e or -i");
     EXPECT_EQ(parse({L"--headless", L"-i"}).error, L"");
+    EXPECT_EQ(parse({L"--compare-pictures"}).error, L"--compare-pictures needs pairs of files");
     EXPECT_EQ(parse({L"--compare-pictures", L"a.png"}).error, L"--compare-pictures needs pairs of files");
     for (const wchar_t* text : {L"soon", L"", L"0", L"-1", L"5s", L"nan"}) {
         EXPECT_NE(parse({L"--timeout", text}).error, L"") << text;
