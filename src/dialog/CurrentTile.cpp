@@ -24,7 +24,7 @@ CWnd* controlOf(const TileAddress& tile) {
 bool isOfClass(const CWnd* control, const wchar_t* className, TextId alert) {
     if (!control) return false;
     if (control->className() == className) return true;
-    alertText(alert);
     warnOtherKind(*control, alert == TEXT_NOT_A_GRID ? L"grids" : L"list controls");
+    alertText(alert);
     return false;
 }

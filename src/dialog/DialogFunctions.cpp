@@ -78,7 +78,10 @@ void newDialog(LispCall& call) {
 }
 
 void startDialog(LispCall& call) {
-    if (!loadEventFile(g_dialogName)) return call.retVoid();
+    if (!loadEventFile(g_dialogName)) {
+        warn(WARN_NOT_FOUND, L"the dialog doesn't run: the file of its actions can't be written");
+        return call.retVoid();
+    }
     WexDialog* dialog = dialogToWork();
     // A dialog that is running already can't run a second time.
     if (dialog && dialog->isRunning()) warnRuns(*dialog, L"it can't be started a second time");
@@ -106,10 +109,12 @@ void actionTile(LispCall& call) {
     // With neither a key nor an id the key is "-1".
     const CString key = tile.key.IsEmpty() ? CString(std::to_wstring(tile.controlId())) : tile.key;
     CCtrlInfo* record = tile.isById() ? dialog->tileForId(tile.controlId()) : dialog->tileForKey(key);
-    if (dialog->isRunning())
+    if (dialog->isRunning()) {
         warnRuns(*dialog, BINDS_TOO_LATE);
-    else
+    } else {
         dialog->checkTile(tile, record);
+        warnUnlessHasEvents(*dialog, tile);
+    }
     record->m_action = defineAction(*dialog, key, lispText);
     call.retT();
 }

@@ -1,13 +1,14 @@
 // Setting a tile's value: in its control, as the control's family does it, and in its record.
+#include "src/dialog/TileWarnings.h"
 #include "src/dialog/WexDialog.h"
 
 void WexDialog::setControlValue(CWnd* control, const CString& value, bool byKey) {
     if (!control) return;
     const ControlFamily* family = familyOfType(control->className());
-    if (family && family->setValue)
-        family->setValue(*control, value, byKey);
-    else
-        control->SetWindowText(value);
+    if (family && family->setValue) return family->setValue(*control, value, byKey);
+    control->SetWindowText(value);
+    // At the start a grid takes it as a row.
+    if (m_hasApplied) warnUnlessShowsValue(*control);
 }
 
 bool WexDialog::isOwnTitle(const CString& key) const {

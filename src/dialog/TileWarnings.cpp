@@ -24,7 +24,17 @@ constexpr KindWord KIND_WORDS[] = {
     {L"SysTreeView32", L"a tree"},
     {L"SysTabControl32", L"a tab control"},
     {L"GXWND", L"a grid"},
+    {L"WexFrame", L"a frame"},
 };
+constexpr std::wstring_view CLASSES_WITH_EVENTS[] = {
+    L"Button", L"Edit", L"ListBox", L"ComboBox", L"SysListView32", L"SysTreeView32", L"GXWND"};
+constexpr std::wstring_view CLASSES_WITHOUT_VALUE[] = {L"SysTreeView32", L"GXWND", L"WexFrame"};
+constexpr wchar_t VALUE_TILES[] = L"tiles with a text, a state or entries";
+
+bool isAmong(std::span<const std::wstring_view> classes, std::wstring_view className) {
+    return std::any_of(classes.begin(), classes.end(),
+                       [&](std::wstring_view name) { return equalIgnoringCase(name, className); });
+}
 
 const wchar_t* kindWord(const CString& className) {
     const auto found = std::find_if(std::begin(KIND_WORDS), std::end(KIND_WORDS), [&](const KindWord& kind) {
@@ -52,18 +62,30 @@ std::span<const uint8_t> templateOf(const WexDialog& dialog) {
     return {bytes, bytes ? SizeofResource(module, found) : 0};
 }
 
-// The control of the dialog's template with that id.
-std::optional<DialogTemplateControl> templateControl(const WexDialog& dialog, int id) {
-    const auto layout = parseDialogTemplate(templateOf(dialog));
-    if (!layout) return std::nullopt;
-    for (const DialogTemplateControl& control : layout->controls)
-        if (control.id == id) return control;
-    return std::nullopt;
+// The control of the dialog's template with that id; null where there is none.
+const DialogTemplateControl* templateControl(const WexDialog& dialog, int id) {
+    if (!dialog.m_layout) {
+        auto layout = parseDialogTemplate(templateOf(dialog));
+        dialog.m_layout =
+            std::make_unique<const DialogTemplate>(layout ? std::move(*layout) : DialogTemplate());
+    }
+    for (const DialogTemplateControl& control : dialog.m_layout->controls)
+        if (control.id == id) return &control;
+    return nullptr;
 }
 
-void tellOtherKind(const CString& tile, const CString& className, const wchar_t* needed) {
-    tellWarning(WARN_OTHER_KIND,
-                L"tile " + tile + L" is " + kindWord(className) + L", and the function is for " + needed);
+const DialogTemplateControl* templateControl(const WexDialog& dialog, const TileAddress& tile) {
+    return templateControl(dialog, tile.isById() ? tile.controlId() : dialog.idForKey(tile.key));
+}
+
+bool isGroupBox(const DialogTemplateControl& control) {
+    return equalIgnoringCase(control.className, L"Button") && (control.style & BS_TYPEMASK) == BS_GROUPBOX &&
+           !(control.exStyle & WS_EX_STATICEDGE);
+}
+
+void tellOtherKind(const CString& tile, const wchar_t* kind, const wchar_t* needed) {
+    warn(WARN_OTHER_KIND,
+         [&] { return L"tile " + tile + L" is " + kind + L", and the function is for " + needed; });
 }
 
 }  // namespace
@@ -88,6 +110,11 @@ CString shownTile(const WexDialog& dialog, const CWnd& control) {
     if (id == OK_CONTROL_ID) return L"\"OK\"";
     if (id == CANCEL_CONTROL_ID) return L"\"Cancel\"";
     return std::to_wstring(id);
+}
+
+CString shownTile(const CWnd& control) {
+    const WexDialog* dialog = currentDialog();
+    return dialog ? shownTile(*dialog, control) : CString(std::to_wstring(control.GetDlgCtrlID()));
 }
 
 void warnNoDialog() { warn(WARN_NO_DIALOG, L"no dialog is current: wex_new_dialog makes one"); }
@@ -127,15 +154,14 @@ void warnUnknownTile(const WexDialog& dialog, const TileAddress& tile) {
 }
 
 void warnUnlessInTemplate(const WexDialog& dialog, const TileAddress& tile) {
-    if (tile.isById() && isHeard(WARN_UNKNOWN_TILE) && templateControl(dialog, tile.controlId())) return;
+    if (tile.isById() && templateControl(dialog, tile.controlId())) return;
     warnUnknownTile(dialog, tile);
 }
 
-// At the start the entries come after the value, which is then set once more.
-void warnNoEntry(const CWnd& control, const CString& value) {
+void warnNoEntry(const CWnd& control, const CString& value, Entries entries) {
     const WexDialog* dialog = currentDialog();
-    if (!dialog || !dialog->hasApplied()) return;
-    warn(WARN_OUTSIDE, [&] { return L"tile " + shownTile(*dialog, control) + L" has no entry " + value; });
+    if (entries == Entries::mayWait && (!dialog || !dialog->hasApplied())) return;
+    warn(WARN_OUTSIDE, [&] { return L"tile " + shownTile(control) + L" has no entry " + value; });
 }
 
 void warnUnlessNumber(const CString& value) {
@@ -145,19 +171,36 @@ void warnUnlessNumber(const CString& value) {
 }
 
 void warnOtherKind(const CWnd& control, const wchar_t* needed) {
-    if (!isHeard(WARN_OTHER_KIND)) return;
-    const WexDialog* dialog = currentDialog();
-    const CString tile =
-        dialog ? shownTile(*dialog, control) : CString(std::to_wstring(control.GetDlgCtrlID()));
-    tellOtherKind(tile, control.className(), needed);
+    if (isHeard(WARN_OTHER_KIND)) tellOtherKind(shownTile(control), kindWord(control.className()), needed);
+}
+
+void warnUnlessHasEvents(const WexDialog& dialog, const TileAddress& tile) {
+    const DialogTemplateControl* control = templateControl(dialog, tile);
+    if (!control || (isAmong(CLASSES_WITH_EVENTS, control->className) && !isGroupBox(*control))) return;
+    tellOtherKind(shownTile(tile), isGroupBox(*control) ? L"a frame" : kindWord(control->className),
+                  L"tiles that a person works");
+}
+
+void warnUnlessShowsValue(const CWnd& control) {
+    if (isAmong(CLASSES_WITHOUT_VALUE, control.className())) warnOtherKind(control, VALUE_TILES);
+}
+
+void warnUnlessTellsValue(const CWnd& control) {
+    const CString name = control.className();
+    if (name == L"SysTabControl32" || isAmong(CLASSES_WITHOUT_VALUE, name))
+        warnOtherKind(control, VALUE_TILES);
+}
+
+void warnSurplusFields(const CWnd& table, size_t fields, size_t columns) {
+    warn(WARN_UNUSED_ARGUMENT, [&] {
+        return L"tile " + shownTile(table) + L" has " + std::to_wstring(columns) + L" columns for the " +
+               std::to_wstring(fields) + L" fields of a row";
+    });
 }
 
 void warnUnlessOfClass(const WexDialog& dialog, const TileAddress& tile,
                        std::span<const std::wstring_view> classes, const wchar_t* needed) {
-    if (!isHeard(WARN_OTHER_KIND)) return;
-    const int id = tile.isById() ? tile.controlId() : dialog.idForKey(tile.key);
-    const auto control = templateControl(dialog, id);
-    const auto isClass = [&](std::wstring_view name) { return equalIgnoringCase(name, control->className); };
-    if (!control || std::any_of(classes.begin(), classes.end(), isClass)) return;
-    tellOtherKind(shownTile(tile), control->className, needed);
+    const DialogTemplateControl* control = templateControl(dialog, tile);
+    if (!control || isAmong(classes, control->className)) return;
+    tellOtherKind(shownTile(tile), kindWord(control->className), needed);
 }

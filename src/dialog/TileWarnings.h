@@ -9,6 +9,8 @@ CString spelledName(const WexDialog& dialog);
 // A tile as a warning names it.
 CString shownTile(const TileAddress& tile);
 CString shownTile(const WexDialog& dialog, const CWnd& control);
+// Of the current dialog, where there is one.
+CString shownTile(const CWnd& control);
 
 // No dialog is current.
 void warnNoDialog();
@@ -21,6 +23,14 @@ void warnUnknownTile(const WexDialog& dialog, const TileAddress& tile);
 void warnUnlessInTemplate(const WexDialog& dialog, const TileAddress& tile);
 // The dialog runs, and the call comes too late.
 void warnRuns(const WexDialog& dialog, const wchar_t* words);
+// An action of the tile would never run.
+void warnUnlessHasEvents(const WexDialog& dialog, const TileAddress& tile);
+// The value of such a control is the text of its window, which nobody sees.
+void warnUnlessShowsValue(const CWnd& control);
+// The same of one that is read: a tab control doesn't tell its page either.
+void warnUnlessTellsValue(const CWnd& control);
+// A row's text has more fields than the table has columns for them.
+void warnSurplusFields(const CWnd& table, size_t fields, size_t columns);
 // The function needs a tile of another kind, as "list controls". Where the dialog doesn't run yet its
 // template tells.
 void warnUnlessOfClass(const WexDialog& dialog, const TileAddress& tile,

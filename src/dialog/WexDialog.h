@@ -6,6 +6,7 @@
 #include "src/dialog/DialogRegistry.h"
 #include "src/dialog/TileControl.h"
 #include "src/dialog/TileRecords.h"
+#include "src/platform/base/DialogTemplate.h"
 #include "src/platform/buttons/CThemeHelperST.h"
 #include "src/shell/DialogSource.h"
 #include "src/shell/LispCall.h"
@@ -73,6 +74,7 @@ class WexDialog : public CSnapDlg {
     bool m_inAction = false;           // a button's click is being served
     int32_t m_focusId = -1;            // the control that gets the focus at the first paint
     CThemeHelperST m_themeHelper;
+    mutable std::unique_ptr<const DialogTemplate> m_layout;  // read when a warning first asks for it
 
   protected:
     const MessageMap& messageMap() const override;

@@ -76,7 +76,23 @@ bool isCellValue(const HostValue& value) {
     }
 }
 
+// What the value and its place make of no use.
+void warnOfDropped(const HostValue& value, int row, int code, bool hasChoices) {
+    const bool isReal = value.type == HV_REAL || value.type == HV_ANGLE || value.type == HV_ORIENT;
+    const bool isText = value.type == HV_STRING;
+    if (isText && row != 0 && !isCode(code)) warn(WARN_NO_EFFECT, [=] { return noSuch(L"code", code); });
+    if (!isText && code != NO_CODE && isCode(code))
+        warn(WARN_NO_EFFECT, [=] {
+            return L"code " + std::to_wstring(code) +
+                   (isReal ? L" of a number is its decimal places" : L" is for texts alone");
+        });
+    if (hasChoices && !(isText && row != 0 && code >= FIRST_CONTROL_CODE))
+        warn(WARN_UNUSED_ARGUMENT,
+             L"choices are for texts with a code from 52500 on, below the row of headers");
+}
+
 int writeRow(WexGrid& grid, const CString& text, int row, bool merges, int verticalCode) {
+    warnOfFields(grid, text);
     const EditBracket bracket(*grid.GetParam());
     return buildGridRow(grid, text, row, merges, verticalCode, rowCellStyle(GetSysColor(COLOR_WINDOW)));
 }
@@ -89,12 +105,18 @@ void gridSetCell(LispCall& call) {
     const int code = call.shortOrLongOr(NO_CODE);
     const HostValue* value = call.next();
     if (!value) call.warnMissing();
-    if (grid) warnUnlessInGrid(*grid, row, column);
-    if (!grid || !value || column == NO_COLUMN || grid->GetColCount() == 0) return call.retNil();
-    if (!isCellValue(*value)) call.warnMistyped(*value, L"a string, a number, T or nil");
-    if (value->type == HV_STRING && row != 0 && !isCode(code))
-        warn(WARN_NO_EFFECT, [=] { return noSuch(L"code", code); });
-    setCell(*grid, row, column, code, cellStyle(*value, row, code, call.optionalText()));
+    const bool hasColumns = grid && grid->GetColCount() > 0;
+    if (hasColumns)
+        warnUnlessInGrid(*grid, row, column);
+    else if (grid)
+        warnNoColumns();
+    if (!value || column == NO_COLUMN || !hasColumns) return call.retNil();
+    const std::optional<CString> choices = call.optionalText();
+    if (isCellValue(*value))
+        warnOfDropped(*value, row, code, choices.has_value());
+    else
+        call.warnMistyped(*value, L"a string, a number, T or nil");
+    setCell(*grid, row, column, code, cellStyle(*value, row, code, choices));
     grid->Redraw(2, true);
     call.retVoid();
 }
@@ -117,7 +139,8 @@ void gridSetRow(LispCall& call) {
     const bool hasFlag = !call.isPastEnd();
     const int verticalCode = call.shortOrLongOr(NO_VERTICAL_CODE);
     call.retNil();
-    if (works) warnUnlessInGrid(*grid, row, 0);
+    // A row of that number is a new one.
+    if (works && row != NEW_ROW) warnUnlessInGrid(*grid, row, 0);
     if (works && !(hasFlag && call.lacksArgument())) writeRow(*grid, text, row, merges, verticalCode);
 }
 

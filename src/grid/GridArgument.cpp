@@ -11,6 +11,8 @@ WexGrid* gridOf(CWnd* control) {
 
 WexGrid* gridArgument(LispCall& call) { return gridOf(controlOf(call.tile())); }
 
+void warnNoColumns() { warn(WARN_NOT_NOW, L"the grid has no columns: wex_grid_setrowcolumns makes them"); }
+
 void warnOutsideGrid(const WexGrid& grid, int row, int column) {
     warn(WARN_OUTSIDE, [&] {
         const bool isRow = static_cast<uint32_t>(row) > grid.GetRowCount();

@@ -9,6 +9,8 @@
 WexGrid* gridOf(CWnd* control);
 WexGrid* gridArgument(LispCall& call);
 
+// Tells the author that the grid has no columns but the headers of its rows.
+void warnNoColumns();
 // Tells the author of a row or a column that the grid hasn't got.
 void warnOutsideGrid(const WexGrid& grid, int row, int column);
 inline void warnUnlessInGrid(const WexGrid& grid, int row, int column) {

@@ -20,12 +20,14 @@ CGXRange rangeOf(int top, int left, int bottom, int right) {
 
 int lastColumnOf(int columns) { return std::max(columns, 1) - 1; }
 
-uint8_t alignmentNamed(const CString& code) {
+// Left where there is no code.
+uint8_t alignmentNamed(const std::optional<CString>& code) {
     if (code == L"C") return ALIGN_CENTER;
-    if (code != L"R" && code != L"L")
+    if (code == L"R") return ALIGN_RIGHT;
+    if (code && code != L"L")
         warn(WARN_NO_EFFECT,
-             [&] { return quoted(code) + L" is none of \"L\", \"C\" and \"R\", and counts as \"L\""; });
-    return code == L"R" ? ALIGN_RIGHT : ALIGN_LEFT;
+             [&] { return quoted(*code) + L" is none of \"L\", \"C\" and \"R\", and counts as \"L\""; });
+    return ALIGN_LEFT;
 }
 
 }  // namespace
@@ -101,14 +103,17 @@ void gridClearCells(LispCall& call) {
     warnUnlessInGrid(*grid, bottom, right);
     const bool styles = call.isTrueOrNotZero();
     const EditBracket bracket(*grid->GetParam());
-    if (grid->GetColCount() > 0) grid->ClearCells(rangeOf(top, left, bottom, right), styles);
+    if (grid->GetColCount() > 0)
+        grid->ClearCells(rangeOf(top, left, bottom, right), styles);
+    else
+        warnNoColumns();
     call.retVoid();
 }
 
 void gridSetJustification(LispCall& call) {
     WexGrid* grid = gridArgument(call);
     const int column = call.wholeNumber();
-    const uint8_t alignment = alignmentNamed(call.textOrEmpty());
+    const uint8_t alignment = alignmentNamed(call.text());
     const bool works = grid && !call.lacksArgument() && column >= 0;
     call.retNil();
     if (grid) warnUnlessInGrid(*grid, 0, column);

@@ -1,7 +1,14 @@
 #include "src/grid/RowCellWriter.h"
 
+#include <algorithm>
+
 CGXStyle rowCellStyle(uint32_t interior) {
     return CGXStyle().SetControl(CONTROL_STATIC).SetReadOnly(true).SetInterior(interior).SetWrapText(true);
+}
+
+size_t fieldsOf(std::wstring_view text) {
+    const size_t last = text.find_last_not_of(L'\t');
+    return 1 + std::count(text.begin(), text.begin() + static_cast<ptrdiff_t>(last + 1), L'\t');
 }
 
 std::wstring_view takeField(std::wstring_view& rest) {

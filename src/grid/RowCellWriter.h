@@ -15,6 +15,9 @@ inline bool isRule(std::wstring_view text) { return text.starts_with(L"---"); }
 
 inline bool hasTab(std::wstring_view text) { return text.find(L'\t') != std::wstring_view::npos; }
 
+// How many fields the text has up to the last that isn't empty, and at least one.
+size_t fieldsOf(std::wstring_view text);
+
 // The field at the start of `rest`, which loses it and the tab behind it.
 std::wstring_view takeField(std::wstring_view& rest);
 

@@ -3,7 +3,9 @@
 #include <uxtheme.h>
 #include <vssym32.h>
 
+#include "src/dialog/EntrySelection.h"
 #include "src/dialog/EventBridge.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/grid/EditBracket.h"
 #include "src/grid/ListRows.h"
 #include "src/platform/base/Text.h"
@@ -68,14 +70,20 @@ void WexGrid::applyRecord(CCtrlInfo& tile) {
     const UndoPause pause(*GetParam());
     TileControl::applyRecord(tile);
     SetMergeCellsMode(1, true);
-    if (!tile.m_listItems.empty() && GetColCount() > 0) addLines(tile);
+    if (!tile.m_listItems.empty() && GetColCount() > 0)
+        addLines(tile);
+    else if (!tile.m_listItems.empty())
+        warnSurplusFields(*this, fieldsOf(tile.m_listItems.front()), 0);
     // The value counts rows from 0. kept: 0 is no value
     const int row = decimalNumber(tile.m_value);
     if (row > 0 && static_cast<uint32_t>(row) < GetRowCount())
         SetCurrentCell(static_cast<uint32_t>(row) + 1, 0, 10);
+    else if (row > 0)
+        warnNoEntry(*this, tile.m_value, Entries::complete);
 }
 
 void WexGrid::addLines(CCtrlInfo& tile) {
+    for (const CString& line : tile.m_listItems) warnOfFields(*this, line);
     const EditBracket bracket(*GetParam());
     const auto alignmentOf = [this](uint32_t column) { return justification(column); };
     addListRows(
@@ -116,6 +124,12 @@ void WexGrid::OnPasted(size_t taken, size_t refused, size_t outside) {
 void WexGrid::OnTooManyCells() {
     CGXGridWnd::OnTooManyCells();
     hostPrintf(L"No more than %llu cells can be copied, pasted or emptied at a time.\n", MOST_CELLS);
+}
+
+void warnOfFields(const WexGrid& grid, std::wstring_view row) {
+    const size_t fields = fieldsOf(row), columns = grid.GetColCount() + size_t{1};
+    if (fields > columns) [[unlikely]]
+        warnSurplusFields(grid, fields, columns);
 }
 
 void emptyGrid(CWnd& control, bool byKey) {

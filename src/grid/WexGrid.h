@@ -59,3 +59,6 @@ class WexGrid : public CGXGridWnd, public TileControl {
 // By key, a table without columns gets one.
 void emptyGrid(CWnd& control, bool byKey);
 void endGridList(CWnd& control, CCtrlInfo& tile);
+
+// Tells the author of fields in a row's text for which the grid has no columns.
+void warnOfFields(const WexGrid& grid, std::wstring_view row);

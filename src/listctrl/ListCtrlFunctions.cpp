@@ -17,9 +17,6 @@ constexpr int DEFAULT_WIDTH = 75;  // pixels at 96 dots per inch
 
 double displayScale() { return hostMonitorDpiXScale(nullptr); }
 
-// -1 where there is none, and that names no column.
-int columnArgument(LispCall& call) { return call.shortNumber().value_or(-1); }
-
 // The width as the message takes it. kept: -1 and -2 are crossed with those of the platform.
 constexpr LPARAM widthParameter(int width) {
     constexpr LPARAM fitHeader = LPARAM{static_cast<uint16_t>(LVSCW_AUTOSIZE_USEHEADER)};
@@ -44,20 +41,34 @@ void warnNoColumn(int column) {
     warn(WARN_OUTSIDE, [=] { return L"the list has no column " + std::to_wstring(column); });
 }
 
+// -1 where there is none, and that names no column.
+int columnArgument(LispCall& call) {
+    const auto column = call.shortNumber();
+    if (column == -1) warnNoColumn(-1);
+    return column.value_or(-1);
+}
+
 // What becomes of the text, where that isn't what the numbers say.
 void warnOfItem(const CWnd& list, const ItemCall& item, int rows) {
     if (!item.isText) warn(WARN_NO_EFFECT, L"the text is no string: it counts as an empty one");
     const auto number = [](int n) { return std::to_wstring(n); };
     if (!item.setsCell(rows)) {
         // A row behind the last one is where the text goes.
-        if (item.row > rows || item.row < -1)
+        if (item.row > rows)
             warn(WARN_OUTSIDE, [&] {
                 return L"the list has no row " + number(item.row) + L": the text becomes row " + number(rows);
             });
+        else if (item.column > 0)
+            warn(WARN_OUTSIDE, [&] {
+                return L"the list has no row " + number(item.row) +
+                       L" yet: the text becomes it, from its first column on";
+            });
+    } else if (item.row < 0) {
+        warn(WARN_OUTSIDE, [&] { return L"the list has no row " + number(item.row); });
     } else if (item.column == -1) {
         warn(WARN_NO_EFFECT,
              [&] { return L"row " + number(item.row) + L" is set by a column only, and none is given"; });
-    } else if (item.column < 0 || item.row < 0 || (item.column > 0 && item.column >= columnCount(list))) {
+    } else if (item.column < 0 || (item.column > 0 && item.column >= columnCount(list))) {
         warnNoColumn(item.column);
     }
 }
@@ -157,7 +168,10 @@ void listSetColumnReference(LispCall& call) {
     if (text.IsEmpty() || !isUsableListControl(control)) return;
     keepColumnText(*control, text);
     const CCtrlInfo* record = currentDialog()->tileForControl(control);
-    if (record && !record->m_listItems.empty()) reloadWaitingRows(*control, *record);
+    if (record && !record->m_listItems.empty())
+        reloadWaitingRows(*control, *record);
+    else
+        warn(WARN_NO_EFFECT, L"no rows waited for the dialog's start, so that none come back");
 }
 
 void listDeleteColumn(LispCall& call) {
@@ -185,10 +199,15 @@ void listGetColCount(LispCall& call) {
 
 void listSetItemCount(LispCall& call) {
     const TileAddress tile = call.tile();
-    const int count = call.shortOrLong().value_or(-1);
+    const auto given = call.shortOrLong();
+    const int count = given.value_or(-1);
     const CWnd* list = call.lacksArgument() ? nullptr : listControlOf(tile);
     if (!list) return call.retNil();
     call.retVoid();
     // A list that the dialog didn't look at isn't known to be one.
     if (count != -1 && list->IsKindOf(RUNTIME_CLASS(CListCtrl))) list->SendMessage(LVM_SETITEMCOUNT, count);
+    if (given && count < 0)
+        warn(WARN_OUTSIDE, [=] { return std::to_wstring(count) + L" is no number of rows"; });
+    if (!(list->GetStyle() & LVS_OWNERDATA))
+        warn(WARN_OTHER_KIND, L"the list isn't a virtual one: its rows are those that it was given");
 }

@@ -1,6 +1,9 @@
 #include "src/listctrl/ListRows.h"
 
+#include <algorithm>
+
 #include "src/dialog/EntrySelection.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/listctrl/ListCells.h"
 #include "src/listctrl/RowSelection.h"
 #include "src/listctrl/RowText.h"
@@ -23,15 +26,39 @@ int insertItem(const CWnd& list, int index, wchar_t* text) {
     return static_cast<int>(list.sendStraight(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
 }
 
-void setText(const CWnd& list, int row, int column, const wchar_t* text) {
+bool setText(const CWnd& list, int row, int column, const wchar_t* text) {
     LVITEMW item = {};
     item.iSubItem = column;
     item.pszText = const_cast<wchar_t*>(text);
-    list.sendStraight(LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
+    return list.sendStraight(LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
 }
 
-void setTexts(const CWnd& list, int row, int column, RowCells& cells) {
-    while (const wchar_t* cell = cells.next()) setText(list, row, column++, cell);
+// The last of the cells that the row didn't take, counted from 1; nothing is lost with an empty one.
+int setTexts(const CWnd& list, int row, int column, RowCells& cells) {
+    int lost = 0;
+    while (const wchar_t* cell = cells.next())
+        if (!setText(list, row, column++, cell) && *cell) [[unlikely]]
+            lost = column;
+    return lost;
+}
+
+bool isVirtual(const CWnd& list) { return list.GetStyle() & LVS_OWNERDATA; }
+
+// Tells the author what a row has lost, which is all in a list that takes none.
+void warnOfLost(const CWnd& list, int lost) {
+    if (isVirtual(list))
+        return warn(WARN_OTHER_KIND, [&] {
+            return L"tile " + shownTile(list) + L" is a virtual list: it takes a number of rows, and no rows";
+        });
+    const int columns = columnCount(list);
+    if (lost > std::max(columns, 1)) warnSurplusFields(list, lost, columns);
+}
+
+// The texts of a new row behind its first one.
+void setRest(const CWnd& list, int row, RowCells& cells) {
+    const int lost = setTexts(list, row, 1, cells);
+    if (lost > 0 || isVirtual(list)) [[unlikely]]
+        warnOfLost(list, lost);
 }
 
 // The rows that waited, put into a list one by one.
@@ -41,7 +68,7 @@ class WaitingRows {
 
     void insert(int index, const CString& text) {
         m_cells.readWaiting(text);
-        setTexts(m_list, insertItem(m_list, index, m_cells.next()), 1, m_cells);
+        setRest(m_list, insertItem(m_list, index, m_cells.next()), m_cells);
     }
 
   private:
@@ -67,14 +94,14 @@ void appendRow(const CWnd& list, std::wstring_view text) {
     RowCells cells;
     cells.read(text);
     insertItem(list, row, cells.next());
-    setTexts(list, row, 1, cells);
+    setRest(list, row, cells);
 }
 
 void replaceRow(const CWnd& list, int row, std::wstring_view text) {
     holdRedraw(list.m_hWnd);
     RowCells cells;
     cells.read(text);
-    setTexts(list, row, 0, cells);
+    if (const int lost = setTexts(list, row, 0, cells)) warnOfLost(list, lost);
 }
 
 void setCell(const CWnd& list, int row, int column, const CString& text) {
@@ -90,15 +117,21 @@ void reloadWaitingRows(const CWnd& list, const CCtrlInfo& tile) {
 }
 
 void applyListControl(const CWnd& list, const CCtrlInfo& tile) {
-    if (!showsRecords(list)) insertAtTop(list, tile.m_listItems);
-    if (!tile.m_value.IsEmpty()) selectRow(list, decimalNumber(tile.m_value));
+    if (!showsRecords(list))
+        insertAtTop(list, tile.m_listItems);
+    else if (!tile.m_listItems.empty())
+        warnOfLost(list, 0);
+    if (tile.m_value.IsEmpty()) return;
+    const int row = decimalNumber(tile.m_value);
+    selectRow(list, row);
+    if (row > 0 && row >= rowCount(list)) warnNoEntry(list, tile.m_value, Entries::complete);
 }
 
 // kept: only the key path clears the selection by a negative row.
 void setListControlValue(CWnd& list, const CString& value, bool byKey) {
     const int row = decimalNumber(value);
     if (row == 0) warnUnlessNumber(value);
-    if (row >= rowCount(list)) warnNoEntry(list, value);
+    if (row > 0 && row >= rowCount(list)) warnNoEntry(list, value, Entries::mayWait);
     if (row >= 0)
         selectRow(list, row);
     else if (byKey)

@@ -23,6 +23,8 @@ void listAllowSorting(LispCall& call) {
         warn(WARN_NO_EFFECT, L"only T is understood: sorting can't be taken back");
         return alertText(TEXT_UNUSABLE_FOR_LIST_CONTROL);
     }
+    if (list->GetStyle() & LVS_OWNERDATA)
+        warn(WARN_OTHER_KIND, L"the list is a virtual one, which has no rows that could be sorted");
     if (WexListCtrl* wrapper = wrapperOf(list)) wrapper->m_allowSorting = true;
 }
 

@@ -9,6 +9,8 @@ namespace {
 
 // kept: of every record that is added, whatever the table's columns.
 constexpr size_t FIELDS_OF_ADDED = 5;
+// Database, table, order column.
+constexpr size_t NAMES_OF_TABLE = 3;
 
 // kept: -1 stands for no number, where any other bad one is an error.
 std::optional<int> recordNumber(LispCall& call) {
@@ -24,11 +26,10 @@ bool hasTable() {
     return g_recordTable != nullptr;
 }
 
-void warnOfTooMany(const std::vector<CString>& texts, size_t fields) {
-    if (texts.size() > fields) [[unlikely]]
-        warn(WARN_NO_EFFECT, [&] {
-            return L"of " + std::to_wstring(texts.size()) + L" texts the record takes " +
-                   std::to_wstring(fields);
+void warnOfTooMany(const std::vector<CString>& texts, size_t most) {
+    if (texts.size() > most) [[unlikely]]
+        warn(WARN_UNUSED_ARGUMENT, [&] {
+            return L"of " + std::to_wstring(texts.size()) + L" texts it takes " + std::to_wstring(most);
         });
 }
 
@@ -57,11 +58,15 @@ void recordsSetUp(LispCall& call) {
     if (!store) return warn(WARN_DATABASE, L"the data store isn't there: no table is set up");
     g_recordTable = std::make_unique<WexRecordTable>(*store);
     g_rowSource = &g_recordSource;
-    if (!call.hasArguments()) return;
+    if (!call.hasArguments()) return call.warnMissing();
     const std::vector<CString> names = call.listTexts();
     if (names.size() < 2 || names[1].IsEmpty())
         warn(WARN_NO_EFFECT, L"no table is named: the list is to be (database table order-column)");
+    warnOfTooMany(names, NAMES_OF_TABLE);
     g_recordTable->setUp(textAt(names, 0), textAt(names, 1), textAt(names, 2));
+    // The table takes the names where the store doesn't refuse.
+    if (g_recordTable->m_table.IsEmpty() && !textAt(names, 1).empty())
+        warn(WARN_DATABASE, L"the data store needs a database, and none is named");
 }
 
 void recordsClear(LispCall& call) {

@@ -7,6 +7,7 @@
 #include "src/platform/host/HostServices.h"
 #include "src/shell/GeneratedLispFileMgr.h"
 #include "src/shell/LispInvoke.h"
+#include "src/shell/Warning.h"
 
 namespace {
 
@@ -57,5 +58,6 @@ bool loadEventFile(const CString& dialogName) try {
     invokeLisp(L"c:wex_loadlisp", path.c_str());
     return true;
 } catch (const CFileException&) {
+    warn(WARN_NOT_FOUND, L"there is no folder for temporary files: the dialog runs without its actions");
     return true;
 }

@@ -73,6 +73,12 @@ CString shown(const HostValue& node) {
     }
 }
 
+// Other values count as T or nil, and mostly as the other of them than was meant.
+void warnUnlessFlag(const LispCall& call, const HostValue& node) {
+    if (!shortOf(node) && !truthOf(node)) [[unlikely]]
+        call.warnMistyped(node, L"T, nil or an integer");
+}
+
 // Nothing for a function that takes any number.
 std::optional<int> mostArguments(int code) {
     const bool isKnown = code >= 0 && static_cast<size_t>(code) < std::size(LISP_SIGNATURES);
@@ -214,31 +220,33 @@ bool LispCall::isTrue() { return read(truthOf, TRUTH).value_or(false); }
 bool LispCall::isTrueOrShort() {
     const HostValue* node = next();
     if (!node) return false;
-    const bool isTrue = node->type == HV_TRUE || node->type == HV_SHORT;
-    if (!isTrue && node->type != HV_NIL) warnMistyped(*node, L"T, nil or an integer");
-    return isTrue;
+    warnUnlessFlag(*this, *node);
+    return node->type == HV_TRUE || node->type == HV_SHORT;
 }
 
 bool LispCall::isTrueOrNotZero() {
     const HostValue* node = next();
     if (!node) return false;
+    warnUnlessFlag(*this, *node);
     const auto number = shortOf(*node);
-    if (!number && !truthOf(*node)) warnMistyped(*node, L"T, nil or an integer");
     return number ? *number != 0 : node->type == HV_TRUE;
 }
 
 bool LispCall::isThereAndNotNil() {
     const HostValue* node = next();
+    if (node) warnUnlessFlag(*this, *node);
     return node && node->type != HV_NIL;
 }
 
 bool LispCall::isNeitherNilNorZero() {
     const HostValue* node = next();
+    if (node) warnUnlessFlag(*this, *node);
     return !node || (node->type != HV_NIL && shortOf(*node) != 0);
 }
 
 bool LispCall::isOneOrNoNumber() {
     const HostValue* node = next();
+    if (node) warnUnlessFlag(*this, *node);
     return node && node->type != HV_NIL && shortOf(*node).value_or(1) == 1;
 }
 

@@ -68,6 +68,14 @@ void warnUnlessColor(const LispCall& call, int color) {
     if (!isImageColor(color)) call.warnOfArgument([=] { return noSuch(L"color", color) + L": it is black"; });
 }
 
+// Nothing is kept of what is drawn on a dialog that doesn't show.
+void warnUnlessShown() {
+    const WexDialog& dialog = *currentDialog();
+    if (!dialog.hasApplied() && !IsWindowVisible(dialog.m_hWnd))
+        warn(WARN_NOT_NOW,
+             [&] { return spelledName(dialog) + L" doesn't show yet: what is drawn now is lost"; });
+}
+
 // "library(member)".
 struct SlideName {
     CString library;  // a file
@@ -112,6 +120,7 @@ bool showNamed(CCtrlInfo& record, const CString& name, const PixelRect& rect) {
     WexSlideImage* image = imageOf(record);
     if (!image) return true;
     if (slide) {
+        warnUnlessShown();
         if (!image->ShowSlide(slide->library, slide->member, rect))
             warnNoSlide(slide->library, slide->member);
         return true;
@@ -143,7 +152,10 @@ void vectorImage(LispCall& call) {
     if (!numbers) return;
     const auto [x1, y1, x2, y2, color] = *numbers;
     warnUnlessColor(call, color);
-    if (WexSlideImage* image = imageOf(tile)) image->drawVector({x1, y1}, {x2, y2}, imageColor(color));
+    if (WexSlideImage* image = imageOf(tile)) {
+        warnUnlessShown();
+        image->drawVector({x1, y1}, {x2, y2}, imageColor(color));
+    }
     call.retVoid();
 }
 
@@ -156,7 +168,10 @@ void fillImage(LispCall& call) {
     if (!numbers) return;
     const auto [x, y, width, height, color] = *numbers;
     warnUnlessColor(call, color);
-    if (image) image->fillRect({x, y, x + width, y + height}, imageColor(color));
+    if (image) {
+        warnUnlessShown();
+        image->fillRect({x, y, x + width, y + height}, imageColor(color));
+    }
     call.retVoid();
 }
 

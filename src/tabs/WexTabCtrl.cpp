@@ -200,5 +200,5 @@ void WexTabCtrl::paintUnder(HDC dc, const CWnd& dialog) {
 }
 
 void setTabValue(CWnd& tab, const CString& value, bool /*byKey*/) {
-    selectEntry(tab, value, TCM_GETITEMCOUNT, TCM_SETCURSEL);
+    selectEntry(tab, value, TCM_GETITEMCOUNT, TCM_SETCURSEL, Entries::complete);
 }

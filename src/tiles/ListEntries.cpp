@@ -32,7 +32,7 @@ void applyListBox(const CWnd& listBox, const CCtrlInfo& tile) {
     // Inserting in order gives the same rows as inserting in reverse at the top, and is faster.
     for (size_t row = 0; row < tile.m_listItems.size(); ++row)
         listBox.sendStraight(LB_INSERTSTRING, row, reinterpret_cast<LPARAM>(tile.m_listItems[row].c_str()));
-    selectEntry(listBox, tile.m_value, LB_GETCOUNT, LB_SETCURSEL);
+    selectEntry(listBox, tile.m_value, LB_GETCOUNT, LB_SETCURSEL, Entries::complete);
 }
 
 void applyComboBox(const CWnd& comboBox, const CCtrlInfo& tile) {
@@ -42,14 +42,16 @@ void applyComboBox(const CWnd& comboBox, const CCtrlInfo& tile) {
     const int selected = decimalNumber(tile.m_value);
     if (!tile.m_value.IsEmpty() && selected < static_cast<int>(tile.m_listItems.size()))
         comboBox.SendMessage(CB_SETCURSEL, selected);
+    else if (selected > 0 && selected >= comboBox.SendMessage(CB_GETCOUNT))
+        warnNoEntry(comboBox, tile.m_value, Entries::complete);
 }
 
 void setListBoxValue(CWnd& listBox, const CString& value, bool /*byKey*/) {
-    selectEntry(listBox, value, LB_GETCOUNT, LB_SETCURSEL);
+    selectEntry(listBox, value, LB_GETCOUNT, LB_SETCURSEL, Entries::mayWait);
 }
 
 void setComboBoxValue(CWnd& comboBox, const CString& value, bool /*byKey*/) {
-    selectEntry(comboBox, value, CB_GETCOUNT, CB_SETCURSEL);
+    selectEntry(comboBox, value, CB_GETCOUNT, CB_SETCURSEL, Entries::mayWait);
 }
 
 void emptyListBox(CWnd& listBox, bool /*byKey*/) { listBox.SendMessage(LB_RESETCONTENT); }

@@ -37,9 +37,15 @@ void startList(LispCall& call) {
     const int operation = call.shortOr(LIST_NEW);
     if (!isOperation(operation)) call.warnOfArgument([=] { return noSuch(L"list operation", operation); });
     const int index = call.shortOr(-1);
+    if (operation == LIST_CHANGE && index != -1)
+        call.warnOfArgument(
+            [] { return CString(L"the entry that changes is the selected one, not this one"); });
     call.retVoid();
     WexDialog* dialog = dialogToWork();
     if (!dialog) return;
+    if (operation == LIST_CHANGE && !dialog->hasApplied())
+        warn(WARN_NO_EFFECT,
+             L"operation 1 before the dialog has started only makes it start with a disabled tile");
     if (dialog->m_isListOpen) warn(WARN_NOT_NOW, L"another list is still open: wex_end_list closes it");
     CCtrlInfo* tile = dialog->tileFor(address);
     if (!dialog->m_hWnd) warnUnlessOfClass(*dialog, address, LIST_CLASSES, LIST_TILES);

@@ -12,6 +12,11 @@ constexpr int SMALLEST = 50;
 
 constexpr wchar_t NO_MOVE[] = L"no move is open: wex_start_controlmove opens one";
 
+void warnOfTooSmall(int width, int height) {
+    if (std::min(width, height) < SMALLEST)
+        warn(WARN_NO_EFFECT, L"a dialog is at least 50 pixels wide and high, whatever the limit");
+}
+
 // Reads width and height and hands them to `set`, where both can be used.
 template <class Set>
 void setLimits(LispCall& call, Set set) {
@@ -43,8 +48,7 @@ void setResizing(LispCall& call) {
 
 void setMinResizing(LispCall& call) {
     setLimits(call, [](WexDialog& dialog, int width, int height) {
-        if (std::min(width, height) < SMALLEST)
-            warn(WARN_NO_EFFECT, L"a dialog is at least 50 pixels wide and high, whatever the limit");
+        warnOfTooSmall(width, height);
         dialog.m_limits.minWidth = std::max(width, SMALLEST);
         dialog.m_limits.minHeight = std::max(height, SMALLEST);
         dialog.m_resizable = true;
@@ -53,6 +57,7 @@ void setMinResizing(LispCall& call) {
 
 void setMaxResizing(LispCall& call) {
     setLimits(call, [](WexDialog& dialog, int width, int height) {
+        warnOfTooSmall(width, height);
         dialog.m_limits.maxWidth = width;
         dialog.m_limits.maxHeight = height;
     });
@@ -63,7 +68,11 @@ void startControlMove(LispCall& call) {
     WexDialog* dialog = dialogToWork();
     if (dialog && dialog->m_deferPos)
         warn(WARN_NOT_NOW, L"a move is open already: wex_end_controlmove makes it");
-    if (dialog && count) dialog->m_deferPos = BeginDeferWindowPos(*count);
+    if (dialog && count) {
+        if (*count < 0)
+            call.warnOfArgument([&] { return std::to_wstring(*count) + L" is no number of tiles"; });
+        dialog->m_deferPos = BeginDeferWindowPos(*count);
+    }
     call.retVoid();
 }
 

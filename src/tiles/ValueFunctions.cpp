@@ -1,6 +1,7 @@
 #include "src/tiles/ValueFunctions.h"
 
 #include "src/dialog/CurrentTile.h"
+#include "src/dialog/TileWarnings.h"
 #include "src/dialog/WexDialog.h"
 #include "src/platform/mfc/RedrawHold.h"
 #include "src/tiles/WexButton.h"
@@ -89,6 +90,7 @@ void getTile(LispCall& call) {
     if (!dialogToWork()) return call.retVoid();
     CWnd* control = controlOf(tile);
     if (!control) return call.retNil();
+    warnUnlessTellsValue(*control);
     call.ret(controlValue(*control));
 }
 

@@ -11,21 +11,28 @@ namespace {
 // An item that no control knows.
 const HTREEITEM UNKNOWN_ITEM = reinterpret_cast<HTREEITEM>(-1);
 
+// Where most functions have their item, counted from 1.
+constexpr int32_t ITEM_ARGUMENT = 2;
+
+bool isTree(const CWnd& control) { return WexTree::of(&control) || control.className() == L"SysTreeView32"; }
+
 // The control of the tile argument, whatever it is.
 CWnd* treeArgument(LispCall& call) {
     CWnd* control = controlOf(call.tile());
-    if (control && !WexTree::of(control) && control->className() != L"SysTreeView32")
-        warnOtherKind(*control, L"trees");
+    if (control && !isTree(*control)) warnOtherKind(*control, L"trees");
     return control;
 }
 
 // Tells the author of an item that the tree doesn't know. Asked where it couldn't be worked, as the control
 // takes long to tell.
 void warnUnlessItem(const CWnd& tree, HTREEITEM item) {
+    // So does an argument of another type, which was told of as that: this is its kind of warning.
+    if (!item) return warn(WARN_ARGUMENT + ITEM_ARGUMENT, L"the tree has no item 0");
     // The platform's own numbers, such as that of all items.
     const bool isPlace =
         handleNumber(item) >= handleNumber(TVI_ROOT) && handleNumber(item) <= handleNumber(TVI_SORT);
-    if (!item || isPlace || !isHeard(WARN_OUTSIDE) || (item != UNKNOWN_ITEM && treeItem(tree, item))) return;
+    if (isPlace || !isHeard(WARN_OUTSIDE) || !isTree(tree) || (item != UNKNOWN_ITEM && treeItem(tree, item)))
+        return;
     const std::wstring name =
         item == UNKNOWN_ITEM ? L"such item" : L"item " + std::to_wstring(handleNumber(item));
     tellWarning(WARN_OUTSIDE, L"the tree has no " + name);
@@ -63,8 +70,10 @@ TreeItemImages imageArguments(int image, LispCall& call) {
     return images;
 }
 
+// To select and to sort, null is none and the top.
 void sendItem(const CWnd& tree, UINT message, WPARAM how, HTREEITEM item) {
-    if (!tree.SendMessage(message, how, reinterpret_cast<LPARAM>(item))) warnUnlessItem(tree, item);
+    const bool worked = tree.SendMessage(message, how, reinterpret_cast<LPARAM>(item));
+    if (!worked && (item || message == TVM_EXPAND)) warnUnlessItem(tree, item);
 }
 
 void insertItem(LispCall& call, bool underParent, bool behindPrevious) {
@@ -75,7 +84,7 @@ void insertItem(LispCall& call, bool underParent, bool behindPrevious) {
     if (!canWork(call, tree)) return call.retNil();
     const TreeItemImages images = imageArguments(call.shortOr(-1), call);
     const HTREEITEM made = insertTreeItem(*tree, parent, after, text, images);
-    if (!made) warnUnlessItem(*tree, parent);
+    if (!made && parent) warnUnlessItem(*tree, parent);
     if (!made && behindPrevious) warnUnlessItem(*tree, after);
     call.retLong(handleNumber(made));
 }
@@ -244,6 +253,9 @@ void treeSetupImageList(LispCall& call) {
     CWnd* tree = treeArgument(call);
     const HostValue* icons = call.rest();
     if (!icons) call.warnMissing();
+    for (const HostValue* node = icons; node; node = node->next)
+        if (node->type == HV_REAL || node->type == HV_LONG || node->type == HV_TRUE || node->type == HV_POINT)
+            call.warnMistyped(*node, L"the number or the name of an icon");
     if (tree && icons) setTreeImages(*tree, icons);
     call.retNil();
 }
