@@ -21,6 +21,8 @@ if(WIN32)
   # The linker makes modules that lie anywhere and whose data can't run; the compiler guards what lies on the stack.
   add_compile_options(-fstack-protector-strong)
   add_link_options(-static -static-libgcc -static-libstdc++ -fstack-protector-strong)
+  # In files, too, sections begin where pages do: Wine then maps them, and reads of the debuggers' ones only what is asked for.
+  add_link_options(-Wl,--file-alignment,4096)
   # Handles of tree items, which are addresses, cross Lisp as integers of 32 bits: the system may not spread a
   # program's memory over all 64.
   string(APPEND CMAKE_EXE_LINKER_FLAGS " -Wl,--disable-high-entropy-va")

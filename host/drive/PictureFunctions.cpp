@@ -42,7 +42,7 @@ Value shot(Call& call) { return photographed(call, runningDialog()); }
 
 // (draw_shot "file.png"): of the main frame with the drawing.
 Value drawShot(Call& call) {
-    const HWND frame = host().mainFrame();
+    const HWND frame = host().completeMainFrame();
     RedrawWindow(frame, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     return photographed(call, frame);
 }

@@ -198,20 +198,44 @@ void Player::act(HWND dialog, Steps::Work work) {
 void Player::messageBoxShown(HWND box) { answer(box); }
 
 void Player::answer(HWND box) {
-    if (std::find(m_answered.begin(), m_answered.end(), box) != m_answered.end()) return;
-    m_answered.push_back(box);
+    const auto found = std::find_if(m_answered.begin(), m_answered.end(),
+                                    [=](const Answered& given) { return given.box == box; });
+    if (found != m_answered.end()) return answerAnew(*found);
     host().alerts().record(boxText(box));
     m_lastBox = boxLook(box);
-    BoxAnswer answer;
+    m_answered.push_back({box, takeAnswer()});
+    answerBox(box, m_answered.back().answer);
+}
+
+BoxAnswer Player::takeAnswer() {
+    if (m_answers.empty()) return {};
+    BoxAnswer answer = std::move(m_answers.front());
+    m_answers.pop_front();
+    return answer;
+}
+
+// The box is idle though it was answered: it didn't take the answer, such as the name of a file that isn't
+// there.
+void Player::answerAnew(Answered& given) {
     if (!m_answers.empty()) {
-        answer = std::move(m_answers.front());
-        m_answers.pop_front();
+        given.answer = takeAnswer();
+        return answerBox(given.box, given.answer);
     }
-    answerBox(box, answer);
+    const std::wstring box = L"dialog " + quoted(textOf(given.box));
+    if (given.refused) {
+        report(box + L": Cancel does not end it", STILL_OPEN);
+        host().exit(host().status());
+    }
+    const auto& [button, name] = given.answer;
+    report(m_progress.place() + L"\n  " + box + L" did not take the answer " +
+               std::wstring(boxButtonName(button)) + (name.empty() ? L"" : L" with the name " + quoted(name)),
+           LISP_ERROR);
+    given.refused = true;
+    answerBox(given.box, {IDCANCEL, {}});
 }
 
 void Player::windowGone(HWND window) {
-    std::erase(m_answered, window);
+    std::erase_if(m_answered, [=](const Answered& given) { return given.box == window; });
     if (window == m_frame) m_frame = nullptr;
     m_steps.forget(window);
     deliverHeldReleases(window);

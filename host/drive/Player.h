@@ -60,6 +60,13 @@ class Player : public DialogObserver {
         bool closing = false;              // its close box was pressed
     };
 
+    // A box that was answered and hasn't ended yet.
+    struct Answered {
+        HWND box;
+        BoxAnswer answer;
+        bool refused = false;
+    };
+
     HWND newestPlayable() const;
     bool isPlayable(HWND dialog) const { return newestPlayable() == dialog; }
     std::unique_ptr<Session> takeSession(HWND dialog);
@@ -73,6 +80,8 @@ class Player : public DialogObserver {
     static void CALLBACK menuTimer(HWND, UINT, UINT_PTR, DWORD) noexcept;
     void closeLeftOpen(Run& run);
     void answer(HWND box);
+    BoxAnswer takeAnswer();
+    void answerAnew(Answered& given);
 
     bool m_plays = false;
     bool m_repeat = false;
@@ -83,7 +92,7 @@ class Player : public DialogObserver {
     // The innermost dialog last.
     std::vector<Run> m_runs;
     std::vector<HWND> m_evaluating;
-    std::vector<HWND> m_answered;
+    std::vector<Answered> m_answered;
     std::deque<BoxAnswer> m_answers;
     BoxLook m_lastBox;
     Steps m_steps;

@@ -172,7 +172,7 @@ void MainFrame::runProgram(const std::wstring& path) {
     // `path` may be one of those that are moved.
     const std::wstring program = path;
     for (FrameSettings* settings : {&m_settings, &m_news}) settings->addProgram(program);
-    m_tools->enable(RUN_AGAIN, true);
+    if (m_tools) m_tools->enable(RUN_AGAIN, true);
     m_work.runProgram(program);
 }
 

@@ -64,10 +64,15 @@ std::wstring menuText(const FrameCommand& command) {
     return shortcut.empty() ? command.text : command.text + (L"\t" + shortcut);
 }
 
-std::wstring tipText(const FrameCommand& command) {
+std::wstring nameText(const FrameCommand& command) {
     std::wstring text = command.text;
     std::erase(text, L'&');
     std::erase(text, L'.');
+    return text;
+}
+
+std::wstring tipText(const FrameCommand& command) {
+    const std::wstring text = nameText(command);
     const std::wstring shortcut = shortcutText(command);
     return shortcut.empty() ? text : text + L" (" + shortcut + L")";
 }

@@ -43,6 +43,8 @@ const FrameCommand& frameCommand(UINT id);
 
 // As a menu has it: its shortcut behind a tab.
 std::wstring menuText(const FrameCommand& command);
+// As assistive programs tell it: the text without marks.
+std::wstring nameText(const FrameCommand& command);
 // As a tip has it: without marks, its shortcut in brackets.
 std::wstring tipText(const FrameCommand& command);
 

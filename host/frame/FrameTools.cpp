@@ -44,9 +44,11 @@ FrameTools::FrameTools(HWND parent, UINT id, int dpi) {
         if (!tool) continue;
         auto& button = *m_buttons.emplace_back(std::make_unique<CXPStyleButtonST>());
         button.SetThemeHelper(&m_themeHelper);
-        button.SubclassWindow(
-            CreateWindowExW(0, L"Button", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0,
-                            m_hWnd, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(tool)), nullptr, nullptr));
+        button.setShowsText(false);
+        button.SubclassWindow(CreateWindowExW(0, L"Button", nameText(frameCommand(tool)).c_str(),
+                                              WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0,
+                                              m_hWnd, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(tool)),
+                                              nullptr, nullptr));
         button.setTip(tipText(frameCommand(tool)));
     }
     setDpi(dpi);
@@ -72,7 +74,7 @@ void FrameTools::setDpi(int dpi) {
     }
 }
 
-int FrameTools::height() const { return scaled(BUTTON_SIDE + 2 * MARGIN); }
+int FrameTools::heightAt(int dpi) { return MulDiv(BUTTON_SIDE + 2 * MARGIN, dpi, USER_DEFAULT_SCREEN_DPI); }
 
 void FrameTools::enable(UINT command, bool enabled) {
     if (const HWND button = ::GetDlgItem(m_hWnd, static_cast<int>(command))) ::EnableWindow(button, enabled);

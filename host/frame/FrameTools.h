@@ -15,7 +15,7 @@ class FrameTools : public CWnd {
 
     void setDpi(int dpi);
     // In device pixels.
-    int height() const;
+    static int heightAt(int dpi);
     void enable(UINT command, bool enabled);
 
   protected:

@@ -12,6 +12,7 @@
 #include "host/services/DisplayScale.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
+#include "src/platform/mfc/HighContrast.h"
 
 namespace {
 
@@ -88,17 +89,20 @@ MainFrame::MainFrame(FrameWork work, std::filesystem::path settings)
     createFont();
     createMenus();
     createChildren();
-    // Focus and mnemonics show once the keyboard is used.
-    SendMessageW(m_window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
     layOut();
     ShowWindow(m_window, m_settings.place && m_settings.place->maximized ? SW_SHOWMAXIMIZED : SW_SHOW);
     UpdateWindow(m_window);
     SetFocus(m_commandLine);
-    // Showing text costs much more than printing it.
-    if (!host().isHeadless()) showOutput();
+    if (!host().isHeadless()) complete();
 }
 
-void MainFrame::showOutput() {
+void MainFrame::complete() {
+    if (m_tools) return;
+    createTools();
+    // Focus and mnemonics show once the keyboard is used.
+    SendMessageW(m_window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
+    layOut();
+    // Showing text costs much more than printing it.
     host().console().setListener([this](std::wstring_view text) { append(text); });
 }
 
@@ -168,8 +172,6 @@ void MainFrame::createChildren() {
         SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font), FALSE);
         return window;
     };
-    m_tools = std::make_unique<FrameTools>(m_window, TOOLS, m_dpi);
-    m_tools->enable(RUN_AGAIN, !m_settings.programs.empty());
     m_drawing = std::make_unique<DrawingWindow>(m_window, m_dpi);
     SetWindowLongPtrW(m_drawing->window(), GWLP_ID, DRAWING);
     m_output =
@@ -181,13 +183,20 @@ void MainFrame::createChildren() {
     SetWindowSubclass(m_commandLine, &commandLineProc, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
+// The first of the children, where Tab finds it.
+void MainFrame::createTools() {
+    m_tools = std::make_unique<FrameTools>(m_window, TOOLS, m_dpi);
+    SetWindowPos(m_tools->m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    m_tools->enable(RUN_AGAIN, !m_settings.programs.empty());
+}
+
 void MainFrame::rescale(int dpi, const RECT& place) {
     m_dpi = dpi;
     createFont();
     for (const HWND child : {m_output, m_label, m_commandLine}) {
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(m_font), TRUE);
     }
-    m_tools->setDpi(dpi);
+    if (m_tools) m_tools->setDpi(dpi);
     m_drawing->setDpi(dpi);
     SetWindowPos(m_window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
@@ -202,8 +211,8 @@ void MainFrame::layOut() {
     const int lineTop = client.bottom - line - margin;
     const int outputTop = lineTop - margin - scaled(OUTPUT_HEIGHT);
     const int left = margin + scaled(LABEL_WIDTH);
-    const int tools = m_tools->height();
-    m_tools->MoveWindow({0, 0, client.right, tools});
+    const int tools = FrameTools::heightAt(m_dpi);
+    if (m_tools) m_tools->MoveWindow({0, 0, client.right, tools});
     MoveWindow(m_drawing->window(), 0, tools, client.right, std::max(0, outputTop - tools), TRUE);
     MoveWindow(m_output, 0, outputTop, client.right, lineTop - margin - outputTop, TRUE);
     MoveWindow(m_label, margin, lineTop, left - margin, line, TRUE);
@@ -304,7 +313,7 @@ LRESULT MainFrame::handle(UINT message, WPARAM w, LPARAM l) {
             paint();
             return 0;
         case WM_CTLCOLORSTATIC:
-            if (reinterpret_cast<HWND>(l) != m_output) break;
+            if (reinterpret_cast<HWND>(l) != m_output || highContrastIsOn()) break;
             SetBkColor(reinterpret_cast<HDC>(w), PAPER);
             return reinterpret_cast<LRESULT>(m_paper);
         // The command line has the focus and lets go of it.

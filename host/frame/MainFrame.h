@@ -33,8 +33,9 @@ class MainFrame {
     MainFrame& operator=(const MainFrame&) = delete;
 
     HWND window() const { return m_window; }
-    // Shows what the console prints from now on.
-    void showOutput();
+    // Readies all that a person works the frame by: the tools, and the output, which shows what the console
+    // prints from now on. Done already unless the host is headless, where most runs open dialogs alone.
+    void complete();
     // Whether the message was for the frame's own keys, such as those of its commands.
     bool translate(MSG& message);
     // Writes the settings. Where that fails the console tells so.
@@ -46,6 +47,7 @@ class MainFrame {
                                             DWORD_PTR frame) noexcept;
 
     void createChildren();
+    void createTools();
     void createFont();
     void createMenus();
     RECT startingPlace() const;
@@ -87,7 +89,7 @@ class MainFrame {
     HWND m_window = nullptr;
     HACCEL m_keys = nullptr;
     std::unique_ptr<BCMenuBar> m_menus;
-    std::unique_ptr<FrameTools> m_tools;
+    std::unique_ptr<FrameTools> m_tools;  // null until the frame is complete
     std::unique_ptr<DrawingWindow> m_drawing;
     HWND m_output = nullptr;
     HWND m_label = nullptr;

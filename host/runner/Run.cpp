@@ -155,13 +155,14 @@ void startRecording(const Options& options) {
 }
 
 HWND makeMainFrame();
+void completeMainFrame();
 lisp::Value workMainFrameForLisp(lisp::Call&);
 
 void startHost(const Options& options) {
     g_options = &options;
     // For the services of the platform that plug-ins use on this thread, such as that of pictures.
     OleInitialize(nullptr);
-    host().setMainFrame(&makeMainFrame);
+    host().setMainFrame(&makeMainFrame, &completeMainFrame);
     host().setAtExit(&endHost);
     makeTempFolder();
     host().setHeadless(options.headless);
@@ -215,6 +216,7 @@ MainFrame& mainFrame() {
 }
 
 HWND makeMainFrame() { return mainFrame().window(); }
+void completeMainFrame() { mainFrame().complete(); }
 
 // Whether the main frame still stands.
 bool dispatchWaitingMessages() {
@@ -230,7 +232,7 @@ bool dispatchWaitingMessages() {
 
 // Until the frame is closed.
 void workMainFrame() {
-    mainFrame().showOutput();
+    mainFrame().complete();
     while (dispatchWaitingMessages()) {
         player().frameIdle(host().mainFrame());
         WaitMessage();

@@ -17,6 +17,11 @@ HWND Host::mainFrame() {
     return m_mainFrame;
 }
 
+HWND Host::completeMainFrame() {
+    if (mainFrame() && m_completeMainFrame) m_completeMainFrame();
+    return m_mainFrame;
+}
+
 bool Host::warn(const Warnings::Site& site, std::wstring_view words, std::wstring_view wanted,
                 std::span<const std::wstring> candidates) {
     const auto line = m_warnings.tell(site, words, wanted, candidates);

@@ -27,7 +27,12 @@ class Host {
 
     // The window in front of which dialogs open: what `make` gives at the first question.
     HWND mainFrame();
-    void setMainFrame(std::function<HWND()> make) { m_makeMainFrame = std::move(make); }
+    // The same with all that a person works it by.
+    HWND completeMainFrame();
+    void setMainFrame(std::function<HWND()> make, std::function<void()> complete) {
+        m_makeMainFrame = std::move(make);
+        m_completeMainFrame = std::move(complete);
+    }
 
     // No person is there: alerts are recorded and answered, and a dialog must have a session.
     bool isHeadless() const { return m_headless; }
@@ -51,6 +56,7 @@ class Host {
     Alerts m_alerts;
     Warnings m_warnings{m_lisp};
     std::function<HWND()> m_makeMainFrame;
+    std::function<void()> m_completeMainFrame;
     std::function<void()> m_atExit;
     HWND m_mainFrame = nullptr;
     bool m_headless = false;

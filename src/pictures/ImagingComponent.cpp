@@ -11,18 +11,23 @@ namespace {
 constexpr UINT BYTES_PER_PIXEL = 4;
 
 // The first image of a file, in pixels of blue, green, red and alpha, the colors multiplied by the alpha.
-ComPtr<IWICBitmapSource> decode(IStream& stream) {
+// The component is loaded when the first such picture comes: no function of its module is called by name.
+ComPtr<IWICFormatConverter> decode(IStream& stream) {
     ComPtr<IWICImagingFactory> factory;
     ComPtr<IWICBitmapDecoder> decoder;
     ComPtr<IWICBitmapFrameDecode> frame;
-    ComPtr<IWICBitmapSource> pixels;
-    const bool isRead = SUCCEEDED(stream.Seek({}, STREAM_SEEK_SET, nullptr)) &&
-                        SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                                   IID_IWICImagingFactory, factory.outVoid())) &&
-                        SUCCEEDED(factory->CreateDecoderFromStream(
-                            &stream, nullptr, WICDecodeMetadataCacheOnDemand, decoder.out())) &&
-                        SUCCEEDED(decoder->GetFrame(0, frame.out()));
-    if (isRead) WICConvertBitmapSource(GUID_WICPixelFormat32bppPBGRA, frame.get(), pixels.out());
+    ComPtr<IWICFormatConverter> pixels;
+    const bool isRead =
+        SUCCEEDED(stream.Seek({}, STREAM_SEEK_SET, nullptr)) &&
+        SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                   IID_IWICImagingFactory, factory.outVoid())) &&
+        SUCCEEDED(factory->CreateDecoderFromStream(&stream, nullptr, WICDecodeMetadataCacheOnDemand,
+                                                   decoder.out())) &&
+        SUCCEEDED(decoder->GetFrame(0, frame.out())) &&
+        SUCCEEDED(factory->CreateFormatConverter(pixels.out())) &&
+        SUCCEEDED(pixels->Initialize(frame.get(), GUID_WICPixelFormat32bppPBGRA, WICBitmapDitherTypeNone,
+                                     nullptr, 0, WICBitmapPaletteTypeCustom));
+    if (!isRead) pixels.reset();
     return pixels;
 }
 
@@ -48,7 +53,7 @@ UniqueBitmap bitmapOf(IWICBitmapSource& source) {
 
 ComPtr<IPicture> decodeByImagingComponent(IStream& stream) {
     ComPtr<IPicture> picture;
-    const ComPtr<IWICBitmapSource> source = decode(stream);
+    const ComPtr<IWICFormatConverter> source = decode(stream);
     UniqueBitmap bitmap = source ? bitmapOf(*source) : nullptr;
     if (!bitmap) return picture;
     PICTDESC description{};

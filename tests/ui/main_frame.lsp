@@ -37,6 +37,7 @@
         (ui_menu "Open Program...")
         (want '(1) ran)
         (want T (look (list tools run-again) "enabled"))
+        (want "Run Again" (ui_text (list tools run-again)))
         (ui_key "F5" line)
         (want '(1 1) ran)
         (ui_answer "OK" second-program)

@@ -69,10 +69,15 @@ ButtonIcon::ButtonIcon(HICON icon) : m_icon(icon) {
     const IconBitmaps bitmaps(icon);
     if (!bitmaps.colour) return;
     m_size = sizeOf(bitmaps);
-    m_greyed.reset(greyedCopy(bitmaps, m_size));
+}
+
+// Made when it is first seen, which most never are.
+HICON ButtonIcon::greyed() const {
+    if (!m_greyed && m_size.width) m_greyed.reset(greyedCopy(IconBitmaps(m_icon.get()), m_size));
+    return m_greyed.get();
 }
 
 void ButtonIcon::draw(HDC dc, int x, int y, bool disabled) const {
-    const HICON icon = disabled && m_greyed ? m_greyed.get() : m_icon.get();
+    const HICON icon = disabled && greyed() ? greyed() : m_icon.get();
     if (icon) DrawIconEx(dc, x, y, icon, m_size.width, m_size.height, 0, nullptr, DI_NORMAL);
 }

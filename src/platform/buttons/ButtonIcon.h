@@ -20,7 +20,9 @@ class ButtonIcon {
     void draw(HDC dc, int x, int y, bool disabled) const;
 
   private:
+    HICON greyed() const;
+
     UniqueIcon m_icon;
-    UniqueIcon m_greyed;
+    mutable UniqueIcon m_greyed;
     ButtonSize m_size;
 };

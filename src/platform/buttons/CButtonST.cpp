@@ -51,6 +51,11 @@ void CButtonST::SetIcon(HICON icon) {
     Invalidate();
 }
 
+void CButtonST::setShowsText(bool shows) {
+    m_showsText = shows;
+    Invalidate();
+}
+
 void CButtonST::SetAlign(int /*align*/) { Invalidate(); }
 
 const MessageMap& CButtonST::messageMap() const {
@@ -90,7 +95,7 @@ void CButtonST::drawContent(HDC dc, const ButtonState& state, const ButtonGround
     const auto hidden = static_cast<UINT>(SendMessage(WM_QUERYUISTATE));
     const UINT format = DT_SINGLELINE | DT_END_ELLIPSIS | DT_VCENTER | DT_NOCLIP |
                         (hidden & UISF_HIDEACCEL ? DT_HIDEPREFIX : 0);
-    const CString text = GetWindowText();
+    const CString text = m_showsText ? GetWindowText() : CString();
     RECT measured = {};
     if (!text.empty()) DrawTextW(dc, text.c_str(), -1, &measured, DT_SINGLELINE | DT_CALCRECT);
     const ButtonParts parts = placeButtonParts(boxOf(ground.content), m_icon.size(),

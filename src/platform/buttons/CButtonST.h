@@ -22,6 +22,9 @@ class CButtonST : public CButton {
     void SetIcon(HICON icon);
     // Says what the button does, in a box that appears when the pointer rests on it; empty for none.
     void setTip(const CString& tip) { m_tip = tip; }
+    // Whether the text stands beside the icon. If not, it is still what assistive programs tell; drawn unless
+    // said otherwise.
+    void setShowsText(bool shows);
     // How icon and text stand to each other. There is one way: 0, the icon on the left.
     void SetAlign(int align);
 
@@ -47,6 +50,7 @@ class CButtonST : public CButton {
 
     ButtonIcon m_icon;
     CString m_tip;
+    bool m_showsText = true;
     bool m_hasTipWindow = false;
     bool m_hover = false;
     bool m_default = false;

@@ -3,6 +3,7 @@
 
 #include <commctrl.h>
 
+#include <cstring>
 #include <stdexcept>
 #include <string>
 
@@ -46,6 +47,16 @@ int32_t throwNumber() { throw 5; }
 int32_t crash() {
     static int* volatile nowhere = nullptr;
     *nowhere = 1;
+    return RESULT_SET;
+}
+
+// Writes over the end of what lies on its stack.
+int32_t smash() {
+    // Which function and how many bytes the compiler doesn't know.
+    void* (*volatile fill)(void*, int, size_t) = &std::memset;
+    volatile size_t length = 64;
+    char bytes[16];
+    fill(bytes, 1, length);
     return RESULT_SET;
 }
 
@@ -212,6 +223,7 @@ constexpr Row ROWS[] = {
     {L"t_move", &move},
     {L"t_unfocus", &unfocus},
     {L"t_crash", &crash},
+    {L"t_smash", &smash},
     {L"t_write", &write},
 };
 constexpr int COUNT = ARRAYSIZE(ROWS);

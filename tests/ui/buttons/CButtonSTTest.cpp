@@ -8,6 +8,7 @@
 #include "src/platform/buttons/CXPStyleButtonST.h"
 
 #include <commctrl.h>
+#include <oleacc.h>
 
 namespace {
 
@@ -77,6 +78,32 @@ TEST_F(ImageButton, knowsWhenThePointerIsOverIt) {
     EXPECT_TRUE(button.state().hover);
     button.SendMessage(WM_MOUSELEAVE);
     EXPECT_FALSE(button.state().hover);
+}
+
+// What assistive programs tell of a window.
+std::wstring accessibleName(HWND window) {
+    std::wstring told;
+    CoInitialize(nullptr);
+    IAccessible* object = nullptr;
+    AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
+                               reinterpret_cast<void**>(&object));
+    VARIANT self;
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    BSTR name = nullptr;
+    if (object && object->get_accName(self, &name) == S_OK && name) told = name;
+    SysFreeString(name);
+    if (object) object->Release();
+    CoUninitialize();
+    return told;
+}
+
+TEST_F(ImageButton, hasANameThatDoesNotShow) {
+    const Pixels plain = shown();
+    button.setShowsText(false);
+    SetWindowTextW(window, L"Open Program");
+    EXPECT_EQ(shown(), plain);
+    EXPECT_EQ(accessibleName(window), L"Open Program");
 }
 
 HWND tipWindow() {

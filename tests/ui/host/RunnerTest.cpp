@@ -88,12 +88,28 @@ TEST(Runner, ACrashIsToldBehindWhatWasPrinted) {
     EXPECT_EQ(run.errors.find("wexhost crashed: exception 0xc0000005 in testplugin.pgx+0x"), 0U)
         << run.errors;
 
+    const HostRun smashed = runHost({L"--headless", L"-e", L"(t_smash)"});
+    EXPECT_EQ(smashed.status, 5U);
+    EXPECT_EQ(smashed.errors.find("wexhost crashed: exception 0xc0000409 in testplugin.pgx+0x"), 0U)
+        << smashed.errors;
+
     const HostRun inAction =
         runHost({L"--headless", L"-e", LR"((ui_session "everything" '((t_crash))) (t_dialog))"});
     EXPECT_EQ(inAction.status, 5U);
     EXPECT_NE(inAction.errors.find("the last step was session \"everything\", step 1: (T_CRASH)"),
               std::string::npos)
         << inAction.errors;
+}
+
+TEST(Runner, AFileDialogThatRefusesItsAnswerIsToldAndLeft) {
+    const HostRun run = runHost(
+        {L"--headless", L"--timeout", L"60", L"-e",
+         LR"((progn (ui_session nil '((ui_answer "OK" "no such.lsp") (ui_key "CTRL+O" 103) (princ "left"))) (host_main_frame)))"});
+    EXPECT_EQ(run.status, 1U);
+    EXPECT_EQ(run.output, "[alert] Open Program\n[alert] File does not exist\nleft");
+    EXPECT_EQ(run.errors,
+              "session of the main frame, step 2: (UI_KEY \"CTRL+O\" 103)\n"
+              "  dialog \"Open Program\" did not take the answer OK with the name \"no such.lsp\"\n");
 }
 
 }  // namespace
