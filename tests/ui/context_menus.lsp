@@ -16,7 +16,7 @@
     session))
 (defun paste () (wex_set_tile "LINES" "") (ui_key "CTRL+V" "LINES"))
 
-(test "A list copies its selected rows with and without the titles, selects all rows and fits its columns; a right press on a row tells of it alone"
+(test "A list copies its selected rows with and without the titles, selects all rows and fits its columns, by keys and by a right click above the rows; a right press on a row tells of it alone"
   '((in-list
       '((ui_pick "LISTVIEW" '(0 2))
         (ui_key "SHIFT+F10")
@@ -34,6 +34,13 @@
         (ui_key "APPS" "LISTVIEW")
         (ui_menu "Select All")
         (want '(0 1 2) (look "LISTVIEW" "selected"))
+        (told)
+        (ui_rclick '("LISTVIEW" 0))
+        (want '("Copy" "Copy with Headers" "Select All" "Fit Columns") (enabled))
+        (want nil (told))
+        (ui_menu "Copy with Headers")
+        (paste)
+        (want "Name\tSize\r\nalpha\t10\r\nbeta\t9\r\ngamma\t100\r\n" (wex_get_tile "LINES"))
         (ui_key "APPS" "LISTVIEW")
         (ui_menu "Fit Columns")
         (told)
@@ -103,6 +110,10 @@
         (want '("Print..." "Save as PDF...") (texts))
         (ui_shot "menu-report.png")
         (ui_key "ESC")
+        (ui_rclick '(100 101))
+        (want '("Print..." "Save as PDF...") (texts))
+        (ui_key "ESC")
+        (want nil (ui_menu))
         (ui_pick 100 1)
         (ui_key "SHIFT+F10" 100)
         (want '("Fit" nil "View" "Style") (texts))

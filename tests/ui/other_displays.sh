@@ -4,10 +4,10 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . tools/wine-env.sh
 
-# Drawn buttons beside the platform's, with the pixels of that display.
+# Drawn buttons beside the platform's and the items of menus, with the pixels of that display.
 buttons() (
     start_wine "$1"
-    wine64 build/windows/tests/buttons_ui_test.exe --gtest_brief=1 --gtest_filter='ButtonBeside*'
+    wine64 build/windows/tests/buttons_ui_test.exe --gtest_brief=1 --gtest_filter='ButtonBeside*:MenuItemLook*'
 )
 
 # sessions KIND SCALE SESSION…
@@ -20,9 +20,9 @@ sessions() (
 
 buttons headless-classic
 buttons headless-144
-all=(tests/ui/{list_control,tabs,image_buttons,images,rows,report}.lsp)
+all=(tests/ui/{list_control,tabs,image_buttons,images,rows,report,context_menus}.lsp)
 sessions headless-classic 1.0 "${all[@]}"
 sessions headless-144 1.5 "${all[@]}"
 # What lies in pixels has the least room here.
-sessions headless-192 2.0 tests/ui/{images,report}.lsp
+sessions headless-192 2.0 tests/ui/{images,report,context_menus}.lsp
 sessions headless-classic-192 2.0 tests/ui/report.lsp

@@ -20,13 +20,6 @@ enum ArrowState { ARROW_NORMAL = 1, ARROW_DISABLED = 2 };
 // Marks are drawn on a square of so many units.
 constexpr int UNITS = 16;
 
-bool highContrastIsOn() {
-    HIGHCONTRASTW contrast{};
-    contrast.cbSize = sizeof contrast;
-    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
-           (contrast.dwFlags & HCF_HIGHCONTRASTON);
-}
-
 LOGFONTW menuFontAt(int dpi) {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
@@ -87,7 +80,7 @@ int textWidth(HDC dc, std::wstring_view text, UINT flags) {
 
 }  // namespace
 
-MenuLook::MenuLook(HWND window)
+MenuLook::MenuLook(HWND window, bool highContrast)
     : m_dpi(static_cast<int>(GetDpiForWindow(window))),
       m_iconSide(GetSystemMetricsForDpi(SM_CXSMICON, static_cast<UINT>(m_dpi))) {
     LOGFONTW font = menuFontAt(m_dpi);
@@ -101,7 +94,7 @@ MenuLook::MenuLook(HWND window)
     m_lineHeight = metric.tmHeight;
     BOOL flat = FALSE;
     m_isFlat = SystemParametersInfoW(SPI_GETFLATMENU, 0, &flat, 0) && flat;
-    if (IsThemeActive() && !highContrastIsOn()) m_theme = OpenThemeData(window, L"MENU");
+    if (IsThemeActive() && !highContrast) m_theme = OpenThemeData(window, L"MENU");
 }
 
 MenuLook::~MenuLook() {

@@ -10,6 +10,7 @@
 
 #include "src/platform/buttons/MenuLayout.h"
 #include "src/platform/mfc/Drawing.h"
+#include "src/platform/mfc/HighContrast.h"
 
 enum class MenuMark { none, check, radio };
 
@@ -28,8 +29,8 @@ struct MenuItemLook {
 
 class MenuLook {
   public:
-    // For the display and the theme of that window.
-    explicit MenuLook(HWND window);
+    // For the display and the theme of that window; in the system's colors with high contrast.
+    explicit MenuLook(HWND window, bool highContrast = highContrastIsOn());
     ~MenuLook();
     MenuLook(const MenuLook&) = delete;
     MenuLook& operator=(const MenuLook&) = delete;

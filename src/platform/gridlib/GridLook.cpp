@@ -4,19 +4,14 @@
 
 #include <algorithm>
 
+#include "src/platform/mfc/HighContrast.h"
+
 namespace {
 
 // The theme's line between cells, where there is no system colour: a light grey.
 constexpr COLORREF LIGHT_LINE = RGB(208, 212, 218);
 // How much of the highlight shows through under a selection, of 16.
 constexpr int HIGHLIGHT_SHARE = 5;
-
-bool highContrastIsOn() {
-    HIGHCONTRASTW contrast{};
-    contrast.cbSize = sizeof contrast;
-    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
-           (contrast.dwFlags & HCF_HIGHCONTRASTON);
-}
 
 BYTE mixed(BYTE a, BYTE b) {
     return static_cast<BYTE>((a * (16 - HIGHLIGHT_SHARE) + b * HIGHLIGHT_SHARE) / 16);

@@ -10,7 +10,8 @@ namespace {
 
 class DrawnItem {
   public:
-    explicit DrawnItem(const MenuItemLook& item) : m_look(GetDesktopWindow()) {
+    explicit DrawnItem(const MenuItemLook& item, bool highContrast = false)
+        : m_look(GetDesktopWindow(), highContrast) {
         m_metrics = m_look.metrics();
         m_look.measure(item, m_metrics);
         m_width = menuItemWidth(m_metrics);
@@ -35,11 +36,24 @@ class DrawnItem {
             for (int x = box.left; x < box.right; ++x) count += at(x, y) != at(box.left, box.top);
         return count;
     }
+    // As GetSysColor numbers them.
+    COLORREF ground(const MenuBox& box) const { return colorOf(at(box.left, box.top)); }
+    // Whether any pixel of the box has that color.
+    bool shows(const MenuBox& box, int systemColor) const {
+        for (int y = box.top; y < box.bottom; ++y)
+            for (int x = box.left; x < box.right; ++x)
+                if (colorOf(at(x, y)) == GetSysColor(systemColor)) return true;
+        return false;
+    }
     uint32_t at(int x, int y) const { return m_pixels[y * m_width + x] & 0xFFFFFF; }
 
     MenuItemParts parts;
 
   private:
+    static COLORREF colorOf(uint32_t pixel) {
+        return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
+    }
+
     MenuLook m_look;
     MenuMetrics m_metrics;
     int m_width = 0;
@@ -96,6 +110,29 @@ TEST(MenuItemLook, AnIconFillsItsSquareAndADisabledOneIsGrey) {
     const auto blue = [](uint32_t pixel) { return static_cast<int>(pixel & 0xFF); };
     EXPECT_GT(red(shown.at(x, y)) - blue(shown.at(x, y)), 60);
     EXPECT_LT(std::abs(red(greyed.at(x, y)) - blue(greyed.at(x, y))), 30);
+}
+
+// Under every theme, since what it draws might not stand out from the colors that the person has chosen.
+TEST(MenuItemLook, HighContrastHasTheSystemsColorsAlone) {
+    BOOL flat = FALSE;
+    SystemParametersInfoW(SPI_GETFLATMENU, 0, &flat, 0);
+    MenuItemLook look = item();
+    look.mark = MenuMark::check;
+    look.opensMenu = true;
+    for (const bool disabled : {false, true}) {
+        for (const bool selected : {false, true}) {
+            look.disabled = disabled;
+            look.selected = selected;
+            const DrawnItem drawn(look, true);
+            const MenuItemParts& parts = drawn.parts;
+            const int ground = !selected ? COLOR_MENU : flat ? COLOR_MENUHILIGHT : COLOR_HIGHLIGHT;
+            const int ink = disabled ? COLOR_GRAYTEXT : selected ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT;
+            for (const MenuBox* part : {&parts.label, &parts.mark, &parts.arrow}) {
+                EXPECT_EQ(drawn.ground(*part), GetSysColor(ground)) << disabled << selected;
+                EXPECT_TRUE(drawn.shows(*part, ink)) << disabled << selected;
+            }
+        }
+    }
 }
 
 TEST(BCMenu, AssistiveProgramsReadTheTextsAndStates) {
