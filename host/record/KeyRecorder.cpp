@@ -102,6 +102,7 @@ void KeyRecorder::resolveFocus() {
     RecordedStep& step = m_journal.recording().at(*m_moved);
     m_moved.reset();
     const HWND focus = GetFocus();
+    if (focus == m_movedFrom) return;  // what else the key does there comes again
     const bool isEdit = hasWindowClass(focus, WC_EDITW);
     if (!isEdit && !(m_byTab && isClickedBySpace(focus))) return;
     const NamedTile tile = tileOf(focus, dialogOf(focus));
@@ -125,7 +126,9 @@ void KeyRecorder::addKey(const MSG& message, HWND dialog, const KeyStroke& strok
     const Recording::Place place = m_journal.add(dialog, {Kind::other, {}, keyForm(stroke), {}});
     m_told = message.lParam & SCAN_CODE;
     m_byTab = stroke.virtualKey == VK_TAB;
-    if (m_byTab || stroke.alt) m_moved = place;
+    if (!m_byTab && !stroke.alt) return;
+    m_moved = place;
+    m_movedFrom = GetFocus();
 }
 
 void KeyRecorder::keyDown(const MSG& message, HWND dialog) {

@@ -77,7 +77,9 @@ void MouseRecorder::add(Press& press, Kind kind, std::wstring form) {
 
 void MouseRecorder::addDouble(Press& press, const std::wstring& first, std::wstring form) {
     RecordedStep* last = m_journal.recording().last();
-    if (last && last->form == first) {
+    if (m_wasApart) {
+        add(press, Kind::other, first);
+    } else if (last && last->form == first) {
         last->form = std::move(form);
         m_journal.write();
     } else {
@@ -98,9 +100,11 @@ void MouseRecorder::pressed(const MSG& message, HWND dialog) {
         dialog,      message.hwnd, tileOf(message.hwnd, dialog), pointOf(message), heldKeys(message.wParam),
         std::nullopt};
     if (!press.tile) return;
+    const bool isDouble = message.message == WM_LBUTTONDBLCLK;
+    if (!isDouble) m_wasApart = false;
     const bool isRight = message.message == WM_RBUTTONDOWN || message.message == WM_RBUTTONDBLCLK;
     if (isRight) return pressedRight(press);
-    pressedLeft(press, message.message == WM_LBUTTONDBLCLK);
+    pressedLeft(press, isDouble);
     m_down.push_back(std::move(press));
 }
 

@@ -22,6 +22,9 @@ class MouseRecorder {
     // A key is pressed in that dialog, or it goes. The button of an earlier press came up where nobody saw
     // it, as when the press has brought up a box: it was no click.
     void dropUnfinished(HWND dialog);
+    // A dialog or a box has come and gone: two presses before and after it are no double click for a session,
+    // whose second press it would take.
+    void dialogGone() { m_wasApart = true; }
 
   private:
     // A button that is down.
@@ -50,4 +53,5 @@ class MouseRecorder {
 
     Journal& m_journal;
     std::vector<Press> m_down;
+    bool m_wasApart = false;
 };

@@ -115,5 +115,6 @@ void Recorder::dialogIdle(HWND dialog) {
 void Recorder::windowGone(HWND window) {
     m_keys.windowGone(window);
     m_mouse.dropUnfinished(window);
+    if (isSystemDialog(window)) m_mouse.dialogGone();
     m_journal.dialogGone(window);
 }

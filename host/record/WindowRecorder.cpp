@@ -85,6 +85,8 @@ void WindowRecorder::menuInput(const MSG& message, HMENU menu, HWND dialog) {
                 std::find_if(items.begin(), items.end(), [](const MenuItem& item) { return item.selected; });
             if (message.wParam == VK_RETURN && selected != items.end() && !selected->disabled)
                 return addMenuItem(dialog, selected->text);
+            // The mouse has taken the mark away from where the keys had moved it: nothing is taken.
+            if (message.wParam == VK_RETURN && selected == items.end()) m_journal.recording().dropMenuKeys();
             const std::wstring name = keyStrokeName({static_cast<int>(message.wParam)});
             const bool isArrow = message.wParam >= VK_END && message.wParam <= VK_DOWN;
             if (!name.empty())
