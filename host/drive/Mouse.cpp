@@ -160,6 +160,9 @@ void post(const Spot& spot, UINT message, WPARAM keys) {
     mouse().post({spot.window, message, keys, MAKELPARAM(spot.point.x, spot.point.y)});
 }
 
+// The real mouse would make two presses on one point a double one.
+Spot pressSpot(const Spot& spot) { return usesRealInput() ? besideLastClick(spot) : spot; }
+
 }  // namespace
 
 Spot middleOf(HWND window) {
@@ -173,24 +176,23 @@ bool isInView(const Spot& spot) {
     return GetClientRect(spot.window, &client) && PtInRect(&client, spot.point);
 }
 
-void hold(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONDOWN, MK_LBUTTON | keys); }
+void hold(const Spot& spot, WPARAM keys) { post(pressSpot(spot), WM_LBUTTONDOWN, MK_LBUTTON | keys); }
 
 void letGo(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONUP, keys); }
 
 void click(const Spot& wanted, WPARAM keys) {
+    const Spot spot = pressSpot(wanted);
     if (usesRealInput()) {
-        const Spot spot = besideLastClick(wanted);
         post(spot, WM_LBUTTONDOWN, keys);
         return post(spot, WM_LBUTTONUP, keys);
     }
-    const Spot& spot = wanted;
     const LPARAM at = MAKELPARAM(spot.point.x, spot.point.y);
     mouse().postClick({spot.window, WM_LBUTTONDOWN, MK_LBUTTON | keys, at},
                       {spot.window, WM_LBUTTONUP, keys, at});
 }
 
 void doubleClick(const Spot& wanted, WPARAM keys) {
-    const Spot spot = usesRealInput() ? besideLastClick(wanted) : wanted;
+    const Spot spot = pressSpot(wanted);
     if (usesRealInput()) {
         post(spot, WM_LBUTTONDOWN, keys);
         post(spot, WM_LBUTTONUP, keys);
@@ -208,7 +210,7 @@ void rightClick(const Spot& spot, WPARAM keys) {
 
 void sweep(const Spot& from, const Spot& to, WPARAM keys) {
     const POINT between = {(from.point.x + to.point.x) / 2, (from.point.y + to.point.y) / 2};
-    post(from, WM_LBUTTONDOWN, MK_LBUTTON | keys);
+    post(pressSpot(from), WM_LBUTTONDOWN, MK_LBUTTON | keys);
     post({from.window, between}, WM_MOUSEMOVE, MK_LBUTTON | keys);
     post(to, WM_MOUSEMOVE, MK_LBUTTON | keys);
     post(to, WM_LBUTTONUP, keys);

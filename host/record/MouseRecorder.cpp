@@ -83,7 +83,8 @@ void MouseRecorder::addDouble(Press& press, const std::wstring& first, std::wstr
         last->form = std::move(form);
         m_journal.write();
     } else {
-        add(press, Kind::other, std::move(form));
+        // The first press did something else there, as a drag. For a button one press is as good as another.
+        add(press, Kind::other, isButton(press.tile) ? first : std::move(form));
     }
 }
 
