@@ -78,11 +78,12 @@ Spot cellSpot(const Tile& tile, const GridWindow& grid, GridPlace place) {
     return *spot;
 }
 
-// Where to press for "tile [x y]": that point of its client area, or the middle.
+// Where to press for "tile [x y]": that point of its client area, or the middle. A tile that has taken the
+// mouse gets what is pressed beside it, too.
 Spot pointOf(Call& call, const Tile& tile, bool mayLieOutside) {
     if (countBeforeKeys(call, 1) < 2) return middleOf(tile.window());
     const Spot spot{tile.window(), {call.integer(1), call.integer(2)}};
-    if (!mayLieOutside && !isInView(spot))
+    if (!mayLieOutside && !isInView(spot) && GetCapture() != tile.window())
         tile.fail(L"point " + std::to_wstring(spot.point.x) + L" " + std::to_wstring(spot.point.y) +
                   L" lies outside of it");
     return spot;
@@ -194,7 +195,7 @@ Value sweepEntries(Call& call) {
     return Value::none();
 }
 
-// (ui_expand tree item), (ui_check tile item): the part of the entry that `find` finds.
+// (ui_expand tree item [clicks]), (ui_check tile item [clicks]): the part of the entry that `find` finds.
 template <std::optional<Spot> (Items::*find)(int) const>
 Value pressPart(Call& call, const wchar_t* part) {
     const Tile tile(call, 0);
@@ -204,7 +205,9 @@ Value pressPart(Call& call, const wchar_t* part) {
     items->bringIntoView(index, 0);
     const std::optional<Spot> spot = ((*items).*find)(index);
     if (!spot) tile.fail(L"item " + wideText(call.lisp.print(call[1])) + L" has no " + part);
-    pressWith(&click, *spot, NO_KEYS);
+    const int clicks = call.integerOr(2, 1);
+    if (clicks != 1 && clicks != 2) call.expected(2, "1 or 2 clicks");
+    pressWith(clicks == 2 ? &doubleClick : &click, *spot, NO_KEYS);
     return Value::none();
 }
 Value expand(Call& call) { return pressPart<&Items::buttonOf>(call, L"button to open or close it"); }
@@ -232,8 +235,8 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_rclick", &pressEntry<&rightClick>, 1, 4},
     {u"ui_pick", &pick, 2, 6},
     {u"ui_sweep", &sweepEntries, 3, 4},
-    {u"ui_expand", &expand, 2, 2},
-    {u"ui_check", &check, 2, 2},
+    {u"ui_expand", &expand, 2, 3},
+    {u"ui_check", &check, 2, 3},
     {u"ui_header", &header, 2, 3},
 };
 

@@ -187,6 +187,8 @@ void click(const Spot& wanted, WPARAM keys) {
         return post(spot, WM_LBUTTONUP, keys);
     }
     const LPARAM at = MAKELPARAM(spot.point.x, spot.point.y);
+    // Who has taken the mouse sees its way to the next press.
+    if (GetCapture() == spot.window) mouse().post({spot.window, WM_MOUSEMOVE, keys, at});
     mouse().postClick({spot.window, WM_LBUTTONDOWN, MK_LBUTTON | keys, at},
                       {spot.window, WM_LBUTTONUP, keys, at});
 }

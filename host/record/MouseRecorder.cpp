@@ -83,15 +83,21 @@ void MouseRecorder::addDouble(Press& press, const std::wstring& first, std::wstr
         last->form = std::move(form);
         m_journal.write();
     } else {
-        // The first press did something else there, as a drag. For a button one press is as good as another.
-        add(press, Kind::other, isButton(press.tile) ? first : std::move(form));
+        // The first press did something else there, as a drag. Of a button, and of a part of an entry, one
+        // press is as good as another.
+        const bool isPick = first.starts_with(L"(ui_pick");
+        add(press, Kind::other, isPick ? std::move(form) : first);
     }
 }
 
 void MouseRecorder::dropUnfinished(HWND dialog) {
-    for (const Press& press : m_down)
-        if (press.dialog == dialog && press.step && isButton(press.tile))
-            m_journal.setForm(*press.step, call(L"ui_hold", press.tile));
+    for (const Press& press : m_down) {
+        if (press.dialog != dialog || !press.step) continue;
+        if (isButton(press.tile)) m_journal.setForm(*press.step, call(L"ui_hold", press.tile));
+        // Such a list goes on as if the button were down, and takes the next press wherever that is.
+        if (press.entry >= 0 && hasWindowClass(press.window, WC_LISTBOXW))
+            m_journal.setForm(*press.step, call(L"ui_hold", press.tile, pointText(press.at) + press.keys));
+    }
     std::erase_if(m_down, [=](const Press& press) { return press.dialog == dialog; });
 }
 
@@ -156,7 +162,12 @@ void MouseRecorder::pressedEntry(Press& press, const Items& items, bool isDouble
     }
     const std::wstring item = L" " + itemName(items, press.entry) + press.keys;
     if (const wchar_t* part = partFunction(control, press.at)) {
-        add(press, Kind::other, call(part, press.tile, L" " + itemName(items, press.entry)));
+        const std::wstring name = L" " + itemName(items, press.entry);
+        const std::wstring once = call(part, press.tile, name);
+        if (isDouble)
+            addDouble(press, once, call(part, press.tile, name + L" 2"));
+        else
+            add(press, Kind::other, once);
         press.entry = -1;
     } else if (isDouble) {
         addDouble(press, call(L"ui_pick", press.tile, item), call(L"ui_dblclick", press.tile, item));
