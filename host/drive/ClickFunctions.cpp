@@ -133,6 +133,25 @@ void pickAll(Call& call, const Tile& tile) {
     }
 }
 
+// The arrow that opens the list of a combo box; nothing where it is open, or always shows.
+std::optional<Spot> closedArrow(HWND window) {
+    COMBOBOXINFO parts = {sizeof parts};
+    if (!GetComboBoxInfo(window, &parts) || IsRectEmpty(&parts.rcButton) ||
+        SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0))
+        return std::nullopt;
+    const RECT& arrow = parts.rcButton;
+    return Spot{window, {(arrow.left + arrow.right) / 2, (arrow.top + arrow.bottom) / 2}};
+}
+
+// The list is opened by a press of its own: what the box that is left does then comes of that.
+void pickFromList(const Tile& tile, const Spot& arrow, int index) {
+    pressWith(&click, arrow, NO_KEYS);
+    player().steps().add(tile.dialog(), [=] {
+        tile.mustBeWorkable();
+        pressWith(&click, itemsIn(tile)->show(index, 0), NO_KEYS);
+    });
+}
+
 // Two spots are reached in one movement if both are in view.
 void sweepTile(const Tile& tile, const Spot& from, const Spot& to, const KeyStroke& keys) {
     if (!isInView(from) || !isInView(to)) tile.fail(L"its ends are not in view together");
@@ -175,6 +194,8 @@ Value pick(Call& call) {
         sweepCells(call, tile, *grid, keys);
     } else if (call[1].isCons() && items && !items->tree()) {
         pickAll(call, tile);
+    } else if (const auto arrow = items ? closedArrow(tile.window()) : std::nullopt) {
+        pickFromList(tile, *arrow, indexOf(call, tile, *items, call[1]));
     } else {
         pressWith(&click, spotOf(call, tile, count), keys);
     }

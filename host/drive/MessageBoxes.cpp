@@ -1,5 +1,7 @@
 #include "host/drive/MessageBoxes.h"
 
+#include "host/drive/RealInput.h"
+
 namespace {
 
 // The id of a message box's text.
@@ -58,6 +60,16 @@ HWND buttonOf(HWND box, int id) {
     return button;
 }
 
+void pressButton(HWND box, int id) {
+    const HWND button = GetDlgItem(box, id);
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+}
+
+void CALLBACK answerTimer(HWND box, UINT, UINT_PTR timer, DWORD) noexcept {
+    KillTimer(box, timer);
+    pressButton(box, static_cast<int>(timer) - 1);
+}
+
 }  // namespace
 
 bool isSystemDialog(HWND window) { return hasClass(window, L"#32770"); }
@@ -107,5 +119,8 @@ void answerBox(HWND box, const BoxAnswer& answer) {
             SetWindowTextW(name, answer.text.c_str());
     const HWND button = buttonOf(box, answer.button);
     const int id = button ? GetDlgCtrlID(button) : answer.button;
-    PostMessageW(box, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+    if (!usesRealInput()) return pressButton(box, id);
+    // What the mouse and the keyboard have done before meets the box, as it does for a person; a timer's
+    // message comes when all that was taken.
+    SetTimer(box, static_cast<UINT_PTR>(id) + 1, USER_TIMER_MINIMUM, &answerTimer);
 }

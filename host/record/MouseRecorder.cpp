@@ -94,8 +94,8 @@ void MouseRecorder::dropUnfinished(HWND dialog) {
     for (const Press& press : m_down) {
         if (press.dialog != dialog || !press.step) continue;
         if (isButton(press.tile)) m_journal.setForm(*press.step, call(L"ui_hold", press.tile));
-        // Such a list goes on as if the button were down, and takes the next press wherever that is.
-        if (press.entry >= 0 && hasWindowClass(press.window, WC_LISTBOXW))
+        // Such a list or grid goes on as if the button were down, and takes the next press wherever that is.
+        if (press.cell || (press.entry >= 0 && hasWindowClass(press.window, WC_LISTBOXW)))
             m_journal.setForm(*press.step, call(L"ui_hold", press.tile, pointText(press.at) + press.keys));
     }
     std::erase_if(m_down, [=](const Press& press) { return press.dialog == dialog; });

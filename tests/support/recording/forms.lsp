@@ -29,8 +29,7 @@
         ((= 0 (chance 14)) (nested))
         ((= 0 (chance 20)) (wex_alert (any-word) (one-of '(1 2 3))))
         ((= 0 (chance 12)) (wex_set_tile (one-of '("EDIT" "CAT" "VALUE" "CHECK" "LISTBOX")) (itoa (chance 3))))
-        ; A session that picks from a combo box puts the focus there itself: what that ends, nobody has ended by input.
-        ((and (= 0 (chance 60)) (/= $reason 2)) (wex_done_dialog (chance 9)))))
+        ((= 0 (chance 60)) (wex_done_dialog (chance 9)))))
 
 (defun nested ()
   (if before-nested (before-nested))

@@ -9,7 +9,7 @@
 ; Keys that go to where the focus is.
 (defun any-key ()
   (any '("TAB" "TAB" "TAB" "SHIFT+TAB" "UP" "DOWN" "DOWN" "LEFT" "RIGHT" "HOME" "END" "SPACE" "SPACE" "BACKSPACE" "DELETE" "PAGEDOWN"
-         "SHIFT+DOWN" "CTRL+DOWN" "SHIFT+END" "G" "R" "7" "F1" "CTRL+A" "ALT+DOWN" "F4")))
+         "SHIFT+DOWN" "CTRL+DOWN" "SHIFT+END" "G" "R" "7" "NUM7" "." "F1" "CTRL+A" "ALT+DOWN" "F4")))
 (defun press () (ui_key (any-key)))
 
 ; What is to be done next of an act of several steps.
@@ -37,7 +37,7 @@
                (ui_click "COMBO") (ui_pick "DROPLIST" (choice 12)) (ui_wheel "DROPLIST" (any '(1 -1)))
                (progn (ui_click "DROPLIST") (after '((ui_key "DOWN") (ui_key (any '("ENTER" "ESC" "TAB"))))))
                (ui_pick "TAB" (choice 4)) (ui_pick "TREE" (any-item)) (ui_pick "TREE" (any-item))
-               (ui_expand "TREE" (any-branch)) (ui_dblclick "TREE" (any-item)) (ui_rclick "TREE" (any-item))
+               (ui_expand "TREE" (any-branch)) (ui_expand "TREE" (any-branch) 2) (ui_dblclick "TREE" (any-item)) (ui_rclick "TREE" (any-item))
                (pick "LISTVIEW" 12) (pick "LISTVIEW" 12) (pick "LISTVIEW" 12)
                (ui_header "LISTVIEW" (choice 2)) (menu-of '(ui_rclick "LISTVIEW" (choice 12)))
                (ui_type "LINES" (any '("one" "a\nb" ""))) (ui_click "LINES") (ui_char "\r") (ui_click "READONLY")
