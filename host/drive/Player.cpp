@@ -172,6 +172,11 @@ void Player::wakeAgain(HWND dialog, bool waiting) {
     }
 }
 
+void Player::pressCloseBox(HWND dialog) {
+    if (openMenu()) EndMenu();
+    PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
 void Player::closeLeftOpen(Run& run) {
     if (run.dialog == m_frame) {
         PostMessageW(m_frame, WM_CLOSE, 0, 0);
@@ -184,7 +189,7 @@ void Player::closeLeftOpen(Run& run) {
     }
     if (run.session) report(dialog + L" is still open at the end of its session", STILL_OPEN);
     run.closing = true;
-    PostMessageW(run.dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+    pressCloseBox(run.dialog);
 }
 
 void Player::act(HWND dialog, Steps::Work work) {

@@ -38,6 +38,8 @@ class Player : public DialogObserver {
     void repeatForm() { m_repeat = true; }
     // Has the work done in the dialog at once, or behind what the form at hand has left to do.
     void act(HWND dialog, Steps::Work work);
+    // A menu that is open closes first, as for a person who presses beside it.
+    static void pressCloseBox(HWND dialog);
     // What the form at hand has left to do before the next one.
     Steps& steps() { return m_steps; }
 

@@ -112,7 +112,7 @@ Value character(Call& call) {
 // (ui_close)
 Value close(Call&) {
     const HWND dialog = runningDialog();
-    player().act(dialog, [=] { PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0); });
+    player().act(dialog, [=] { Player::pressCloseBox(dialog); });
     return Value::none();
 }
 

@@ -120,8 +120,10 @@ void MouseRecorder::pressedLeft(Press& press, bool isDouble) {
     const bool isCombo = hasWindowClass(control, WC_COMBOBOXW);
     if (isEdit(press.window)) {
         // Where the focus is already only the caret moves.
-        const bool ofGrid = gridOf(control).has_value();
-        if (GetFocus() != press.window && !ofGrid) add(press, Kind::focus, call(L"ui_click", press.tile));
+        if (gridOf(control))
+            pressedCellEditor(press, isDouble);
+        else if (GetFocus() != press.window)
+            add(press, Kind::focus, call(L"ui_click", press.tile));
     } else if (isCombo) {
         pressedCombo(press);
     } else if (isHeader(press.window)) {
@@ -190,6 +192,19 @@ void MouseRecorder::pressedCell(Press& press, bool isDouble) {
         addDouble(press, pick, call(L"ui_dblclick", press.tile, placeText(at) + press.keys));
     else
         add(press, Kind::other, pick);
+}
+
+// What is typed into an open cell is recorded by its characters, and they go where the caret was put.
+void MouseRecorder::pressedCellEditor(Press& press, bool isDouble) {
+    const HWND grid = press.tile.window;
+    const int id = GetDlgCtrlID(press.window);
+    if (GetDlgItem(grid, id) != press.window || GetParent(grid) != press.dialog) return;
+    const NamedTile editor{press.window, L"'(" + press.tile.name + L" " + std::to_wstring(id) + L")"};
+    const std::wstring click = call(L"ui_click", editor, pointText(press.at) + press.keys);
+    if (isDouble)
+        addDouble(press, click, call(L"ui_dblclick", editor, pointText(press.at) + press.keys));
+    else
+        add(press, Kind::other, click);
 }
 
 // The list of the box is picked from when the button comes up. Of a box to type in only the arrow opens it.

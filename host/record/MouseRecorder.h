@@ -42,6 +42,7 @@ class MouseRecorder {
     void pressedRight(const Press& press);
     void pressedEntry(Press& press, const Items& items, bool isDouble);
     void pressedCell(Press& press, bool isDouble);
+    void pressedCellEditor(Press& press, bool isDouble);
     void pressedCombo(Press& press);
     void releasedEntry(const Press& press, POINT at);
     void releasedCell(const Press& press, POINT at);

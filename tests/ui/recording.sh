@@ -11,7 +11,6 @@ failed=0
 for ((n = first; n < first + count; n += each)); do
     input=${inputs[$(((n - first) / each % ${#inputs[@]}))]}
     run=(-e "(run-forms $n $((n + each > first + count ? first + count - n : each)))")
-    [ "$input" = POSTED ] || [ "${calm-T}" != T ] || run=(-e "(setq calm T)" "${run[@]}")
     # The person may do what ends a dialog before its session does, which is an error of that session.
     host --record "$work/recorded.lsp" $forms/forms.lsp $forms/person.lsp -e "(ui_input \"$input\")" "${run[@]}" >"$work/worked" || [ $? = 1 ] || { cat "$work/errors"; exit 1; }
     status=0

@@ -24,9 +24,7 @@
   (if (and (= $key "tree") (= $reason 16)) (toggle (atoi $value)))
   (prin1 (list $key (shown $value) $reason))
   (terpri)
-  ; Where a press itself brings up a dialog, the real button comes up there, and a session's waits.
-  (cond ((and calm (/= $reason 1)) nil)
-        ((= 0 (chance 14)) (nested))
+  (cond ((= 0 (chance 14)) (nested))
         ((= 0 (chance 20)) (wex_alert (any-word) (one-of '(1 2 3))))
         ((= 0 (chance 12)) (wex_set_tile (one-of '("EDIT" "CAT" "VALUE" "CHECK" "LISTBOX")) (itoa (chance 3))))
         ((= 0 (chance 60)) (wex_done_dialog (chance 9)))))
@@ -38,7 +36,6 @@
   (prin1 (list "nested" (wex_start_dialog)))
   (terpri))
 (setq before-nested nil before-form nil)
-(if (not (boundp 'calm)) (setq calm nil))
 
 (defun bind (keys) (foreach key keys (wex_action_tile key "(heard)")))
 

@@ -54,6 +54,8 @@
   (eval (any '((ui_pick "LST" (1+ (choice 8)) (1+ (choice 2))) (ui_pick "LST" (1+ (choice 8)) (1+ (choice 3)))
                (ui_pick "LST" 1 1 3 2) (ui_pick "LST" (1+ (choice 8)) 0) (ui_header "LST" (1+ (choice 3)))
                (progn (ui_pick "LST" (1+ (choice 8)) 1) (after '((ui_type "LST" (any-text)) (press))))
+               (progn (ui_pick "LST" (1+ (choice 8)) 1)
+                      (after '((ui_key "F2") (ui_click '("LST" 0) 2 5) (ui_char "w") (ui_key "BACKSPACE") (ui_char "xy") (press))))
                (progn (ui_pick "LST" (1+ (choice 8)) 2) (after '((ui_key "F4") (ui_pick "LST" (any '("red" "green"))))))
                (ui_dblclick "LST" (1+ (choice 8)) (1+ (choice 2))) (ui_char "v") (ui_key "F2") (ui_key "ESC") (ui_key "ENTER")
                (ui_type "VALUE" (any-text)) (ui_click "B_PICK") (menu-of '(ui_rclick "LST" 2 1)) (press) (press)))))
