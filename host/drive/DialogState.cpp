@@ -10,6 +10,7 @@
 #include "host/drive/GridWindow.h"
 #include "host/drive/Items.h"
 #include "host/drive/MessageBoxes.h"
+#include "host/drive/WindowClass.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
 
@@ -21,12 +22,6 @@ constexpr wchar_t BETWEEN_NAMES = L'\x1f', BETWEEN_PATHS = L'\x1e';
 constexpr std::wstring_view CELL = L"3cell";
 constexpr std::wstring_view PLACE = L"0place";
 constexpr std::wstring_view FOCUS = L"6focus";
-
-std::wstring classOf(HWND window) {
-    wchar_t name[64] = {};
-    GetClassNameW(window, name, ARRAYSIZE(name));
-    return name;
-}
 
 bool hasStyle(HWND window, LONG_PTR style) { return GetWindowLongPtrW(window, GWL_STYLE) & style; }
 
@@ -46,7 +41,7 @@ std::vector<int> numbersIn(const std::wstring& text) {
 // --- pages of a tab control
 
 std::optional<std::wstring> page(HWND tab) {
-    if (classOf(tab) != L"SysTabControl32") return std::nullopt;
+    if (!hasWindowClass(tab, WC_TABCONTROLW)) return std::nullopt;
     return std::to_wstring(SendMessageW(tab, TCM_GETCURSEL, 0, 0));
 }
 
@@ -96,7 +91,7 @@ void setOpenBranches(HWND tree, const std::wstring& paths) {
 // --- texts and ticks
 
 bool takesText(HWND window) {
-    const std::wstring name = classOf(window);
+    const std::wstring name = windowClass(window);
     if (name == L"Edit") return !hasStyle(window, ES_READONLY);
     return name == L"ComboBox" &&
            (GetWindowLongPtrW(window, GWL_STYLE) & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST;
@@ -112,7 +107,7 @@ void setText(HWND window, const std::wstring& text) { SetWindowTextW(window, tex
 std::optional<std::wstring> check(HWND window) {
     const bool isBox = SendMessageW(window, WM_GETDLGCODE, 0, 0) & (DLGC_BUTTON | DLGC_RADIOBUTTON);
     const LONG_PTR kind = GetWindowLongPtrW(window, GWL_STYLE) & BS_TYPEMASK;
-    if (classOf(window) != L"Button" || !isBox || kind == BS_GROUPBOX || kind == BS_OWNERDRAW)
+    if (!hasWindowClass(window, WC_BUTTONW) || !isBox || kind == BS_GROUPBOX || kind == BS_OWNERDRAW)
         return std::nullopt;
     return std::to_wstring(SendMessageW(window, BM_GETCHECK, 0, 0));
 }
@@ -140,7 +135,7 @@ void selectRows(HWND list, const std::vector<int>& rows) {
 }
 
 void setSelected(HWND window, const std::wstring& entries) {
-    const std::wstring name = classOf(window);
+    const std::wstring name = windowClass(window);
     if (name == L"SysTreeView32")
         return forEachPath(window, entries,
                            [=](LPARAM item) { SendMessageW(window, TVM_SELECTITEM, TVGN_CARET, item); });
@@ -161,7 +156,7 @@ void setSelected(HWND window, const std::wstring& entries) {
 // --- how far it is scrolled
 
 std::optional<std::wstring> firstInView(HWND window) {
-    const std::wstring name = classOf(window);
+    const std::wstring name = windowClass(window);
     const auto asked = [=](UINT message) { return std::to_wstring(SendMessageW(window, message, 0, 0)); };
     if (name == L"ListBox") return asked(LB_GETTOPINDEX);
     if (name == L"SysListView32") return asked(LVM_GETTOPINDEX);
@@ -182,7 +177,7 @@ void scrollGrid(const GridWindow& grid, const std::vector<int>& to) {
 }
 
 void setFirstInView(HWND window, const std::wstring& place) {
-    const std::wstring name = classOf(window);
+    const std::wstring name = windowClass(window);
     const std::vector<int> numbers = numbersIn(place);
     if (numbers.empty()) return;
     if (name == L"ListBox") {

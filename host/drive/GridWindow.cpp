@@ -1,6 +1,6 @@
 #include "host/drive/GridWindow.h"
 
-#include <string_view>
+#include "host/drive/WindowClass.h"
 
 template <class Record>
 bool GridWindow::ask(GridQuestion question, Record& record) const {
@@ -43,8 +43,6 @@ std::optional<Spot> GridWindow::bringIntoView(GridPlace place) const {
 }
 
 std::optional<GridWindow> gridOf(HWND control) {
-    wchar_t name[64] = {};
-    GetClassNameW(control, name, ARRAYSIZE(name));
-    if (std::wstring_view(name) != GRID_WINDOW_CLASS) return std::nullopt;
+    if (!hasWindowClass(control, GRID_WINDOW_CLASS)) return std::nullopt;
     return GridWindow(control);
 }

@@ -6,6 +6,7 @@
 
 #include "host/drive/ControlItems.h"
 #include "host/drive/TreeItems.h"
+#include "host/drive/WindowClass.h"
 #include "host/services/Texts.h"
 
 namespace {
@@ -262,9 +263,8 @@ int Items::findChild(int parent, lisp::Value step) const {
 }
 
 std::unique_ptr<Items> itemsOf(HWND control) {
-    wchar_t kind[64] = {};
-    GetClassNameW(control, kind, ARRAYSIZE(kind));
-    const auto is = [&](const wchar_t* name) { return lstrcmpiW(kind, name) == 0; };
+    const std::wstring kind = windowClass(control);
+    const auto is = [&](const wchar_t* name) { return lstrcmpiW(kind.c_str(), name) == 0; };
     if (is(L"ListBox")) return std::make_unique<ListBoxItems>(control);
     if (is(L"ComboBox")) return std::make_unique<ComboBoxItems>(control);
     if (is(WC_LISTVIEWW)) return std::make_unique<ListViewItems>(control);

@@ -13,45 +13,45 @@ struct NamedKey {
 
 // The codes are those of the system's WinUser.h.
 constexpr NamedKey KEYS[] = {
-    {L"enter", 0x0D},
-    {L"return", 0x0D},
-    {L"esc", 0x1B},
-    {L"escape", 0x1B},
-    {L"tab", 0x09},
-    {L"space", 0x20},
-    {L"backspace", 0x08},
-    {L"back", 0x08},
-    {L"delete", 0x2E},
-    {L"del", 0x2E},
-    {L"insert", 0x2D},
-    {L"ins", 0x2D},
-    {L"home", 0x24},
-    {L"end", 0x23},
-    {L"pageup", 0x21},
-    {L"pagedown", 0x22},
-    {L"left", 0x25},
-    {L"up", 0x26},
-    {L"right", 0x27},
-    {L"down", 0x28},
-    {L"shift", 0x10},
-    {L"ctrl", 0x11},
-    {L"alt", 0x12},
-    {L"plus", 0x6B},
-    {L"minus", 0x6D},
-    {L"star", 0x6A},
-    {L"apps", 0x5D},
-    {L"num0", 0x60},
-    {L"num1", 0x61},
-    {L"num2", 0x62},
-    {L"num3", 0x63},
-    {L"num4", 0x64},
-    {L"num5", 0x65},
-    {L"num6", 0x66},
-    {L"num7", 0x67},
-    {L"num8", 0x68},
-    {L"num9", 0x69},
-    {L"point", 0x6E},
-    {L"slash", 0x6F},
+    {L"ENTER", 0x0D},
+    {L"RETURN", 0x0D},
+    {L"ESC", 0x1B},
+    {L"ESCAPE", 0x1B},
+    {L"TAB", 0x09},
+    {L"SPACE", 0x20},
+    {L"BACKSPACE", 0x08},
+    {L"BACK", 0x08},
+    {L"DELETE", 0x2E},
+    {L"DEL", 0x2E},
+    {L"INSERT", 0x2D},
+    {L"INS", 0x2D},
+    {L"HOME", 0x24},
+    {L"END", 0x23},
+    {L"PAGEUP", 0x21},
+    {L"PAGEDOWN", 0x22},
+    {L"LEFT", 0x25},
+    {L"UP", 0x26},
+    {L"RIGHT", 0x27},
+    {L"DOWN", 0x28},
+    {L"SHIFT", 0x10},
+    {L"CTRL", 0x11},
+    {L"ALT", 0x12},
+    {L"PLUS", 0x6B},
+    {L"MINUS", 0x6D},
+    {L"STAR", 0x6A},
+    {L"APPS", 0x5D},
+    {L"NUM0", 0x60},
+    {L"NUM1", 0x61},
+    {L"NUM2", 0x62},
+    {L"NUM3", 0x63},
+    {L"NUM4", 0x64},
+    {L"NUM5", 0x65},
+    {L"NUM6", 0x66},
+    {L"NUM7", 0x67},
+    {L"NUM8", 0x68},
+    {L"NUM9", 0x69},
+    {L"POINT", 0x6E},
+    {L"SLASH", 0x6F},
     // Where keyboards of the United States have these characters.
     {L";", 0xBA},
     {L"=", 0xBB},
@@ -69,32 +69,25 @@ constexpr NamedKey KEYS[] = {
 constexpr int FIRST_FUNCTION_KEY = 0x70;
 constexpr int FUNCTION_KEYS = 12;
 
-std::optional<int> keyNamed(const std::wstring& name) {
-    if (name.size() == 1 && ((name[0] >= L'a' && name[0] <= L'z') || (name[0] >= L'0' && name[0] <= L'9'))) {
-        // Codes of letters are those of their capitals.
-        return name[0] >= L'a' ? name[0] - L'a' + L'A' : name[0];
-    }
-    if (name.size() >= 2 && name.size() <= 3 && name[0] == L'f') {
-        const int number = decimalNumber(name.substr(1));
-        if (number >= 1 && number <= FUNCTION_KEYS && name == L"f" + std::to_wstring(number)) {
-            return FIRST_FUNCTION_KEY + number - 1;
-        }
-    }
-    for (const NamedKey& key : KEYS) {
-        if (key.name == name) return key.virtualKey;
-    }
-    return std::nullopt;
-}
-
-// In lower case; empty for none. Of several names the first one of the table.
+// Empty for none. Of several names the first one of the table.
 std::wstring nameOf(int key) {
+    // Codes of letters and digits are their characters'.
     if ((key >= L'A' && key <= L'Z') || (key >= L'0' && key <= L'9'))
-        return std::wstring(1, static_cast<wchar_t>(key >= L'A' ? key - L'A' + L'a' : key));
+        return std::wstring(1, static_cast<wchar_t>(key));
     const int function = key - FIRST_FUNCTION_KEY + 1;
-    if (function >= 1 && function <= FUNCTION_KEYS) return L"f" + std::to_wstring(function);
+    if (function >= 1 && function <= FUNCTION_KEYS) return L"F" + std::to_wstring(function);
     for (const NamedKey& known : KEYS)
         if (known.virtualKey == key) return std::wstring(known.name);
     return {};
+}
+
+std::optional<int> keyNamed(std::wstring_view name) {
+    for (const NamedKey& key : KEYS)
+        if (equalIgnoringCase(key.name, name)) return key.virtualKey;
+    if (name.empty()) return std::nullopt;
+    for (int key = L'0'; key < FIRST_FUNCTION_KEY + FUNCTION_KEYS; ++key)
+        if (equalIgnoringCase(nameOf(key), name)) return key;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -102,18 +95,14 @@ std::wstring nameOf(int key) {
 std::wstring keyStrokeName(const KeyStroke& stroke) {
     const std::wstring key = nameOf(stroke.virtualKey);
     if (key.empty()) return {};
-    std::wstring name = stroke.shift ? L"SHIFT+" : L"";
-    if (stroke.control) name += L"CTRL+";
-    if (stroke.alt) name += L"ALT+";
-    for (const wchar_t c : key) name += c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - L'a' + L'A') : c;
-    return name;
+    return std::wstring(stroke.shift ? L"SHIFT+" : L"") + (stroke.control ? L"CTRL+" : L"") +
+           (stroke.alt ? L"ALT+" : L"") + key;
 }
 
 std::optional<KeyStroke> parseKeyStroke(std::wstring_view text) {
-    std::wstring rest = toLower(text);
     KeyStroke stroke{};
-    for (size_t plus; (plus = rest.find(L'+')) != std::wstring::npos; rest.erase(0, plus + 1)) {
-        const std::wstring modifier = rest.substr(0, plus);
+    for (size_t plus; (plus = text.find(L'+')) != std::wstring_view::npos; text.remove_prefix(plus + 1)) {
+        const std::wstring modifier = toLower(text.substr(0, plus));
         bool* held = modifier == L"shift"                            ? &stroke.shift
                      : modifier == L"ctrl" || modifier == L"control" ? &stroke.control
                      : modifier == L"alt"                            ? &stroke.alt
@@ -121,7 +110,7 @@ std::optional<KeyStroke> parseKeyStroke(std::wstring_view text) {
         if (!held || *held) return std::nullopt;
         *held = true;
     }
-    const std::optional<int> key = keyNamed(rest);
+    const std::optional<int> key = keyNamed(text);
     if (!key) return std::nullopt;
     stroke.virtualKey = *key;
     return stroke;

@@ -5,15 +5,10 @@
 #include "host/drive/GridFunctions.h"
 #include "host/drive/Items.h"
 #include "host/drive/Pairs.h"
+#include "host/drive/WindowClass.h"
 #include "host/services/Texts.h"
 
 namespace {
-
-std::wstring classOf(HWND window) {
-    wchar_t name[256] = {};
-    GetClassNameW(window, name, ARRAYSIZE(name));
-    return name;
-}
 
 bool isChecked(HWND window) {
     const bool isButton = SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON;
@@ -21,7 +16,7 @@ bool isChecked(HWND window) {
 }
 
 bool hasGridLines(HWND window) {
-    const bool isListView = lstrcmpiW(classOf(window).c_str(), WC_LISTVIEWW) == 0;
+    const bool isListView = hasWindowClass(window, WC_LISTVIEWW);
     return isListView && SendMessageW(window, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_GRIDLINES;
 }
 
@@ -103,7 +98,7 @@ void addScrollBar(Pairs& look, lisp::Interpreter& lisp, HWND bar) {
 lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
     const HWND window = tile.window();
     Pairs look(lisp);
-    look.add(u"class", lisp.string(lispText(classOf(window))));
+    look.add(u"class", lisp.string(lispText(windowClass(window))));
     look.add(u"enabled", lisp::Value::truth(IsWindowEnabled(window)));
     look.add(u"visible", lisp::Value::truth(IsWindowVisible(window)));
     look.add(u"focus", lisp::Value::truth(hasFocus(window)));
@@ -114,14 +109,14 @@ lisp::Value lookOf(lisp::Interpreter& lisp, const Tile& tile) {
     if (const auto items = itemsOf(window); items && items->tree())
         addTree(look, lisp, *items, *items->tree());
     if (const auto grid = gridOf(window)) addGrid(look, lisp, *grid);
-    if (lstrcmpiW(classOf(window).c_str(), WC_SCROLLBARW) == 0) addScrollBar(look, lisp, window);
+    if (hasWindowClass(window, WC_SCROLLBARW)) addScrollBar(look, lisp, window);
     return look.list();
 }
 
 lisp::Value lookOf(lisp::Interpreter& lisp, HWND dialog) {
     const HWND owner = GetWindow(dialog, GW_OWNER);
     Pairs look(lisp);
-    look.add(u"class", lisp.string(lispText(classOf(dialog))));
+    look.add(u"class", lisp.string(lispText(windowClass(dialog))));
     look.add(u"title", lisp.string(lispText(textOf(dialog))));
     look.add(u"owner", owner ? lisp.string(lispText(textOf(owner))) : lisp::Value());
     look.add(u"enabled", lisp::Value::truth(IsWindowEnabled(dialog)));

@@ -6,6 +6,7 @@
 
 #include "host/drive/Keyboard.h"
 #include "host/drive/Player.h"
+#include "host/drive/WindowClass.h"
 #include "host/lisp/Error.h"
 #include "host/lisp/Interpreter.h"
 #include "host/services/Texts.h"
@@ -17,13 +18,10 @@ using lisp::Value;
 
 // Asks the window of a popup menu for its handle. Not in every set of headers.
 constexpr UINT MENU_OF_WINDOW = 0x01E1;
-constexpr int MENU_CLASS_CHARS = 8;
 constexpr wchar_t MENU_CLASS[] = L"#32768";
 
 BOOL CALLBACK takeMenu(HWND window, LPARAM found) noexcept {
-    wchar_t name[MENU_CLASS_CHARS] = {};
-    GetClassNameW(window, name, MENU_CLASS_CHARS);
-    if (lstrcmpW(name, MENU_CLASS) == 0 && IsWindowVisible(window))
+    if (hasWindowClass(window, MENU_CLASS) && IsWindowVisible(window))
         reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
     return TRUE;
 }

@@ -1,6 +1,7 @@
 #include "host/drive/MessageBoxes.h"
 
 #include "host/drive/RealInput.h"
+#include "host/drive/WindowClass.h"
 
 namespace {
 
@@ -19,12 +20,6 @@ constexpr NamedButton NAMED_BUTTONS[] = {{L"OK", IDOK},        {L"CANCEL", IDCAN
                                          {L"NO", IDNO},        {L"RETRY", IDRETRY},   {L"ABORT", IDABORT},
                                          {L"IGNORE", IDIGNORE}};
 
-bool hasClass(HWND window, const wchar_t* name) {
-    wchar_t found[64] = {};
-    GetClassNameW(window, found, ARRAYSIZE(found));
-    return lstrcmpiW(found, name) == 0;
-}
-
 struct NamedIcon {
     const wchar_t* name;
     const wchar_t* icon;
@@ -39,7 +34,7 @@ const NamedIcon NAMED_ICONS[] = {{L"exclamation", IDI_EXCLAMATION},
 // The box's picture is one of the system's shared icons. Windows may take other ones for its boxes.
 std::wstring iconOf(HWND box) {
     for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (!hasClass(child, L"Static")) continue;
+        if (!hasWindowClass(child, L"Static")) continue;
         const auto icon = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
         for (const NamedIcon& named : NAMED_ICONS)
             if (icon && icon == LoadIconW(nullptr, named.icon)) return named.name;
@@ -48,7 +43,7 @@ std::wstring iconOf(HWND box) {
 }
 
 bool isShownButton(HWND window) {
-    return window && hasClass(window, L"Button") && (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE);
+    return window && hasWindowClass(window, L"Button") && (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE);
 }
 
 // The button of that id, or the first one; null where there is none.
@@ -72,12 +67,18 @@ void CALLBACK answerTimer(HWND box, UINT, UINT_PTR timer, DWORD) noexcept {
 
 }  // namespace
 
-bool isSystemDialog(HWND window) { return hasClass(window, L"#32770"); }
+bool isSystemDialog(HWND window) { return hasWindowClass(window, L"#32770"); }
+
+HWND dialogOf(HWND window) {
+    HWND at = GetAncestor(window, GA_ROOT);
+    while (at && !isSystemDialog(at)) at = GetWindow(at, GW_OWNER);
+    return at;
+}
 
 bool isMessageBox(HWND window) {
     if (!isSystemDialog(window) || !GetDlgItem(window, TEXT_ID)) return false;
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (!hasClass(child, L"Static") && !hasClass(child, L"Button")) return false;
+        if (!hasWindowClass(child, L"Static") && !hasWindowClass(child, L"Button")) return false;
     }
     return true;
 }

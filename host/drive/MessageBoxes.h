@@ -9,6 +9,9 @@
 // Whether the window is a dialog of the system's class.
 bool isSystemDialog(HWND window);
 
+// The dialog of that class that a window stands in; the list of a combo box has one as its owner.
+HWND dialogOf(HWND window);
+
 // Whether the window is a message box: a text, perhaps an icon, and buttons only.
 bool isMessageBox(HWND window);
 

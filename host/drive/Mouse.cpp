@@ -8,6 +8,7 @@
 
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/RealInput.h"
+#include "host/drive/WindowClass.h"
 
 namespace {
 
@@ -27,16 +28,7 @@ bool isRelease(UINT message) { return message == WM_LBUTTONUP || message == WM_R
 constexpr int MOST_REPEATS = 20;
 
 bool isButton(HWND window) {
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, ARRAYSIZE(name));
-    return lstrcmpiW(name, WC_BUTTONW) == 0 && !(SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_STATIC);
-}
-
-// The dialog that a window stands in; the list of a combo box has one as its owner.
-HWND dialogOf(HWND window) {
-    HWND at = GetAncestor(window, GA_ROOT);
-    while (at && !isSystemDialog(at)) at = GetWindow(at, GW_OWNER);
-    return at;
+    return hasWindowClass(window, WC_BUTTONW) && !(SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_STATIC);
 }
 
 // Another dialog or a message box stands before the window's own; not `going`, which is on its way out.

@@ -4,6 +4,7 @@
 
 #include "host/drive/GridWindow.h"
 #include "host/drive/MessageBoxes.h"
+#include "host/drive/WindowClass.h"
 
 namespace {
 
@@ -67,10 +68,6 @@ bool isClickedBySpace(HWND window) {
            kind != BS_GROUPBOX;
 }
 
-std::wstring keyForm(const KeyStroke& stroke) {
-    return L"(ui_key " + lispString(keyStrokeName(stroke)) + L")";
-}
-
 }  // namespace
 
 void KeyRecorder::update() {
@@ -121,9 +118,9 @@ void KeyRecorder::type(HWND edit, HWND dialog) {
 }
 
 void KeyRecorder::addKey(const MSG& message, HWND dialog, const KeyStroke& stroke) {
-    const std::wstring name = keyStrokeName(stroke);
-    if (name.empty()) return;
-    const Recording::Place place = m_journal.add(dialog, {Kind::other, {}, keyForm(stroke), {}});
+    const std::wstring form = keyForm(stroke);
+    if (form.empty()) return;
+    const Recording::Place place = m_journal.add(dialog, {Kind::other, {}, form, {}});
     m_told = message.lParam & SCAN_CODE;
     m_byTab = stroke.virtualKey == VK_TAB;
     if (!m_byTab && !stroke.alt) return;

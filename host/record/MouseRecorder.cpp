@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "host/drive/WindowClass.h"
+
 namespace {
 
 using Kind = RecordedStep::Kind;
@@ -287,7 +289,7 @@ void MouseRecorder::releasedCell(const Press& press, POINT at) {
         m_journal.setForm(*press.step, call(L"ui_pick", press.tile,
                                             placeText(press.cell->at) + placeText(cell->at) + press.keys));
     } else if (cell->opensChoices) {
-        m_journal.add(press.dialog, {Kind::other, {}, L"(ui_key \"F4\")", {}});
+        m_journal.add(press.dialog, {Kind::other, {}, keyForm({.virtualKey = VK_F4}), {}});
     }
 }
 

@@ -4,6 +4,7 @@
 #include "host/drive/GridWindow.h"
 #include "host/drive/Menus.h"
 #include "host/drive/MessageBoxes.h"
+#include "host/drive/WindowClass.h"
 #include "host/services/Host.h"
 
 namespace {

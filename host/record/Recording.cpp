@@ -17,6 +17,11 @@ bool isIncluded(const RecordedStep& step, const RecordedStep* next) {
 
 std::wstring lispString(std::wstring_view text) { return wideText(lisp::readable(lispText(text))); }
 
+std::wstring keyForm(const KeyStroke& stroke) {
+    const std::wstring name = keyStrokeName(stroke);
+    return name.empty() ? name : L"(ui_key " + lispString(name) + L")";
+}
+
 size_t Recording::begin(std::wstring_view dialog) {
     m_sessions.push_back({std::wstring(dialog), {}});
     return m_sessions.size() - 1;

@@ -8,8 +8,13 @@
 #include <string_view>
 #include <vector>
 
+#include "host/drive/KeyNames.h"
+
 // A text as Lisp reads it, in quotes.
 std::wstring lispString(std::wstring_view text);
+
+// The form that presses the key; empty for one that has no name.
+std::wstring keyForm(const KeyStroke& stroke);
 
 struct RecordedStep {
     enum class Kind {

@@ -7,6 +7,7 @@
 
 #include "host/documents/Documents.h"
 #include "host/drive/MessageBoxes.h"
+#include "host/drive/WindowClass.h"
 #include "host/record/Recording.h"
 #include "src/platform/base/GridQuery.h"
 
@@ -78,18 +79,6 @@ std::wstring pathName(const Items& items, int index) {
 std::wstring upperCase(std::wstring text) {
     CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
     return text;
-}
-
-bool hasWindowClass(HWND window, const wchar_t* name) {
-    wchar_t found[64] = {};
-    GetClassNameW(window, found, ARRAYSIZE(found));
-    return lstrcmpiW(found, name) == 0;
-}
-
-HWND dialogOf(HWND window) {
-    HWND at = GetAncestor(window, GA_ROOT);
-    while (at && !isSystemDialog(at)) at = GetWindow(at, GW_OWNER);
-    return at;
 }
 
 NamedTile tileOf(HWND window, HWND dialog) {

@@ -10,11 +10,6 @@
 // As keys and names of dialogs are written.
 std::wstring upperCase(std::wstring text);
 
-bool hasWindowClass(HWND window, const wchar_t* name);
-
-// The dialog that a window stands in, of the system's class; the list of a combo box has one as its owner.
-HWND dialogOf(HWND window);
-
 struct NamedTile {
     HWND window = nullptr;  // of the tile, of which the one that was worked may be a part
     std::wstring name;      // as Lisp reads it; empty for what no name leads to

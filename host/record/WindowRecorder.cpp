@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "host/drive/KeyNames.h"
 #include "host/drive/Menus.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/record/TileNames.h"
@@ -87,11 +86,9 @@ void WindowRecorder::menuInput(const MSG& message, HMENU menu, HWND dialog) {
                 return addMenuItem(dialog, selected->text);
             // The mouse has taken the mark away from where the keys had moved it: nothing is taken.
             if (message.wParam == VK_RETURN && selected == items.end()) m_journal.recording().dropMenuKeys();
-            const std::wstring name = keyStrokeName({static_cast<int>(message.wParam)});
+            const std::wstring form = keyForm({.virtualKey = static_cast<int>(message.wParam)});
             const bool isArrow = message.wParam >= VK_END && message.wParam <= VK_DOWN;
-            if (!name.empty())
-                m_journal.add(dialog,
-                              {isArrow ? Kind::menuKey : Kind::other, {}, L"(ui_key \"" + name + L"\")", {}});
+            if (!form.empty()) m_journal.add(dialog, {isArrow ? Kind::menuKey : Kind::other, {}, form, {}});
             return;
         }
         case WM_LBUTTONUP:
@@ -105,7 +102,7 @@ void WindowRecorder::menuInput(const MSG& message, HMENU menu, HWND dialog) {
         case WM_RBUTTONDOWN:
             // Beside the menu: it closes.
             if (MenuItemFromPoint(nullptr, menu, message.pt) < 0)
-                m_journal.add(dialog, {Kind::other, {}, L"(ui_key \"ESC\")", {}});
+                m_journal.add(dialog, {Kind::other, {}, keyForm({.virtualKey = VK_ESCAPE}), {}});
             return;
     }
 }

@@ -1,0 +1,12 @@
+// The class of a window, by which drive and recording know controls.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+// Empty for what is no window.
+std::wstring windowClass(HWND window);
+
+// Letter case doesn't count, as for the system.
+bool hasWindowClass(HWND window, const wchar_t* name);
