@@ -109,6 +109,17 @@ Value pressPoint(Call& call) {
     return Value::none();
 }
 
+// (ui_hold tile [x y] [keys]), (ui_hold list item [keys])
+Value holdDown(Call& call) {
+    const Tile tile(call, 0);
+    tile.mustBeWorkable();
+    const bool isPoint = call.has(2) && call[1].isInteger() && call[2].isInteger();
+    const bool isEntry = call.has(1) && !isPoint && itemsOf(tile.window());
+    const KeyStroke keys = heldKeys(call, isEntry ? 2 : 1);
+    pressWith(&hold, isEntry ? entrySpot(call, tile, call[1], 0) : pointOf(call, tile, false), keys);
+    return Value::none();
+}
+
 // (ui_dblclick tile [item [column]] [keys])
 template <Press press>
 Value pressEntry(Call& call) {
@@ -250,7 +261,7 @@ Value header(Call& call) {
 
 constexpr UiFunction FUNCTIONS[] = {
     {u"ui_click", &pressPoint<&click>, 1, 4},
-    {u"ui_hold", &pressPoint<&hold>, 1, 4},
+    {u"ui_hold", &holdDown, 1, 4},
     {u"ui_release", &pressPoint<&letGo>, 1, 4},
     {u"ui_dblclick", &pressEntry<&doubleClick>, 1, 4},
     {u"ui_rclick", &pressEntry<&rightClick>, 1, 4},

@@ -77,29 +77,30 @@ void MouseRecorder::add(Press& press, Kind kind, std::wstring form) {
     press.step = m_journal.add(press.dialog, {kind, press.tile.name, std::move(form), {}});
 }
 
-void MouseRecorder::addDouble(Press& press, const std::wstring& first, std::wstring form) {
-    RecordedStep* last = m_journal.recording().last();
-    if (m_wasApart) {
-        add(press, Kind::other, first);
-    } else if (last && last->form == first) {
-        last->form = std::move(form);
-        m_journal.write();
+// What was pressed first counts: that may have scrolled what lies under the mouse.
+void MouseRecorder::addPress(Press& press, Kind kind, const std::wstring& once, std::wstring twice,
+                             bool isDouble) {
+    Recording& recording = m_journal.recording();
+    if (!isDouble) {
+        add(press, kind, once);
+        m_first = FirstPress{*press.step, once, std::move(twice)};
+    } else if (m_wasApart) {
+        add(press, Kind::other, once);
+    } else if (m_first && recording.isLast(m_first->step) &&
+               recording.at(m_first->step).form == m_first->once) {
+        m_journal.setForm(m_first->step, m_first->twice);
     } else {
         // The first press did something else there, as a drag. Of a button, and of a part of an entry, one
         // press is as good as another.
-        const bool isPick = first.starts_with(L"(ui_pick");
-        add(press, Kind::other, isPick ? std::move(form) : first);
+        const bool isPick = once.starts_with(L"(ui_pick");
+        add(press, Kind::other, isPick ? std::move(twice) : once);
     }
 }
 
 void MouseRecorder::dropUnfinished(HWND dialog) {
-    for (const Press& press : m_down) {
-        if (press.dialog != dialog || !press.step) continue;
-        if (isButton(press.tile)) m_journal.setForm(*press.step, call(L"ui_hold", press.tile));
-        // Such a list or grid goes on as if the button were down, and takes the next press wherever that is.
-        if (press.cell || (press.entry >= 0 && hasWindowClass(press.window, WC_LISTBOXW)))
-            m_journal.setForm(*press.step, call(L"ui_hold", press.tile, pointText(press.at) + press.keys));
-    }
+    for (const Press& press : m_down)
+        if (press.dialog == dialog && press.step && !press.held.empty())
+            m_journal.setForm(*press.step, press.held);
     std::erase_if(m_down, [=](const Press& press) { return press.dialog == dialog; });
 }
 
@@ -110,7 +111,10 @@ void MouseRecorder::pressed(const MSG& message, HWND dialog) {
         std::nullopt};
     if (!press.tile) return;
     const bool isDouble = message.message == WM_LBUTTONDBLCLK;
-    if (!isDouble) m_wasApart = false;
+    if (!isDouble) {
+        m_wasApart = false;
+        m_first.reset();
+    }
     const bool isRight = message.message == WM_RBUTTONDOWN || message.message == WM_RBUTTONDBLCLK;
     if (isRight) return pressedRight(press);
     pressedLeft(press, isDouble);
@@ -131,22 +135,21 @@ void MouseRecorder::pressedLeft(Press& press, bool isDouble) {
     } else if (isHeader(press.window)) {
         press.entry = isDouble ? -1 : headAt(press.window, press.at);
     } else if (isButton(press.tile)) {
-        const std::wstring click = call(L"ui_click", press.tile);
-        if (isDouble)
-            addDouble(press, click, call(L"ui_dblclick", press.tile));
-        else
-            add(press, Kind::click, click);
+        press.held = call(L"ui_hold", press.tile);
+        addPress(press, Kind::click, call(L"ui_click", press.tile), call(L"ui_dblclick", press.tile),
+                 isDouble);
     } else if (gridOf(control)) {
         if (press.window == control) pressedCell(press, isDouble);
     } else if (const auto items = itemsOf(control)) {
         if (press.window == control) pressedEntry(press, *items, isDouble);
     } else {
-        const std::wstring click = call(L"ui_click", press.tile, pointText(press.at));
-        if (isDouble)
-            addDouble(press, click, call(L"ui_dblclick", press.tile, pointText(press.at)));
-        else
-            add(press, Kind::other, click);
+        pressedPoint(press, press.tile, isDouble);
     }
+}
+
+void MouseRecorder::pressedPoint(Press& press, const NamedTile& tile, bool isDouble) {
+    const std::wstring at = pointText(press.at) + press.keys;
+    addPress(press, Kind::other, call(L"ui_click", tile, at), call(L"ui_dblclick", tile, at), isDouble);
 }
 
 // A press beside the rows of a list control is lost; beside the entries of other lists it may move the focus.
@@ -156,29 +159,23 @@ void MouseRecorder::pressedEntry(Press& press, const Items& items, bool isDouble
     press.entry = items.hit(press.at);
     if (press.entry < 0 || !isOnEntry(control, press.at)) {
         press.entry = -1;
-        const std::wstring click = call(L"ui_click", press.tile, pointText(press.at));
         if (hasWindowClass(control, WC_LISTVIEWW) || hasWindowClass(control, WC_TABCONTROLW)) return;
-        if (isDouble && items.tree())
-            addDouble(press, click, call(L"ui_dblclick", press.tile, pointText(press.at)));
-        else
-            add(press, Kind::other, click);
+        return pressedPoint(press, press.tile, isDouble && items.tree());
+    }
+    const std::wstring name = L" " + itemName(items, press.entry);
+    if (const wchar_t* part = partFunction(control, press.at)) {
+        addPress(press, Kind::other, call(part, press.tile, name), call(part, press.tile, name + L" 2"),
+                 isDouble);
+        press.entry = -1;
         return;
     }
-    const std::wstring item = L" " + itemName(items, press.entry) + press.keys;
-    if (const wchar_t* part = partFunction(control, press.at)) {
-        const std::wstring name = L" " + itemName(items, press.entry);
-        const std::wstring once = call(part, press.tile, name);
-        if (isDouble)
-            addDouble(press, once, call(part, press.tile, name + L" 2"));
-        else
-            add(press, Kind::other, once);
-        press.entry = -1;
-    } else if (isDouble) {
-        addDouble(press, call(L"ui_pick", press.tile, item), call(L"ui_dblclick", press.tile, item));
-        press.entry = -1;
-    } else {
-        add(press, Kind::other, call(L"ui_pick", press.tile, item));
-    }
+    const std::wstring item = name + press.keys;
+    addPress(press, Kind::other, call(L"ui_pick", press.tile, item), call(L"ui_dblclick", press.tile, item),
+             isDouble);
+    if (isDouble) press.entry = -1;
+    // Where nothing lets go of it, it goes on as if the button were down, and takes the next press wherever
+    // that is.
+    if (!isDouble && hasWindowClass(control, WC_LISTBOXW)) press.held = call(L"ui_hold", press.tile, item);
 }
 
 void MouseRecorder::pressedCell(Press& press, bool isDouble) {
@@ -190,10 +187,9 @@ void MouseRecorder::pressedCell(Press& press, bool isDouble) {
         at.row == 0 && at.column > 0
             ? call(L"ui_header", press.tile, L" " + std::to_wstring(at.column) + press.keys)
             : call(L"ui_pick", press.tile, placeText(at) + press.keys);
-    if (isDouble)
-        addDouble(press, pick, call(L"ui_dblclick", press.tile, placeText(at) + press.keys));
-    else
-        add(press, Kind::other, pick);
+    addPress(press, Kind::other, pick, call(L"ui_dblclick", press.tile, placeText(at) + press.keys),
+             isDouble);
+    press.held = call(L"ui_hold", press.tile, pointText(press.at) + press.keys);  // as a list box
 }
 
 // What is typed into an open cell is recorded by its characters, and they go where the caret was put.
@@ -202,11 +198,7 @@ void MouseRecorder::pressedCellEditor(Press& press, bool isDouble) {
     const int id = GetDlgCtrlID(press.window);
     if (GetDlgItem(grid, id) != press.window || GetParent(grid) != press.dialog) return;
     const NamedTile editor{press.window, L"'(" + press.tile.name + L" " + std::to_wstring(id) + L")"};
-    const std::wstring click = call(L"ui_click", editor, pointText(press.at) + press.keys);
-    if (isDouble)
-        addDouble(press, click, call(L"ui_dblclick", editor, pointText(press.at) + press.keys));
-    else
-        add(press, Kind::other, click);
+    pressedPoint(press, editor, isDouble);
 }
 
 // The list of the box is picked from when the button comes up. Of a box to type in only the arrow opens it.
@@ -265,7 +257,7 @@ void MouseRecorder::released(const MSG& message, HWND dialog) {
     } else if (press.cell) {
         releasedCell(press, at);
     } else if (press.step && isButton(press.tile) && !PtInRect(&client, at)) {
-        m_journal.setForm(*press.step, call(L"ui_hold", press.tile));
+        m_journal.setForm(*press.step, press.held);
         m_journal.add(dialog,
                       {Kind::other, press.tile.name, call(L"ui_release", press.tile, pointText(at)), {}});
     }

@@ -34,12 +34,14 @@ class MouseRecorder {
         POINT at;
         std::wstring keys;  // held meanwhile, as the functions of sessions take them
         std::optional<Recording::Place> step;
-        int entry = -1;  // the item or the column that was pressed
+        std::wstring held;  // the form that presses it and doesn't let go; empty where that does the same
+        int entry = -1;     // the item or the column that was pressed
         std::optional<GridHit> cell;
     };
 
     void pressedLeft(Press& press, bool isDouble);
     void pressedRight(const Press& press);
+    void pressedPoint(Press& press, const NamedTile& tile, bool isDouble);
     void pressedEntry(Press& press, const Items& items, bool isDouble);
     void pressedCell(Press& press, bool isDouble);
     void pressedCellEditor(Press& press, bool isDouble);
@@ -48,11 +50,19 @@ class MouseRecorder {
     void releasedCell(const Press& press, POINT at);
     void releasedList(HWND dialog, const MSG& message);
 
+    // The press that was recorded last, while the next one may make a double one of it.
+    struct FirstPress {
+        Recording::Place step;
+        std::wstring once, twice;
+    };
+
     void add(Press& press, RecordedStep::Kind kind, std::wstring form);
-    // In place of the first press of a double one.
-    void addDouble(Press& press, const std::wstring& first, std::wstring form);
+    // The form `once`, or `twice` in place of it where this is the second press of a double one.
+    void addPress(Press& press, RecordedStep::Kind kind, const std::wstring& once, std::wstring twice,
+                  bool isDouble);
 
     Journal& m_journal;
     std::vector<Press> m_down;
+    std::optional<FirstPress> m_first;
     bool m_wasApart = false;
 };

@@ -51,6 +51,7 @@ class Recording {
     RecordedStep& at(Place place) { return m_sessions[place.session].steps[place.step]; }
     // The step that was added last, of all sessions; null where none was.
     RecordedStep* last() { return m_last ? &at(*m_last) : nullptr; }
+    bool isLast(Place place) const { return m_last == place; }
     // Has a form done before the step that was added last, or before all where none was.
     void addBeforeLast(std::wstring form);
 
