@@ -1,5 +1,6 @@
 #include "host/documents/EmptyDrawing.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 
@@ -69,8 +70,13 @@ void paintEmptyDrawing(HDC dc, const RECT& area, int dpi) {
 
 void paintAxes(HDC dc, const RECT& area, int dpi, const HostMatrix3d& viewing) {
     const auto scaled = [=](int pixels) { return MulDiv(pixels, dpi, USER_DEFAULT_SCREEN_DPI); };
-    const int x = area.left + scaled(AXIS_INSET);
-    const int y = area.bottom - scaled(AXIS_INSET);
+    // What points to the left or downward has its place, too.
+    const auto& right = viewing.entry[0];
+    const auto& up = viewing.entry[1];
+    const double toLeft = std::max(0.0, -std::min({right[0], right[1], right[2]}));
+    const double down = std::max(0.0, -std::min({up[0], up[1], up[2]}));
+    const int x = area.left + scaled(AXIS_INSET) + static_cast<int>(toLeft * scaled(AXIS_LENGTH));
+    const int y = area.bottom - scaled(AXIS_INSET) - static_cast<int>(down * scaled(AXIS_LENGTH));
     const int saved = SaveDC(dc);
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, LETTER);
@@ -78,12 +84,11 @@ void paintAxes(HDC dc, const RECT& area, int dpi, const HostMatrix3d& viewing) {
     SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
     static constexpr COLORREF colors[] = {AXIS_X, AXIS_Y, AXIS_Z};
     for (int axis = 0; axis < 3; ++axis) {
-        const double right = viewing.entry[0][axis], up = viewing.entry[1][axis];
         // One that points at who looks would be a dot.
-        if (std::hypot(right, up) < 0.1) continue;
+        if (std::hypot(right[axis], up[axis]) < 0.1) continue;
         const auto along = [&](double length) {
-            return POINT{x + static_cast<LONG>(std::lround(right * length)),
-                         y - static_cast<LONG>(std::lround(up * length))};
+            return POINT{x + static_cast<LONG>(std::lround(right[axis] * length)),
+                         y - static_cast<LONG>(std::lround(up[axis] * length))};
         };
         const Pen pen(dc, scaled(2), colors[axis]);
         const POINT end = along(scaled(AXIS_LENGTH)), letter = along(scaled(AXIS_LENGTH + 10));

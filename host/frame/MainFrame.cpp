@@ -27,7 +27,7 @@ enum Part : UINT { TOOLS = 101, DRAWING, OUTPUT, COMMAND_LINE };
 constexpr SIZE FRAME_SIZE = {960, 640};
 constexpr int FONT_HEIGHT = 15;
 constexpr int MARGIN = 6;
-constexpr int LABEL_WIDTH = 76;
+constexpr int LABEL_WIDTH = 80;
 constexpr int COMMAND_LINE_HEIGHT = 22;
 constexpr int OUTPUT_HEIGHT = 150;
 

@@ -2,11 +2,15 @@
 
 #include <windows.h>
 
+#include <utility>
+
 #include "host/services/Texts.h"
 
 namespace {
 
 constexpr size_t LONG_OUTPUT = 4096;
+// Of what was printed before there was a listener, in characters.
+constexpr size_t MOST_BEFORE = 20'000;
 
 void writeAll(DWORD stream, const std::string& bytes) {
     const HANDLE file = GetStdHandle(stream);
@@ -59,9 +63,22 @@ void Console::flushLocked() {
 void Console::setListener(Listener listener) {
     m_listener = std::move(listener);
     m_listenerThread = std::this_thread::get_id();
+    std::wstring before;
+    {
+        const std::lock_guard lock(m_mutex);
+        before = std::exchange(m_before, {});
+    }
+    if (before.size() > MOST_BEFORE) before.erase(0, before.size() - MOST_BEFORE);
+    if (!before.empty()) m_listener(before);
 }
 
 // The watchdog prints while the listener's thread may hang.
 void Console::tell(std::wstring_view text) {
-    if (m_listener && std::this_thread::get_id() == m_listenerThread) m_listener(text);
+    if (!m_listener) {
+        const std::lock_guard lock(m_mutex);
+        m_before += text;
+        if (m_before.size() > 2 * MOST_BEFORE) m_before.erase(0, m_before.size() - MOST_BEFORE);
+        return;
+    }
+    if (std::this_thread::get_id() == m_listenerThread) m_listener(text);
 }

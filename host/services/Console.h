@@ -18,7 +18,8 @@ class Console {
     // first, since the two often show on one screen.
     void error(std::wstring_view line);
     void flush();
-    // Is shown all that the calling thread prints from now on, errors too. Null for none.
+    // Is shown all that the calling thread prints from now on, errors too, and the end of what was printed
+    // before. It is set once.
     void setListener(Listener listener);
 
   private:
@@ -31,4 +32,5 @@ class Console {
     bool m_isMidLine = false;
     Listener m_listener;
     std::thread::id m_listenerThread;
+    std::wstring m_before;  // what was printed before there was a listener
 };

@@ -227,7 +227,9 @@ LRESULT WexReportTab::onContextMenu(WPARAM, LPARAM l) {
     TileMenu menu;
     menu.add(PRINT_BUTTON, MenuTextId::print, MenuIcon::print);
     menu.add(PDF_BUTTON, MenuTextId::savePdf, MenuIcon::save);
-    if (const UINT command = menu.choose(*this, l, m_preview.rectInParent()))
+    // By the keyboard at the sheet's corner; below it are the buttons.
+    const RECT place = m_preview.rectInParent();
+    if (const UINT command = menu.choose(*this, l, {place.left, place.top, place.left, place.top}))
         pressed(static_cast<int>(command));
     return 0;
 }

@@ -24,10 +24,13 @@
 (setq first-program (write-program "frame-one.lsp" "(setq ran (cons 1 ran))")
       second-program (write-program "frame-two.lsp" "(setq ran (cons 2 ran)) (princ \"two has run\") (terpri)"))
 
-(test "A program is opened, run again by its key, and found among the recent ones"
+(princ "printed before the frame\n")
+
+(test "A program is opened, run again by its key, and found among the recent ones; what was printed before the frame stood is shown"
   '((setq ran nil)
     (in-frame
-      '((want nil (look (list tools run-again) "enabled"))
+      '((shows "printed before the frame")
+        (want nil (look (list tools run-again) "enabled"))
         (ui_key "ALT+F" line)
         (want '("Open Program..." "Run Again" "Recent Programs" nil "Load Plug-in..." nil "Exit")
               (texts))
@@ -81,6 +84,9 @@
         (ui_key "ESC") (ui_key "ESC")
         (draw_line '(0 0 0) '(10 5 3))
         (ui_key "CTRL+4" line)
+        ; The letters of all axes have room.
+        (setq lowest (1- (cadddr (look drawing "rect"))) space (ui_pixel drawing 0 0))
+        (want nil (apply 'append (mapcar '(lambda (x) (if (/= (ui_pixel drawing x lowest) space) (list x))) (range 140))))
         (ui_key "ALT+V" line)
         (want '("Isometric" "2D Wireframe") (chosen))
         (ui_shot "frame-view.png")

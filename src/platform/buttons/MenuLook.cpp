@@ -159,6 +159,13 @@ void MenuLook::drawSeparator(HDC dc, const RECT& rect, int textLeft) const {
     RECT line = rect;
     if (hasPart(POPUP_SEPARATOR)) {
         if (hasPart(POPUP_GUTTER)) line.left = textLeft;
+        // Some themes draw it at the top of what they are given.
+        SIZE size{};
+        GetThemePartSize(m_theme, dc, POPUP_SEPARATOR, 0, nullptr, TS_TRUE, &size);
+        if (size.cy > 0 && size.cy < line.bottom - line.top) {
+            line.top += (line.bottom - line.top - size.cy) / 2;
+            line.bottom = line.top + size.cy;
+        }
         DrawThemeBackground(m_theme, dc, POPUP_SEPARATOR, 0, &line, nullptr);
         return;
     }

@@ -112,6 +112,18 @@ TEST(MenuItemLook, AnIconFillsItsSquareAndADisabledOneIsGrey) {
     EXPECT_LT(std::abs(red(greyed.at(x, y)) - blue(greyed.at(x, y))), 30);
 }
 
+TEST(MenuItemLook, ASeparatorLiesInTheMiddle) {
+    MenuItemLook look;
+    look.isSeparator = true;
+    const DrawnItem line(look);
+    const int x = line.parts.label.left + 2, height = line.parts.gutter.bottom;
+    std::vector<int> inked;
+    for (int y = 0; y < height; ++y)
+        if (line.at(x, y) != line.at(x, 0) || line.at(x, y) != line.at(x, height - 1)) inked.push_back(y);
+    ASSERT_FALSE(inked.empty());
+    EXPECT_NEAR(inked.front() + inked.back(), height - 1, 2);
+}
+
 // Under every theme, since what it draws might not stand out from the colors that the person has chosen.
 TEST(MenuItemLook, HighContrastHasTheSystemsColorsAlone) {
     BOOL flat = FALSE;
