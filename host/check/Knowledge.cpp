@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/lisp/Machine.h"
 #include "host/lisp/Text.h"
 
 namespace check {
@@ -191,12 +192,13 @@ void Knowledge::add(Function function) {
     m_functions.insert_or_assign(std::move(name), std::move(function));
 }
 
-void Knowledge::describe(std::u16string_view signature) {
+bool Knowledge::describe(std::u16string_view signature) {
     Function told = parseSignature(signature);
     const auto at = m_functions.find(lisp::upperCase(told.name));
-    if (at == m_functions.end()) return;
+    if (at == m_functions.end()) return false;
     at->second.usage = std::move(told.usage);
     at->second.arguments = std::move(told.arguments);
+    return true;
 }
 
 void Knowledge::add(Dialog dialog) {
@@ -209,8 +211,23 @@ const Dialog* Knowledge::dialog(std::u16string_view name) const {
     return at == m_dialogs.end() ? nullptr : &at->second;
 }
 
-void describeHostFunctions(Knowledge& knowledge) {
-    for (const std::u16string_view signature : HOST_SIGNATURES) knowledge.describe(signature);
+void addFunctions(Knowledge& knowledge, const lisp::Machine& lisp) {
+    for (const auto& [name, symbol] : lisp.symbols) {
+        if (!symbol->value.isFunction()) continue;
+        const lisp::Function& defined = *symbol->value.asFunction();
+        Function function;
+        function.name = symbol->name;
+        function.minimum = static_cast<int>(defined.minimum);
+        function.maximum = defined.maximum == UINT32_MAX ? -1 : static_cast<int>(defined.maximum);
+        knowledge.add(std::move(function));
+    }
+}
+
+std::vector<std::u16string_view> describeHostFunctions(Knowledge& knowledge) {
+    std::vector<std::u16string_view> missed;
+    for (const std::u16string_view signature : HOST_SIGNATURES)
+        if (!knowledge.describe(signature)) missed.push_back(signature);
+    return missed;
 }
 
 }  // namespace check

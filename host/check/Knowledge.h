@@ -7,6 +7,10 @@
 #include <unordered_map>
 #include <vector>
 
+namespace lisp {
+class Machine;
+}
+
 namespace check {
 
 // What an argument is, as far as more than a value is known of it.
@@ -72,8 +76,8 @@ class Knowledge {
   public:
     // A later function takes the place of one of the same name.
     void add(Function function);
-    // What the arguments of a host's function are; its counts stay. Nothing where there is no such function.
-    void describe(std::u16string_view signature);
+    // What the arguments of a host's function are; its counts stay. False where there is no such function.
+    bool describe(std::u16string_view signature);
     // The first dialog of a name is the one that is found.
     void add(Dialog dialog);
 
@@ -88,8 +92,11 @@ class Knowledge {
     std::unordered_map<std::u16string, Dialog> m_dialogs;
 };
 
+// Adds the functions that the Lisp knows at this moment, with their counts of arguments.
+void addFunctions(Knowledge& knowledge, const lisp::Machine& lisp);
+
 // Tells `knowledge` what the arguments of the Lisp's and the host's own functions are, where that is more
-// than values.
-void describeHostFunctions(Knowledge& knowledge);
+// than values. Gives the signatures of which it has no function.
+std::vector<std::u16string_view> describeHostFunctions(Knowledge& knowledge);
 
 }  // namespace check

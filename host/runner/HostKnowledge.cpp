@@ -1,24 +1,15 @@
 #include "host/runner/HostKnowledge.h"
 
+#include <stdexcept>
+
 #include "host/documents/Documents.h"
 #include "host/lisp/Machine.h"
+#include "host/lisp/Text.h"
 #include "host/runner/DialogList.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
 
 namespace {
-
-void addFunctions(check::Knowledge& knowledge) {
-    for (const auto& [name, symbol] : host().lisp().machine().symbols) {
-        if (!symbol->value.isFunction()) continue;
-        const lisp::Function& defined = *symbol->value.asFunction();
-        check::Function function;
-        function.name = symbol->name;
-        function.minimum = static_cast<int>(defined.minimum);
-        function.maximum = defined.maximum == UINT32_MAX ? -1 : static_cast<int>(defined.maximum);
-        knowledge.add(std::move(function));
-    }
-}
 
 check::Dialog knownDialog(const ListedDialog& listed, const std::vector<IconCaption>& captions) {
     check::Dialog dialog;
@@ -41,8 +32,10 @@ check::Dialog knownDialog(const ListedDialog& listed, const std::vector<IconCapt
 
 check::Knowledge hostKnowledge() {
     check::Knowledge knowledge;
-    addFunctions(knowledge);
-    describeHostFunctions(knowledge);
+    check::addFunctions(knowledge, host().lisp().machine());
+    const auto missed = check::describeHostFunctions(knowledge);
+    if (!missed.empty())
+        throw std::logic_error("the check describes a function that isn't there: " + lisp::toUtf8(missed[0]));
     for (const std::wstring& signature : documents().signatures())
         knowledge.add(check::parseSignature(lispText(signature)));
     const ResourceModules modules = loadResourceModules({});

@@ -3,34 +3,53 @@
 
 #include <windows.h>
 
+#include <cstdint>
+#include <vector>
+
 #include "src/platform/mfc/Drawing.h"
 
 class Canvas {
   public:
-    Canvas(int width, int height) : m_dc(CreateCompatibleDC(nullptr)) {
+    Canvas(int width, int height) : m_dc(CreateCompatibleDC(nullptr)), m_width(width), m_height(height) {
         BITMAPINFO info{};
         info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32};
-        void* bits;
-        m_bitmap.reset(CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        void* dots;
+        m_bitmap.reset(CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, &dots, nullptr, 0));
+        m_dots = static_cast<uint32_t*>(dots);
         m_former = SelectObject(m_dc, m_bitmap.get());
     }
     ~Canvas() { SelectObject(m_dc, m_former); }
 
     const CDC& dc() const { return m_dc; }
 
+    // All dots as 0xRRGGBB, row by row from the top.
+    std::vector<uint32_t> dots() const {
+        GdiFlush();
+        std::vector<uint32_t> dots(m_dots, m_dots + m_width * m_height);
+        for (uint32_t& dot : dots) dot &= 0xFFFFFF;
+        return dots;
+    }
     // In pixels, whatever the mapping is.
     COLORREF at(int x, int y) const {
-        SaveDC(m_dc);
-        SetMapMode(m_dc, MM_TEXT);
-        SetViewportOrgEx(m_dc, 0, 0, nullptr);
-        SetWindowOrgEx(m_dc, 0, 0, nullptr);
-        const COLORREF color = GetPixel(m_dc, x, y);
-        RestoreDC(m_dc, -1);
-        return color;
+        GdiFlush();
+        const uint32_t dot = m_dots[y * m_width + x];
+        return RGB(dot >> 16 & 0xFF, dot >> 8 & 0xFF, dot & 0xFF);
     }
 
   private:
     OwnedDC m_dc;
     UniqueBitmap m_bitmap;
+    uint32_t* m_dots;
     HGDIOBJ m_former;
+    int m_width, m_height;
 };
+
+// What a window shows of itself, as Canvas::dots.
+inline std::vector<uint32_t> dotsOf(HWND window) {
+    UpdateWindow(window);
+    RECT area;
+    GetClientRect(window, &area);
+    const Canvas picture(area.right, area.bottom);
+    BitBlt(picture.dc(), 0, 0, area.right, area.bottom, ClientDC(window), 0, 0, SRCCOPY);
+    return picture.dots();
+}

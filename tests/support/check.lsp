@@ -37,6 +37,9 @@
 
 (defun note (what) (setq notes (append notes (list what))))
 
+; The notes since the last call.
+(defun told (/ was) (setq was notes notes nil) was)
+
 (defun look (tile what) (cdr (assoc what (ui_look tile))))
 
 (defun fill (tile items)
@@ -54,3 +57,22 @@
 ; The same for a session after which Cancel is pressed.
 (defun in-dialog (name prepare session)
   (run-dialog name prepare (append session '((ui_click "Cancel")))))
+
+; --- sessions of chance. (setq seed n events m) before the file gives another run.
+
+; The minimal standard generator, whose products fit a real.
+(defun chance (n) (setq state (fix (rem (* state 16807.0) 2147483647))) (rem state n))
+(defun one-of (some) (nth (chance (length some)) some))
+
+(defun begin-chance (default-events)
+  (if (not (boundp 'seed)) (setq seed 1))
+  (if (not (boundp 'events)) (setq events default-events))
+  (setq state (1+ seed) count 0 trail nil))
+
+; Says by which event all was `fine` no longer; `trail` has the last ones.
+(defun note-event (fine)
+  (if (and fine *wrong*)
+    (note-wrong (strcat "by event " (itoa count) " of seed " (itoa seed) "; the last were "
+                        (prin1-to-string (mapcar '(lambda (i) (nth i trail)) (range 5)))))))
+
+(defun put-nth (n new some) (mapcar '(lambda (i old) (if (= i n) new old)) (range (length some)) some))

@@ -4,7 +4,6 @@
 (defun texts () (mapcar '(lambda (item) (if item (car item))) (ui_menu)))
 (defun enabled () (apply 'append (mapcar '(lambda (item) (if (and item (not (member "disabled" item))) (list (car item)))) (ui_menu))))
 (defun chosen () (apply 'append (mapcar '(lambda (item) (if (member "checked" item) (list (car item)))) (ui_menu))))
-(defun told (/ was) (setq was notes notes nil) was)
 
 ; LINES takes what is on the clipboard.
 (defun in-list (session)

@@ -1,9 +1,6 @@
 #!/bin/bash
 # Runs every Lisp example of the documents below; it must print what its ";=>" lines tell, and nothing else.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/work.sh"
 
 documents=(README.md docs/lisp-functions.md docs/sessions.md docs/dialogs.md)
 tests/support/doc_examples.awk "$work" "${documents[@]}"

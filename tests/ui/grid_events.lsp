@@ -13,7 +13,6 @@
   (in-dialog "EDIT_NONWD_ATTRS" '(wex_action_tile "LST" "(note (list $value $reason))")
     (append '((fill-grid) (ui_pick "LST" 1 1) (told)) session)))
 
-(defun told (/ was) (setq was notes notes nil) was)
 (defun shown () (ui_items "LST"))
 (defun current () (look "LST" "current"))
 (defun cell (row column what) (cdr (assoc what (ui_cell "LST" row column))))
@@ -102,40 +101,6 @@
           (if (> (cadr place) 0) (ui_key "DELETE")))
         (want '("\tread\tred" "\tpush\tred" "\tface\tred") (shown))
         (want nil (remove-if '(lambda (event) (= (cadr event) 4)) (told)))))))
-
-(test "Delete empties what is selected and can be emptied, in the order of the cells; Ctrl+Z and Ctrl+Y take one step each"
-  '((in-events
-      '((wex_grid_setcell "LST" 2 1 52513 "kept")
-        (ui_pick "LST" 1 1 3 1) (told)
-        (ui_key "DELETE")
-        (want '(((1 1 "") 7) ((3 1 "") 7)) (told))
-        (ui_key "CTRL+Z")
-        (want '(((1 1 "t1") 7) ((3 1 "t3") 7)) (told))
-        (ui_key "CTRL+Y")
-        (want '("\t\tred" "\tkept\tred" "\t\tred") (shown))))))
-
-(test "What Lisp writes is not undone, and a cell that it has written since stays"
-  '((in-events
-      '((ui_type "LST" "mine") (ui_key "ENTER")
-        (ui_type "LST" "too") (ui_key "ENTER")
-        (wex_grid_setcell "LST" 2 1 100 "program")
-        (keys '("CTRL+Z" "CTRL+Z" "CTRL+Z"))
-        (want '("\tt1\tred" "\tprogram\tred" "\tt3\tred") (shown))))))
-
-(test "A range is copied as text and pasted into the cells that take it, one step; the others are counted on the command line"
-  '((in-events
-      '((ui_pick "LST" 1 1 2 2) (ui_key "CTRL+C")
-        (wex_grid_setcell "LST" 3 1 52513 "read")
-        (ui_pick "LST" 2 1) (told)
-        (ui_key "CTRL+V")
-        (want '(((2 1 "t1") 7)) (told))
-        (want '("\tt1\tred" "\tt1\tred" "\tread\tred") (shown))
-        (ui_pick "LST" 1 1) (ui_key "CTRL+C")
-        (ui_pick "LST" 1 1 3 2) (told)
-        (ui_key "CTRL+V")
-        (want nil (told))
-        (ui_pick "LST" 2 1) (ui_key "CTRL+Z")
-        (want '("\tt1\tred" "\tt2\tred" "\tread\tred") (shown))))))
 
 (test "An event may change the grid that it comes from: the cell, the rows, the columns"
   '((foreach change '((wex_grid_setcell "LST" 1 1 100 "other") (wex_grid_setcell "LST" 1 1 52513 "locked") (wex_grid_setrowcolumns "LST" 0 0)

@@ -26,9 +26,6 @@
 (defun selected () (look "LST1" "selected"))
 (defun has-focus (tile) (look tile "focus"))
 
-; The notes since the last call.
-(defun told (/ was) (setq was notes notes nil) was)
-
 (test "A press tells the selected rows: with none left, the left button the row under it; with none before, the right one nothing"
   '((in-list nil
       '((ui_rclick "LST1" 2)
@@ -73,14 +70,6 @@
         (ui_key "SHIFT+TAB")
         (want T (has-focus "LST1"))
         (want '(("lst1" "0 1" 5)) (told))))))
-
-(test "Typing a name goes to its row"
-  '((in-list nil
-      '((ui_pick "LST1" 0)
-        (told)
-        (ui_char "g" "LST1")
-        (want '(2) (selected))
-        (want nil (told))))))
 
 (test "A double click tells the press, then the row, and then presses OK"
   '((want 7 (in-single-list

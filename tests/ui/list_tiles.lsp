@@ -44,16 +44,6 @@
         (wex_add_list "ONE")
         (want '("ONE" "two") (ui_items "OFF"))))))
 
-(test "A mode that is set between the start of a list and its rows changes how they are added"
-  '((in-lists '(fill "LST" '("one" "two"))
-      '((wex_start_list "LST" 2)
-        (wex_mode_tile "LST" 1)
-        (wex_add_list "ONE")
-        (want '("ONE" "two") (ui_items "LST"))
-        (wex_mode_tile "LST" 0)
-        (wex_add_list "three")
-        (want '("ONE" "two" "three") (ui_items "LST"))))))
-
 (test "A tile that can't be found leaves the open list open, and rows of an unknown key never show"
   '((in-lists '(progn (wex_start_list "LST") (wex_add_list "a") (wex_start_list nil) (wex_add_list "b"))
       '((want '("a" "b") (ui_items "LST"))
@@ -78,12 +68,6 @@
   '((in-lists '(progn (wex_add_list "x") (want 1 (length (ui_alerts)))
                       (wex_add_list '("x" "y" 5 "z")) (want 2 (length (ui_alerts))))
       nil)))
-
-(test "Selecting an entry tells its index"
-  '((in-lists '(progn (fill "LST" (mapcar 'itoa (range 40)))
-                      (wex_action_tile "LST" "(note (list $key $value $reason))"))
-      '((ui_pick "LST" 1) (ui_pick "LST" "35")))
-    (want '(("lst" "1" 4) ("lst" "35" 4)) notes)))
 
 (test "With multiple selection all selected rows are told, and none of them too; a double click presses OK"
   '((want 3 (run-dialog "DISP_LOCS_ON_DWG_MULT"

@@ -1,9 +1,6 @@
 #!/bin/bash
 # What is made of a dialog's file: places of keys and controls, and a line that tells each mistake.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/work.sh"
 failed=0
 
 # same NAME: the text read is the file $work/NAME.wanted's.

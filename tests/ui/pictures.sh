@@ -1,9 +1,6 @@
 #!/bin/bash
 # The pictures of the documents show what is drawn today.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/work.sh"
 tools/make-pictures.sh "$work"
 pairs=()
 for picture in docs/images/*.png; do pairs+=("$PWD/$picture" "$work/$(basename "$picture")"); done

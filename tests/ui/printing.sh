@@ -1,13 +1,9 @@
 #!/bin/bash
 # The page of a report on paper: on a printer of the print dialog, in a file, on a printer that refuses it, and without any printer.
 # What comes out is compared with what the preview draws.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 . tools/print-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'stop_printer; rm -rf "$work"; stop_wine' EXIT
+at_end() { stop_printer; }
 chmod 755 "$work"
 start_printer "$work/printer"
 

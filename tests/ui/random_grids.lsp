@@ -5,18 +5,11 @@
 ;   ./wexhost --headless tests/support/check.lsp -e '(setq seed 7 events 100000)' tests/ui/random_grids.lsp -e '(report-tests)'
 (host_warn nil)  ; what the functions refuse is tried on purpose
 
-(if (not (boundp 'seed)) (setq seed 1))
-(if (not (boundp 'events)) (setq events 800))
-
-; --- chance: the minimal standard generator, whose products fit a real
-
-(setq state (1+ seed))
-(defun chance (n) (setq state (fix (rem (* state 16807.0) 2147483647))) (rem state n))
-(defun one-of (some) (nth (chance (length some)) some))
+(begin-chance 800)
 
 ; --- the model: rows of cells from row 1 and column 0; a cell is (text type locked)
 
-(setq cells nil columns 0 steps nil undone nil clipboard nil count 0 trail nil told nil due nil inside nil)
+(setq cells nil columns 0 steps nil undone nil clipboard nil told nil due nil inside nil)
 (setq upsetting nil choices '("red" "green" "blue") edit 52512 choice 52500 box 52501 reading 52513)
 
 (defun row-count () (length cells))
@@ -25,7 +18,6 @@
 (defun text-at (row column) (car (cell row column)))
 (defun type-at (row column) (cadr (cell row column)))
 (defun editable (row column) (and (exists row column) (not (caddr (cell row column))) (member (type-at row column) (list edit choice box))))
-(defun put-nth (n new some) (mapcar '(lambda (i old) (if (= i n) new old)) (range (length some)) some))
 (defun put (row column new)
   (if (exists row column) (setq cells (put-nth (1- row) (put-nth column new (nth (1- row) cells)) cells))))
 (defun put-text (row column text) (put row column (cons text (cdr (cell row column)))))
@@ -230,9 +222,7 @@
       (setq look (ui_cell "LST" row column))
       (want (cdr (cell row column)) (list (cdr (assoc "type" look)) (cdr (assoc "readonly" look))))
       (want (text-at row column) (wex_grid_getcell "LST" row column))))
-  (if (and fine *wrong*)
-    (note-wrong (strcat "by event " (itoa count) " of seed " (itoa seed) "; the last were "
-                        (prin1-to-string (mapcar '(lambda (i) (nth i trail)) (range 5)))))))
+  (note-event fine))
 
 (defun play-events (step end)
   (setq forms nil)

@@ -7,14 +7,8 @@
 ; on one of several selected rows leaves, whether a click on the selected entry is told) it is Wine that was asked.
 (host_warn nil)  ; what the functions refuse is tried on purpose
 
-(if (not (boundp 'seed)) (setq seed 1))
-(if (not (boundp 'events)) (setq events 2000))
+(begin-chance 2000)
 
-; --- chance: the minimal standard generator, whose products fit a real
-
-(setq state (1+ seed))
-(defun chance (n) (setq state (fix (rem (* state 16807.0) 2147483647))) (rem state n))
-(defun one-of (list) (nth (chance (length list)) list))
 (defun any-text () (one-of '("9" "10" "100" "a10" "" "1'-6\"" "1/2" "12A" "1.5E+3" "Zed" "zed" "-3" "end  ")))
 (defun any-row () (string-join (mapcar '(lambda (i) (any-text)) (range (1+ (chance 4)))) "\t"))
 
@@ -26,7 +20,6 @@
 (setq rows nil waiting nil focus nil sorting nil sorted 0 dblclick T)
 (setq open nil)  ; the tile of the last wex_start_list
 
-(defun put-nth (n new list) (mapcar '(lambda (i old) (if (= i n) new old)) (range (length list)) list))
 (defun put (key value pairs) (cons (cons key value) (remove (assoc key pairs) pairs)))
 (defun get (key pairs) (cdr (assoc key pairs)))
 (defun entries (tile) (car (get tile dialog)))
@@ -241,7 +234,6 @@
 
 ; --- one event, and the comparison before the next
 
-(setq count 0 trail nil)
 (setq unsure nil)  ; an action may have changed its own list in the middle of a click
 
 (defun event (/ tile what)
@@ -269,9 +261,7 @@
   (want (shown-rows) (ui_items table))
   (want (selected-rows) (look table "selected"))
   (if (not (heard-right due told)) (want due told))
-  (if (and fine *wrong*)
-    (note-wrong (strcat "by event " (itoa count) " of seed " (itoa seed) "; the last were "
-                        (prin1-to-string (mapcar '(lambda (i) (nth i trail)) (range 5)))))))
+  (note-event fine))
 
 (test (strcat (itoa events) " random events, seed " (itoa seed))
   '((setq steps nil)

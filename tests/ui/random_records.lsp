@@ -5,22 +5,17 @@
 ;   ./wexhost --headless tests/support/check.lsp -e '(setq seed 7 events 5000)' tests/ui/random_records.lsp -e '(report-tests)'
 (host_warn nil)  ; what the functions refuse is tried on purpose
 
-(if (not (boundp 'seed)) (setq seed 1))
-(if (not (boundp 'events)) (setq events 600))
-
+(begin-chance 600)
 (host_load_plugin "build/windows/tests/teststore/WEXDATASTOREMGDREV.dll")
 
-; The minimal standard generator, whose products fit a real.
-(setq state (1+ seed))
-(defun chance (n) (setq state (fix (rem (* state 16807.0) 2147483647))) (rem state n))
-(defun one-of (list) (nth (chance (length list)) list))
 (defun any-text () (one-of '("" "a" "b" "A" "a b" "a\tb" "grün" "'x'" "[x]" "\"" "line\nend")))
-(defun any-texts () (mapcar '(lambda (i) (any-text)) (range (chance 7))))
+(defun any-texts () (mapcar '(lambda (i) (if (= (chance 20) 0) 5 (any-text))) (range (chance 7))))
+; Texts end where something else stands.
+(defun taken (texts) (if (stringp (car texts)) (cons (car texts) (taken (cdr texts)))))
 
 ; --- the model
 
 (setq records nil added nil modified nil deleted nil)
-(defun put-nth (n new list) (mapcar '(lambda (i old) (if (= i n) new old)) (range (length list)) list))
 (defun without-nth (n list) (remove 'gone (put-nth n 'gone list)))
 (defun pad (texts size) (mapcar '(lambda (i) (cond ((nth i texts)) (T ""))) (range size)))
 (defun entry-p (n) (and (<= 0 n) (< n (length records))))
@@ -53,7 +48,7 @@
 
 (defun set-record (/ n texts)
   (setq n (any-number) texts (any-texts))
-  (with-number '(wex_fp_setitem n texts) n '(model-set n texts)))
+  (with-number '(wex_fp_setitem n texts) n '(model-set n (taken texts))))
 ; Without a number that no record has: such a call may leave an empty page behind, into which the next record then goes.
 (defun remove-record (/ n)
   (setq n (any-number))
@@ -62,7 +57,7 @@
   (setq texts (any-texts))
   (cond ((< (length records) 100)
          (wex_fp_additem texts)
-         (setq records (append records (list (pad texts 5))) added (append added (list (pad texts 5)))))))
+         (setq records (append records (list (pad (taken texts) 5))) added (append added (list (pad (taken texts) 5)))))))
 (defun read-record (/ n)
   (setq n (any-number))
   (with-number '(setq got (wex_fp_getitem n)) n '(want (nth n records) got)))
@@ -70,14 +65,13 @@
 (defun wrong-calls () (wex_fp_setitem) (wex_fp_setitem 0) (wex_fp_remitem) (wex_fp_additem) (wex_fp_getitem))  ; check: off
 (defun begin-anew (/ rows)
   (cond ((= (chance 20) 0)
-         (setq rows (mapcar '(lambda (i) (any-texts)) (range (chance 40))) records rows added nil modified nil deleted nil)
+         (setq rows (mapcar '(lambda (i) (taken (any-texts))) (range (chance 40))) records rows added nil modified nil deleted nil)
          (store_rows rows)
          (wex_fp_cleardatasrc)
          (wex_fp_setupdatasrc '("" "Parts" "PN")))
         (T (wex_fp_setupdatasrc '("" "Others")))))
 
 (defun shown (record) (string-join (mapcar '(lambda (i) (nth i (pad record 5))) '(0 2 3)) "\t"))
-(setq count 0)
 (defun event (/ what)
   (setq count (1+ count)
         what (one-of '(set-record set-record remove-record remove-record add-record add-record add-record read-record forget

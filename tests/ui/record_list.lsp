@@ -49,11 +49,6 @@
         (ui_char "P700")
         (want '(700) (selected))))))
 
-(test "Columns show the first, the third and the fourth field, and a field that isn't there is empty"
-  '((store_rows '(("a" "b" "c" "d" "e") ("only") nil))
-    (set-up)
-    (in-lookup '((want '("a\tc\td\t" "only\t\t\t" "\t\t\t") (ui_items "DLST"))))))
-
 (test "What changes under the list shows with the new count"
   '((numbered 120)
     (in-lookup
@@ -83,6 +78,11 @@
         (wex_fp_setupdatasrc '("" "Parts" "PN"))
         (show-changes)
         (want '("P0" "P1" "P2") (names))))))
+
+(test "A list of another dialog shows none of the records"
+  '((numbered 3)
+    (in-dialog "ODD_TABLES" '(wex_listctrl_setcolumns "VIRTUAL" "\tName")
+      '((wex_listctrl_setitemcount "VIRTUAL" 2) (want '("" "") (ui_items "VIRTUAL"))))))
 
 (test "A list that began without a table never shows one"
   '((wex_fp_cleardatasrc)

@@ -87,27 +87,6 @@
     (with-rows '(("a\tb" "" "line\nend" "grün ⌀ 😀" "'[x]\"")))
     (want '("a\tb" "" "line\nend" "grün ⌀ 😀" "'[x]\"") (wex_fp_getitem 0))))
 
-(test "A record keeps the fields that no text is given for"
-  '((with-rows catalog)
-    (no-value '(wex_fp_setitem 1 '("P2a" "Bolt")))
-    (want '("P2a" "Bolt" "Lamp" "" "3") (wex_fp_getitem 1))
-    (wex_fp_setitem 1 '("1" "2" "3" "4" "5" "6" "7"))
-    (want '("1" "2" "3" "4" "5") (wex_fp_getitem 1))
-    (wex_fp_setitem 1 '("x" 5 "y"))
-    (want '("x" "2" "3" "4" "5") (wex_fp_getitem 1))
-    (want '(nil ("x") nil) (changes))
-    (wex_fp_setitem 0 nil)
-    (want '(nil ("x" "P1") nil) (changes))))
-
-(test "Setting without a number or without texts does nothing"
-  '((with-rows catalog)
-    (foreach form '((wex_fp_setitem) (wex_fp_setitem -1 '("x")) (wex_fp_setitem "0" '("x")) (wex_fp_setitem 1.5 '("x"))
-                    (wex_fp_setitem 0) (wex_fp_setitem 9))
-      (no-value form))
-    (want '(nil nil nil) (changes))
-    (foreach n '(3 -2 400 -400) (out-of-range (list 'wex_fp_setitem n ''("x"))))
-    (want catalog (records))))
-
 (test "What is added has five fields"
   '((with-rows catalog)
     (no-value '(wex_fp_additem '("1" "2" "3" "4" "5" "6" "7")))
@@ -122,28 +101,6 @@
     (want nil (wex_fp_getmodified))
     (repeat 6 (wex_fp_remitem 3))
     (want '(nil nil nil) (changes))))
-
-(test "What is removed is told with its last values"
-  '((with-rows catalog)
-    (wex_fp_setitem 1 '("changed"))
-    (no-value '(wex_fp_remitem 1))
-    (no-value '(wex_fp_remitem 0))
-    (want '(nil nil ("changed" "P1")) (changes))
-    (want '(("P3" "Bolt" "Fuse" "2A" "")) (records))
-    (foreach form '((wex_fp_remitem) (wex_fp_remitem -1) (wex_fp_remitem "0")) (no-value form))
-    (foreach n '(1 2 -2 500 -500) (out-of-range (list 'wex_fp_remitem n)))
-    (want '("P3") (first-fields (records)))))
-
-(test "Saving forgets what was changed and writes nothing"
-  '((with-rows catalog)
-    (wex_fp_additem '("P4"))
-    (wex_fp_remitem 0)
-    (wex_fp_setitem 0 '("p2"))
-    (want '(("P4") ("p2") ("P1")) (changes))
-    (no-value '(wex_fp_savedb))
-    (want '(nil nil nil) (changes))
-    (want '("p2" "P3" "P4") (first-fields (records)))
-    (want nil (store_log))))
 
 (test "Pages are ragged after a deletion, and shift when it is forgotten"
   '((wex_fp_cleardatasrc)

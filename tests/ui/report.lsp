@@ -114,26 +114,6 @@
         (ui_key "DOWN" tab)
         (ui_pick tab 0) (want 6 (position))))))
 
-; How many points of a line down the page are black: lines and letters.
-(defun blacks (x top bottom) (length (remove-if-not '(lambda (y) (= black (color x y))) (range top bottom))))
-
-(test "The table has frames, 18 rows and 5 columns, and its first row is lower than the others"
-  '((in-report
-      '((ui_size 640 700)
-        (setq dpi (fix (* 96 scale)) x (+ 8 (/ dpi 2)) y (+ 4 (/ dpi 2)) page (- (page-right) 8))
-        (want black (color x y))
-        (want (list black white) (list (color (+ x 50) y) (color (+ x 50) (- y 2))))
-        (setq columns 0)
-        (setq end x)
-        (foreach part '(0.12 0.12 0.12 0.12 0.25)
-          (setq end (fix (+ end (* part page))))
-          (want (list part black) (list part (color end (+ y 3)))))
-        (want white (color (+ end 3) (+ y 3)))
-        ; beside the left edge, before the letters begin
-        (setq lines (remove-if-not '(lambda (at) (= black (color (+ x 1) at))) (range y (- (height preview) 4))))
-        (want T (< (- (cadr lines) (car lines)) (- (caddr lines) (cadr lines))))
-        (want (- (caddr lines) (cadr lines)) (- (cadddr lines) (caddr lines)))))))
-
 (test "A preview higher than its sheet is black below it"
   '((in-report
       '((ui_size 300 1000)

@@ -199,15 +199,3 @@
   '((in-tabs "(wex_tab_add \"TAB\" \"First\" \"HIGH_FRAME\")"
       '((want '("HIGH_FRAME") (shown '("HIGH_FRAME")))
         (want (list (page-color)) (colors "HIGH_FRAME" 0 (width "HIGH_FRAME") (/ (height "HIGH_FRAME") 2)))))))
-
-(test "The background follows a tab control that grows and shrinks"
-  '((in-pages '(foreach row '(("TAB" 63) ("OK" 75) ("Cancel" 75)) (apply 'wex_setresizing row))
-      '((ui_size 600 400)
-        (ui_pick "TAB" 2)
-        (setq page (page-color) before (width "TAB"))
-        (ui_size 800 600)
-        (want 200 (- (width "TAB") before))
-        (want (list page) (colors "TAB" 10 (- (width "TAB") 10) (- (height "TAB") 20)))
-        (ui_size 600 400)
-        (want (list page) (colors "TAB" 10 (- (width "TAB") 10) (- (height "TAB") 20)))
-        (want T (> (length (colors "TAB" 5 50 10)) 1))))))

@@ -7,7 +7,6 @@
   (in-dialog "DRAWING_FOLDER_FILTER_SEL" '(wex_action_tile "TREE" "(note (list (atoi $value) $reason))")
     (append make '((told)) session)))
 
-(defun told (/ was) (setq was notes notes nil) was)
 (defun top (text) (wex_tree_insertparent "TREE" text))
 (defun under (parent text) (wex_tree_insertchild "TREE" parent text))
 (defun images (item) (wex_tree_getitemimages "TREE" item))
@@ -59,26 +58,6 @@
               (mapcar '(lambda (numbers) (apply 'wex_tree_setitemimages (append (list "TREE" item) numbers)) (images item))
                       '((4) (4 9) (4 9 5) (4 9 -2) ("4"))))))))
 
-(test "The image and the alternate one trade places when the person opens or closes the item, and when Lisp first opens it"
-  '((in-tree
-      '((setq folder (wex_tree_insertparent "TREE" "folder" 4 4 5) plain (wex_tree_insertparent "TREE" "plain" 1 2)
-              noted (wex_tree_insertparent "TREE" "with data" 1 2))
-        (foreach item (list folder plain noted) (under item "x"))
-        (wex_tree_setitemdata "TREE" noted 5))
-      '((ui_expand "TREE" folder)
-        (want '(5 5 4) (images folder))
-        (ui_expand "TREE" folder)
-        (want '(4 4 5) (images folder))
-        (foreach mode '(1 -1 0)
-          (wex_tree_expanditem "TREE" plain mode) (want '(1 2 -1) (images plain))
-          (wex_tree_expanditem "TREE" noted mode) (want '(-1 -1 1) (images noted)))))))
-
-(test "Opening: -1 closes, 0 and no mode toggle, 1 opens, another mode does nothing"
-  '((in-tree folders
-      '((want '(("One" "\tb" "\ta" "Two") ("One" "Two") ("One" "\tb" "\ta" "Two") ("One" "\tb" "\ta" "Two") ("One" "Two") ("One" "Two"))
-              (mapcar '(lambda (mode) (want nil (apply 'wex_tree_expanditem (append (list "TREE" one) mode))) (shown))
-                      '((1) (0) nil (2) (-1) (-1))))))))
-
 (test "Each event tells the item and its reason; a click beside all items tells 0"
   '((in-tree folders
       '((ui_pick "TREE" one)
@@ -107,22 +86,6 @@
       '((ui_char "la")
         (want least (selection))))))
 
-(test "Keys: arrows, Home and End, + - * of the number pad"
-  '((in-tree
-      '((setq folder (wex_tree_insertparent "TREE" "folder" 4 4 5) inner (wex_tree_insertchild "TREE" folder "inner" 4 4 5)
-              x (under inner "x") least (top "last"))
-        (ui_pick "TREE" folder))
-      '((ui_key "PLUS") (want (list (list folder 15) (list folder 16)) (told))
-        (ui_key "PLUS") (want nil (told))
-        (ui_key "STAR") (want (list (list inner 15) (list inner 16)) (told))
-        (want '((5 5 4) (5 5 4)) (mapcar 'images (list folder inner)))
-        (mapcar 'ui_key '("DOWN" "DOWN" "LEFT" "LEFT"))
-        (want (list (list inner 10) (list x 10) (list inner 10) (list inner 15) (list inner 16)) (told))
-        (ui_key "END") (ui_key "HOME")
-        (want (list (list least 10) (list folder 10)) (told))
-        (mapcar 'ui_key '("HOME" "MINUS" "MINUS"))
-        (want '((4 4 5) (4 4 5)) (mapcar 'images (list folder inner)))))))
-
 ; Runs `how` once, in that event, when `prepare` is done and `act` brings the event about.
 (defun in-event (way how check)
   (setq armed nil event (car way))
@@ -142,7 +105,7 @@
              (15 (ui_pick "SINGLE" above) (ui_key "STAR")) (16 (ui_pick "SINGLE" above) (ui_key "MINUS"))
              (10 nil (ui_key "UP")) (15 (ui_pick "SINGLE" above) (ui_key "LEFT"))))
 
-(test "Any event may delete its item: it is gone for the action at once, and the others stay"
+(test "Any event may delete its item, which is gone for the action at once, or all items and make new ones, or end the dialog"
   '((foreach way ways
       (in-event way
         '(progn (wex_tree_deleteitem "SINGLE" item)
@@ -150,21 +113,14 @@
                       (list (wex_tree_getitemtext "SINGLE" item) (wex_tree_getparent "SINGLE" item)
                             (wex_tree_insertchild "SINGLE" item "x") (wex_tree_getitemimages "SINGLE" item))))
         '((want nil armed)
-          (want "" (wex_tree_getitemtext "SINGLE" item))
-          (want "rest" (wex_tree_getitemtext "SINGLE" rest))
-          (ui_click "Cancel"))))))
-
-(test "Any event may delete all items and make new ones"
-  '((foreach way ways
+          (want '("" "rest") (mapcar '(lambda (it) (wex_tree_getitemtext "SINGLE" it)) (list item rest)))
+          (ui_click "Cancel")))
       (in-event way
         '(progn (wex_tree_deleteallitems "SINGLE")
                 (want -1 (wex_tree_getcursel "SINGLE"))
                 (setq new (wex_tree_insertparent "SINGLE" "new") child (wex_tree_insertchild "SINGLE" new "child"))
                 (wex_tree_deleteitem "SINGLE" child))
-        '((want '("new") (ui_items "SINGLE")) (ui_click "Cancel"))))))
-
-(test "Any event may end the dialog"
-  '((foreach way ways
+        '((want '("new") (ui_items "SINGLE")) (ui_click "Cancel")))
       (want 7 (in-event way '(wex_done_dialog 7) nil)))))
 
 (test "A deleted item hands the selection on, and that is told; all items deleted select nothing"
@@ -260,41 +216,3 @@
 (test "A tree that was changed at a stroke looks like one that was drawn after each change"
   '((in-tree nil (append building '((setq slowly (picture)))))
     (in-tree nil (list (cons 'progn building) '(want T (equal slowly (picture)))))))
-
-; A program that shows an earlier run, or makes a new one.
-(defun choose-run (session)
-  (run-dialog "DSPPREV_RUNNEW"
-    '(progn (wex_set_tile "NEW" "1")
-            (wex_mode_tile "RUNS" 1) (wex_mode_tile "DELETE" 1)
-            (wex_action_tile "NEW" "(mapcar '(lambda (tile) (wex_mode_tile tile 1)) '(\"RUNS\" \"DELETE\"))")
-            (wex_action_tile "PREVIOUS" "(mapcar '(lambda (tile) (wex_mode_tile tile 0)) '(\"RUNS\" \"DELETE\"))")
-            (wex_action_tile "DELETE" "(wex_tree_deleteitem \"RUNS\" (wex_tree_getcursel \"RUNS\"))")
-            (wex_action_tile "OK" "(progn (note (wex_tree_getitemtext \"RUNS\" (wex_tree_getcursel \"RUNS\"))) (wex_done_dialog 1))")
-            (wex_setaction_oninit
-              "(foreach day '(\"Monday\" \"Tuesday\") (wex_tree_insertchild \"RUNS\" (wex_tree_insertparent \"RUNS\" day) (strcat day \" 9:00\")))"))
-    session))
-
-(test "Of earlier runs in a tree one is chosen and another deleted; the tree can't be worked while a new run is to be made"
-  '((want 1 (choose-run
-      '((want nil (look "RUNS" "enabled"))
-        (want T (catch-error (progn (ui_pick "RUNS" "Monday") nil) '(lambda (message) T)))
-        (ui_click "PREVIOUS")
-        (ui_pick "RUNS" "Monday")
-        (ui_click "DELETE")
-        (ui_expand "RUNS" "Tuesday")
-        (ui_pick "RUNS" '("Tuesday" "Tuesday 9:00"))
-        (want '("Tuesday" "\tTuesday 9:00") (ui_items "RUNS"))
-        (ui_shot "runs.png")
-        (ui_click "OK"))))
-    (want '("Tuesday 9:00") notes)))
-
-(test "The dialogs with trees grow with their windows: the tree takes the room, and the buttons follow the corner"
-  '((foreach row '(("DRAWING_FOLDER_FILTER_SEL" "TREE") ("PICK_BY_SEC" "SEC") ("DSPPREV_RUNNEW" "RUNS"))
-      (setq tree (cadr row))
-      (in-dialog (car row) '(progn (wex_setresizing tree 63) (wex_setresizing "OK" 75) (wex_setresizing "Cancel" 75))
-        '((ui_size 800 700)
-          (setq before (mapcar '(lambda (tile) (look tile "rect")) (list tree "OK" "Cancel")))
-          (ui_size 860 740)
-          (want (mapcar '(lambda (was change) (mapcar '+ was change)) before '((0 0 60 40) (60 40 0 0) (60 40 0 0)))
-                (mapcar '(lambda (tile) (look tile "rect")) (list tree "OK" "Cancel")))
-          (ui_shot (strcat "grown-" tree ".png")))))))

@@ -1,12 +1,7 @@
 #!/bin/bash
 # Where a warning says that the mistake is, how often it is told, what the options make of it, and a host that knows no
 # warnings: there the program runs as ever.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
-trap 'rm -rf "$work"; stop_wine' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 failed=0
 
 cat >"$work/form.lsp" <<'PROGRAM'

@@ -1,13 +1,9 @@
 #!/bin/bash
 # A program that is saved while its dialog stands: the dialog opens again with what the person had made of it. Sessions are
 # the person; what they see is printed.
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-. tools/wine-env.sh
-start_wine headless
-work=$(mktemp -d)
+. "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 watcher=
-trap '[ -z "$watcher" ] || kill $watcher 2>/dev/null || true; rm -rf "$work"; stop_wine' EXIT
+at_end() { [ -z "$watcher" ] || kill $watcher 2>/dev/null || true; }
 fail() {
     echo "FAILED: $*"
     cat "$work/printed" "$work/errors"

@@ -188,10 +188,7 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM w, LPARAM l) {
     switch (message) {
         case WM_COMMAND: {
             if (reflect(message, w, l, result)) return result;
-            const UINT id = LOWORD(w);
-            if (const auto call = messageMap().find(MessageEntry::Kind::command, id))
-                return call(*this, w, l);
-            if (OnCommand(id, HIWORD(w))) return 0;
+            if (OnCommand(LOWORD(w), HIWORD(w))) return 0;
             break;
         }
         case WM_NOTIFY:

@@ -2,7 +2,6 @@
 //
 //     const MessageMap& WexDialog::messageMap() const {
 //         static const MessageMap map(CSnapDlg::messageMap(), {
-//             onCommand<3, &WexDialog::onReportCommand>(),
 //             on<WM_SIZE, &WexDialog::onSize>(),
 //         });
 //         return map;
@@ -72,11 +71,11 @@ WEX_UNPACK(WM_DRAWITEM, reinterpret_cast<DRAWITEMSTRUCT*>(l))
 #undef WEX_POINT
 
 struct MessageEntry {
-    enum class Kind { message, command, reflectedCommand, reflectedNotify, reflectedMessage };
+    enum class Kind { message, reflectedCommand, reflectedNotify, reflectedMessage };
     using Call = LRESULT (*)(CWnd&, WPARAM, LPARAM);
 
     Kind kind;
-    // The message, the command's control id, or the notification's code.
+    // The message, or the notification's code.
     UINT code;
     Call call;
 };
@@ -160,12 +159,6 @@ MessageEntry onRaw() {
 template <UINT Message, auto Handler>
 MessageEntry onPlain() {
     return {MessageEntry::Kind::message, Message, &message_map::callPlain<Handler>};
-}
-
-// A command of that control id, whatever its notification: void().
-template <UINT Id, auto Handler>
-MessageEntry onCommand() {
-    return {MessageEntry::Kind::command, Id, &message_map::callPlain<Handler>};
 }
 
 // A WM_COMMAND notification of the control itself: void().

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "src/platform/buttons/BCMenu.h"
+#include "tests/support/Canvas.h"
 
 namespace {
 
@@ -17,16 +18,9 @@ class DrawnItem {
         m_width = menuItemWidth(m_metrics);
         m_height = menuItemHeight(m_metrics);
         parts = placeMenuItem({0, 0, m_width, m_height}, m_metrics);
-        BITMAPINFO info = {};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), m_width, -m_height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        const ClientDC screen(nullptr);
-        const UniqueBitmap bitmap(CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        const CompatibleDC dc(screen);
-        const SelectedObject selected(dc, bitmap.get());
-        m_look.draw(dc, {0, 0, m_width, m_height}, item, m_metrics);
-        GdiFlush();
-        m_pixels.assign(static_cast<uint32_t*>(bits), static_cast<uint32_t*>(bits) + m_width * m_height);
+        const Canvas canvas(m_width, m_height);
+        m_look.draw(canvas.dc(), {0, 0, m_width, m_height}, item, m_metrics);
+        m_pixels = canvas.dots();
     }
 
     // How many pixels there have another color than that of the area's left upper corner.
@@ -45,7 +39,7 @@ class DrawnItem {
                 if (colorOf(at(x, y)) == GetSysColor(systemColor)) return true;
         return false;
     }
-    uint32_t at(int x, int y) const { return m_pixels[y * m_width + x] & 0xFFFFFF; }
+    uint32_t at(int x, int y) const { return m_pixels[y * m_width + x]; }
 
     MenuItemParts parts;
 

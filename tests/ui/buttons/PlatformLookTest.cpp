@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "src/platform/buttons/CXPStyleButtonST.h"
-#include "src/platform/mfc/Drawing.h"
+#include "tests/support/Canvas.h"
 
 namespace {
 
@@ -39,18 +39,7 @@ class ButtonPair {
     Pixels shownBy(HWND window, bool focused) const {
         SetFocus(focused ? window : m_parent.m_hWnd);
         RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-        BITMAPINFO info = {};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), WIDTH, -HEIGHT, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        const ClientDC from(window);
-        const UniqueBitmap bitmap(CreateDIBSection(from, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        const CompatibleDC to(from);
-        const SelectedObject selected(to, bitmap.get());
-        BitBlt(to, 0, 0, WIDTH, HEIGHT, from, 0, 0, SRCCOPY);
-        GdiFlush();
-        Pixels pixels(static_cast<uint32_t*>(bits), static_cast<uint32_t*>(bits) + WIDTH * HEIGHT);
-        for (uint32_t& pixel : pixels) pixel &= 0xFFFFFF;
-        return pixels;
+        return dotsOf(window);
     }
 
     // Where both differ: "12 pixels, the first at 3,4"; empty where nowhere.

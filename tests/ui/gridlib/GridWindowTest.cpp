@@ -18,33 +18,6 @@ TEST_F(GridTest, AttachesOnceAndAgainToTheSameWindow) {
     EXPECT_TRUE(second.SetRowCount(5)) << "without a window it is a table all the same";
 }
 
-TEST_F(GridTest, EachGestureSelectsAndTellsOnce) {
-    fill(50, 4);
-    press(3, 2);
-    EXPECT_EQ(grid.takeEvents(), Events{L"select 3 2 3 2"});
-    press(5, 3, MK_SHIFT);
-    EXPECT_EQ(grid.takeEvents(), Events{L"select 3 2 5 3"});
-    press(7, 0, MK_CONTROL);
-    EXPECT_EQ(grid.takeEvents(), Events{L"select 7 0 7 4"});
-    press(0, 2);
-    EXPECT_EQ(grid.takeEvents(), Events{L"select 1 2 50 2"}) << "the row of headers isn't data";
-
-    const LPARAM from = middle(2, 1), to = middle(4, 2);
-    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, from);
-    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, to);
-    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, to);
-    grid.SendMessage(WM_LBUTTONUP, 0, to);
-    EXPECT_EQ(grid.takeEvents(), (Events{L"select 2 1 4 2 drag", L"select 2 1 4 2"}));
-
-    key(VK_DOWN);
-    key(VK_RIGHT, {VK_SHIFT});
-    key('A', {VK_CONTROL});
-    EXPECT_EQ(grid.takeEvents(),
-              (Events{L"select 3 1 3 1 key", L"select 3 1 3 2 key", L"select 1 0 50 4 key"}));
-    grid.SetCurrentCell(9, 0);
-    EXPECT_EQ(grid.takeEvents(), Events()) << "a program knows what it does";
-}
-
 TEST_F(GridTest, ScrollsAMillionRowsByKeysAndShowsWhatIsAskedFor) {
     grid.SetRowCount(1'000'000);
     grid.SetColCount(20);
@@ -192,19 +165,6 @@ TEST_F(GridTest, ColumnWiderThanTheWindowIsScrolledThrough) {
     pump();
     GetScrollInfo(grid.m_hWnd, SB_HORZ, &bar);
     EXPECT_GT(bar.nPos, 900);
-}
-
-TEST_F(GridTest, PaintsWhatACellSays) {
-    fill(5, 3);
-    grid.SetStyleRange(CGXRange(2, 2), CGXStyle().SetInterior(RGB(10, 200, 30)).SetValue(L""));
-    pump();
-    UpdateWindow(grid.m_hWnd);
-    const ClientDC dc(grid.m_hWnd);
-    const PixelRect rect = look(2, 2).rect;
-    EXPECT_EQ(GetPixel(dc, rect.left + 5, rect.top + 5), static_cast<COLORREF>(RGB(10, 200, 30)));
-    EXPECT_NE(GetPixel(dc, rect.right - 1, rect.top + 5), static_cast<COLORREF>(RGB(10, 200, 30)))
-        << "its line";
-    EXPECT_EQ(GetPixel(dc, look(2, 3).rect.right + 10, rect.top + 5), GetSysColor(COLOR_WINDOW)) << "behind";
 }
 
 }  // namespace

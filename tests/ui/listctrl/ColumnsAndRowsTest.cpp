@@ -50,17 +50,6 @@ TEST_F(ColumnsAndRows, ARowSelectedWhileRedrawIsHeldIsScrolledTo) {
     EXPECT_TRUE(list.SendMessage(LVM_ISITEMVISIBLE, 90));
 }
 
-TEST_F(ColumnsAndRows, LongCellsStayWhole) {
-    insertColumn(list, 0, L"Name", 50);
-    insertColumn(list, 1, L"Size", 50);
-    CellReader reader(list);
-    for (const int length : {255, 256, 3000}) {
-        const CString cell(length, L'x');
-        appendRow(list, cell + L"\t" + cell);
-        for (const int column : {0, 1}) EXPECT_EQ(reader.text(rowCount(list) - 1, column), cell);
-    }
-}
-
 TEST_F(ColumnsAndRows, DrawAtTheNextTurnOfTheLoop) {
     insertColumn(list, 0, L"Name", 50);
     UpdateWindow(list.m_hWnd);

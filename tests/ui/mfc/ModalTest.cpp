@@ -34,19 +34,6 @@ TEST_F(ModalTest, RunsWithTheOwnerDisabledAndGivesItBack) {
     EXPECT_FALSE(IsWindowEnabled(owner.m_hWnd)) << "an owner that was disabled stays so";
 }
 
-TEST_F(ModalTest, EndWhileItIsInitialisedNeverShowsIt) {
-    TestDialog dialog(&owner);
-    bool shown = false;
-    dialog.init = [&] {
-        dialog.EndDialog(5);
-        dialog.EndDialog(6);
-    };
-    dialog.show = [&] { shown = shown || !IsWindowVisible(dialog.m_hWnd); };  // it is about to be
-    EXPECT_EQ(dialog.DoModal(), 6);
-    EXPECT_FALSE(shown);
-    EXPECT_EQ(owner.idles, 0);
-}
-
 TEST_F(ModalTest, LastEndBeforeTheLoopLeavesDecides) {
     TestDialog dialog(&owner);
     dialog.EndDialog(1);  // no window yet: no effect
@@ -60,35 +47,6 @@ TEST_F(ModalTest, LastEndBeforeTheLoopLeavesDecides) {
     owner.steps = {[&] { dialog.click(1); }};
     EXPECT_EQ(dialog.DoModal(), 4);
     EXPECT_TRUE(owner.steps.empty());
-}
-
-class FocusNoting : public CEdit {
-  public:
-    Action lost;
-    const MessageMap& messageMap() const override {
-        static const MessageMap map(CEdit::messageMap(), {onReflected<EN_KILLFOCUS, &FocusNoting::onLost>()});
-        return map;
-    }
-
-  private:
-    void onLost() { run(lost); }
-};
-
-TEST_F(ModalTest, FocusLeavesAnEditBoxWithinTheEnd) {
-    FocusNoting edit;
-    TestDialog dialog(&owner);
-    dialog.init = [&] { edit.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 110)); };
-    bool ending = false, lostWhileEnding = false;
-    edit.lost = [&] { lostWhileEnding = lostWhileEnding || (ending && dialog.isRunning()); };
-    dialog.ok = [&] {
-        edit.SetFocus();
-        ending = true;
-        dialog.EndDialog(1);
-        ending = false;
-    };
-    owner.steps = {[&] { dialog.click(1); }};
-    dialog.DoModal();
-    EXPECT_TRUE(lostWhileEnding);
 }
 
 TEST_F(ModalTest, OuterDialogGetsItsFocusBack) {
@@ -135,36 +93,6 @@ TEST_F(ModalTest, MissingTemplateOrDestroyedWindowGivesMinusOne) {
 
     AfxGetModuleState()->m_hCurrentResourceHandle = nullptr;
     EXPECT_EQ(TestDialog(&owner).DoModal(), -1) << "the program's own resources are not searched";
-}
-
-Owner* g_main = nullptr;
-
-TEST_F(ModalTest, OwnerIsFoundWhenTheRunBegins) {
-    CWnd child;
-    child.CreateEx(0, L"Static", L"", WS_CHILD | WS_VISIBLE, RECT{0, 0, 9, 9}, owner.m_hWnd, 0);
-    Owner main;
-    g_main = &main;
-    AfxSetMainWindow([] { return g_main->m_hWnd; });
-    const auto ownerOf = [&](CWnd* parent, Owner& idleTold) {
-        TestDialog dialog(parent);
-        HWND found = nullptr;
-        idleTold.steps = {[&] {
-            found = ::GetWindow(dialog.m_hWnd, GW_OWNER);
-            dialog.EndDialog(0);
-        }};
-        EXPECT_EQ(dialog.DoModal(), 0);
-        return found;
-    };
-    EXPECT_EQ(ownerOf(&child, owner), owner.m_hWnd) << "the top-level window of a child";
-    EXPECT_EQ(ownerOf(nullptr, main), main.m_hWnd);
-    child.DestroyWindow();
-    EXPECT_EQ(ownerOf(&child, main), main.m_hWnd) << "a window that is gone";
-    AfxSetMainWindow(nullptr);
-
-    // Without any owner the dialog tells itself of idleness.
-    TestDialog alone(nullptr);
-    alone.init = [&] { ::PostMessageW(alone.m_hWnd, WM_COMMAND, IDOK, 0); };
-    EXPECT_EQ(alone.DoModal(), IDOK);
 }
 
 TEST_F(ModalTest, IdlenessIsToldOnceInAPeriod) {

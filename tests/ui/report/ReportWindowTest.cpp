@@ -7,28 +7,19 @@
 #include "src/report/GdiReportSurface.h"
 #include "src/report/SheetLayout.h"
 #include "src/report/WexReportPreview.h"
+#include "tests/support/Canvas.h"
 
 namespace {
 
-// A picture whose dots the test can read: 32 bits each, rows from the top.
-class Picture {
+// White paper.
+class Picture : public Canvas {
   public:
-    Picture(int width, int height) : m_dc(CreateCompatibleDC(nullptr)), m_width(width), m_height(height) {
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB};
-        m_bitmap.reset(
-            CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&m_dots), nullptr, 0));
-        SelectObject(m_dc, m_bitmap.get());
+    Picture(int width, int height) : Canvas(width, height), m_width(width), m_height(height) {
         const RECT all{0, 0, width, height};
-        FillRect(m_dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+        FillRect(dc(), &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     }
-    ~Picture() { DeleteDC(m_dc); }
 
-    HDC dc() const { return m_dc; }
-    bool isWhite(int x, int y) const {
-        GdiFlush();
-        return (m_dots[static_cast<size_t>(y) * m_width + x] & 0xFFFFFF) == 0xFFFFFF;
-    }
+    bool isWhite(int x, int y) const { return at(x, y) == RGB(255, 255, 255); }
     // Whether a rectangle has nothing but white dots.
     bool isBlank(const PixelRect& rect) const {
         for (int y = rect.top; y < rect.bottom; ++y)
@@ -40,15 +31,11 @@ class Picture {
         std::FILE* file = std::fopen(path, "wb");
         ASSERT_TRUE(file);
         std::fprintf(file, "P5\n%d %d\n255\n", m_width, m_height);
-        GdiFlush();
-        for (int at = 0; at < m_width * m_height; ++at) std::fputc(static_cast<int>(m_dots[at] & 0xFF), file);
+        for (const uint32_t dot : dots()) std::fputc(static_cast<int>(dot & 0xFF), file);
         std::fclose(file);
     }
 
   private:
-    HDC m_dc;
-    UniqueBitmap m_bitmap;
-    uint32_t* m_dots = nullptr;
     int m_width, m_height;
 };
 
@@ -103,22 +90,17 @@ TEST(ReportSurface, TextsStayInNarrowCellsAndInCellsThatAreNone) {
 // What a printer was asked for, in order.
 class FakePrinter : public PrintJob {
   public:
-    explicit FakePrinter(int started = 1) : m_started(started) {}
-
-    bool choose(HWND) override { return note(L"choose", m_chosen); }
+    bool choose(HWND) override { return note(L"choose", true); }
     HDC createDC() override {
         // Its resolution is that of the screen, but it is another device.
         return note(L"dc", CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr));
     }
-    int startDoc(HDC, const wchar_t* name) override {
-        return note(std::wstring(L"start ") + name, m_started);
-    }
+    int startDoc(HDC, const wchar_t* name) override { return note(std::wstring(L"start ") + name, 1); }
     void startPage(HDC) override { note(L"page", 0); }
     void endPage(HDC) override { note(L"end page", 0); }
     void endDoc(HDC) override { note(L"end", 0); }
 
     std::vector<std::wstring> asked;
-    bool m_chosen = true;
 
   private:
     template <class Answer>
@@ -126,8 +108,6 @@ class FakePrinter : public PrintJob {
         asked.push_back(what);
         return answer;
     }
-
-    int m_started;
 };
 
 using Asked = std::vector<std::wstring>;
@@ -149,26 +129,6 @@ class Preview : public testing::Test {
     WexReportPreview preview;
 };
 
-TEST_F(Preview, SetsTheRangeOfItsBarOnceAtTheFirstPaint) {
-    EXPECT_EQ(preview.GetDlgCtrlID(), 101);
-    EXPECT_EQ(preview.GetExStyle() & WS_EX_STATICEDGE, DWORD{WS_EX_STATICEDGE});
-    paint();
-    EXPECT_TRUE(preview.m_scrollRangeSet);
-    EXPECT_EQ(preview.m_pageLines, 43);
-    EXPECT_EQ(bar.GetScrollLimit(), 8);
-    preview.MoveWindow({0, 0, 202, 402});
-    paint();
-    EXPECT_EQ(bar.GetScrollLimit(), 8);
-}
-
-TEST_F(Preview, HigherThanItsSheetHasNothingToScroll) {
-    preview.MoveWindow({0, 0, 202, 802});
-    paint();
-    bar.SetScrollPos(6);
-    paint();
-    EXPECT_EQ(bar.GetScrollPos(), 0);
-}
-
 TEST_F(Preview, PrintsInTheOrderOfADocumentWithFontsOfItsOwn) {
     paint();
     const HFONT screen = preview.m_fontNormal.get();
@@ -181,34 +141,6 @@ TEST_F(Preview, PrintsInTheOrderOfADocumentWithFontsOfItsOwn) {
     EXPECT_FALSE(preview.m_fontBold);
     EXPECT_EQ(preview.m_printing, 0);
     paint();
-    EXPECT_TRUE(preview.m_fontNormal);
-}
-
-// Answers the next message box, and keeps what it said.
-std::wstring g_said;
-LRESULT CALLBACK answerBox(int code, WPARAM w, LPARAM l) noexcept {
-    const HWND box = reinterpret_cast<HWND>(w);
-    if (const HWND text = code == HCBT_ACTIVATE ? GetDlgItem(box, 0xFFFF) : nullptr) {
-        wchar_t said[200], title[50];
-        GetWindowTextW(text, said, 200);
-        GetWindowTextW(box, title, 50);
-        g_said = std::wstring(title) + L": " + said;
-        PostMessageW(box, WM_COMMAND, IDOK, 0);
-    }
-    return CallNextHookEx(nullptr, code, w, l);
-}
-
-TEST_F(Preview, TellsThatThePrinterIsNotToBeFoundAndIsAsBefore) {
-    paint();
-    const HHOOK hook = SetWindowsHookExW(WH_CBT, &answerBox, nullptr, GetCurrentThreadId());
-    FakePrinter refusing(-1), cancelled;
-    cancelled.m_chosen = false;
-    EXPECT_FALSE(preview.Print(refusing));
-    EXPECT_FALSE(preview.Print(cancelled));
-    UnhookWindowsHookEx(hook);
-    EXPECT_EQ(g_said, L"WexDialogs: Printing error occurred. Unable to find printer.");
-    EXPECT_EQ(refusing.asked, (Asked{L"choose", L"dc", L"start Krvl Electrical Report Table"}));
-    EXPECT_EQ(cancelled.asked, Asked{L"choose"});
     EXPECT_TRUE(preview.m_fontNormal);
 }
 

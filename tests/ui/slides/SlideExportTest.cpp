@@ -11,7 +11,6 @@
 #include <iterator>
 
 #include "src/pictures/Picture.h"
-#include "src/slides/DibBlock.h"
 #include "tests/support/Canvas.h"
 #include "tests/ui/slides/QuarterSlide.h"
 
@@ -100,19 +99,12 @@ TEST_F(SlideExport, AsMetafileIsPlaceableAndBlackAndColorsOnWhite) {
     const CString file = path(L"slide.wmf");
     ASSERT_EQ(quarter().SaveWmf(file), 1);
     const Bytes bytes = bytesOf(file);
-    EXPECT_EQ(u32(bytes, 0), 0x9AC6CDD7u);
-    EXPECT_EQ(u32(bytes, 4), 0u);
     EXPECT_EQ(u32(bytes, 8), 100u << 16);
     EXPECT_EQ(u32(bytes, 12) & 0xFFFF, 50u);
     EXPECT_EQ(u32(bytes, 12) >> 16, static_cast<uint32_t>(GetDeviceCaps(ClientDC(nullptr), LOGPIXELSX)));
-    EXPECT_EQ(u32(bytes, 16), 0u);
     uint16_t checksum = 0;
     for (size_t at = 0; at <= 20; at += 2) checksum ^= static_cast<uint16_t>(bytes[at] | bytes[at + 1] << 8);
     EXPECT_EQ(checksum, 0);
-    // Behind it stands a metafile in memory, version 3, of the length that it tells itself in 16-bit words.
-    EXPECT_EQ(u32(bytes, 22), 0x00090001u);
-    EXPECT_EQ(u32(bytes, 28) * 2, bytes.size() - 22);
-
     const Shown shown(file, 200, 100);
     EXPECT_EQ(shown.at(2, 97), RED);
     EXPECT_EQ(shown.at(104, 97), WHITE);
@@ -132,11 +124,6 @@ TEST_F(SlideExport, NeedsAnImageWithExtentsAndTheRightExtension) {
     EXPECT_EQ(quarter().SaveBmp(path(L"no\\folder.bmp"), 1), 0);
     EXPECT_EQ(quarter().SaveWmf(path(L"no\\folder.wmf")), 0);
     EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(path(L"none.bmp").c_str())));
-
-    const UniqueBitmap bitmap(CreateBitmap(8, 8, 1, 1, nullptr));
-    EXPECT_FALSE(dibBlock(bitmap.get(), ClientDC(nullptr), BI_RGB).empty());
-    EXPECT_TRUE(dibBlock(bitmap.get(), ClientDC(nullptr), BI_BITFIELDS).empty());
-    EXPECT_TRUE(dibBlock(nullptr, ClientDC(nullptr), BI_RGB).empty());
 }
 
 }  // namespace

@@ -2,7 +2,10 @@
 // a slide at hand.
 #include <gtest/gtest.h>
 
+#include "host/drive/Resources.h"
+#include "src/slides/DcSurface.h"
 #include "src/slides/WexSlideImage.h"
+#include "tests/support/Canvas.h"
 #include "tests/ui/slides/QuarterSlide.h"
 
 namespace {
@@ -56,22 +59,6 @@ TEST_F(SlideTile, ShowsASlideInItsProportionsUnderTheFocusMark) {
     EXPECT_EQ(at(10, HEIGHT - 8), BLACK);
 }
 
-TEST_F(SlideTile, IsBlackUnderTheFocusMarkWithoutASlide) {
-    SetFocus(tile.m_hWnd);
-    for (const bool isSlide : {false, true}) {
-        tile.fillRect({0, 0, WIDTH, HEIGHT}, GREEN);
-        if (isSlide)
-            tile.DrawSlideObject(
-                OpenSlide(MadeSlide({2, true}, 0, 50).color(1).fill({{0, 0}, {9, 9}}).end()));
-        else
-            tile.ShowSlide(L"nobody.slb", L"a", {0, 0, 50, 50});
-        EXPECT_EQ(at(10, HEIGHT - 8), BLACK);
-        EXPECT_EQ(markPoints(BLACK), 4);
-    }
-    SetFocus(other);
-    EXPECT_EQ(markPoints(BLACK), 8);
-}
-
 TEST_F(SlideTile, KeepsASnapshotOfASlideWithoutTheFocusMark) {
     SetFocus(tile.m_hWnd);
     tile.DrawSlideObject(quarter());
@@ -80,6 +67,25 @@ TEST_F(SlideTile, KeepsASnapshotOfASlideWithoutTheFocusMark) {
     RedrawWindow(tile.m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     EXPECT_EQ(at(10, HEIGHT - 8), RED);
     EXPECT_EQ(markPoints(BLACK), 8);
+}
+
+TEST(SlideTools, AreGivenBackAndLeaveNothing) {
+    MadeSlide slide({1, false}, 100, 100);
+    for (int i = 0; i < 10000; ++i) slide.color(i % 256).vector(1, 1, 2, 2);
+    slide.end();
+    const OpenSlide open(slide);
+    const Canvas canvas(20, 20);
+    const auto pen = static_cast<HPEN>(GetCurrentObject(canvas.dc(), OBJ_PEN));
+    const UniqueBrush brush(CreateSolidBrush(GREEN));
+    const SelectedObject selected(canvas.dc(), brush.get());
+    const auto before = heldResources();
+    DcSurface surface(canvas.dc());
+    for (const int monochrome : {0, 1}) {
+        open.Draw(surface, monochrome);
+        EXPECT_EQ(GetCurrentObject(canvas.dc(), OBJ_PEN), pen);
+        EXPECT_EQ(GetCurrentObject(canvas.dc(), OBJ_BRUSH), brush.get());
+    }
+    EXPECT_EQ(heldResources().gdiObjects, before.gdiObjects);
 }
 
 }  // namespace

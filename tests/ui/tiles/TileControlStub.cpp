@@ -5,5 +5,5 @@
 void TileControl::attach(WexDialog&, HWND) {}
 void TileControl::applyRecord(CCtrlInfo&) {}
 
-void warnNoEntry(const CWnd&, const CString&) {}
+void warnNoEntry(const CWnd&, const CString&, Entries) {}
 void warnUnlessNumber(const CString&) {}

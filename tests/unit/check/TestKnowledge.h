@@ -3,22 +3,12 @@
 
 #include "host/check/Knowledge.h"
 #include "host/lisp/Interpreter.h"
-#include "host/lisp/Machine.h"
 #include "src/LispSignatures.h"
 
 inline const check::Knowledge& testKnowledge() {
     static const check::Knowledge knowledge = [] {
         check::Knowledge made;
-        lisp::Interpreter lisp;
-        for (const auto& [name, symbol] : lisp.machine().symbols) {
-            if (!symbol->value.isFunction()) continue;
-            const lisp::Function& known = *symbol->value.asFunction();
-            check::Function function;
-            function.name = symbol->name;
-            function.minimum = static_cast<int>(known.minimum);
-            function.maximum = known.maximum == UINT32_MAX ? -1 : static_cast<int>(known.maximum);
-            made.add(function);
-        }
+        addFunctions(made, lisp::Interpreter().machine());
         for (const char16_t* name : {u"ui_session", u"ui_click", u"ui_type", u"ui_cell"}) {
             check::Function function;
             function.name = name;

@@ -40,16 +40,6 @@ TEST(Entity, BreaksTextsIntoLines) {
     EXPECT_EQ(linesOf(u"unbreakable", 3), (Lines{u"unbreakable"}));
 }
 
-TEST(Color, IsThePalettes) {
-    EXPECT_EQ(rgbOf(1), 0xFF0000u);
-    EXPECT_EQ(rgbOf(10), 0xFF0000u);
-    EXPECT_EQ(rgbOf(90), 0x00FF00u);
-    EXPECT_EQ(rgbOf(170), 0x0000FFu);
-    EXPECT_EQ(rgbOf(11), 0xFF7F7Fu);
-    EXPECT_EQ(rgbOf(250), 0x333333u);
-    EXPECT_EQ(rgbOf(999), 0xFFFFFFu);
-}
-
 TEST(Drawing, TellsNamesApartWithoutCase) {
     Drawing drawing;
     Block& block = drawing.addBlock(u"Panel");

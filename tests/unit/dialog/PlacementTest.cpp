@@ -87,16 +87,6 @@ TEST(Sizing, OnlyRightAndBottomGiveWay) {
         << "the upper limit looks at what was dragged";
 }
 
-TEST(Start, TheTestOfTheHeightLooksAtTheWidth) {
-    const SizeLimits limits{300, 400, 0, 0};
-    const StartPlacement narrow = startPlacement({10, 20, 110, 120}, limits);
-    EXPECT_EQ(narrow.rect, (PixelRect{10, 20, 310, 420}));
-    EXPECT_EQ(narrow.movedHeight, 420);
-    const StartPlacement wide = startPlacement({10, 20, 610, 120}, limits);
-    EXPECT_EQ(wide.rect, (PixelRect{10, 20, 610, 120}));
-    EXPECT_EQ(wide.movedHeight, 100);
-}
-
 // What a control of 10, 20 to 110, 60 becomes when a client area of 400 by 300 grows by 50 and 30.
 PixelRect grown(int code) {
     const PixelRect control{10, 20, 110, 60};

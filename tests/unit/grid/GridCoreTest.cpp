@@ -44,17 +44,6 @@ TEST(GridCoreTest, CurrentCellStaysWithinTheTable) {
     EXPECT_FALSE(grid.selection().hasCurrent());
 }
 
-TEST(GridCoreTest, StyleIsReadOwnOrWithWhatItInherits) {
-    CGXGridCore grid;
-    grid.SetRowCount(2);
-    CGXStyle own, all;
-    EXPECT_TRUE(grid.GetStyleRowCol(1, 0, own));
-    EXPECT_TRUE(grid.GetStyleRowCol(1, 0, all, 2, 1));
-    EXPECT_TRUE(own.isEmpty());
-    EXPECT_EQ(all.look().control, CONTROL_HEADER);
-    EXPECT_FALSE(grid.GetStyleRowCol(3, 0, own));
-}
-
 TEST(GridSelectionTest, GesturesBeginExtendAndAdd) {
     GridSelection selection;
     selection.begin(CGXRange::cells, {4, 2});

@@ -18,17 +18,6 @@ GridTable tableOf(uint32_t rows, uint32_t cols) {
 CGXStyle value(const wchar_t* text) { return CGXStyle().SetValue(std::wstring_view(text)); }
 CGXStyle merging(const wchar_t* text, uint8_t bits) { return value(text).SetMergeCell(bits); }
 
-TEST(GridTableTest, BeginsEmptyAndLockedAndRefusesCountsOutOfRange) {
-    GridTable table;
-    EXPECT_EQ(table.rowCount(), 0u);
-    EXPECT_EQ(table.colCount(), 0u);
-    EXPECT_TRUE(table.param().IsLockReadOnly());
-    EXPECT_TRUE(table.setRowCount(0x7FFFFFFE));
-    EXPECT_FALSE(table.setRowCount(0x7FFFFFFF));
-    EXPECT_FALSE(table.setColCount(static_cast<uint32_t>(-1)));
-    EXPECT_EQ(table.rowCount(), 0x7FFFFFFEu);
-}
-
 TEST(GridTableTest, StylesMergeAttributeByAttribute) {
     GridTable table = tableOf(3, 3);
     table.apply(CGXRange(1, 1), value(L"text").SetInterior(0xFF));

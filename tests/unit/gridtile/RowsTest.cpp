@@ -1,4 +1,4 @@
-// Rows of a grid as texts with tabs fill them.
+// Rows of a grid as lists fill them; what the session of grids sees of them isn't looked at again.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -37,57 +37,6 @@ class Table : public CGXGridCore {
     }
 };
 
-int called(Table& table, const wchar_t* text, int row, bool merges = false, int verticalCode = -1) {
-    return buildGridRow(table, text, row, merges, verticalCode, rowCellStyle(PAPER));
-}
-
-TEST(CalledRowTest, FieldsGoIntoTheirColumnsAndOneFieldIntoAll) {
-    Table table(2);
-    EXPECT_EQ(called(table, L"a\tb\tc", -1), 1);
-    EXPECT_EQ(called(table, L"a", -1), 2);
-    EXPECT_EQ(called(table, L"", -1), 3);
-    EXPECT_EQ(called(table, L"a\t\tc\td\te", -1), 4);
-    EXPECT_EQ(called(table, L"\tb\t", -1), 5);
-    EXPECT_EQ(table.row(1), L"a0-|b0-|c0-");
-    EXPECT_EQ(table.row(2), L"a1-|a1-|a1-");
-    EXPECT_EQ(table.row(3), L" 1-| 1-| 1-");
-    EXPECT_EQ(table.row(4), L"a0-|--|c0-");
-    EXPECT_EQ(table.row(5), L"0-|b0-|--");
-    EXPECT_EQ(table.GetRowHeight(4), 16);
-    const CGXStyle cell = table.cell(1, 1);
-    const CellLook& look = cell.look();
-    EXPECT_EQ(look.control, CONTROL_STATIC);
-    EXPECT_EQ(look.readOnly, true);
-    EXPECT_EQ(look.wrap, true);
-    EXPECT_EQ(look.interior, PAPER);
-}
-
-TEST(CalledRowTest, CodesTellHowCellsMerge) {
-    Table table(1);
-    called(table, L"a\tb", -1, true);
-    called(table, L"a\tb", -1, true, 0);
-    called(table, L"a\tb", -1, false, 1);
-    called(table, L"---\tx", -1, true);
-    called(table, L"---", -1, false, 1);
-    EXPECT_EQ(table.row(1), L"a1-|b1-");
-    EXPECT_EQ(table.row(2), L"a3-|b1-");
-    EXPECT_EQ(table.row(3), L"a2-|b2-");
-    EXPECT_EQ(table.row(4), L"---0-|x0-");
-    EXPECT_EQ(table.row(5), L"---3-|---3-");
-}
-
-TEST(CalledRowTest, ARowIsWrittenOverAndOneOutsideIsLeftOut) {
-    Table table(1);
-    called(table, L"a\tb", -1);
-    EXPECT_EQ(called(table, L"c\t", 1), 1);
-    EXPECT_EQ(called(table, L"x\ty", 7), 7);
-    EXPECT_EQ(called(table, L"x\ty", -5), -5);
-    EXPECT_EQ(called(table, L"head", 0), 0);
-    EXPECT_EQ(table.GetRowCount(), 1u);
-    EXPECT_EQ(table.row(1), L"c0-|b0-");
-    EXPECT_EQ(table.row(0), L"head1-|head1-");
-}
-
 // Ends the list, as wex_end_list does: the spare row goes.
 void listed(Table& table, CStringArray& lines, bool merges = false, int keyColumn = -1,
             std::map<uint32_t, uint8_t> alignments = {}) {
@@ -95,32 +44,6 @@ void listed(Table& table, CStringArray& lines, bool merges = false, int keyColum
         table, lines,
         {merges, keyColumn, [&](uint32_t column) { return alignments[column]; }, rowCellStyle(PAPER)});
     table.SetRowCount(table.GetRowCount() - 1);
-}
-
-TEST(ListRowsTest, OneFieldFillsTheRowAndTwoReachTheLastColumn) {
-    Table table(3);
-    table.SetRowCount(1);
-    CStringArray lines{L"a", L"a\tb", L"a\tb\tc", L"", L" a \t b", L"   ", L" \tb\tc", L"CD\nEF\t"};
-    listed(table, lines, true, -1, {{0, 2}, {2, 1}});
-    EXPECT_EQ(table.GetRowCount(), 8u);
-    EXPECT_EQ(table.row(1), L"a10|a10|a10|a10");
-    EXPECT_EQ(table.row(2), L"a10|a10|a10|b10");
-    EXPECT_EQ(table.row(3), L"a02|b10|c11|--");
-    EXPECT_EQ(table.row(4), L" 10| 10| 10| 10");
-    EXPECT_EQ(table.row(5), L"a10|a10|a10|b10");
-    EXPECT_EQ(table.row(6), L"10|10|10|10");
-    EXPECT_EQ(table.row(7), L" 02|b10|c11|--");
-    EXPECT_EQ(table.row(8), L"CD\nEF10|CD\nEF10|CD\nEF10|CD\nEF10");
-    EXPECT_EQ(table.GetRowHeight(3), 16);
-}
-
-TEST(ListRowsTest, ARuleDoesNotMergeItsFields) {
-    Table table(2);
-    table.SetRowCount(1);
-    CStringArray lines{L"---\tx\ty", L"---"};
-    listed(table, lines, true);
-    EXPECT_EQ(table.row(1), L"---00|x00|y00");
-    EXPECT_EQ(table.row(2), L"---10|---10|---10");
 }
 
 TEST(ListRowsTest, WithoutASpareRowTheFirstLineLandsOnTheHeaders) {

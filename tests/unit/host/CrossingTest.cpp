@@ -51,11 +51,6 @@ TEST_F(CrossingTest, ChainsOfAPluginMakeLists) {
     EXPECT_TRUE(valueOfChain(m_lisp, nullptr).isNil());
 }
 
-TEST_F(CrossingTest, AListNestedWithoutEndIsRefused) {
-    m_lisp.evalText(u"(setq deep nil) (repeat 5000 (setq deep (list deep 1)))", u"test");
-    EXPECT_THROW(chain(u"deep"), lisp::Error);
-}
-
 // As the arguments of a call: nothing of it is released by itself, also where the list can't be handed over.
 TEST_F(CrossingTest, AChainInMemoryOfACallGoesWithTheMemory) {
     std::byte room[64];

@@ -12,7 +12,7 @@
 namespace {
 
 std::string documentation() {
-    std::ifstream stream(LISP_DOCUMENTATION);
+    std::ifstream stream(WEX_SOURCE_FOLDER "/docs/lisp.md");
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 

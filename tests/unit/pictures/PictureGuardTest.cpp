@@ -9,6 +9,7 @@ namespace {
 // The bytes of a file, written low byte first.
 class Bytes {
   public:
+    Bytes(std::initializer_list<int> bytes = {}) : m_bytes(bytes.begin(), bytes.end()) {}
     Bytes& u8(uint8_t value) {
         m_bytes.push_back(value);
         return *this;
@@ -69,18 +70,9 @@ TEST(PictureGuard, LeavesWhatItDoesntKnowToThePlatform) {
 }
 
 TEST(PictureGuard, RefusesSizesThatNoMemoryHolds) {
-    const auto png = [](uint32_t side) {
-        return Bytes()
-            .u32(0x474E5089)
-            .zeros(12)
-            .u8(0)
-            .u8(side >> 16)
-            .u8(side >> 8 & 0xFF)
-            .u8(0)
-            .u8(0)
-            .u8(side >> 16)
-            .u8(side >> 8 & 0xFF)
-            .u8(0);
+    const auto png = [](int side) {
+        const Bytes length = {0, side >> 16, side >> 8 & 0xFF, 0};
+        return Bytes{0x89, 'P', 'N', 'G'}.zeros(12).add(length).add(length);
     };
     EXPECT_TRUE(png(4096).isSound());
     EXPECT_FALSE(png(0x10000).isSound());
@@ -91,21 +83,8 @@ TEST(PictureGuard, RefusesSizesThatNoMemoryHolds) {
     EXPECT_TRUE(bmp(0xFFFFC000).isSound());  // counted from the top
     EXPECT_FALSE(bmp(0x4001).isSound());
     // The frame comes behind a segment of four bytes.
-    const auto jpeg = [](uint8_t high) {
-        return Bytes()
-            .u16(0xD8FF)
-            .u16(0xE0FF)
-            .u8(0)
-            .u8(4)
-            .u16(0)
-            .u16(0xC0FF)
-            .u8(0)
-            .u8(17)
-            .u8(8)
-            .u8(high)
-            .u8(1)
-            .u8(high)
-            .u8(0);
+    const auto jpeg = [](int high) {
+        return Bytes{0xFF, 0xD8, 0xFF, 0xE0, 0, 4, 0, 0, 0xFF, 0xC0, 0, 17, 8, high, 1, high, 0};
     };
     EXPECT_TRUE(jpeg(16).isSound());
     EXPECT_FALSE(jpeg(255).isSound());

@@ -1,4 +1,4 @@
-// A store that answers from memory and keeps a log of what it was asked.
+// A store that answers from memory.
 #pragma once
 
 #include <string>
@@ -21,28 +21,18 @@ inline Fields fieldsOf(const Record& record) {
 
 class MemoryStore : public HostDataStore {
   public:
-    bool runsWithoutDatabase = true;
-    int32_t count = 0;
+    int32_t count;
     std::vector<Fields> rows;
-    std::vector<std::wstring> log;
 
-    MemoryStore() = default;
     // Rows "0", "1" and so on, of one field.
     explicit MemoryStore(int rowCount) : count(rowCount) {
         for (int row = 0; row < rowCount; ++row) rows.push_back({std::to_wstring(row)});
     }
 
-    void notCalled() override { log.push_back(L"not to be called"); }
-    bool CanRunWithoutDatabase() override {
-        log.push_back(L"needs database?");
-        return runsWithoutDatabase;
-    }
-    int32_t GetRowCount(HostText table) override {
-        log.push_back(L"count " + std::wstring(table.text, table.length));
-        return count;
-    }
-    void RunQuery(HostText sql, HostRecordArray* records) override {
-        log.emplace_back(sql.text, sql.length);
+    void notCalled() override {}
+    bool CanRunWithoutDatabase() override { return true; }
+    int32_t GetRowCount(HostText) override { return count; }
+    void RunQuery(HostText, HostRecordArray* records) override {
         records->reserve(rows.size());
         for (const Fields& row : rows) {
             std::vector<HostText> texts;

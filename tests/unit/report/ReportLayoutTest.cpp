@@ -1,7 +1,6 @@
-// Where the parts of the report's dialog lie, and how its scroll bar moves.
+// Where the sheet of a report lies. The parts of its dialog are for its session.
 #include <gtest/gtest.h>
 
-#include "src/report/ReportTabLayout.h"
 #include "src/report/SheetLayout.h"
 
 namespace {
@@ -33,35 +32,6 @@ TEST(Sheet, ScrollsUntilItsEndShows) {
     EXPECT_EQ(reportScrollRange({0, 0, 300, 400}), 8);  // 444 - 4 - 400 + 46 = 86
     EXPECT_EQ(reportScrollRange({0, 0, 300, 186}), 30);
     EXPECT_EQ(reportScrollRange({0, 0, 300, 700}), -21);
-}
-
-TEST(ReportTab, LaysOutItsPagesAndTheRowOfButtonsBelow) {
-    const ReportTabLayout layout(588, 480, 21);
-    EXPECT_EQ(layout.preview, (PixelRect{4, 25, 561, 476}));
-    EXPECT_EQ(layout.drawing, (PixelRect{4, 25, 582, 474}));
-    EXPECT_EQ(layout.scrollBar, (PixelRect{562, 25, 579, 475}));
-    EXPECT_EQ(reportButton(0, 6, 588, 480), (PixelRect{54, 498, 129, 521}));
-    EXPECT_EQ(reportButton(5, 6, 588, 480), (PixelRect{464, 498, 539, 521}));
-    EXPECT_EQ(reportButton(0, 0, 400, 300).left, -46);
-}
-
-TEST(ReportScrolling, GoesByItsOwnSteps) {
-    constexpr int LIMIT = 100, THUMB = 77;
-    const auto from = [](int position, unsigned request) {
-        return scrolledTo(request, position, LIMIT, THUMB);
-    };
-    EXPECT_EQ(from(3, SCROLL_LINE_UP), 0);
-    EXPECT_EQ(from(7, SCROLL_LINE_UP), 1);
-    EXPECT_EQ(from(50, SCROLL_LINE_DOWN), 56);
-    EXPECT_EQ(from(97, SCROLL_LINE_DOWN), 99);
-    EXPECT_EQ(from(100, SCROLL_LINE_DOWN), 99);
-    EXPECT_EQ(from(4, SCROLL_PAGE_UP), -6);
-    EXPECT_EQ(from(95, SCROLL_PAGE_DOWN), 105);
-    EXPECT_EQ(from(5, SCROLL_THUMB_POSITION), THUMB);
-    EXPECT_EQ(from(5, SCROLL_THUMB_TRACK), THUMB);
-    EXPECT_EQ(from(5, SCROLL_TOP), 0);
-    EXPECT_EQ(from(5, SCROLL_BOTTOM), 99);
-    EXPECT_EQ(from(5, 8), 5) << "the end of scrolling";
 }
 
 }  // namespace

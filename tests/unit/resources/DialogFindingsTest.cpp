@@ -30,19 +30,6 @@ void expectFindings(const Findings& found, const Findings& parts) {
     for (size_t i = 0; i < parts.size(); ++i) EXPECT_NE(found[i].find(parts[i]), std::wstring::npos) << i;
 }
 
-TEST(DialogFindings, nothingWhereAllFits) {
-    expectFindings(findings(L"A,HELP,Cancel,OK,,X", {control(110), control(1), control(2), control(113 + 1)}),
-                   {});
-    // The standard buttons need no keys.
-    expectFindings(findings(L"A,X", {control(1), control(2), control(110)}), {});
-}
-
-TEST(DialogFindings, keysThatReachNothing) {
-    expectFindings(findings(L"A,OK,X,Y", {control(112)}),
-                   {L"\"ok\" has no control: give the id 1", L"\"x\" has no control: give the id 111"});
-    expectFindings(findings(L"A,X,X", {control(110), control(111)}), {L"\"x\" stands twice"});
-}
-
 TEST(DialogFindings, aListLongerThanTheIdsThatAreSeen) {
     std::wstring list = L"A";
     std::vector<DialogTemplateControl> controls;

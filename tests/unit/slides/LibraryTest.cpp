@@ -215,24 +215,4 @@ TEST(LibraryList, OwnsItsSlides) {
     EXPECT_THROW(library.GetAt(none), CInvalidArgException);
 }
 
-TEST(LibraryList, InsertsASecondSlideTwiceAndOwnsItOnce) {
-    CSlideLibObject library;
-    library.Insert(slideNamed(L"c"), nullptr);
-    CSlideObject* const a = slideNamed(L"a");
-    library.Insert(a, nullptr);
-    const std::unique_ptr<CSlideObject> goesNowhere(slideNamed(L"x"));
-    const auto place = library.Insert(goesNowhere.get(), a);
-    EXPECT_EQ(library.GetAt(place), a);
-    EXPECT_EQ(names(library), L"aac");
-
-    // Of a stranger there is no place: it comes last, and belongs to the library from now on.
-    CSlideObject* const stranger = slideNamed(L"s");
-    library.Insert(goesNowhere.get(), stranger);
-    EXPECT_EQ(names(library), L"aacs");
-    const CSlideLibObject copy(library);
-    EXPECT_EQ(names(copy), L"aacs");
-    library.Remove(a);
-    EXPECT_EQ(names(library), L"cs");
-}
-
 }  // namespace

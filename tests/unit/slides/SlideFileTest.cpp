@@ -28,17 +28,6 @@ TEST(SlideHeader, HasBothLevelsAndByteOrders) {
     }
 }
 
-TEST(SlideHeader, OfLevelTwoIsLiteralBytes) {
-    const Bytes image = {'K',  'o',  'r',  'v',  'a',  'l',  'e',  ' ',  'S', 'l',  'i',
-                         'd',  'e',  13,   10,   26,   0,    0,    2,    100, 0x01, 0x32,
-                         0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x34, 0x12};
-    const auto header = readSlideHeader(image);
-    ASSERT_TRUE(header);
-    EXPECT_TRUE(header->littleEndian);
-    EXPECT_EQ(header->highX, 0x164);
-    EXPECT_EQ(header->highY, 0x32);
-}
-
 TEST(SlideHeader, WithAWrongMarkIsBigEndianInLevelTwoAndRefusedInLevelOne) {
     Bytes image = MadeSlide({2, true}, 0x0102, 0x0304).end();
     image[29] = 0x35;
@@ -77,18 +66,6 @@ TEST(SlideGate, RefusesEverySlide) {
         EXPECT_EQ(slide.GetDataSize(), 33u);
         EXPECT_TRUE(slide.GetPath().empty());
     }
-}
-
-TEST(SlideValue, IsReadInBothOrdersAndFolded) {
-    const uint8_t bytes[] = {0x12, 0xFF};
-    EXPECT_EQ(CSlideObject::ReadU16(bytes, 1), 0xFF12);
-    EXPECT_EQ(CSlideObject::ReadU16(bytes, 0), 0x12FF);
-    EXPECT_EQ(CSlideObject::ReadMagnitude(bytes, 1), 0xEE);
-    EXPECT_EQ(CSlideObject::ReadMagnitude(bytes, 0), 0x12FF);
-    const uint8_t middle[] = {0x00, 0x80};
-    EXPECT_EQ(CSlideObject::ReadMagnitude(middle, 1), 0x8000);
-    const uint8_t last[] = {0xFF, 0xFF};
-    EXPECT_EQ(CSlideObject::ReadMagnitude(last, 1), 1);
 }
 
 TEST(SlideLoad, GoesByThePath) {
@@ -186,26 +163,6 @@ TEST(SlideSaving, WritesTheBytesAndTellsFailure) {
     EXPECT_EQ(CSlideObject().SaveSld(folder.path("empty.sld")), 1);
     EXPECT_EQ(TempFolder::bytesOf(folder.path("empty.sld")), Bytes{});
     EXPECT_EQ(slide.WriteData(nullptr), 0u);
-}
-
-TEST(SlideSaving, PutsAFileHeaderBeforeABitmap) {
-    const TempFolder folder;
-    Bytes block(40 + 4 * 16 + 8, 0x77);
-    std::fill_n(block.begin(), 40, 0);
-    block[0] = 40;
-    block[14] = 4;
-    const CString path = folder.path("a.bmp");
-    ASSERT_EQ(CSlideObject::WriteDibFile(path, block), 1);
-    Bytes wanted = {'B', 'M', 126, 0, 0, 0, 0, 0, 0, 0, 118, 0, 0, 0};
-    wanted.insert(wanted.end(), block.begin(), block.end());
-    EXPECT_EQ(TempFolder::bytesOf(path), wanted);
-
-    // As if 32 bits a pixel had a palette of one colour.
-    block[14] = 32;
-    ASSERT_EQ(CSlideObject::WriteDibFile(path, block), 1);
-    EXPECT_EQ(TempFolder::bytesOf(path)[10], 58);
-    EXPECT_EQ(CSlideObject::WriteDibFile(path, Bytes(15)), 0);
-    EXPECT_EQ(CSlideObject::WriteDibFile(folder.path("no/folder.bmp"), block), 0);
 }
 
 }  // namespace

@@ -147,27 +147,6 @@ TEST_F(StoreTest, FailuresNameTheirSql) {
     EXPECT_TRUE(told[0].starts_with(L"data store: 3000000000 rows are more than can be read: SELECT COUNT"));
 }
 
-TEST_F(StoreTest, TransactionsHoldOrFall) {
-    ASSERT_TRUE(open(database));
-    run(L"CREATE TABLE t (a)");
-    EXPECT_FALSE(database.commit());
-    EXPECT_TRUE(database.begin());
-    EXPECT_FALSE(database.begin());
-    EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), 1);
-    EXPECT_TRUE(database.isInTransaction());
-    EXPECT_TRUE(database.rollback());
-    EXPECT_EQ(store.GetRowCount(lent(L"t")), 0);
-
-    EXPECT_TRUE(database.begin());
-    run(L"INSERT INTO t VALUES (1)");
-    EXPECT_TRUE(database.commit());
-    EXPECT_TRUE(database.begin());
-    run(L"INSERT INTO t VALUES (2)");
-    // Another database, or the same one anew: what is open is rolled back.
-    ASSERT_TRUE(open(database));
-    EXPECT_EQ(store.GetRowCount(lent(L"t")), 1);
-}
-
 TEST_F(StoreTest, ALockedDatabaseIsToldAndServesLater) {
     OpenDatabase other(nullptr);
     ASSERT_TRUE(open(other));
@@ -201,18 +180,6 @@ TEST_F(StoreTest, ACommitAgainstALockIsToldAndSucceedsLater) {
     EXPECT_TRUE(database.commit());
     EXPECT_FALSE(database.isInTransaction());
     EXPECT_EQ(store.GetRowCount(lent(L"[t]")), 2);
-}
-
-TEST_F(StoreTest, WhatCantBeOpenedLeavesTheOpenOne) {
-    ASSERT_TRUE(open(database));
-    run(L"CREATE TABLE t (a)");
-    EXPECT_FALSE(database.openFile(lent((folder / L"missing" / L"x.sqlite").wstring())));
-    EXPECT_EQ(words(), L"unable to open database file");
-    const std::wstring text = (folder / "text").wstring();
-    std::ofstream(fs::path(text)) << std::string(5000, 'x');
-    EXPECT_FALSE(database.openFile(lent(text)));
-    EXPECT_EQ(words(), L"file is not a database");
-    EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), 1);
 }
 
 TEST_F(StoreTest, AReadOnlyDatabaseIsReadAndNotChanged) {

@@ -7,12 +7,6 @@
 
 namespace {
 
-TEST(EditFilter, OnlyNotationsThatExistFilter) {
-    EXPECT_FALSE(validChars(EditMode::numeric, 0));
-    EXPECT_FALSE(validChars(EditMode::angular, 6));
-    EXPECT_FALSE(validChars(EditMode::plain, 1));
-}
-
 // kept: but for the blank before a fraction, for which a dash is typed.
 TEST(EditFilter, WhatTheHostShowsCanBeTypedAgain) {
     constexpr int FRACTIONAL = 5;
@@ -29,18 +23,6 @@ TEST(EditFilter, WhatTheHostShowsCanBeTypedAgain) {
                 EXPECT_EQ(refused(units::distanceText(value, unit, precision), EditMode::numeric, unit), L"");
                 EXPECT_EQ(refused(units::angleText(value, unit, precision), EditMode::angular, unit), L"");
             }
-}
-
-TEST(EditFilter, OnlyBackspaceAndEscAreFree) {
-    const auto decimal = *validChars(EditMode::numeric, 2);
-    EXPECT_EQ(filterChar(L'7', decimal), TypedChar::pass);
-    EXPECT_EQ(filterChar(L'x', decimal), TypedChar::refuse);
-    EXPECT_EQ(filterChar(L'\r', decimal), TypedChar::refuse);
-    EXPECT_EQ(filterChar(3, decimal), TypedChar::refuse) << "Ctrl+C";
-    EXPECT_EQ(filterChar(8, decimal), TypedChar::pass);
-    EXPECT_EQ(filterChar(27, decimal), TypedChar::restore);
-    EXPECT_EQ(filterChar(L'x', L""), TypedChar::pass);
-    EXPECT_EQ(filterChar(27, L""), TypedChar::restore);
 }
 
 // What can be formatted, and what can't be parsed, is for sessions of edit boxes.
