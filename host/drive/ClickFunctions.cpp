@@ -101,22 +101,23 @@ Spot spotOf(Call& call, const Tile& tile, size_t count) {
 }
 
 // (ui_click tile [x y] [keys])
-template <Press press>
-Value pressPoint(Call& call) {
+Value clickPoint(Call& call) {
     const Tile tile(call, 0);
     tile.mustBeWorkable();
-    pressWith(press, pointOf(call, tile, press == &letGo), heldKeys(call, 1));
+    pressWith(&click, pointOf(call, tile, false), heldKeys(call, 1));
     return Value::none();
 }
 
-// (ui_hold tile [x y] [keys]), (ui_hold list item [keys])
-Value holdDown(Call& call) {
+// (ui_hold tile [x y] [keys]), (ui_hold list item [keys]); ui_release in the same way
+template <Press press>
+Value holdOrRelease(Call& call) {
     const Tile tile(call, 0);
     tile.mustBeWorkable();
     const bool isPoint = call.has(2) && call[1].isInteger() && call[2].isInteger();
     const bool isEntry = call.has(1) && !isPoint && itemsOf(tile.window());
     const KeyStroke keys = heldKeys(call, isEntry ? 2 : 1);
-    pressWith(&hold, isEntry ? entrySpot(call, tile, call[1], 0) : pointOf(call, tile, false), keys);
+    pressWith(press, isEntry ? entrySpot(call, tile, call[1], 0) : pointOf(call, tile, press == &letGo),
+              keys);
     return Value::none();
 }
 
@@ -260,9 +261,9 @@ Value header(Call& call) {
 }
 
 constexpr UiFunction FUNCTIONS[] = {
-    {u"ui_click", &pressPoint<&click>, 1, 4},
-    {u"ui_hold", &holdDown, 1, 4},
-    {u"ui_release", &pressPoint<&letGo>, 1, 4},
+    {u"ui_click", &clickPoint, 1, 4},
+    {u"ui_hold", &holdOrRelease<&hold>, 1, 4},
+    {u"ui_release", &holdOrRelease<&letGo>, 1, 4},
     {u"ui_dblclick", &pressEntry<&doubleClick>, 1, 4},
     {u"ui_rclick", &pressEntry<&rightClick>, 1, 4},
     {u"ui_pick", &pick, 2, 6},

@@ -1,5 +1,8 @@
 #include "host/drive/Keyboard.h"
 
+#include <string>
+
+#include "host/drive/MessageBoxes.h"
 #include "host/drive/Player.h"
 #include "host/drive/RealInput.h"
 
@@ -34,14 +37,22 @@ void setKeys(const KeyStroke& stroke, BYTE state) {
 
 }  // namespace
 
+// A new line may run an action, whose boxes are answered before a person goes on typing.
 void typeText(HWND window, std::wstring_view text) {
-    const bool isReal = usesRealInput() && text.find_first_of(L"\r\x1B") == text.npos;
-    for (const wchar_t c : text) {
+    const size_t lineEnd = text.find_first_of(L"\r\n");
+    const std::wstring_view line = text.substr(0, lineEnd == text.npos ? lineEnd : lineEnd + 1);
+    const bool isReal = usesRealInput() && line.find_first_of(L"\r\x1B") == line.npos;
+    for (const wchar_t c : line) {
         if (isReal)
             sendCharacter(c == L'\n' ? L'\r' : c);
         else
             PostMessageW(window, WM_CHAR, c == L'\n' ? L'\r' : c, 1);
     }
+    if (line.size() == text.size()) return;
+    player().steps().add(dialogOf(window), [window, rest = std::wstring(text.substr(line.size()))] {
+        const HWND focus = GetFocus();
+        typeText(focus ? focus : window, rest);
+    });
 }
 
 void pressKey(HWND window, const KeyStroke& stroke) {

@@ -170,7 +170,11 @@ bool isInView(const Spot& spot) {
 
 void hold(const Spot& spot, WPARAM keys) { post(pressSpot(spot), WM_LBUTTONDOWN, MK_LBUTTON | keys); }
 
-void letGo(const Spot& spot, WPARAM keys) { post(spot, WM_LBUTTONUP, keys); }
+// Who has taken the mouse sees its way there.
+void letGo(const Spot& spot, WPARAM keys) {
+    if (GetCapture() == spot.window) post(spot, WM_MOUSEMOVE, MK_LBUTTON | keys);
+    post(spot, WM_LBUTTONUP, keys);
+}
 
 void click(const Spot& wanted, WPARAM keys) {
     const Spot spot = pressSpot(wanted);

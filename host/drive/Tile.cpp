@@ -6,6 +6,16 @@
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
 
+HWND childOf(HWND parent, int id) {
+    HWND hidden = nullptr;
+    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (GetDlgCtrlID(child) != id) continue;
+        if (GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) return child;
+        if (!hidden) hidden = child;
+    }
+    return hidden;
+}
+
 HWND runningDialog() {
     // The plug-in is asked in any case, so that it shows what it has put off.
     const HWND newest = documents().newestDialog();
@@ -32,7 +42,7 @@ HWND Tile::find(lisp::Call& call, size_t index, lisp::Value address, HWND parent
     m_name +=
         (m_name.empty() ? L"" : L" ") + (byKey ? L"\"" + key + L"\"" : std::to_wstring(address.asInteger()));
     // By key the plug-in knows; it answers for its newest dialog, which is this one.
-    return byKey ? documents().findWindow(nullptr, key.c_str(), -1) : GetDlgItem(parent, address.asInteger());
+    return byKey ? documents().findWindow(nullptr, key.c_str(), -1) : childOf(parent, address.asInteger());
 }
 
 void Tile::mustBeWorkable() const {

@@ -30,5 +30,8 @@ class Tile {
     std::wstring m_name;
 };
 
+// The child of that control id, of several one that shows; null where there is none.
+HWND childOf(HWND parent, int id);
+
 // The innermost running dialog. Throws lisp::Error where there is none.
 HWND runningDialog();

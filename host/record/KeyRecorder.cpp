@@ -59,6 +59,12 @@ bool leavesText(HWND edit, const KeyStroke& stroke) {
     }
 }
 
+bool caretIsAtEnd(HWND edit) {
+    DWORD from = 0, to = 0;
+    SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+    return from == to && to == static_cast<DWORD>(GetWindowTextLengthW(edit));
+}
+
 // Whether Space does the same as a click.
 bool isClickedBySpace(HWND window) {
     const bool isPicture = SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_STATIC;
@@ -82,14 +88,17 @@ void KeyRecorder::update() {
                                           : std::wstring());
 }
 
-void KeyRecorder::endTyping() {
+void KeyRecorder::endTyping(HWND dialog) {
     update();
     m_typing.reset();
+    // A box or a dialog that a new line has brought up leaves the caret where it is.
+    if (m_singly && dialogOf(m_singly) == dialog) m_singly = nullptr;
     m_told = 0;
 }
 
 void KeyRecorder::windowGone(HWND window) {
     if (m_typing && (m_typing->edit == window || m_typing->dialog == window)) m_typing.reset();
+    if (m_singly == window) m_singly = nullptr;
 }
 
 // Where Tab or a mnemonic has led is known when the key was handled. A button that was reached by its
@@ -110,7 +119,7 @@ void KeyRecorder::resolveFocus() {
 
 void KeyRecorder::type(HWND edit, HWND dialog) {
     if (m_typing && m_typing->edit == edit) return;
-    endTyping();
+    endTyping(dialog);
     const NamedTile tile = tileOf(edit, dialog);
     if (!tile) return;
     const Recording::Place step = m_journal.add(dialog, {Kind::type, tile.name, {}, {}});
@@ -132,13 +141,18 @@ void KeyRecorder::keyDown(const MSG& message, HWND dialog) {
     const KeyStroke stroke = strokeOf(message);
     if (isModifier(message.wParam)) return;
     const bool closes = stroke.alt && stroke.virtualKey == VK_F4;  // told as what comes of it
-    if (closes) return endTyping();
+    if (closes) return endTyping(dialog);
     const HWND window = message.hwnd;
     const bool isEdit = hasWindowClass(window, WC_EDITW);
     const NamedTile tile = tileOf(window, dialog);
     const bool ofGrid = tile && gridOf(tile.window);
-    if (isEdit && !ofGrid && !leavesText(window, stroke)) return type(window, dialog);
-    endTyping();
+    const bool isText = isEdit && !ofGrid && !leavesText(window, stroke);
+    if (isText && window == m_singly) {
+        if (!isPrintable(stroke) && stroke.virtualKey != VK_RETURN) addKey(message, dialog, stroke);
+        return;
+    }
+    if (isText) return type(window, dialog);
+    endTyping(dialog);
     if (stroke.virtualKey == VK_SPACE && tile && isClickedBySpace(window) && !stroke.alt) {
         m_journal.add(dialog, {Kind::click, tile.name, L"(ui_click " + tile.name + L")", {}});
         m_told = message.lParam & SCAN_CODE;
@@ -154,7 +168,7 @@ void KeyRecorder::keyUp(const MSG& message, HWND dialog) {
     const WPARAM key = message.wParam;
     const bool isHeld = key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
     if (!isHeld || !hasWindowClass(message.hwnd, WC_LISTVIEWW)) return;
-    endTyping();
+    endTyping(dialog);
     m_journal.add(dialog, {Kind::other, {}, keyForm({static_cast<int>(key)}), {}});
 }
 
@@ -163,24 +177,44 @@ void KeyRecorder::character(const MSG& message, HWND dialog) {
     if (m_told && scan == m_told) return;
     const NamedTile tile = tileOf(message.hwnd, dialog);
     const bool isEdit = hasWindowClass(message.hwnd, WC_EDITW);
-    if (!isEdit || gridOf(tile.window)) return addCharacter(message, dialog);
+    if (!isEdit || gridOf(tile.window) || message.hwnd == m_singly) return addCharacter(message, dialog);
     if (message.wParam != VK_RETURN && message.wParam != VK_ESCAPE) return type(message.hwnd, dialog);
     typeControl(message, dialog);
 }
 
-// Enter and Esc as characters end the editing of a box, or bring back its text. What a new line makes of the
-// text depends on where the caret is: the text is told in any case.
+// Enter and Esc as characters end the editing of a box, or bring back its text. Behind what was typed a
+// session has the caret where it was, and goes on key by key; otherwise the text that the new line makes is
+// told in any case.
 void KeyRecorder::typeControl(const MSG& message, HWND dialog) {
-    endTyping();
+    update();
+    const bool isAtEnd =
+        m_typing && !m_journal.recording().at(m_typing->step).form.empty() && caretIsAtEnd(message.hwnd);
+    endTyping(dialog);
     addCharacter(message, dialog);
     const bool hasLines = GetWindowLongW(message.hwnd, GWL_STYLE) & ES_MULTILINE;
     if (!hasLines || message.wParam != VK_RETURN) return;
+    if (isAtEnd) {
+        m_singly = message.hwnd;
+        return;
+    }
     type(message.hwnd, dialog);
     if (m_typing) m_typing->isForced = true;
 }
 
+// The whole text of a cell's open editor is marked, and gives way to the character.
+void KeyRecorder::addMarking(HWND editor, HWND dialog) {
+    DWORD from = 0, to = 0;
+    SendMessageW(editor, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+    const std::wstring form = keyForm({.virtualKey = 'A', .control = true});
+    const RecordedStep* last = m_journal.recording().last();
+    const bool isTold = last && last->form == form;
+    if (!isTold && from == 0 && to > 0 && to == static_cast<DWORD>(GetWindowTextLengthW(editor)))
+        m_journal.add(dialog, {Kind::other, {}, form, {}});
+}
+
 void KeyRecorder::addCharacter(const MSG& message, HWND dialog) {
     const NamedTile tile = tileOf(message.hwnd, dialog);
+    if (hasWindowClass(message.hwnd, WC_EDITW) && gridOf(tile.window)) addMarking(message.hwnd, dialog);
     RecordedStep* last = m_journal.recording().last();
     const bool goesOn = last && last->kind == Kind::chars && last->tile == tile.name && !m_characters.empty();
     if (!goesOn) m_characters.clear();

@@ -18,8 +18,8 @@ class KeyRecorder {
     void keyDown(const MSG& message, HWND dialog);
     void keyUp(const MSG& message, HWND dialog);
     void character(const MSG& message, HWND dialog);
-    // Something else is about to be done: what was typed until now is all.
-    void endTyping();
+    // Something else is about to be done in that dialog: what was typed until now is all.
+    void endTyping(HWND dialog);
     // What was typed until now was handled.
     void update();
     void windowGone(HWND window);
@@ -37,11 +37,13 @@ class KeyRecorder {
     void type(HWND edit, HWND dialog);
     void typeControl(const MSG& message, HWND dialog);
     void addKey(const MSG& message, HWND dialog, const KeyStroke& stroke);
+    void addMarking(HWND editor, HWND dialog);
     void addCharacter(const MSG& message, HWND dialog);
     void resolveFocus();
 
     Journal& m_journal;
     std::optional<Typing> m_typing;
+    HWND m_singly = nullptr;                  // an edit box whose keys are recorded one by one
     std::optional<Recording::Place> m_moved;  // a key that may have moved the focus
     HWND m_movedFrom = nullptr;
     bool m_byTab = false;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "host/drive/Tile.h"
 #include "host/drive/WindowClass.h"
 
 namespace {
@@ -160,6 +161,8 @@ void MouseRecorder::pressedEntry(Press& press, const Items& items, bool isDouble
     if (press.entry < 0 || !isOnEntry(control, press.at)) {
         press.entry = -1;
         if (hasWindowClass(control, WC_LISTVIEWW) || hasWindowClass(control, WC_TABCONTROLW)) return;
+        if (hasWindowClass(control, WC_LISTBOXW) && GetCapture() == control)
+            press.anchor = static_cast<int>(SendMessageW(control, LB_GETANCHORINDEX, 0, 0));
         return pressedPoint(press, press.tile, isDouble && items.tree());
     }
     const std::wstring name = L" " + itemName(items, press.entry);
@@ -196,7 +199,7 @@ void MouseRecorder::pressedCell(Press& press, bool isDouble) {
 void MouseRecorder::pressedCellEditor(Press& press, bool isDouble) {
     const HWND grid = press.tile.window;
     const int id = GetDlgCtrlID(press.window);
-    if (GetDlgItem(grid, id) != press.window || GetParent(grid) != press.dialog) return;
+    if (childOf(grid, id) != press.window || GetParent(grid) != press.dialog) return;
     const NamedTile editor{press.window, L"'(" + press.tile.name + L" " + std::to_wstring(id) + L")"};
     pressedPoint(press, editor, isDouble);
 }
@@ -243,6 +246,7 @@ void MouseRecorder::released(const MSG& message, HWND dialog) {
     const POINT at = pointOf(message);
     if (hasWindowClass(message.hwnd, L"ComboLBox")) return releasedList(dialog, message);
     if (!press.window) return;
+    if (press.anchor) return releasedMarking(press);
     RECT client;
     GetClientRect(press.window, &client);
     if (isHeader(press.window)) {
@@ -271,6 +275,22 @@ void MouseRecorder::releasedEntry(const Press& press, POINT at) {
     m_journal.setForm(*press.step, call(L"ui_sweep", press.tile,
                                         L" " + itemName(*items, press.entry) + L" " +
                                             itemName(*items, entry) + press.keys));
+}
+
+// A list that has lost sight of the button goes on marking with the mouse, and scrolls with the time, until
+// the next press ends that. What counts is where it has come to.
+void MouseRecorder::releasedMarking(const Press& press) {
+    const HWND list = press.tile.window;
+    const auto items = itemsOf(list);
+    const auto entry = static_cast<int>(SendMessageW(list, LB_GETCARETINDEX, 0, 0));
+    if (!items || !press.step || entry < 0 || entry >= items->count()) return;
+    const auto anchor = static_cast<int>(SendMessageW(list, LB_GETANCHORINDEX, 0, 0));
+    const std::wstring to = L" " + itemName(*items, entry) + press.keys;
+    std::wstring form = call(L"ui_release", press.tile, to);
+    if (anchor != *press.anchor)
+        form = anchor == entry ? call(L"ui_pick", press.tile, to)
+                               : call(L"ui_sweep", press.tile, L" " + itemName(*items, anchor) + to);
+    m_journal.setForm(*press.step, form);
 }
 
 void MouseRecorder::releasedCell(const Press& press, POINT at) {

@@ -37,6 +37,7 @@ class MouseRecorder {
         std::wstring held;  // the form that presses it and doesn't let go; empty where that does the same
         int entry = -1;     // the item or the column that was pressed
         std::optional<GridHit> cell;
+        std::optional<int> anchor;  // of a list box that marks with the mouse since an earlier press
     };
 
     void pressedLeft(Press& press, bool isDouble);
@@ -47,6 +48,7 @@ class MouseRecorder {
     void pressedCellEditor(Press& press, bool isDouble);
     void pressedCombo(Press& press);
     void releasedEntry(const Press& press, POINT at);
+    void releasedMarking(const Press& press);
     void releasedCell(const Press& press, POINT at);
     void releasedList(HWND dialog, const MSG& message);
 

@@ -67,7 +67,7 @@ void Recorder::taken(const MSG& message) {
 
 void Recorder::takenInput(const MSG& message, HWND dialog) {
     if (isPress(message.message)) {
-        m_keys.endTyping();
+        m_keys.endTyping(dialog);
         return m_mouse.pressed(message, dialog);
     }
     switch (message.message) {
@@ -101,7 +101,7 @@ void Recorder::told(HWND window, UINT message, WPARAM w) {
     if (!isPluginDialog(window)) return;
     m_journal.dialogSeen(window);
     if (closes) {
-        m_keys.endTyping();
+        m_keys.endTyping(window);
         m_windows.closed(window);
     } else {
         m_windows.sized(window, message, w);

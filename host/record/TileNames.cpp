@@ -7,6 +7,7 @@
 
 #include "host/documents/Documents.h"
 #include "host/drive/MessageBoxes.h"
+#include "host/drive/Tile.h"
 #include "host/drive/WindowClass.h"
 #include "host/record/Recording.h"
 #include "src/platform/base/GridQuery.h"
@@ -45,7 +46,7 @@ HWND comboOfList(HWND list, HWND dialog) {
     return search.combo;
 }
 
-bool isReachedById(HWND window) { return GetDlgItem(GetParent(window), GetDlgCtrlID(window)) == window; }
+bool isReachedById(HWND window) { return childOf(GetParent(window), GetDlgCtrlID(window)) == window; }
 
 // Of a child of the dialog.
 std::wstring tileName(HWND tile) {

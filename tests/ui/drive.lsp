@@ -48,6 +48,7 @@
       '(fill "MULTI" '("a" "b" "c" "d" "e" "f" "g" "h" "i" "j" "k" "l"))
       '((ui_sweep "MULTI" "b" "d") (want '(1 2 3) (selected "MULTI"))
         (ui_sweep "MULTI" 2 0) (want '(0 1 2) (selected "MULTI"))
+        (ui_hold "MULTI" "c") (ui_release "MULTI" "e") (want '(2 3 4) (selected "MULTI"))
         (want T (refused '(ui_sweep "MULTI" 0 11)))))))
 
 ; The box that is left runs the action.
@@ -64,6 +65,11 @@
     (setq notes nil)
     (repeat 2 (ui_session "CONFIRM_DELREC" '((ui_click "OK"))))
     (want 7 (leave-and-click "(wex_new_dialog \"CONFIRM_DELREC\") (wex_start_dialog)"))))
+
+(test "A new line may bring up a box: what is typed behind it comes when that was answered"
+  '((in-dialog "ODD_KINDS"
+      '(wex_action_tile "LINES" "(note $value) (wex_alert \"Mind this\" 2)")
+      '((ui_type "LINES" "a\nb") (want '("a") notes) (want "a\r\nb" (wex_get_tile "LINES"))))))
 
 (test "A tab is reached in either direction, however far it is scrolled off"
   '((in-dialog "ODD_PAGES"
