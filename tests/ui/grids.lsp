@@ -87,7 +87,10 @@
           (put (setq row (1+ row)) 2 (car way) "x")
           (want (cdr way) (mapcar '(lambda (what) (cell row 2 what)) '("type" "readonly" "wrap"))))
         (want T (= (cell 9 2 "interior") (cell 10 2 "interior")))
-        (want nil (= (cell 9 2 "interior") (cell 8 2 "interior")))))))
+        (want nil (= (cell 9 2 "interior") (cell 8 2 "interior")))
+        ; The color stays with a cell that is made one to edit.
+        (put 9 2 100 "x")
+        (want (cell 10 2 "interior") (cell 9 2 "interior"))))))
 
 (test "The header of a row gets the window's color but for a push button; a type from 52500 up takes choices"
   '((in-grid 1 3

@@ -17,7 +17,7 @@
 (setq boxes '("LISTBOX" "DROPLIST") table "LISTVIEW" columns 3 tiles (cons table boxes))
 (setq dialog nil)  ; pairs of a tile and its box
 (setq operations nil)  ; pairs of a tile and its list operation
-(setq rows nil waiting nil focus nil sorting nil sorted 0 dblclick T)
+(setq rows nil waiting nil focus nil dblclick T)
 (setq open nil)  ; the tile of the last wex_start_list
 
 (defun put (key value pairs) (cons (cons key value) (remove (assoc key pairs) pairs)))
@@ -48,44 +48,6 @@
          (if (and at (= (get tile operations) -1)) (replace-row at text) (append-row text)))
         ((and (>= at 0) (= (get tile operations) 1)) (set-box tile (put-nth at text (entries tile)) -1))
         (T (set-box tile (append (entries tile) (list text)) at))))
-
-; --- the order of rows: the sort that the list control is to do, step by step
-
-(defun kind (text / last)
-  (setq last -1)
-  (if (some '(lambda (c) (string-search "0123456789.-" (chr c))) (string-to-list text))
-    (foreach c (mapcar 'chr (string-to-list text))
-      (setq last (cond ((null last) nil)
-                       ((string-search "0123456789.-" c) 2)
-                       ((equal c "/") 1)
-                       ((string-search "' \"" c) 3)
-                       ((string-search "Ee+" c) 5)))))
-  (cond (last) (T -1)))
-
-; Of two cells: as texts where one of them is a text, as distances each in its own notation else.
-(defun below (a b / x y)
-  (cond ((or (= (kind a) -1) (= (kind b) -1)) (< a b))
-        (T (setq x (distof a (kind a)) y (distof b (kind b))) (and x y (< x y)))))
-(defun before (a b) (if ascending (below (cell a column) (cell b column)) (below (cell b column) (cell a column))))
-(defun swap-rows (i j / kept) (setq kept (nth i rows) rows (put-nth j kept (put-nth i (nth j rows) rows))))
-
-(defun sort-rows (low high / p i j)
-  (cond ((> high low)
-         (setq p (/ (+ low high) 2) i low j high)
-         (while (<= i j)
-           (while (and (< i high) (before i p)) (setq i (1+ i)))
-           (while (and (> j low) (before p j)) (setq j (1- j)))
-           (cond ((<= i j)
-                  (if (/= (cell i column) (cell j column)) (swap-rows i j))
-                  (setq i (1+ i) j (1- j)))))
-         (if (< low j) (sort-rows low j))
-         (if (< i high) (sort-rows i high)))))
-
-(defun sort-by (column / ascending)
-  (cond (sorting
-         (setq ascending (/= sorted (1+ column)) focus nil)
-         (sort-rows 0 (1- (length rows)))
-         (setq sorted (if ascending (1+ column) (- (1+ column)))))))
 
 ; --- what the actions hear. What is due is (may tile value reason) or (must ...).
 
@@ -145,8 +107,7 @@
 
 (defun set-flags (tile)
   (wex_listctrl_keephighlight table (= (chance 2) 0))
-  (wex_listctrl_enabledbclk table (setq dblclick (= (chance 2) 0)))
-  (if (= (chance 4) 0) (wex_listctrl_allowsorting table (setq sorting T))))
+  (wex_listctrl_enabledbclk table (setq dblclick (= (chance 2) 0))))
 
 (defun reload (tile)
   (wex_listctrl_setcolumnreference table "any")
@@ -220,17 +181,10 @@
          (expect 'must table (numbers (selected-rows)) 5)
          (ui_key key table))))
 
-(defun click-header (tile / column)
-  (setq column (chance columns))
-  (sort-by column)
-  (cond ((= (chance 2) 0) (ui_header table column))
-        (T (expect 'must table (numbers (selected-rows)) 5) (ui_key (strcat "CTRL+" (itoa (1+ column))) table))))
-
 (defun click-beside-rows (tile) (if (null rows) (ui_click table)))
 
 (setq box-input '(click-entry click-entry key-in-box key-in-box double-click-entry)
-      table-input '(click-row click-row click-two-rows right-click-row double-click-row key-in-table key-in-table click-header
-                    click-header click-beside-rows set-flags reload))
+      table-input '(click-row click-row click-two-rows right-click-row double-click-row key-in-table key-in-table click-beside-rows set-flags reload))
 
 ; --- one event, and the comparison before the next
 

@@ -87,35 +87,6 @@
     (with-rows '(("a\tb" "" "line\nend" "grün ⌀ 😀" "'[x]\"")))
     (want '("a\tb" "" "line\nend" "grün ⌀ 😀" "'[x]\"") (wex_fp_getitem 0))))
 
-(test "What is added has five fields"
-  '((with-rows catalog)
-    (no-value '(wex_fp_additem '("1" "2" "3" "4" "5" "6" "7")))
-    (foreach argument '(("1" "2") ("1" nil "3") nil 5 "text") (wex_fp_additem argument))
-    (want '(("1" "2" "3" "4" "5") ("1" "2" "" "" "") ("1" "" "" "" "") ("" "" "" "" "") ("" "" "" "" "") ("" "" "" "" ""))
-          (wex_fp_getadded))
-    (want (append catalog (wex_fp_getadded)) (records))
-    (no-value '(wex_fp_additem))
-    (want 9 (wex_fp_getcount))
-    (wex_fp_setitem 3 '("one"))
-    (want '("one" "2" "3" "4" "5") (car (wex_fp_getadded)))
-    (want nil (wex_fp_getmodified))
-    (repeat 6 (wex_fp_remitem 3))
-    (want '(nil nil nil) (changes))))
-
-(test "Pages are ragged after a deletion, and shift when it is forgotten"
-  '((wex_fp_cleardatasrc)
-    (store_numbered 250)
-    (wex_fp_setupdatasrc '("" "Parts" "PN"))
-    (wex_fp_remitem 0)
-    (want '("P1" "P2" "P100") (first-fields (mapcar 'wex_fp_getitem '(0 1 99))))
-    (want "P248" (car (wex_fp_getitem 247)))
-    ; The last page was loaded when one record was gone: its last row is missing.
-    (want nil (wex_fp_getitem 248))
-    (out-of-range '(wex_fp_setitem 248 '("x")))
-    (wex_fp_savedb)
-    (want nil (wex_fp_getitem 99))
-    (want "P100" (car (wex_fp_getitem 100)))))
-
 (test "A store that says less, more or nothing of its rows"
   '((foreach said '((1 1 ("P1")) (5 5 ("P1" "P2" "P3" nil nil)) (0 0 nil))
       (wex_fp_cleardatasrc)

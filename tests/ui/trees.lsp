@@ -16,18 +16,6 @@
 ; The first folder holds b and a, the second one c.
 (setq folders '((setq one (top "One") b (under one "b") a (under one "a") two (top "Two") c (under two "c"))))
 
-(test "Items stand last of all, last below a parent, or behind another one; behind one of another parent they stand last"
-  '((in-tree folders
-      '((setq three (wex_tree_insertparentafter "TREE" one "One and a half")
-              d (wex_tree_insertchildafter "TREE" one b "between")
-              e (wex_tree_insertchildafter "TREE" one c "strayed"))
-        (want '("One" "One and a half" "Two") (shown))
-        (foreach item (list one two) (wex_tree_expanditem "TREE" item 1))
-        (want '("One" "\tb" "\tbetween" "\ta" "\tstrayed" "One and a half" "Two" "\tc") (shown))
-        (want (list -1 one one two)
-              (mapcar '(lambda (item) (wex_tree_getparent "TREE" item)) (list one b d c)))
-        (want 0 (under 5 "below what is no item"))))))
-
 (test "Sorting orders the children of one item by their texts, without regard to case, and not what is below them"
   '((in-tree '((setq above (top "x") kids (mapcar '(lambda (text) (under above text)) '("pear" "Fig" "apple")))
                (foreach text '("z" "y") (under (car kids) text))
@@ -122,17 +110,6 @@
                 (wex_tree_deleteitem "SINGLE" child))
         '((want '("new") (ui_items "SINGLE")) (ui_click "Cancel")))
       (want 7 (in-event way '(wex_done_dialog 7) nil)))))
-
-(test "A deleted item hands the selection on, and that is told; all items deleted select nothing"
-  '((in-tree folders
-      '((foreach item (list one b a) (wex_tree_selectitem "TREE" b))
-        (told)
-        (foreach next (list a one two)
-          (wex_tree_deleteitem "TREE" (selection))
-          (want next (selection)))
-        (want (list (list a 10) (list one 10) (list two 10)) (told))
-        (wex_tree_deleteallitems "TREE")
-        (want '(nil -1) (list (shown) (selection)))))))
 
 (test "A mistyped item is null, which deletes all and makes a parent the top; a missing one changes nothing"
   '((in-tree folders

@@ -80,21 +80,4 @@ TEST_F(SourceRows, AreAskedForWhereTheyAreInSight) {
     EXPECT_LE(static_cast<int>(rows.askedRows.size()), 2 * (page + 2));
 }
 
-TEST_F(SourceRows, AreSelectedByTheirState) {
-    Shown shown([](WexDialog& dialog) { dialog.tileForId(TABLE)->m_value = L"500000"; });
-    EXPECT_EQ(shown.selected(), std::vector{500'000});
-    EXPECT_TRUE(shown.isInSight(500'000));
-    const LRESULT state = shown.list().SendMessage(LVM_GETITEMSTATE, 500'000, LVIS_FOCUSED);
-    EXPECT_EQ(state, LVIS_FOCUSED);
-
-    shown.dialog.setValueById(TABLE, L"999999");
-    EXPECT_EQ(shown.selected(), (std::vector{500'000, MILLION - 1}));
-    EXPECT_TRUE(shown.isInSight(MILLION - 1));
-    shown.dialog.setValueById(TABLE, L"1000000");
-    shown.dialog.setValueById(TABLE, L"-1");
-    EXPECT_EQ(shown.selected().size(), 2u);
-    shown.dialog.setValueByKey(L"table", L"-1");
-    EXPECT_EQ(shown.selected(), std::vector<int>());
-}
-
 }  // namespace

@@ -8,27 +8,11 @@ PixelRect bitmapIn(PixelSize natural, PixelSize area, bool fit = false) {
     return placeOfPicture(natural, area, false, fit);
 }
 
-TEST(PicturePlace, ASmallBitmapStandsInTheMiddleAsLargeAsItIs) {
-    EXPECT_EQ(bitmapIn({10, 10}, {100, 100}), (PixelRect{45, 45, 55, 55}));
-    EXPECT_EQ(bitmapIn({9, 100}, {100, 100}), (PixelRect{45, 0, 54, 100}));
-    EXPECT_EQ(bitmapIn({100, 100}, {100, 100}), (PixelRect{0, 0, 100, 100}));
-}
-
 TEST(PicturePlace, ALargeBitmapShrinksInItsProportions) {
     EXPECT_EQ(bitmapIn({200, 100}, {100, 100}), (PixelRect{0, 25, 100, 75}));
     EXPECT_EQ(bitmapIn({100, 200}, {100, 100}), (PixelRect{25, 0, 75, 100}));
     EXPECT_EQ(bitmapIn({400, 200}, {200, 100}), (PixelRect{0, 0, 200, 100}));
     EXPECT_EQ(bitmapIn({4000, 3000}, {61, 40}), (PixelRect{4, 0, 57, 40}));
-}
-
-TEST(PicturePlace, AMetafileGrowsToo) {
-    EXPECT_EQ(placeOfPicture({10, 20}, {100, 100}, true, false), (PixelRect{25, 0, 75, 100}));
-    EXPECT_EQ(placeOfPicture({20, 10}, {100, 100}, true, false), (PixelRect{0, 25, 100, 75}));
-}
-
-TEST(PicturePlace, FittedPicturesTakeUpTheWholeArea) {
-    for (const bool isMetafile : {false, true})
-        EXPECT_EQ(placeOfPicture({200, 10}, {100, 70}, isMetafile, true), (PixelRect{0, 0, 100, 70}));
 }
 
 TEST(PicturePlace, WhatHasNoExtentTakesUpNothing) {

@@ -147,21 +147,6 @@ TEST_F(StoreTest, FailuresNameTheirSql) {
     EXPECT_TRUE(told[0].starts_with(L"data store: 3000000000 rows are more than can be read: SELECT COUNT"));
 }
 
-TEST_F(StoreTest, ALockedDatabaseIsToldAndServesLater) {
-    OpenDatabase other(nullptr);
-    ASSERT_TRUE(open(other));
-    int64_t changed;
-    ASSERT_TRUE(other.execute(lent(L"CREATE TABLE t (a)"), nullptr, 0, &changed));
-    ASSERT_TRUE(other.execute(lent(L"BEGIN EXCLUSIVE"), nullptr, 0, &changed));
-    ASSERT_TRUE(open(database));
-    EXPECT_EQ(store.GetRowCount(lent(L"[t]")), 0);
-    EXPECT_EQ(told, std::vector<std::wstring>{L"data store: database is locked: SELECT COUNT(*) FROM [t]"});
-    EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), -1);
-    EXPECT_TRUE(other.rollback());
-    EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), 1);
-    EXPECT_EQ(store.GetRowCount(lent(L"[t]")), 1);
-}
-
 TEST_F(StoreTest, ACommitAgainstALockIsToldAndSucceedsLater) {
     ASSERT_TRUE(open(database));
     run(L"CREATE TABLE t (a)");
