@@ -43,7 +43,7 @@ std::u16string withArticle(const std::u16string& kind) {
 }
 
 std::u16string nameOfTile(const Form& form) {
-    return form.isString() ? u"\"" + form.text + u"\"" : lisp::decimal(static_cast<int64_t>(form.number));
+    return form.isString() ? u"\"" + form.text() + u"\"" : lisp::decimal(static_cast<int64_t>(form.number));
 }
 
 }  // namespace
@@ -150,16 +150,16 @@ void CallReport::onComputed(const Form&, const Form& form, size_t, const Argumen
 
 void CallReport::checkDialog(const Form& function, const Form& form) {
     if (!form.isString() || m_program.knowledge.dialogs().empty()) return;
-    if (m_program.knowledge.dialog(form.text)) {
+    if (m_program.knowledge.dialog(form.text())) {
         const bool isSession = function.word->name == u"UI_SESSION";
-        if (isSession && m_isNeverOpened(form.text))
-            tell(form, u"the program never opens the dialog \"" + form.text + u"\" of this session");
+        if (isSession && m_isNeverOpened(form.text()))
+            tell(form, u"the program never opens the dialog \"" + form.text() + u"\" of this session");
         return;
     }
     std::vector<std::u16string> names;
     for (const auto& [name, dialog] : m_program.knowledge.dialogs()) names.push_back(dialog.name);
     std::sort(names.begin(), names.end());
-    tell(form, u"there is no dialog \"" + form.text + u"\"" + orNearest(form.text, names));
+    tell(form, u"there is no dialog \"" + form.text() + u"\"" + orNearest(form.text(), names));
 }
 
 void CallReport::checkTile(const Form& name, const Form& whole, TileKinds kinds) {
@@ -177,9 +177,9 @@ void CallReport::checkTile(const Form& name, const Form& whole, TileKinds kinds)
         dialogs.size() == 1 ? dialog.name : u"none of the dialogs that it may be called for";
     std::u16string_view misfit;
     for (const Dialog* one : dialogs) {
-        if (isKey && namesTitle(*name.word, *one, form.text)) return;
+        if (isKey && namesTitle(*name.word, *one, form.text())) return;
         if (!isKey && !one->hasTemplate) return;
-        const DialogTile* tile = isKey ? one->tileOfKey(form.text) : one->tileOfId(form.number);
+        const DialogTile* tile = isKey ? one->tileOfKey(form.text()) : one->tileOfId(form.number);
         if (!tile) continue;
         const TileKinds kind = kindOfWords(tile->kind);
         if (kinds == ANY_KIND || kind == ANY_KIND || (kind & kinds)) return;
@@ -194,7 +194,7 @@ void CallReport::checkTile(const Form& name, const Form& whole, TileKinds kinds)
         for (const DialogTile& tile : one->tiles)
             if (!tile.key.empty()) keys.push_back(tile.key);
     const std::u16string verb = dialogs.size() == 1 ? u" has no tile " : u" has a tile ";
-    tell(form, which + verb + nameOfTile(form) + (isKey ? orNearest(form.text, keys) : u""));
+    tell(form, which + verb + nameOfTile(form) + (isKey ? orNearest(form.text(), keys) : u""));
 }
 
 // In this Lisp a variable that was never set is nil, and programs ask for that. But one that nothing sets and

@@ -87,7 +87,7 @@ class CheckedProgram::Work {
     void tellIdleTiles() {
         std::set<const Dialog*> seen;
         for (const Definitions::Opening& opening : m_definitions.openings()) {
-            const Dialog* dialog = m_program.knowledge.dialog(opening.name->text);
+            const Dialog* dialog = m_program.knowledge.dialog(opening.name->text());
             if (!dialog || m_program.hasForeignCode || !seen.insert(dialog).second) continue;
             const std::u16string idle = idleTiles(*dialog);
             if (!idle.empty())
@@ -162,7 +162,8 @@ DialogSet CheckedProgram::dialogAt(const Form& call) const {
 std::vector<const Dialog*> CheckedProgram::openedDialogs() const {
     std::vector<const Dialog*> dialogs;
     for (const Definitions::Opening& opening : m_work->definitions().openings())
-        if (const Dialog* dialog = m_program->knowledge.dialog(opening.name->text)) dialogs.push_back(dialog);
+        if (const Dialog* dialog = m_program->knowledge.dialog(opening.name->text()))
+            dialogs.push_back(dialog);
     return dialogs;
 }
 

@@ -193,7 +193,7 @@ void CodeWalk::walkArgument(const Form& call, size_t index, const Argument& argu
     }
     if (argument.role == Role::sessionForms && form.kind == Form::Kind::quote && !form.items.empty()) {
         const Form& name = call.items[1];
-        const Dialog* dialog = name.isString() ? m_program.knowledge.dialog(name.text) : nullptr;
+        const Dialog* dialog = name.isString() ? m_program.knowledge.dialog(name.text()) : nullptr;
         Flow session(dialog ? DialogSet(dialog) : DialogSet::any());
         return walkAll(form.items[0].items, 0, session);
     }
@@ -440,7 +440,7 @@ void CodeWalk::walkLoad(const Form& form, Flow& flow) {
     walkAll(form.items, 1, flow);
     if (form.items.size() < 2) return onCall(form.items[0], &form, form.argumentCount(), flow);
     const Form& name = form.items[1];
-    ProgramFile* const file = name.isString() ? m_program.loaded(name.text) : nullptr;
+    ProgramFile* const file = name.isString() ? m_program.loaded(name.text()) : nullptr;
     onLoad(form, file != nullptr);
     onCall(form.items[0], &form, form.argumentCount(), flow);
     if (file) walkFile(*file, flow);

@@ -105,8 +105,8 @@ void Definitions::onSet(Word* word, bool isParameter) {
 void Definitions::onString(const Form& string, const Form* call, size_t argument) {
     // No key and no dialog's name is longer.
     constexpr size_t LONGEST_NAME = 200;
-    if (string.text.size() > LONGEST_NAME || !m_seen.insert(&string).second) return;
-    const std::u16string text = lisp::upperCase(string.text);
+    if (string.text().size() > LONGEST_NAME || !m_seen.insert(&string).second) return;
+    const std::u16string text = lisp::upperCase(string.text());
     const Word* const function = call ? call->head() : nullptr;
     const bool isSession = function && function->name == u"UI_SESSION";
     if (!isSession) m_mentioned.insert(text);

@@ -44,7 +44,7 @@ void DialogFlow::onCall(const Form& name, const Form* call, std::optional<size_t
 void DialogFlow::onLiteral(const Form& function, const Form& literal, size_t index,
                            const Argument& argument) {
     if (argument.role != Role::dialog) return;
-    const Dialog* dialog = literal.isString() ? m_program.knowledge.dialog(literal.text) : nullptr;
+    const Dialog* dialog = literal.isString() ? m_program.knowledge.dialog(literal.text()) : nullptr;
     name(function, index, dialog ? DialogSet(dialog) : DialogSet::any());
 }
 

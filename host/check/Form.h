@@ -3,16 +3,19 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
+#include "host/lisp/SpecialForms.h"
+
 namespace check {
 
 struct Function;
 struct Definition;
-enum class SpecialForm : uint8_t;
+using lisp::SpecialForm;
 
 // A name that occurs in a program, in capitals, and what the program makes of it.
 struct Word {
@@ -39,6 +42,13 @@ class Words {
     std::u16string m_capitals;
 };
 
+// What stands between the quotation marks of a string, as it is meant.
+struct StringContent {
+    std::u16string text;
+    std::vector<uint32_t> offsets;  // where each unit stands in the file, and the closing mark
+};
+
+// Small, as a program is walked through several times: most forms are words.
 struct Form {
     enum class Kind : uint8_t { symbol, integer, real, string, list, quote };
 
@@ -49,14 +59,21 @@ struct Form {
     // Where it stands in the file, in UTF-16 units; the end is behind its last character.
     uint32_t begin = 0;
     uint32_t end = 0;
-    Word* word = nullptr;           // a symbol's
-    std::u16string text;            // a string's content
-    std::vector<uint32_t> offsets;  // where each unit of the content stands in the file, and its closing mark
-    std::vector<Form> items;        // the elements of a list; the one form behind a quote mark
+    Word* word = nullptr;                          // a symbol's
+    std::unique_ptr<const StringContent> content;  // a string's
+    std::vector<Form> items;                       // the elements of a list; the one form behind a quote mark
 
     bool isList() const { return kind == Kind::list; }
     bool isString() const { return kind == Kind::string; }
     bool isSymbol() const { return kind == Kind::symbol; }
+    // A string's content; empty for other forms.
+    const std::u16string& text() const {
+        static const std::u16string NONE;
+        return content ? content->text : NONE;
+    }
+    std::span<const uint32_t> offsets() const {
+        return content ? content->offsets : std::span<const uint32_t>();
+    }
     // The symbol that the list begins with; null where it doesn't.
     Word* head() const { return isList() && !items.empty() ? items[0].word : nullptr; }
     // How many elements stand behind the first one.

@@ -5,6 +5,7 @@
 
 #include "host/check/Layout.h"
 #include "host/lisp/Text.h"
+#include "host/lisp/Tokens.h"
 
 namespace check {
 
@@ -12,17 +13,6 @@ namespace {
 
 // Lists nest no deeper in any program that a person writes, and each level costs stack.
 constexpr size_t DEEPEST = 200;
-
-bool isBlank(char16_t c) { return c <= u' ' || c == 0xA0 || c == 0xFEFF; }
-bool endsWord(char16_t c) {
-    return isBlank(c) || c == u'(' || c == u')' || c == u'"' || c == u';' || c == u'\'';
-}
-
-int digitValue(char16_t c) {
-    if (c >= u'0' && c <= u'9') return c - u'0';
-    const char16_t small = c | 0x20;
-    return small >= u'a' && small <= u'f' ? small - u'a' + 10 : 99;
-}
 
 // Reads one stretch of text by itself.
 class StretchReader {
@@ -79,6 +69,7 @@ class StretchReader {
         Form form;
         size_t at = 0;
         bool isQuote = false;
+        size_t first = 0;  // of its elements among the pending forms
     };
 
     uint32_t place(size_t at) const {
@@ -88,7 +79,7 @@ class StretchReader {
 
     void token() {
         const char16_t c = m_text[m_position];
-        if (isBlank(c)) {
+        if (lisp::isBlank(c)) {
             if (c == u'\n') m_layout.newLine(m_position + 1);
             ++m_position;
         } else if (c == u';') {
@@ -134,6 +125,7 @@ class StretchReader {
         Open opened;
         opened.at = m_position;
         opened.isQuote = isQuote;
+        opened.first = m_pending.size();
         // Nobody indents so: a list before is open by mistake, even where a later one closes once too often.
         const bool isAtMargin = m_position > 0 && m_text[m_position - 1] == u'\n';
         if (isAtMargin && m_open.size() > 1 && m_text.substr(m_position).starts_with(u"(defun "))
@@ -159,7 +151,10 @@ class StretchReader {
 
     void closeTop(size_t end, bool isClosed) {
         Form form = std::move(m_open.back().form);
+        const auto first = m_pending.begin() + static_cast<ptrdiff_t>(m_open.back().first);
         m_open.pop_back();
+        form.items.assign(std::make_move_iterator(first), std::make_move_iterator(m_pending.end()));
+        m_pending.erase(first, m_pending.end());
         form.end = place(end - 1) + 1;
         form.isClosed = isClosed;
         add(std::move(form));
@@ -170,9 +165,8 @@ class StretchReader {
             m_forms.push_back(std::move(form));
             return;
         }
-        const bool endsQuote = m_open.back().isQuote;
-        m_open.back().form.items.push_back(std::move(form));
-        if (endsQuote) closeTop(m_position, true);
+        m_pending.push_back(std::move(form));
+        if (m_open.back().isQuote) closeTop(m_position, true);
     }
 
     void string() {
@@ -180,27 +174,40 @@ class StretchReader {
         Form form;
         form.kind = Form::Kind::string;
         form.begin = place(begin);
-        form.isClosed = false;
         const size_t limit = begin == m_mendAt ? m_mendEnd : m_text.size();
-        while (m_position < limit) {
-            const size_t at = m_position;
-            const char16_t c = m_text[m_position++];
-            if (c == u'"') {
-                form.isClosed = true;
-                break;
-            }
-            const char16_t meant = c == u'\\' && m_position < limit ? escape() : c;
-            form.text += meant;
-            form.offsets.push_back(place(at));
-        }
+        auto content = std::make_unique<StringContent>();
+        form.isClosed = takeContent(*content, limit);
         const bool isMended = begin == m_mendAt;
         const bool isOpen = !form.isClosed && !isMended;
-        form.offsets.push_back(
+        content->offsets.push_back(
             place(form.isClosed ? m_position - 1 : std::min(m_position, m_text.size() - 1)));
+        form.content = std::move(content);
         form.end = place(m_position - 1) + 1;
         if (isOpen && !m_openString) m_openString = begin;
         noteString(begin, isOpen);
         add(std::move(form));
+    }
+
+    // Up to the closing mark, or to `limit`. Whether there is a mark.
+    bool takeContent(StringContent& content, size_t limit) {
+        while (m_position < limit) {
+            const size_t begin = m_position;
+            while (m_position < limit && m_text[m_position] != u'"' && m_text[m_position] != u'\\')
+                ++m_position;
+            content.text.append(m_text.substr(begin, m_position - begin));
+            for (size_t at = begin; at < m_position; ++at) content.offsets.push_back(place(at));
+            if (m_position == limit) break;
+            const size_t at = m_position++;
+            if (m_text[at] == u'"') return true;
+            if (m_position == limit) {
+                content.text += u'\\';
+            } else {
+                const char16_t letter = m_text[m_position++];
+                content.text += lisp::escaped(letter, m_text, m_position);
+            }
+            content.offsets.push_back(place(at));
+        }
+        return false;
     }
 
     // The first string that goes on in another line, or touches a word, is the one whose mark is missing.
@@ -208,48 +215,13 @@ class StretchReader {
         const std::u16string_view inside = m_text.substr(begin, m_position - begin);
         const size_t line = inside.find(u'\n');
         if (line != inside.npos) m_layout.newLine(begin + inside.rfind(u'\n') + 1);
-        const bool touches = m_position < m_text.size() && !endsWord(m_text[m_position]);
+        const bool touches = m_position < m_text.size() && !lisp::endsWord(m_text[m_position]);
         if (!m_suspectString && (touches || line != inside.npos || isOpen)) m_suspectString = begin;
-    }
-
-    char16_t escape() {
-        const char16_t c = m_text[m_position++];
-        switch (c) {
-            case u'n':
-                return u'\n';
-            case u'r':
-                return u'\r';
-            case u't':
-                return u'\t';
-            case u'e':
-                return u'\x1B';
-            case u'U':
-                return unicode();
-            default:
-                break;
-        }
-        if (digitValue(c) >= 8) return c;
-        uint32_t code = static_cast<uint32_t>(digitValue(c));
-        for (int i = 0; i < 2 && m_position < m_text.size() && digitValue(m_text[m_position]) < 8; ++i)
-            code = code << 3 | static_cast<uint32_t>(digitValue(m_text[m_position++]));
-        return static_cast<char16_t>(code);
-    }
-
-    char16_t unicode() {
-        if (m_text.size() - m_position < 5 || m_text[m_position] != u'+') return u'U';
-        uint32_t code = 0;
-        for (size_t i = 1; i <= 4; ++i) {
-            const int digit = digitValue(m_text[m_position + i]);
-            if (digit >= 16) return u'U';
-            code = code << 4 | static_cast<uint32_t>(digit);
-        }
-        m_position += 5;
-        return static_cast<char16_t>(code);
     }
 
     void word() {
         const size_t begin = m_position;
-        while (m_position < m_text.size() && !endsWord(m_text[m_position])) ++m_position;
+        while (m_position < m_text.size() && !lisp::endsWord(m_text[m_position])) ++m_position;
         const std::u16string_view token = m_text.substr(begin, m_position - begin);
         if (token == u"." && m_open.size() > 1 && !m_open.back().isQuote) {
             m_open.back().form.isDotted = true;
@@ -259,21 +231,14 @@ class StretchReader {
         form.begin = place(begin);
         form.end = place(m_position - 1) + 1;
         form.kind = Form::Kind::symbol;
-        if (!takeNumber(form, token)) form.word = m_words.at(token);
+        if (const auto number = lisp::numberOf(token)) {
+            const auto* integer = std::get_if<int32_t>(&*number);
+            form.kind = integer ? Form::Kind::integer : Form::Kind::real;
+            if (integer) form.number = *integer;
+        } else {
+            form.word = m_words.at(token);
+        }
         add(std::move(form));
-    }
-
-    static bool takeNumber(Form& form, std::u16string_view token) {
-        const bool mayBe =
-            digitValue(token[0]) < 10 || token[0] == u'+' || token[0] == u'-' || token[0] == u'.';
-        if (!mayBe || token.find_first_of(u"0123456789") == token.npos) return false;
-        const std::optional<double> number = lisp::parseReal(token);
-        if (!number) return false;
-        const bool isInteger =
-            token.find_first_of(u".eE") == token.npos && *number >= INT32_MIN && *number <= INT32_MAX;
-        form.kind = isInteger ? Form::Kind::integer : Form::Kind::real;
-        if (isInteger) form.number = static_cast<int32_t>(*number);
-        return true;
     }
 
     void finish() {
@@ -292,6 +257,8 @@ class StretchReader {
     Layout m_layout;
     // The lists that are open, below them one that stands for the text.
     std::vector<Open> m_open;
+    // Their elements so far, those of the innermost list last.
+    std::vector<Form> m_pending;
     std::vector<Form> m_forms;
     std::optional<size_t> m_openString, m_suspectString, m_openComment, m_unclosed, m_stray, m_tooDeep;
     bool m_nestsDefinition = false;

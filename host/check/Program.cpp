@@ -2,24 +2,6 @@
 
 namespace check {
 
-namespace {
-
-struct NamedForm {
-    std::u16string_view name;
-    SpecialForm form;
-};
-constexpr NamedForm SPECIAL_FORMS[] = {
-    {u"QUOTE", SpecialForm::quote},     {u"FUNCTION", SpecialForm::function},
-    {u"IF", SpecialForm::ifForm},       {u"COND", SpecialForm::cond},
-    {u"AND", SpecialForm::andForm},     {u"OR", SpecialForm::orForm},
-    {u"PROGN", SpecialForm::progn},     {u"SETQ", SpecialForm::setq},
-    {u"WHILE", SpecialForm::whileForm}, {u"REPEAT", SpecialForm::repeat},
-    {u"FOREACH", SpecialForm::foreach}, {u"LAMBDA", SpecialForm::lambda},
-    {u"DEFUN", SpecialForm::defun},     {u"CATCH-ERROR", SpecialForm::catchError},
-};
-
-}  // namespace
-
 Argument argumentOf(const Word& function, size_t index) {
     if (!function.definition) return function.function ? function.function->argument(index) : Argument{};
     const std::vector<Argument>& arguments = function.definition->arguments;
@@ -27,7 +9,9 @@ Argument argumentOf(const Word& function, size_t index) {
 }
 
 Program::Program(const Knowledge& known, FindSource find) : knowledge(known), m_find(std::move(find)) {
-    for (const NamedForm& special : SPECIAL_FORMS) words.at(special.name)->special = special.form;
+    uint8_t number = 0;
+    for (const std::u16string_view name : lisp::SPECIAL_FORM_NAMES)
+        words.at(name)->special = static_cast<SpecialForm>(++number);
     for (const auto& [name, function] : known.functions()) words.at(name)->function = &function;
 }
 
@@ -53,7 +37,7 @@ ProgramFile* Program::loaded(std::u16string_view name) {
 
 const ReadText& Program::textOf(const Form& string) {
     std::unique_ptr<ReadText>& text = m_texts[&string];
-    if (!text) text = std::make_unique<ReadText>(readString(string.text, string.offsets, words));
+    if (!text) text = std::make_unique<ReadText>(readString(string.text(), string.offsets(), words));
     return *text;
 }
 

@@ -16,24 +16,6 @@
 
 namespace check {
 
-enum class SpecialForm : uint8_t {
-    none,
-    quote,
-    function,
-    ifForm,
-    cond,
-    andForm,
-    orForm,
-    progn,
-    setq,
-    whileForm,
-    repeat,
-    foreach,
-    lambda,
-    defun,
-    catchError
-};
-
 struct Source {
     std::u16string name;
     std::u16string text;

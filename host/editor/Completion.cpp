@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <set>
 
+#include "host/lisp/SpecialForms.h"
 #include "host/lisp/Text.h"
+#include "host/lisp/Tokens.h"
 
 namespace editor {
 
@@ -11,13 +13,8 @@ namespace {
 
 using check::Form;
 
-constexpr std::u16string_view KEYWORDS[] = {u"and",      u"catch-error", u"cond",   u"defun", u"foreach",
-                                            u"function", u"if",          u"lambda", u"or",    u"progn",
-                                            u"quote",    u"repeat",      u"setq",   u"while"};
-
-bool isWordLetter(char16_t c) {
-    return c > u' ' && c != u'(' && c != u')' && c != u'"' && c != u';' && c != u'\'' && c != u'\\';
-}
+// An escape in a key isn't part of it.
+bool isWordLetter(char16_t c) { return !lisp::endsWord(c) && c != u'\\'; }
 
 void sortItems(std::vector<CompletionItem>& items) {
     std::sort(items.begin(), items.end(),
@@ -34,7 +31,8 @@ void addFunctions(Completion& completion, const check::CheckedProgram& program,
     for (const std::u16string& name : program.definedNames()) add(name, u"", CompletionKind::function);
     for (const auto& [name, function] : knowledge.functions())
         add(name, function.usage.empty() ? u"" : u"(" + function.usage + u")", CompletionKind::function);
-    for (const std::u16string_view keyword : KEYWORDS) add(keyword, u"", CompletionKind::keyword);
+    for (const std::u16string_view keyword : lisp::SPECIAL_FORM_NAMES)
+        add(keyword, u"", CompletionKind::keyword);
 }
 
 void addDialogs(Completion& completion, const check::Knowledge& knowledge) {

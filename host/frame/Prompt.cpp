@@ -4,23 +4,12 @@
 #include <utility>
 
 #include "host/lisp/Reader.h"
-
-namespace {
-
-constexpr std::u16string_view BLANKS = u" \t\r\n";
-
-std::u16string_view trimmed(std::u16string_view text) {
-    const size_t first = text.find_first_not_of(BLANKS);
-    if (first == text.npos) return {};
-    return text.substr(first, text.find_last_not_of(BLANKS) - first + 1);
-}
-
-}  // namespace
+#include "host/lisp/Text.h"
 
 void Prompt::enter(std::u16string_view line) {
     m_pending.append(line).append(u"\n");
     if (!lisp::Interpreter::isComplete(m_pending)) return;
-    const std::u16string text(trimmed(std::exchange(m_pending, {})));
+    const std::u16string text(lisp::trimmed(std::exchange(m_pending, {})));
     if (text.empty()) return;
     try {
         const lisp::Value value = evaluate(text);

@@ -9,6 +9,7 @@
 #include "host/lisp/ControlNodes.h"
 #include "host/lisp/Machine.h"
 #include "host/lisp/Printer.h"
+#include "host/lisp/SpecialForms.h"
 #include "host/lisp/Text.h"
 
 namespace lisp {
@@ -21,11 +22,6 @@ struct Malformed {
 };
 
 class Analyser;
-
-struct SpecialForm {
-    const char16_t* name;
-    const Node* (Analyser::*analyse)(Value arguments);
-};
 
 // Analyses into one Code.
 class Analyser {
@@ -67,15 +63,13 @@ class Analyser {
     Symbol* m_form = nullptr;
 };
 
-constexpr SpecialForm SPECIAL_FORMS[] = {
-    {u"QUOTE", &Analyser::quote},     {u"FUNCTION", &Analyser::function},
-    {u"IF", &Analyser::ifForm},       {u"COND", &Analyser::cond},
-    {u"AND", &Analyser::andForm},     {u"OR", &Analyser::orForm},
-    {u"PROGN", &Analyser::progn},     {u"SETQ", &Analyser::setq},
-    {u"WHILE", &Analyser::whileForm}, {u"REPEAT", &Analyser::repeat},
-    {u"FOREACH", &Analyser::foreach}, {u"LAMBDA", &Analyser::lambda},
-    {u"DEFUN", &Analyser::defun},     {u"CATCH-ERROR", &Analyser::catchError},
+// In the order of their numbers from 1 on.
+constexpr const Node* (Analyser::*ANALYSES[])(Value arguments) = {
+    &Analyser::quote,   &Analyser::function, &Analyser::ifForm, &Analyser::cond,       &Analyser::andForm,
+    &Analyser::orForm,  &Analyser::progn,    &Analyser::setq,   &Analyser::whileForm,  &Analyser::repeat,
+    &Analyser::foreach, &Analyser::lambda,   &Analyser::defun,  &Analyser::catchError,
 };
+static_assert(std::size(ANALYSES) == std::size(SPECIAL_FORM_NAMES));
 
 const Node* Analyser::node(Value form) {
     m_machine.checkDepth();
@@ -92,7 +86,7 @@ const Node* Analyser::list(Value form) {
     m_form = head.isSymbol() ? head.asSymbol() : nullptr;
     try {
         if (m_form && m_form->specialForm)
-            result = (this->*SPECIAL_FORMS[m_form->specialForm - 1].analyse)(arguments);
+            result = (this->*ANALYSES[m_form->specialForm - 1])(arguments);
         else if (m_form)
             result = call(m_form, arguments);
         else
@@ -242,7 +236,7 @@ const Node* Analyser::call(Symbol* name, Value arguments) {
             NativeFunction native;
             const Node* (*make)(Code&, Place, Symbol*, NodeList);
         };
-        static constexpr Fast fastForms[] = {
+        static constexpr Fast FAST_FORMS[] = {
             {addNumbers, makeArithmetic<Add>},
             {subtractNumbers, makeArithmetic<Subtract>},
             {multiplyNumbers, makeArithmetic<Multiply>},
@@ -255,7 +249,7 @@ const Node* Analyser::call(Symbol* name, Value arguments) {
             {compareGreaterOrEqual, makeArithmetic<GreaterOrEqual>},
         };
         NativeFunction native = name->value.asFunction()->native;
-        for (const Fast& fast : fastForms)
+        for (const Fast& fast : FAST_FORMS)
             if (fast.native == native) return fast.make(m_code, m_place, name, std::move(list));
     }
     return m_code.make<CallNode>(m_place, name, std::move(list));
@@ -272,7 +266,8 @@ Code* analyse(Machine& machine, Value form) {
 
 void defineSpecialForms(Machine& machine) {
     uint8_t number = 0;
-    for (const SpecialForm& form : SPECIAL_FORMS) machine.symbols.intern(form.name)->specialForm = ++number;
+    for (const std::u16string_view name : SPECIAL_FORM_NAMES)
+        machine.symbols.intern(name)->specialForm = ++number;
 }
 
 bool isLambda(Machine& machine, Value list) {

@@ -17,7 +17,7 @@ Value carCdr(Call& call) {
     return value;
 }
 
-constexpr const char16_t* paths[] = {u"a",    u"d",    u"aa",   u"ad",   u"da",   u"dd",   u"aaa",  u"aad",
+constexpr const char16_t* PATHS[] = {u"a",    u"d",    u"aa",   u"ad",   u"da",   u"dd",   u"aaa",  u"aad",
                                      u"ada",  u"add",  u"daa",  u"dad",  u"dda",  u"ddd",  u"aaaa", u"aaad",
                                      u"aada", u"aadd", u"adaa", u"adad", u"adda", u"addd", u"daaa", u"daad",
                                      u"dada", u"dadd", u"ddaa", u"ddad", u"ddda", u"dddd"};
@@ -156,7 +156,7 @@ constexpr Definition FUNCTIONS[] = {
 
 void defineListFunctions(Interpreter& lisp) {
     defineAll(lisp, FUNCTIONS);
-    for (const char16_t* path : paths)
+    for (const char16_t* path : PATHS)
         lisp.defineNative(u"c" + std::u16string(path) + u"r", carCdr, const_cast<char16_t*>(path), 1, 1);
 }
 

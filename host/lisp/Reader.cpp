@@ -3,25 +3,9 @@
 #include <algorithm>
 
 #include "host/lisp/Machine.h"
-#include "host/lisp/Text.h"
+#include "host/lisp/Tokens.h"
 
 namespace lisp {
-
-namespace {
-
-bool isBlank(char16_t c) { return c <= u' ' || c == 0xA0 || c == 0xFEFF; }
-bool endsToken(char16_t c) {
-    return isBlank(c) || c == u'(' || c == u')' || c == u'"' || c == u';' || c == u'\'';
-}
-
-int digitValue(char16_t c) {
-    if (c >= u'0' && c <= u'9') return c - u'0';
-    if (c >= u'a' && c <= u'f') return c - u'a' + 10;
-    if (c >= u'A' && c <= u'F') return c - u'A' + 10;
-    return 99;
-}
-
-}  // namespace
 
 Reader::Reader(Machine& machine, std::u16string_view text, uint32_t file, uint32_t line)
     : m_machine(machine), m_text(text), m_line(line ? line : 1), m_file(file), m_countsLines(!line) {}
@@ -93,7 +77,7 @@ Value Reader::list() {
         }
         uint32_t line = first ? m_line : opened;
         bool dot =
-            last && peek() == u'.' && (m_position + 1 == m_text.size() || endsToken(m_text[m_position + 1]));
+            last && peek() == u'.' && (m_position + 1 == m_text.size() || endsWord(m_text[m_position + 1]));
         if (dot) {
             take();
             skipBlanks();
@@ -119,74 +103,24 @@ Value Reader::string() {
         if (atEnd()) fail(u"the string that opens here is not closed", opened);
         char16_t c = take();
         if (c == u'"') return Value::of(m_machine.heap.string(std::move(text)));
-        if (c == u'\\' && !atEnd())
-            appendEscape(text);
-        else
+        if (c == u'\\' && !atEnd()) {
+            const char16_t letter = take();
+            text += escaped(letter, m_text, m_position);
+        } else {
             text += c;
+        }
     }
-}
-
-void Reader::appendEscape(std::u16string& text) {
-    char16_t c = take();
-    switch (c) {
-        case u'n':
-            text += u'\n';
-            return;
-        case u'r':
-            text += u'\r';
-            return;
-        case u't':
-            text += u'\t';
-            return;
-        case u'e':
-            text += u'\x1B';
-            return;
-        case u'U':
-            text += takeUnicode().value_or(c);
-            return;
-        default:
-            break;
-    }
-    if (digitValue(c) >= 8) {
-        text += c;
-        return;
-    }
-    uint32_t code = uint32_t(digitValue(c));
-    for (int i = 0; i < 2 && !atEnd() && digitValue(peek()) < 8; ++i)
-        code = code << 3 | uint32_t(digitValue(take()));
-    text += char16_t(code);
-}
-
-// The character behind `\U`, where a plus sign and four hexadecimal digits follow.
-std::optional<char16_t> Reader::takeUnicode() {
-    if (m_text.size() - m_position < 5 || peek() != u'+') return std::nullopt;
-    uint32_t code = 0;
-    for (size_t i = 1; i <= 4; ++i) {
-        int digit = digitValue(m_text[m_position + i]);
-        if (digit >= 16) return std::nullopt;
-        code = code << 4 | uint32_t(digit);
-    }
-    m_position += 5;
-    return char16_t(code);
 }
 
 Value Reader::atom() {
     size_t start = m_position;
-    while (!atEnd() && !endsToken(peek())) ++m_position;
+    while (!atEnd() && !endsWord(peek())) ++m_position;
     std::u16string_view token = m_text.substr(start, m_position - start);
     if (token == u".") fail(u"a dot outside of a list", m_line);
-    bool digits = token.find_first_of(u"0123456789") != token.npos;
-    bool signedOrDigit =
-        digitValue(token[0]) < 10 || token[0] == u'+' || token[0] == u'-' || token[0] == u'.';
-    if (digits && signedOrDigit) {
-        if (std::optional<double> number = parseReal(token)) {
-            bool whole = token.find_first_of(u".eE") == token.npos;
-            if (whole && *number >= INT32_MIN && *number <= INT32_MAX)
-                return Value::integer(int32_t(*number));
-            return Value::real(*number);
-        }
-    }
-    return m_machine.interpreter.symbol(token);
+    const std::optional<Number> number = numberOf(token);
+    if (!number) return m_machine.interpreter.symbol(token);
+    const auto* integer = std::get_if<int32_t>(&*number);
+    return integer ? Value::integer(*integer) : Value::real(std::get<double>(*number));
 }
 
 void Reader::fail(std::u16string message, uint32_t line) const {
@@ -219,7 +153,7 @@ bool Reader::isComplete(std::u16string_view text) {
 }
 
 bool isWord(std::u16string_view text) {
-    return !text.empty() && std::none_of(text.begin(), text.end(), endsToken);
+    return !text.empty() && std::none_of(text.begin(), text.end(), endsWord);
 }
 
 std::u16string readable(std::u16string_view text) {

@@ -1,7 +1,6 @@
 // Reads forms from text.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -33,8 +32,6 @@ class Reader {
     Value list();
     Value string();
     Value atom();
-    void appendEscape(std::u16string& text);
-    std::optional<char16_t> takeUnicode();
     [[noreturn]] void fail(std::u16string message, uint32_t line) const;
 
     Machine& m_machine;
