@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/lisp/Text.h"
+#include "host/lisp/Tokens.h"
 
 namespace check {
 

@@ -19,6 +19,8 @@ namespace {
 // Larger grids are left to the program.
 constexpr uint64_t MOST_CELLS = 20'000;
 constexpr wchar_t BETWEEN_NAMES = L'\x1f', BETWEEN_PATHS = L'\x1e';
+// The control type of a cell with a box to tick.
+constexpr int32_t TICK_BOX = 52501;
 constexpr std::wstring_view CELL = L"3cell";
 constexpr std::wstring_view PLACE = L"0place";
 constexpr std::wstring_view FOCUS = L"6focus";
@@ -84,8 +86,38 @@ std::optional<std::wstring> openBranches(HWND window) {
     return paths;
 }
 
+// Those that the program opens by itself may have been closed.
 void setOpenBranches(HWND tree, const std::wstring& paths) {
+    const auto items = itemsOf(tree);
+    const std::wstring meant = BETWEEN_PATHS + paths;
+    for (int at = 0; at < items->count(); ++at) {
+        const std::wstring path = BETWEEN_PATHS + pathOf(*items->tree(), at) + BETWEEN_PATHS;
+        if (items->tree()->isOpen(at) && meant.find(path) == meant.npos)
+            SendMessageW(tree, TVM_EXPAND, TVE_COLLAPSE, handleOf(*items, at));
+    }
     forEachPath(tree, paths, [=](LPARAM item) { SendMessageW(tree, TVM_EXPAND, TVE_EXPAND, item); });
+}
+
+// --- lists that were sorted by a click on a head: the column and its direction
+
+std::optional<std::wstring> sortedBy(HWND list) {
+    if (windowClass(list) != L"SysListView32") return std::nullopt;
+    const std::vector<ColumnHead> heads = columnHeads(list);
+    for (int column = 0; column < std::ssize(heads); ++column)
+        if (heads[column].direction) return joined({column, heads[column].direction});
+    return L"";
+}
+
+// The first click sorts up and the second one down.
+void sortBy(HWND list, const std::wstring& column) {
+    const std::vector<int> numbers = numbersIn(column);
+    if (numbers.size() < 2) return;
+    NMLISTVIEW notice{};
+    notice.hdr = {list, static_cast<UINT_PTR>(GetDlgCtrlID(list)), static_cast<UINT>(LVN_COLUMNCLICK)};
+    notice.iItem = -1;
+    notice.iSubItem = numbers[0];
+    for (int clicks = numbers[1] > 0 ? 1 : 2; clicks > 0; --clicks)
+        SendMessageW(GetParent(list), WM_NOTIFY, notice.hdr.idFrom, reinterpret_cast<LPARAM>(&notice));
 }
 
 // --- texts and ticks
@@ -153,6 +185,34 @@ void setSelected(HWND window, const std::wstring& entries) {
     }
 }
 
+// --- the cell of a grid on which a person stands
+
+std::optional<std::wstring> currentCell(HWND window) {
+    const auto grid = gridOf(window);
+    if (!grid) return std::nullopt;
+    const GridTableLook table = grid->table();
+    if (!table.hasCurrent) return L"";
+    return joined({static_cast<int>(table.current.row), static_cast<int>(table.current.column)});
+}
+
+// By a press, as a grid has no other way to be told. The focus stays where it is.
+void setCurrentCell(HWND window, const std::wstring& place) {
+    const std::vector<int> numbers = numbersIn(place);
+    if (numbers.size() < 2) return;
+    const auto grid = gridOf(window);
+    const auto spot =
+        grid->bringIntoView({static_cast<uint32_t>(numbers[0]), static_cast<uint32_t>(numbers[1])});
+    const auto cell = grid->cell({static_cast<uint32_t>(numbers[0]), static_cast<uint32_t>(numbers[1])});
+    const auto hit = spot ? grid->hit(spot->point) : std::nullopt;
+    // A press would change these.
+    if (!hit || !cell || cell->controlType == TICK_BOX || hit->opensChoices) return;
+    const HWND focus = GetFocus();
+    const LPARAM at = MAKELPARAM(spot->point.x, spot->point.y);
+    SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, at);
+    SendMessageW(window, WM_LBUTTONUP, 0, at);
+    if (focus && focus != GetFocus() && IsWindow(focus)) SetFocus(focus);
+}
+
 // --- how far it is scrolled
 
 std::optional<std::wstring> firstInView(HWND window) {
@@ -161,6 +221,13 @@ std::optional<std::wstring> firstInView(HWND window) {
     if (name == L"ListBox") return asked(LB_GETTOPINDEX);
     if (name == L"SysListView32") return asked(LVM_GETTOPINDEX);
     if (name == L"Edit") return asked(EM_GETFIRSTVISIBLELINE);
+    if (name == L"SysTreeView32") {
+        const auto items = itemsOf(window);
+        const LRESULT first = SendMessageW(window, TVM_GETNEXTITEM, TVGN_FIRSTVISIBLE, 0);
+        for (int at = 0; at < items->count(); ++at)
+            if (handleOf(*items, at) == static_cast<int32_t>(first)) return pathOf(*items->tree(), at);
+        return L"";
+    }
     if (const auto grid = gridOf(window)) {
         const GridTableLook table = grid->table();
         return joined({static_cast<int>(table.first.row), static_cast<int>(table.first.column)});
@@ -178,6 +245,10 @@ void scrollGrid(const GridWindow& grid, const std::vector<int>& to) {
 
 void setFirstInView(HWND window, const std::wstring& place) {
     const std::wstring name = windowClass(window);
+    if (name == L"SysTreeView32")
+        return forEachPath(window, place, [=](LPARAM item) {
+            SendMessageW(window, TVM_SELECTITEM, TVGN_FIRSTVISIBLE, item);
+        });
     const std::vector<int> numbers = numbersIn(place);
     if (numbers.empty()) return;
     if (name == L"ListBox") {
@@ -200,9 +271,14 @@ struct Aspect {
 };
 
 constexpr Aspect ASPECTS[] = {
-    {L"1page", page, setPage},        {L"2open", openBranches, setOpenBranches},
-    {L"3check", check, setCheck},     {L"4selected", selected, setSelected},
-    {L"4text", enteredText, setText}, {L"5first", firstInView, setFirstInView},
+    {L"1page", page, setPage},
+    {L"2open", openBranches, setOpenBranches},
+    {L"2sorted", sortedBy, sortBy},
+    {L"3check", check, setCheck},
+    {L"4current", currentCell, setCurrentCell},
+    {L"4selected", selected, setSelected},
+    {L"4text", enteredText, setText},
+    {L"5first", firstInView, setFirstInView},
 };
 
 std::wstring keyOf(std::wstring_view what, int id) { return std::wstring(what) + L" " + std::to_wstring(id); }

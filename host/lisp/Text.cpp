@@ -141,13 +141,6 @@ std::u16string lowerCase(std::u16string_view text) {
     return result;
 }
 
-std::u16string_view trimmed(std::u16string_view text) {
-    constexpr std::u16string_view BLANKS = u" \t\r\n";
-    const size_t first = text.find_first_not_of(BLANKS);
-    if (first == text.npos) return {};
-    return text.substr(first, text.find_last_not_of(BLANKS) - first + 1);
-}
-
 std::u16string decimal(int64_t number) {
     char digits[24];
     char* end = std::to_chars(digits, digits + sizeof digits, number).ptr;

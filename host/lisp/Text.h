@@ -20,9 +20,6 @@ char16_t lowerCase(char16_t letter);
 std::u16string upperCase(std::u16string_view text);
 std::u16string lowerCase(std::u16string_view text);
 
-// Without the blanks and line ends at its ends.
-std::u16string_view trimmed(std::u16string_view text);
-
 std::u16string decimal(int64_t number);
 // The shortest text that reads back as the same real, always with a point or an exponent.
 std::u16string decimal(double number);

@@ -2,7 +2,7 @@
 # The check finds nothing wrong with the programs of this tree: examples, the examples of the documents, sessions of the tests.
 . "$(dirname "${BASH_SOURCE[0]}")/../support/headless.sh"
 
-tests/support/doc_examples.awk "$work" README.md docs/lisp-functions.md docs/sessions.md docs/dialogs.md
+tests/support/doc_examples.awk "$work" README.md docs/lisp-functions.md docs/sessions.md docs/dialogs.md docs/for-authors.md
 checked=0 failed=0
 check() { # HOST FILE…
     checked=$((checked + 1))

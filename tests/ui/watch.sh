@@ -23,6 +23,7 @@ save() { cat >"$work/saved" && mv "$work/saved" "$work/$1"; }
 
 mkdir "$work/bin"
 cp -r build/windows/bin/. "$work/bin"
+cp build/windows/testbin/WexDialogs.d/Odd.dll "$work/bin/WexDialogs.d"
 head='(load "part.lsp") (setq turns 0)
 (wex_new_dialog "ADD_REC")
 (wex_action_tile "HELP" "(wex_new_dialog \"CONFIRM_DELREC\") (wex_start_dialog)")
@@ -66,6 +67,42 @@ printf '"second text")' >>"$work/part.lsp"
 until_printed 'three is ready'
 grep -qF '"second text"' "$work/printed" || fail "the new value doesn't show"
 [ "$(grep -c 'runs anew$' <(tr -d '\r' <"$work/errors"))" = 2 ] || fail "the program was to run anew twice by now"
+
+# comes_back DIALOG PROGRAM WORK SIGN: what the work leaves is there again after the next save, once the sign holds
+comes_back() {
+    save form.lsp <<<"$2
+(ui_session \"$1\" '($3 (print (state)) (princ \"\\n$1 was worked\\n\") (ui_wait nil)))
+(wex_start_dialog)"
+    until_printed "$1 was worked"
+    save form.lsp <<<"$2
+(ui_session \"$1\" '((ui_wait $4) (print (state)) (princ \"\\n$1 is back\\n\") (ui_wait nil)))
+(wex_start_dialog)"
+    until_printed "$1 is back"
+    local states
+    states=$(tr -d '\r' <"$work/printed" | grep -B1 -E "^$1 (was worked|is back)" | grep '^(')
+    [ "$(sort -u <<<"$states" | wc -l)" = 1 ] || fail "$1 comes back otherwise: $states"
+}
+
+comes_back ODD_KINDS '(defun of (tile what) (cdr (assoc what (ui_look tile))))
+(defun state () (list (of "TAB" "selected") (of "TREE" "expanded") (of "TREE" "path") (ui_items "LISTVIEW") (of "LISTVIEW" "selected")))
+(wex_new_dialog "ODD_KINDS")
+(wex_setaction_oninit "(wex_tab_add \"TAB\" \"one\" \"EDIT\") (wex_tab_add \"TAB\" \"two\" \"COMBO\")
+  (foreach name (list \"closed\" \"opened\")
+    (setq branch (wex_tree_insertparent \"TREE\" name))
+    (repeat 20 (wex_tree_insertchild \"TREE\" branch (itoa (setq leaves (if leaves (1+ leaves) 0)))))
+    (if (= name \"closed\") (wex_tree_expanditem \"TREE\" branch 1)))
+  (wex_listctrl_allowsorting \"LISTVIEW\" T)")
+(wex_listctrl_setcolumns "LISTVIEW" "\tName")
+(wex_start_list "LISTVIEW") (wex_add_list (list "b" "c" "a")) (wex_end_list)' \
+    '(ui_pick "TAB" 1) (ui_expand "TREE" "closed") (ui_expand "TREE" "opened") (ui_pick "TREE" "39")
+     (ui_header "LISTVIEW" 0) (ui_header "LISTVIEW" 0) (ui_pick "LISTVIEW" "b")' '(equal (of "TAB" "selected") (list 1))'
+
+comes_back EDIT_NONWD_ATTRS '(defun state ()
+  (list (cdr (assoc "current" (ui_look "LST"))) (cdr (assoc "first" (ui_look "LST"))) (cdr (assoc "text" (ui_cell "LST" 90 2))) (cdr (assoc "rect" (ui_look)))))
+(wex_new_dialog "EDIT_NONWD_ATTRS")
+(wex_setaction_oninit "(wex_grid_setrowcolumns \"LST\" 200 5) (wex_grid_setcell \"LST\" 90 2 100 \"old\")")' \
+    '(ui_drag "LEFT" -40 0) (ui_pick "LST" 90 2) (ui_type "LST" "new") (ui_key "ENTER") (ui_pick "LST" 91 1)' \
+    '(= (cdr (assoc "text" (ui_cell "LST" 90 2))) "new")'
 
 # A dialog in front of another opens again, when an add-on is saved.
 cp "$work/bin/WexDialogs.d/WireGauge.dll" "$work/addon"
