@@ -7,7 +7,6 @@
 
 #include "host/units/AngularUnits.h"
 #include "host/units/LinearUnits.h"
-#include "host/units/UnitFunctions.h"
 
 namespace units {
 namespace {
@@ -130,6 +129,55 @@ TEST(AngularUnits, ReadWithAndWithoutTheUnitsMark) {
     for (const auto* text : {L"45r", L"d", L"d30", L"45'", L"45dd", L"45 30", L"45d30 15", L"45d-30",
                              L"45d30'15'", L"45d30\"15", L"45d30\"\"", L"45d''", L"--45", L"45d30'15\"1"})
         EXPECT_FALSE(angleFromText(text, 2)) << text;
+}
+
+// Half a unit of the last place that a precision shows, in the value's own measure.
+double halfPlace(int unit, int precision, double value) {
+    switch (unit) {
+        case 1:
+            return 0.5 * std::pow(10, std::floor(std::log10(std::max(std::fabs(value), 1e-300))) - precision);
+        case 4:
+        case 5:
+            return 0.5 * std::ldexp(1, -precision);
+        default:
+            return 0.5 * std::pow(10, -precision);
+    }
+}
+
+double halfAngle(int unit, int precision) {
+    const double seconds = PI / 180 / 3600;
+    switch (unit) {
+        case 1:
+            return 0.5 * std::pow(10, -precision) / 180 * PI;
+        case 3:
+            return 0.5 * std::pow(10, -precision) / 200 * PI;
+        case 4:
+            return 0.5 * std::pow(10, -precision);
+        default:
+            return 0.5 * (precision == 0   ? 3600 * seconds
+                          : precision <= 2 ? 60 * seconds
+                                           : seconds * std::pow(10, -std::max(0, precision - 4)));
+    }
+}
+
+TEST(Units, WhatIsShownIsReadAgainToTheLastPlace) {
+    std::mt19937 random(20);
+    std::uniform_real_distribution<double> mantissa(-1, 1);
+    for (int round = 0; round < 5000; ++round) {
+        const int unit = 1 + static_cast<int>(random() % 5);
+        const int precision = static_cast<int>(random() % 9);
+        const double value = mantissa(random) * std::pow(10, static_cast<int>(random() % 7));
+        const auto text = distanceText(value, unit, precision);
+        const auto back = distanceFromText(*text, unit);
+        ASSERT_TRUE(back) << *text;
+        EXPECT_NEAR(*back, value, halfPlace(unit, precision, value) * (1 + 1e-6) + std::fabs(value) * 1e-14)
+            << *text;
+        const auto shown = angleText(value, unit, precision);
+        const auto angle = angleFromText(*shown, unit);
+        ASSERT_TRUE(angle) << *shown;
+        const double apart = std::fabs(std::remainder(*angle - value, TURN));
+        EXPECT_LE(apart, halfAngle(unit, precision) * (1 + 1e-6) + 1e-9) << *shown << " from " << value;
+    }
 }
 
 // What a box shows when it was left a first time stays at each later visit, and no negative zero is shown.
