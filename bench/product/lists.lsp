@@ -7,11 +7,13 @@
 (setq entries (texts 10000))
 (bench_bare_texts entries)
 
-(defun refill-by-one-call (key) (wex_start_list key 2) (wex_add_list entries))
-(defun refill-by-many-calls (key) (wex_start_list key 2) (foreach entry entries (wex_add_list entry)))
+(defun refill-by-one-call (key) (wex_start_list key 2) (wex_add_list entries) (wex_end_list))
+(defun refill-by-many-calls (key) (wex_start_list key 2) (foreach entry entries (wex_add_list entry)) (wex_end_list))
+
+(defun empty (key) (wex_start_list key 3) (wex_end_list))
 
 (defun list-row (name key id fill)
-  (session-row 'painted name (list 'wex_start_list key 3) (list fill key)
+  (session-row 'painted name (list 'empty key) (list fill key)
                (list 'bench_bare_empty id) (list 'bench_bare_fill id) 15))
 
 (wex_new_dialog "BENCH_LISTS")

@@ -9,8 +9,10 @@
   made)
 
 (defun use-rows (n) (setq rows (table-rows n)) (bench_bare_texts rows))
-(defun add-by-one-call () (wex_start_list "TABLE" 2) (wex_add_list rows))
-(defun add-by-many-calls () (wex_start_list "TABLE" 2) (foreach row rows (wex_add_list row)))
+(defun add-by-one-call () (wex_start_list "TABLE" 2) (wex_add_list rows) (wex_end_list))
+(defun add-by-many-calls () (wex_start_list "TABLE" 2) (foreach row rows (wex_add_list row)) (wex_end_list))
+
+(defun empty-table () (wex_start_list "TABLE" 3) (wex_end_list))
 
 (defun open-table (/ begun)
   (setq begun (bench_now))
@@ -19,11 +21,12 @@
   (wex_listctrl_setcolumns "TABLE" "\tText\tNumber\tDistance")
   (wex_start_list "TABLE")
   (wex_add_list rows)
+  (wex_end_list)
   (wex_start_dialog)
   (- (bench_now) begun))
 
 (defun live-row (name fill n)
-  (session-row 'painted name '(wex_start_list "TABLE" 3) (list fill) '(bench_bare_empty 112) '(bench_bare_fill 112) n))
+  (session-row 'painted name '(empty-table) (list fill) '(bench_bare_empty 112) '(bench_bare_fill 112) n))
 
 (defun measure-filling (count before-start live / name)
   (use-rows count)
@@ -39,7 +42,7 @@
 ; The rows as they came are sorted, and then what was sorted is reversed; in turns with the control's own sort of
 ; such rows by a number kept in its items.
 (defun refill ()
-  (wex_start_list "TABLE" 3)
+  (empty-table)
   (add-by-one-call)
   (wex_listctrl_allowsorting "TABLE" T)
   (bench_bare_empty 112)
