@@ -118,6 +118,9 @@ void paste(const Picture& from, POINT at, Picture& to) {
 
 Picture pictureOf(HWND window) {
     const NoCaret noCaret;
+    // Whether the desktop has told the active window of that by now depends on the moment, and its title
+    // shows it.
+    if (GetActiveWindow() == window) SendMessageW(window, WM_NCACTIVATE, TRUE, 0);
     const std::vector<HWND> menus = menuWindows();
     if (menus.empty()) return pictureOfOne(window);
     std::vector<HWND> windows = {window};

@@ -1,4 +1,5 @@
 ; The dialog of reports: its pages, its scroll bar, its layout, and the paper that it shows. Run at other scales too: what is in
+(host_warn nil)  ; what the functions refuse is tried on purpose
 ; pixels here is so at all of them.
 
 (if (not (boundp 'scale)) (setq scale 1.0))
