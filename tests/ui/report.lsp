@@ -1,6 +1,6 @@
 ; The dialog of reports: its pages, its scroll bar, its layout, and the paper that it shows. Run at other scales too: what is in
-(host_warn nil)  ; what the functions refuse is tried on purpose
 ; pixels here is so at all of them.
+(host_warn nil)  ; what the functions refuse is tried on purpose
 
 (if (not (boundp 'scale)) (setq scale 1.0))
 (setq tab 100 preview '(100 101) bar '(100 102) drawing '(100 103))
