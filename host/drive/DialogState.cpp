@@ -101,7 +101,7 @@ void setOpenBranches(HWND tree, const std::wstring& paths) {
 // --- lists that were sorted by a click on a head: the column and its direction
 
 std::optional<std::wstring> sortedBy(HWND list) {
-    if (windowClass(list) != L"SysListView32") return std::nullopt;
+    if (!hasWindowClass(list, WC_LISTVIEWW)) return std::nullopt;
     const std::vector<ColumnHead> heads = columnHeads(list);
     for (int column = 0; column < std::ssize(heads); ++column)
         if (heads[column].direction) return joined({column, heads[column].direction});

@@ -1,4 +1,4 @@
-// The class of a window, by which drive and recording know controls.
+// The class of a window, by which the host knows controls.
 #pragma once
 
 #include <windows.h>

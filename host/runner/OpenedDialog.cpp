@@ -7,13 +7,12 @@
 #include <map>
 #include <optional>
 
+#include "host/drive/WindowClass.h"
 #include "host/runner/Contrast.h"
 #include "src/platform/base/DialogResources.h"
-#include "src/platform/base/Text.h"
 
 namespace {
 
-constexpr int CLASS_NAME_CHARS = 255;
 constexpr wchar_t SAMPLE[] = L"Sample";
 // What is cut off around a text, so that no border is taken for it, and the mark of a check box or radio
 // button.
@@ -38,12 +37,6 @@ INT_PTR CALLBACK dialogProcedure(HWND, UINT message, WPARAM, LPARAM) noexcept {
     return message == WM_INITDIALOG;
 }
 
-std::wstring classOf(HWND window) {
-    wchar_t name[CLASS_NAME_CHARS + 1] = {};
-    GetClassNameW(window, name, CLASS_NAME_CHARS + 1);
-    return name;
-}
-
 DWORD styleOf(HWND window) { return static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)); }
 
 RECT rectIn(HWND dialog, HWND control) {
@@ -56,7 +49,7 @@ RECT rectIn(HWND dialog, HWND control) {
 PlacedControl placedControl(HWND dialog, HWND control) {
     const RECT rect = rectIn(dialog, control);
     return {GetDlgCtrlID(control),
-            classOf(control),
+            windowClass(control),
             static_cast<uint32_t>(styleOf(control)),
             {rect.left, rect.top, rect.right, rect.bottom}};
 }
@@ -147,8 +140,8 @@ class Picture {
 void putAroundsBelow(HWND dialog) {
     std::map<int, HWND> arounds;
     for (const HWND control : visibleControls(dialog)) {
-        const bool isFrame = styleOf(control) == FRAME_STYLE && classOf(control) == L"Button";
-        if (isFrame || equalIgnoringCase(classOf(control), L"SysTabControl32"))
+        const bool isFrame = styleOf(control) == FRAME_STYLE && windowClass(control) == L"Button";
+        if (isFrame || hasWindowClass(control, L"SysTabControl32"))
             arounds.emplace(GetDlgCtrlID(control), control);
     }
     for (const auto& [id, control] : arounds) {
@@ -187,7 +180,7 @@ std::wstring oneDecimal(double value) {
 }
 
 std::optional<std::wstring> paleText(HWND dialog, HWND control, const Picture& picture) {
-    const std::wstring className = classOf(control);
+    const std::wstring className = windowClass(control);
     if (!showsText(control, className)) return std::nullopt;
     const std::vector<uint32_t> pixels = picture.part(textArea(dialog, control, className));
     const double contrast = contrastOf(pixels);
@@ -233,7 +226,7 @@ std::vector<std::wstring> OpenedDialog::misplaced() const {
 std::vector<std::wstring> OpenedDialog::paleTexts() const {
     const std::vector<HWND> controls = visibleControls(m_window);
     for (const HWND control : controls) {
-        const std::wstring className = classOf(control);
+        const std::wstring className = windowClass(control);
         const bool isEmpty =
             (className == L"Static" || className == L"Edit") && GetWindowTextLengthW(control) == 0;
         if (isEmpty && showsText(control, className)) SetWindowTextW(control, SAMPLE);
