@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
 
 #include "src/dialog/CCtrlInfo.h"
 #include "src/dialog/ControlKind.h"
@@ -54,7 +55,7 @@ class TileControl {
 // What the dialog knows of a kind of control.
 struct ControlFamily {
     ControlKind kind;
-    const wchar_t* typeWord;
+    std::wstring_view typeWord;
     // Makes a wrapper; null leaves the control unwrapped.
     std::unique_ptr<TileControl> (*make)() = nullptr;
 
@@ -82,7 +83,7 @@ const ControlFamily* familyOfType(const CString& typeWord);
 // id.
 struct ExtraControl {
     int id;
-    const wchar_t* typeWord;
+    std::wstring_view typeWord;
     int resizeCode;
     std::unique_ptr<TileControl> (*make)();
 };

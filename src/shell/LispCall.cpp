@@ -165,24 +165,8 @@ CString LispCall::textOrDecimal() {
     return text.value_or(CString());
 }
 
-void LispCall::addTexts(std::vector<CString>& texts) {
-    const HostValue* node;
-    while ((node = next()) && node->type == HV_STRING) texts.emplace_back(node->value.stringValue);
-    if (node && node->type != HV_LIST_END) [[unlikely]]
-        warnOfArgument([&] { return shown(*node) + L" in the list is no string: the list ends before it"; });
-}
-
-std::vector<CString> LispCall::texts() {
-    std::vector<CString> texts;
-    const HostValue* node = next();
-    if (!node) return texts;
-    if (node->type == HV_LIST_BEGIN)
-        addTexts(texts);
-    else if (node->type == HV_STRING)
-        texts.emplace_back(node->value.stringValue);
-    else if (node->type != HV_NIL)
-        warnMistyped(*node, L"a string or a list of strings");
-    return texts;
+void LispCall::warnNoText(const HostValue& node) const {
+    warnOfArgument([&] { return shown(node) + L" in the list is no string: the list ends before it"; });
 }
 
 std::vector<CString> LispCall::listTexts() {
@@ -190,7 +174,7 @@ std::vector<CString> LispCall::listTexts() {
     const HostValue* node = next();
     if (!node) return texts;
     if (node->type == HV_LIST_BEGIN)
-        addTexts(texts);
+        forEachElement([&](const wchar_t* text) { texts.emplace_back(text); });
     else if (node->type != HV_NIL)
         warnMistyped(*node, L"a list of strings");
     return texts;

@@ -72,8 +72,18 @@ class LispCall {
     CString textOrEmpty() { return text().value_or(CString()); }
     // A string as it stands, a short or a long in decimal; empty for any other node.
     CString textOrDecimal();
-    // One string, or those of a list up to the first element that is none.
-    std::vector<CString> texts();
+    // `use` gets one string, or each of a list up to the first element that is none. The host's.
+    template <class Use>
+    void forEachText(Use use) {
+        const HostValue* node = next();
+        if (!node) return;
+        if (node->type == HV_LIST_BEGIN)
+            forEachElement(use);
+        else if (node->type == HV_STRING)
+            use(node->value.stringValue);
+        else if (node->type != HV_NIL)
+            warnMistyped(*node, L"a string or a list of strings");
+    }
     // The strings of a list up to the first element that is none; none for any other node.
     std::vector<CString> listTexts();
 
@@ -143,8 +153,15 @@ class LispCall {
     static int argumentNumber(const HostValue* node);
     // Tells the author of more arguments than the function takes.
     static void warnUnused();
-    // The strings from `node` up to the end of the list, or to the first element that is none.
-    void addTexts(std::vector<CString>& texts);
+    // Within a list, each string up to its end, or to the first element that is none.
+    template <class Use>
+    void forEachElement(Use use) {
+        const HostValue* node;
+        while ((node = next()) && node->type == HV_STRING) use(node->value.stringValue);
+        if (node && node->type != HV_LIST_END) [[unlikely]]
+            warnNoText(*node);
+    }
+    void warnNoText(const HostValue& node) const;
 
     const HostValue* m_next;
     const HostValue* m_last = nullptr;

@@ -13,7 +13,7 @@ bool isOperation(int operation) {
 }
 
 // The dialog is asked for with each item: an alert for the one before lets others run.
-void addItem(const CString& text) {
+void addItem(const wchar_t* text) {
     const WexDialog* dialog = dialogToWork();
     if (!dialog) return;
     CCtrlInfo* tile = dialog->m_listTile;
@@ -21,11 +21,14 @@ void addItem(const CString& text) {
         warn(WARN_NOT_NOW, NO_LIST);
         return alertText(TEXT_NO_LIST_OPEN);
     }
-    if (!tile->m_control) return tile->m_listItems.push_back(text);
+    if (!tile->m_control) {
+        tile->m_listItems.emplace_back(text);
+        return;
+    }
     CWnd& control = *tile->m_control;
     const ControlFamily* family = familyOfType(control.className());
     if (family && family->addEntry)
-        family->addEntry(control, text.c_str(), dialog->tileForControl(&control)->listOperation());
+        family->addEntry(control, text, dialog->tileForControl(&control)->listOperation());
     else
         warnOtherKind(control, L"list boxes, combo boxes and list controls");
 }
@@ -66,7 +69,7 @@ void startList(LispCall& call) {
 
 void addList(LispCall& call) {
     call.retVoid();
-    for (const CString& text : call.texts()) addItem(text);
+    call.forEachText(addItem);
 }
 
 void endList(LispCall& call) {
