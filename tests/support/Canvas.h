@@ -44,6 +44,12 @@ class Canvas {
     int m_width, m_height;
 };
 
+// What a window shows at a point of its client area.
+inline COLORREF colorAt(HWND window, int x, int y) {
+    UpdateWindow(window);
+    return GetPixel(ClientDC(window), x, y);
+}
+
 // What a window shows of itself, as Canvas::dots.
 inline std::vector<uint32_t> dotsOf(HWND window) {
     UpdateWindow(window);

@@ -2,10 +2,9 @@
 // preview of 200 by 200 pixels.
 #include <optional>
 
-#include "src/platform/host/HostLisp.h"
-#include "src/platform/host/HostPlugin.h"
 #include "src/platform/host/HostServices.h"
 #include "src/platform/mfc/Drawing.h"
+#include "tests/support/LispTable.h"
 #include "tests/ui/preview/PreviewProbe.h"
 
 namespace {
@@ -35,52 +34,38 @@ double number(const HostValue* argument) {
 }
 bool flag(const HostValue* argument) { return argument && argument->type != HV_NIL; }
 
-int32_t answer(bool yes) {
-    yes ? hostRetT() : hostRetNil();
-    return RESULT_SET;
-}
+void answer(bool yes) { yes ? hostRetT() : hostRetNil(); }
 
-int32_t load() { return answer(preview().loadDrawing(text(hostGetArgs()))); }
-int32_t loadByPath() { return answer(preview().loadDrawingByPath(text(hostGetArgs()))); }
-int32_t exists() { return answer(preview().blockExists(text(hostGetArgs()))); }
+void load() { answer(preview().loadDrawing(text(hostGetArgs()))); }
+void loadByPath() { answer(preview().loadDrawingByPath(text(hostGetArgs()))); }
+void exists() { answer(preview().blockExists(text(hostGetArgs()))); }
 
 // (p_show BLOCK [ZOOM FITOFF MODE])
-int32_t show() {
+void show() {
     const HostValue* name = hostGetArgs();
     const HostValue* zoom = name->next;
     if (!zoom) return answer(preview().showBlock(text(name)));
     const HostValue* fitOff = zoom->next;
-    return answer(preview().showBlockFull(text(name), number(zoom), flag(fitOff),
-                                          static_cast<int>(number(fitOff->next)), {0, 1, 0}, {0, 0, 1}));
+    answer(preview().showBlockFull(text(name), number(zoom), flag(fitOff),
+                                   static_cast<int>(number(fitOff->next)), {0, 1, 0}, {0, 0, 1}));
 }
 
 // (p_record BLOCK) of the loaded drawing, or else of the current one
-int32_t showRecord() {
+void showRecord() {
     HostDatabase* loaded = PreviewProbe(preview()).database();
     HostDatabase* database = loaded ? loaded : hostWorkingDatabase();
     HostBlockTable* blocks = database->openBlockTable(HOST_FOR_READ);
     HostBlockRecord* record = database->openBlock(blocks->getAt(text(hostGetArgs()).c_str()), HOST_FOR_READ);
     blocks->close();
-    return answer(preview().showBlockRecord(record));
+    answer(preview().showBlockRecord(record));
 }
 
-int32_t blocks() {
-    preview().listBlockNames();
-    return RESULT_SET;
-}
-
-int32_t blockSize() {
-    preview().getBlockSize(text(hostGetArgs()));
-    return RESULT_SET;
-}
-
-int32_t drawingSize() {
-    preview().getDatabaseSize();
-    return RESULT_SET;
-}
+void blocks() { preview().listBlockNames(); }
+void blockSize() { preview().getBlockSize(text(hostGetArgs())); }
+void drawingSize() { preview().getDatabaseSize(); }
 
 // (p_view CENTRE) gives height, width, target, direction and twist, flat
-int32_t view() {
+void view() {
     double height = 0, width = 0, twist = 0;
     HostPoint3d target;
     HostVector3d direction;
@@ -91,28 +76,22 @@ int32_t view() {
                                    direction.z, HV_REAL, twist, HV_NONE);
     hostRetList(all);
     hostRelRb(all);
-    return RESULT_SET;
 }
 
 // How many pixels of the middle row are red.
-int32_t span() {
+void span() {
     UpdateWindow(preview().m_hWnd);
     const ClientDC dc(preview().m_hWnd);
     int count = 0;
     for (int x = 0; x < PLACE.right; ++x) count += GetPixel(dc, x, PLACE.bottom / 2) == RED;
     hostRetInt(count);
-    return RESULT_SET;
 }
 
-struct Row {
-    const wchar_t* name;
-    HostLispFunction handler;
-};
-constexpr Row ROWS[] = {
-    {L"p_load", &load},      {L"p_load_path", &loadByPath},     {L"p_exists", &exists},
-    {L"p_show", &show},      {L"p_record", &showRecord},        {L"p_blocks", &blocks},
-    {L"p_size", &blockSize}, {L"p_drawing_size", &drawingSize}, {L"p_view", &view},
-    {L"p_span", &span},
+constexpr LispRow ROWS[] = {
+    {L"p_load", &entry<load>},      {L"p_load_path", &entry<loadByPath>},     {L"p_exists", &entry<exists>},
+    {L"p_show", &entry<show>},      {L"p_record", &entry<showRecord>},        {L"p_blocks", &entry<blocks>},
+    {L"p_size", &entry<blockSize>}, {L"p_drawing_size", &entry<drawingSize>}, {L"p_view", &entry<view>},
+    {L"p_span", &entry<span>},
 };
 
 }  // namespace
@@ -120,13 +99,7 @@ constexpr Row ROWS[] = {
 extern "C" {
 
 __declspec(dllexport) int32_t pluginEntryPoint(int32_t message, void*) {
-    for (int code = 0; code < static_cast<int>(std::size(ROWS)); ++code) {
-        if (message == PLUGIN_LOAD_DOCUMENT) {
-            hostDefun(ROWS[code].name, code);
-            hostRegFunc(ROWS[code].handler, code);
-        }
-        if (message == PLUGIN_UNLOAD_DOCUMENT) hostUndef(ROWS[code].name, code);
-    }
+    serve(ROWS, message);
     if (message == PLUGIN_UNLOAD) g_shown.reset();
     return 0;
 }

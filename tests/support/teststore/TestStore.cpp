@@ -3,17 +3,16 @@
 //
 //     (store_rows rows [count])    the rows, lists of strings, and how many it says there are
 //     (store_numbered n)           n rows of five fields, the first of them "P0", "P1" and so on
-//     (store_refuse [what])        "database": a setup needs one; "store": there is none; "services": there
-//     are none (store_log)                  what was asked since the last call
+//     (store_refuse [what])        "database": a setup needs one; "store": there is none
+//     (store_log)                  what was asked since the last call
 #include <windows.h>
 
 #include <string>
 #include <vector>
 
 #include "src/platform/host/HostDataStore.h"
-#include "src/platform/host/HostLisp.h"
-#include "src/platform/host/HostPlugin.h"
 #include "src/platform/host/HostServices.h"
+#include "tests/support/LispTable.h"
 
 namespace {
 
@@ -76,25 +75,20 @@ void setRows(const HostValue* at) {
     g_count = at ? at->value.shortValue : static_cast<int>(g_rows.size());
 }
 
-int32_t rows() {
-    setRows(hostGetArgs());
-    return RESULT_SET;
-}
+void rows() { setRows(hostGetArgs()); }
 
-int32_t numbered() {
+void numbered() {
     const HostValue* count = hostGetArgs();
     g_rows.clear();
     g_count = g_numbered = count->type == HV_LONG ? count->value.longValue : count->value.shortValue;
-    return RESULT_SET;
 }
 
-int32_t refuse() {
+void refuse() {
     const HostValue* what = hostGetArgs();
     g_refused = what ? what->value.stringValue : L"";
-    return RESULT_SET;
 }
 
-int32_t log() {
+void log() {
     HostValue* chain = nullptr;
     for (size_t at = g_log.size(); at-- > 0;) {
         HostValue* node = hostBuildList(HV_STRING, g_log[at].c_str(), 0);
@@ -104,15 +98,12 @@ int32_t log() {
     hostRetList(chain);
     hostRelRb(chain);
     g_log.clear();
-    return RESULT_SET;
 }
 
-struct Row {
-    const wchar_t* name;
-    HostLispFunction handler;
-};
-constexpr Row functions[] = {
-    {L"store_rows", &rows}, {L"store_numbered", &numbered}, {L"store_refuse", &refuse}, {L"store_log", &log}};
+constexpr LispRow ROWS[] = {{L"store_rows", &entry<rows>},
+                            {L"store_numbered", &entry<numbered>},
+                            {L"store_refuse", &entry<refuse>},
+                            {L"store_log", &entry<log>}};
 
 }  // namespace
 
@@ -121,14 +112,11 @@ extern "C" {
 __declspec(dllexport) HostDataStoreServices* wexmgdDataStoreServices() {
     static TestServices services;
     g_log.push_back(L"services");
-    return g_refused == L"services" ? nullptr : &services;
+    return &services;
 }
 
 __declspec(dllexport) int32_t pluginEntryPoint(int32_t message, void*) {
-    for (int i = 0; message == PLUGIN_LOAD_DOCUMENT && i < static_cast<int>(ARRAYSIZE(functions)); ++i) {
-        hostDefun(functions[i].name, i);
-        hostRegFunc(functions[i].handler, i);
-    }
+    serve(ROWS, message);
     return 0;
 }
 

@@ -6,8 +6,8 @@
 
 #include "src/platform/buttons/CXPStyleButtonST.h"
 #include "tests/support/Canvas.h"
+#include "tests/support/Messages.h"
 
-#include <commctrl.h>
 #include <oleacc.h>
 
 namespace {
@@ -79,14 +79,7 @@ TEST_F(ImageButton, saysWhatItDoesOnceThePointerComes) {
     for (int at : {5, 6}) button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(at, at));
     ASSERT_TRUE(tipWindow());
     EXPECT_EQ(SendMessageW(tipWindow(), TTM_GETTOOLCOUNT, 0, 0), 1);
-    wchar_t text[80] = {};
-    TTTOOLINFOW tool = {};
-    tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.hwnd = parent.m_hWnd;
-    tool.uId = reinterpret_cast<UINT_PTR>(window);
-    tool.lpszText = text;
-    SendMessageW(tipWindow(), TTM_GETTEXTW, ARRAYSIZE(text), reinterpret_cast<LPARAM>(&tool));
-    EXPECT_STREQ(text, L"Next (Alt+N)");
+    EXPECT_EQ(tipText(tipWindow(), parent.m_hWnd, reinterpret_cast<UINT_PTR>(window)), L"Next (Alt+N)");
     parent.DestroyWindow();
     EXPECT_FALSE(tipWindow());
 }

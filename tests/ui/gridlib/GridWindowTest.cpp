@@ -1,4 +1,5 @@
 // A grid's window: what is seen where, and how the mouse and the keyboard select, scroll and size.
+#include "tests/support/Canvas.h"
 #include "tests/ui/gridlib/Support.h"
 
 namespace {
@@ -38,11 +39,7 @@ TEST_F(GridTest, ScrollsAMillionRowsByKeysAndShowsWhatIsAskedFor) {
     GridPlace at{500'000, 3};
     EXPECT_TRUE(ask(GridQuestion::Show, &at));
     EXPECT_GT(look(500'000, 3).rect.height(), 0);
-    SCROLLINFO bar{};
-    bar.cbSize = sizeof bar;
-    bar.fMask = SIF_ALL;
-    pump();
-    GetScrollInfo(grid.m_hWnd, SB_VERT, &bar);
+    const SCROLLINFO bar = scrollBar(SB_VERT);
     ASSERT_TRUE(ask(GridQuestion::Table, &table));
     EXPECT_NEAR(1.0 * bar.nPos / bar.nMax, table.first.row / 1e6, 1e-5);
 
@@ -104,24 +101,15 @@ TEST_F(GridTest, ColumnsAreSizedByDragAndFitByDoubleClick) {
     grid.SetValueRange(CGXRange(2, 1), L"a text that is much longer than its column is wide");
     const PixelRect head = look(0, 1).rect;
     const auto at = [&](int x) { return MAKELPARAM(x, head.top + 4); };
-    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at(head.right - 1));
-    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(head.right + 29));
-    grid.SendMessage(WM_LBUTTONUP, 0, at(head.right + 29));
+    drag(at(head.right - 1), {at(head.right + 29)});
     EXPECT_EQ(look(0, 1).rect.width(), head.width() + 30);
-    const int right = look(0, 1).rect.right;
-    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, at(right - 1));
-    grid.SendMessage(WM_LBUTTONUP, 0, at(right - 1));
+    pressTwice(at(look(0, 1).rect.right - 1));
     EXPECT_GT(look(0, 1).width, 200);
     const PixelRect fitted = look(0, 1).rect;
-    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at(fitted.right - 1));
-    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(fitted.right + 5000));
-    grid.SendMessage(WM_LBUTTONUP, 0, at(fitted.right + 5000));
+    drag(at(fitted.right - 1), {at(fitted.right + 5000)});
     EXPECT_EQ(look(0, 1).rect.right, grid.GetClientRect().right) << "its border can be taken again";
     const int header = look(0, 0).rect.right;
-    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at(header - 1));
-    for (int x = header; x < 400; x += 50) grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(x - 1));
-    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at(400 - 1));
-    grid.SendMessage(WM_LBUTTONUP, 0, at(400 - 1));
+    drag(at(header - 1), {at(header + 49), at(header + 200), at(400 - 1)});
     EXPECT_EQ(look(0, 0).rect.right, 400) << "row headers may be wider than what they leave to the cells";
     EXPECT_EQ(grid.takeEvents(), Events()) << "nothing was selected";
 }
@@ -132,8 +120,7 @@ TEST_F(GridTest, RowFitsItsWrappedTextByDoubleClick) {
                        CGXStyle().SetWrapText(true).SetValue(L"several words that need some lines"));
     const int before = look(1, 1).height;
     const PixelRect head = look(2, 0).rect;
-    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(head.left + 4, head.bottom - 1));
-    grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(head.left + 4, head.bottom - 1));
+    pressTwice(MAKELPARAM(head.left + 4, head.bottom - 1));
     EXPECT_GT(look(2, 1).height, 2 * before);
     EXPECT_EQ(look(3, 1).height, before);
 }
@@ -154,17 +141,10 @@ TEST_F(GridTest, ColumnWiderThanTheWindowIsScrolledThrough) {
     grid.SendMessage(WM_HSCROLL, SB_LINELEFT);
     EXPECT_EQ(look(2, 1).rect.left, header);
     EXPECT_EQ(look(2, 1).rect.right, grid.GetClientRect().right);
-    UpdateWindow(grid.m_hWnd);
-    const ClientDC dc(grid.m_hWnd);
     const int middle = (look(2, 1).rect.top + look(2, 1).rect.bottom) / 2;
-    EXPECT_EQ(GetPixel(dc, header + 1, middle), green);
-    EXPECT_NE(GetPixel(dc, header / 4, middle), green) << "the row's header lies over it";
-    SCROLLINFO bar{};
-    bar.cbSize = sizeof bar;
-    bar.fMask = SIF_ALL;
-    pump();
-    GetScrollInfo(grid.m_hWnd, SB_HORZ, &bar);
-    EXPECT_GT(bar.nPos, 900);
+    EXPECT_EQ(colorAt(grid.m_hWnd, header + 1, middle), green);
+    EXPECT_NE(colorAt(grid.m_hWnd, header / 4, middle), green) << "the row's header lies over it";
+    EXPECT_GT(scrollBar(SB_HORZ).nPos, 900);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "src/platform/gridlib/CGXGridWnd.h"
 #include "src/platform/gridlib/GridWindowClass.h"
 #include "src/platform/mfc/ModuleState.h"
+#include "tests/support/Messages.h"
 
 class NotingGrid : public CGXGridWnd {
   public:
@@ -60,13 +61,6 @@ class GridTest : public testing::Test {
         grid.events.clear();
     }
 
-    static void pump() {
-        for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
-    }
-
     GridCellLook look(uint32_t row, uint32_t col) {
         GridCellLook cell;
         cell.at = {row, col};
@@ -83,14 +77,32 @@ class GridTest : public testing::Test {
         return MAKELPARAM((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
     }
 
+    SCROLLINFO scrollBar(int which) {
+        SCROLLINFO bar{};
+        bar.cbSize = sizeof bar;
+        bar.fMask = SIF_ALL;
+        pump();
+        GetScrollInfo(grid.m_hWnd, which, &bar);
+        return bar;
+    }
+
     void press(uint32_t row, uint32_t col, WPARAM keys = 0) {
         const LPARAM at = middle(row, col);
         grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | keys, at);
         grid.SendMessage(WM_LBUTTONUP, keys, at);
     }
+    // From one place to another, past the places between them.
+    void drag(LPARAM from, std::initializer_list<LPARAM> past) {
+        grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, from);
+        for (const LPARAM at : past) grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, at);
+        grid.SendMessage(WM_LBUTTONUP, 0, std::data(past)[past.size() - 1]);
+    }
     void doubleClick(uint32_t row, uint32_t col) {
-        const LPARAM at = middle(row, col);
         press(row, col);
+        pressTwice(middle(row, col));
+    }
+    // The second press of a double click.
+    void pressTwice(LPARAM at) {
         grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, at);
         grid.SendMessage(WM_LBUTTONUP, 0, at);
     }

@@ -4,14 +4,14 @@
 #include <gtest/gtest.h>
 
 #include "src/platform/gridlib/GridWindowClass.h"
+#include "tests/support/Messages.h"
 #include "tests/ui/tree/LiveObjects.h"
 
 namespace {
 
 struct WexGridTest : testing::Test {
     WexGridTest() {
-        parent.CreateEx(0, L"Static", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, RECT{0, 0, 300, 200}, nullptr,
-                        0);
+        parent.CreateEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, RECT{0, 0, 300, 200}, nullptr, 0);
     }
 
     void attach(WexGrid& grid) const {
@@ -21,10 +21,6 @@ struct WexGridTest : testing::Test {
         grid.begin();
     }
 
-    static void pump() {
-        for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) DispatchMessageW(&message);
-    }
-
     GridWindowClass windowClass;
     CWnd parent;
 };
@@ -32,8 +28,6 @@ struct WexGridTest : testing::Test {
 TEST_F(WexGridTest, BeginsLockedWithoutFrameAndColumnsAloneCanBeDragged) {
     WexGrid grid;
     attach(grid);
-    EXPECT_TRUE(IsWindowVisible(grid.m_hWnd));
-    EXPECT_TRUE(IsWindowEnabled(grid.m_hWnd));
     EXPECT_FALSE(grid.GetStyle() & WS_BORDER);
     EXPECT_FALSE(grid.GetExStyle() & WS_EX_STATICEDGE);
     const CGXGridParam& param = *grid.GetParam();
@@ -69,7 +63,7 @@ long leftBehind(const WexGridTest& test, int rounds) {
         SetFocus(grid.m_hWnd);
         grid.SendMessage(WM_CHAR, L'x');
         EXPECT_EQ(grid.GetValueRowCol(3, 1), L"x");
-        WexGridTest::pump();
+        pump();
         ::DestroyWindow(grid.m_hWnd);
     }
     return liveObjects() - before;

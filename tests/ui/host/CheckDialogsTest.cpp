@@ -1,9 +1,6 @@
 // The check of key lists against templates, run as a user runs it.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "tests/ui/host/HostProcess.h"
 
 namespace {
@@ -30,25 +27,25 @@ TEST(CheckDialogs, tellsWhatIsWrongInKeyListsTemplatesAndRoomForTexts) {
              "Odd.dll: template 2007 has no key list",
              "note: Odd.dll has key lists without a template: ODD_NO_TEMPLATE, ODD_LONG\n",
          })
-        EXPECT_NE(run.output.find(line), std::string::npos) << line << "\n" << run.output;
+        EXPECT_TRUE(has(run.output, line));
     // Icons need no room for their captions, and what is sound at one scale is sound at the others.
-    EXPECT_EQ(run.output.find("ODD_BUTTONS: control 123 cuts off"), std::string::npos) << run.output;
-    EXPECT_EQ(run.output.find("ODD_LOOKS: at "), std::string::npos) << run.output;
+    EXPECT_FALSE(has(run.output, "ODD_BUTTONS: control 123 cuts off"));
+    EXPECT_FALSE(has(run.output, "ODD_LOOKS: at "));
 }
 
 TEST(CheckDialogs, findsNothingInWhatIsShipped) {
     const HostRun run = startHost(L"bin", {L"--check-dialogs"});
     EXPECT_EQ(run.status, 0u);
-    EXPECT_NE(run.output.find(", 0 mismatches\n"), std::string::npos) << run.output;
+    EXPECT_TRUE(has(run.output, ", 0 mismatches\n"));
 }
 
 // The names of all dialogs with their titles, and the tiles of one of the product and of one of an add-on.
 TEST(ShowDialogs, tellsNamesAndTiles) {
     const HostRun all = startHost(L"bin", {L"--dialogs"});
     EXPECT_EQ(all.status, 0u);
-    EXPECT_NE(all.output.find("\nCONFIRM_DELREC "), std::string::npos) << all.output;
-    EXPECT_NE(all.output.find(" Wire Gauge "), std::string::npos) << all.output;
-    EXPECT_NE(all.output.find(" WireGauge.dll\n"), std::string::npos) << all.output;
+    EXPECT_TRUE(has(all.output, "\nCONFIRM_DELREC "));
+    EXPECT_TRUE(has(all.output, " Wire Gauge "));
+    EXPECT_TRUE(has(all.output, " WireGauge.dll\n"));
 
     const HostRun tiles = startHost(L"bin", {L"--dialogs", L"wire_gauge", L"NO_SUCH", L"SWITCH_CAT_FILE"});
     EXPECT_EQ(tiles.status, 1u);
@@ -56,8 +53,8 @@ TEST(ShowDialogs, tellsNamesAndTiles) {
     for (const char* row :
          {"\n B_PICK ", " 117 ", " image button ", "\n LABEL0 ", "\n CANCEL ", " 2 ", "Cancel\n",
           "SWITCH_CAT_FILE: Switch Catalog File\n", " default button ", " edit box, read only\n"})
-        EXPECT_NE(tiles.output.find(row), std::string::npos) << row << "\n" << tiles.output;
-    EXPECT_NE(tiles.errors.find("there is no dialog NO_SUCH"), std::string::npos) << tiles.errors;
+        EXPECT_TRUE(has(tiles.output, row));
+    EXPECT_TRUE(has(tiles.errors, "there is no dialog NO_SUCH"));
 }
 
 // One of the two files that the product's dialogs lie in brings the other.
@@ -65,15 +62,14 @@ TEST(CheckDialogs, takesTheProductByOneHalf) {
     const HostRun run =
         startHost(L"testbin", {L"--check-dialogs", buildFolder() + L"\\bin\\WexDialogsRes.dll"});
     EXPECT_EQ(run.status, 0u);
-    EXPECT_NE(run.output.find(" in 2 modules, 0 mismatches\n"), std::string::npos) << run.output;
+    EXPECT_TRUE(has(run.output, " in 2 modules, 0 mismatches\n"));
 }
 
 // A folder of add-ons, without the product: one that can't be loaded, one with capitals in its file name, and
 // its twin.
 TEST(CheckDialogs, goesOnAfterAModuleThatIsNoneAndTellsWhatIsTaken) {
     namespace fs = std::filesystem;
-    const fs::path folder = fs::path(buildFolder()) / L"checkbin";
-    const fs::path addOns = folder / L"WexDialogs.d";
+    const fs::path folder = fs::path(buildFolder()) / L"checkbin", addOns = folder / L"WexDialogs.d";
     fs::remove_all(folder);
     fs::create_directories(addOns);
     for (const wchar_t* file : {L"wexhost.exe", L"hostapi.dll"})
@@ -88,12 +84,11 @@ TEST(CheckDialogs, goesOnAfterAModuleThatIsNoneAndTellsWhatIsTaken) {
     const HostRun inFolder = startHost(L"checkbin", {L"--check-dialogs", addOns.wstring()});
     fs::remove_all(folder);
     EXPECT_EQ(all.status, 1u);
-    EXPECT_NE(inFolder.output.find("WexDialogs.d: is a folder: name the modules in it"), std::string::npos)
-        << inFolder.output;
-    EXPECT_NE(all.output.find("Broken.dll: can't be loaded"), std::string::npos) << all.output;
-    EXPECT_NE(all.output.find("ODD_MISTAKES: key \"b\" stands twice"), std::string::npos) << all.output;
-    EXPECT_EQ(all.output.find("ODD_KINDS: is in"), std::string::npos) << all.output;
-    EXPECT_NE(twin.output.find("ODD_KINDS: is in FIRST.DLL already"), std::string::npos) << twin.output;
+    EXPECT_TRUE(has(inFolder.output, "WexDialogs.d: is a folder: name the modules in it"));
+    EXPECT_TRUE(has(all.output, "Broken.dll: can't be loaded"));
+    EXPECT_TRUE(has(all.output, "ODD_MISTAKES: key \"b\" stands twice"));
+    EXPECT_FALSE(has(all.output, "ODD_KINDS: is in"));
+    EXPECT_TRUE(has(twin.output, "ODD_KINDS: is in FIRST.DLL already"));
 }
 
 }  // namespace

@@ -2,13 +2,7 @@
 
 #include <windows.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include "host/services/CommandLine.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -18,29 +12,19 @@ constexpr wchar_t TIMEOUT_SECONDS[] = L"30";
 // A file that the started program takes as one of its standard streams.
 class Stream {
   public:
-    explicit Stream(const wchar_t* name) : m_file((std::to_wstring(GetCurrentProcessId()) + name).c_str()) {
+    explicit Stream(const std::wstring& path) {
         SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-        m_handle = CreateFileW(m_file.path.c_str(), GENERIC_READ | GENERIC_WRITE,
+        m_handle = CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE,
                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inherited,
-                               CREATE_ALWAYS, 0, nullptr);
+                               OPEN_ALWAYS, 0, nullptr);
     }
     ~Stream() { CloseHandle(m_handle); }
     Stream(const Stream&) = delete;
     Stream& operator=(const Stream&) = delete;
 
-    HANDLE handle() const { return m_handle; }
-    void fill(const std::string& text) const {
-        DWORD written;
-        WriteFile(m_handle, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
-        SetFilePointer(m_handle, 0, nullptr, FILE_BEGIN);
-    }
-    std::string text() const {
-        std::ifstream file(m_file.path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    operator HANDLE() const { return m_handle; }
 
   private:
-    TempFile m_file;
     HANDLE m_handle;
 };
 
@@ -60,10 +44,15 @@ unsigned runProcess(std::wstring command, STARTUPINFOW& startup) {
 
 }  // namespace
 
+testing::AssertionResult has(const std::string& text, const std::string& part) {
+    if (text.find(part) != text.npos) return testing::AssertionSuccess() << part;
+    return testing::AssertionFailure() << "no \"" << part << "\" in\n" << text;
+}
+
 std::wstring buildFolder() {
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
-    return fs::path(path).parent_path().parent_path().wstring();
+    wchar_t path[MAX_PATH];
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return std::filesystem::path(path).parent_path().parent_path().wstring();
 }
 
 HostRun startHost(const wchar_t* folder, const std::vector<std::wstring>& arguments,
@@ -71,17 +60,15 @@ HostRun startHost(const wchar_t* folder, const std::vector<std::wstring>& argume
     std::wstring command = quotedArgument(buildFolder() + L'\\' + folder + L"\\wexhost.exe");
     for (const std::wstring& argument : arguments) command += L" " + quotedArgument(argument);
 
-    const Stream in(L"in.txt");
-    const Stream out(L"out.txt");
-    const Stream errors(L"err.txt");
-    in.fill(input);
+    const TempFolder streams;
+    const Stream in(streams.file("in", input)), out(streams.file("out")), errors(streams.file("errors"));
     STARTUPINFOW startup = {sizeof startup};
     startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdInput = in.handle();
-    startup.hStdOutput = out.handle();
-    startup.hStdError = errors.handle();
+    startup.hStdInput = in;
+    startup.hStdOutput = out;
+    startup.hStdError = errors;
     const unsigned status = runProcess(command, startup);
-    return {status, out.text(), errors.text()};
+    return {status, bytesOf(streams.file("out")), bytesOf(streams.file("errors"))};
 }
 
 HostRun runHost(const std::vector<std::wstring>& arguments, const std::string& input) {
@@ -95,10 +82,9 @@ HostRun evaluate(const std::wstring& expression) {
 }
 
 HostRun runProgram(const std::string& text, const std::vector<std::wstring>& options) {
-    const TempFile program(L"program.lsp");
-    std::ofstream(program.path, std::ios::binary) << text;
+    const TempFolder folder;
     std::vector<std::wstring> arguments = {L"--headless", L"--timeout", TIMEOUT_SECONDS};
     arguments.insert(arguments.end(), options.begin(), options.end());
-    arguments.push_back(program.path.wstring());
+    arguments.push_back(folder.file("program.lsp", text));
     return runHost(arguments);
 }

@@ -1,31 +1,21 @@
 // Runs wexhost.exe in a process of its own and gathers what it prints.
 #pragma once
 
-#include <filesystem>
-#include <initializer_list>
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
-// A path in the temporary folder. What is there goes with the object.
-class TempFile {
-  public:
-    explicit TempFile(const wchar_t* name) : path(std::filesystem::temp_directory_path() / name) {}
-    // Fails while a service that the first program started still has the file; it is written anew next time.
-    ~TempFile() {
-        std::error_code ignored;
-        std::filesystem::remove(path, ignored);
-    }
-    TempFile(const TempFile&) = delete;
-    TempFile& operator=(const TempFile&) = delete;
-
-    const std::filesystem::path path;
-};
+#include "tests/support/TempFolder.h"
 
 struct HostRun {
     unsigned status;
     std::string output;
     std::string errors;
 };
+
+// Whether the text has that part.
+testing::AssertionResult has(const std::string& text, const std::string& part);
 
 // The folder of what was built, in which the host stands in bin, and beside the tests' own modules in
 // testbin.

@@ -1,8 +1,6 @@
 // Lisp calls functions of a plug-in, and the plug-in calls Lisp.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "tests/ui/host/HostProcess.h"
 
 namespace {
@@ -52,7 +50,7 @@ TEST(LispBridge, CallsNest) {
 TEST(LispBridge, AnErrorInACallbackIsReportedAndThePluginGoesOn) {
     const HostRun run = runProgram("(prin1 (t_invoke \"car\" 5))");
     EXPECT_EQ(run.output, "(-5001 8)");
-    EXPECT_NE(run.errors.find("argument 1: expected a list, got 5"), std::string::npos) << run.errors;
+    EXPECT_TRUE(has(run.errors, "argument 1: expected a list, got 5"));
     EXPECT_EQ(run.status, 1U);
 }
 
@@ -84,17 +82,13 @@ TEST(LispBridge, AFunctionThatWasKeptBeyondItsPluginIsAnError) {
 
 // Each tells its own messages: the first one has also seen a document open and close.
 TEST(LispBridge, OfTwoPluginsWithTheSameNamesTheNewestIsCalledWhileItIsThere) {
-    const std::filesystem::path first = buildFolder() + L"/tests/testplugin.pgx";
-    const TempFile copy(L"second.pgx");
-    const std::filesystem::path& second = copy.path;
-    std::filesystem::copy_file(first, second, std::filesystem::copy_options::overwrite_existing);
-    const auto load = [](const auto& path) {
-        return "(host_load_plugin \"" + path.generic_string() + "\") ";
-    };
+    const TempFolder folder;
+    std::filesystem::copy(buildFolder() + L"/tests/testplugin.pgx", folder.file("second.pgx"));
+    const std::string load = "(host_load_plugin \"" + folder.path.generic_string() + "/second.pgx\") ";
     EXPECT_EQ(
-        values("(host_open_document) (host_close_document) " + load(second) +
-               "(t_messages) (host_unload_plugin) (t_messages) " + load(second) +
-               "(host_unload_plugin \"TestPlugin.pgx\") (t_messages) (t_unbound) " + tried(load(second)) +
+        values("(host_open_document) (host_close_document) " + load +
+               "(t_messages) (host_unload_plugin) (t_messages) " + load +
+               "(host_unload_plugin \"TestPlugin.pgx\") (t_messages) (t_unbound) " + tried(load) +
                "(host_unload_plugin) (type t_messages) " + tried("(host_unload_plugin \"second.pgx\")")),
         "2\n1\nT\n\"13\"\nT\n\"1334\"\nT\nT\n\"13\"\n\"by message\"\n"
         "\"program.lsp:1: (host_load_plugin): second.pgx is loaded already\"\nT\nnil\n"
@@ -102,9 +96,9 @@ TEST(LispBridge, OfTwoPluginsWithTheSameNamesTheNewestIsCalledWhileItIsThere) {
 }
 
 TEST(LispBridge, AFileOfTextIsUtf8WithAMarkWhereItIsAskedFor) {
-    const TempFile file(L"written.txt");
-    EXPECT_EQ(values("(progn (setq file \"" + file.path.generic_string() +
-                     "\") 0) (t_write file \"äb\" T nil) (file-size file) "
+    const TempFolder folder;
+    EXPECT_EQ(values("(progn (setq file \"" + folder.path.generic_string() +
+                     "/written.txt\") 0) (t_write file \"äb\" T nil) (file-size file) "
                      "(t_write file \"äb\" T T) (file-size file) (t_write file \"c\" nil nil)"),
               "0\n0\n3\n0\n6\n80\n");
 }

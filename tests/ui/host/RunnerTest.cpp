@@ -24,7 +24,7 @@ TEST(Runner, ThePromptGoesOnOverLinesAndErrors) {
         runHost({L"--headless", L"-i"},
                 "(+ 1\r\n 2)\n(car 5)\n(princ)\n(defun c:greet () \"hello\")\ngreet\nt\n\"gr\xC3\xBCn\"");
     EXPECT_EQ(run.output, "3\n\nC:GREET\n\"hello\"\nT\n\"gr\xC3\xBCn\"\n");
-    EXPECT_NE(run.errors.find("(car): argument 1"), std::string::npos) << run.errors;
+    EXPECT_TRUE(has(run.errors, "(car): argument 1"));
     EXPECT_EQ(run.status, 1U);
 
     const HostRun open = runHost({L"--headless", L"-i"}, "(princ 1)\n(princ\n (princ 2)\n");
@@ -34,23 +34,25 @@ TEST(Runner, ThePromptGoesOnOverLinesAndErrors) {
     EXPECT_EQ(runHost({L"--headless", L"-i"}, "(princ 1)\n").status, 0U);
 }
 
-// 13 is Enter, 38 and 40 are Up and Down, 27 is Esc.
-TEST(Runner, TheMainFramesCommandLineEvaluatesAndRemembers) {
-    const TempFile settings(L"kept-by-frame.txt");
-    const auto run = [&](const wchar_t* expression) {
-        return runHost({L"--timeout", L"20", L"--settings", settings.path.wstring(), L"-e", expression});
+// As a person types them; part 104 is the command line.
+TEST(Runner, TheMainFrameRemembersItsLines) {
+    const TempFolder folder;
+    const auto run = [&](const std::wstring& steps) {
+        return runHost({L"--headless", L"--timeout", L"20", L"--settings", folder.file("settings"), L"-e",
+                        L"(progn (ui_session nil '(" + steps + L" (ui_close))) (host_main_frame))"});
     };
-    const HostRun first =
-        run(L"(progn (t_command \"(setq x 5)\" 13) (t_command \"(+ x\" 13) (t_command \"2)\" 13)"
-            L"(setq seen (t_command \"typed\" 38)) (foreach key '(38 38 40 40 40 27) (setq seen (cons (car "
-            L"(t_command \"\" key)) seen))) (prin1 (reverse seen)))");
+    std::wstring steps = L"(setq seen nil)";
+    for (const wchar_t* text : {L"(setq x 5)", L"(+ x", L"2)"})
+        steps += std::wstring(L"(ui_type 104 \"") + text + L"\") (ui_key \"ENTER\" 104)";
+    steps += L"(ui_type 104 \"typed\")";
+    for (const wchar_t* key : {L"UP", L"UP", L"UP", L"DOWN", L"DOWN", L"DOWN", L"ESC"})
+        steps += std::wstring(L"(ui_key \"") + key + L"\" 104) (setq seen (cons (ui_text 104) seen))";
+    const HostRun first = run(steps + L"(prin1 (reverse seen))");
     EXPECT_EQ(first.output,
               "Command: (setq x 5)\n5\nCommand: (+ x\nmore: 2)\n7\n"
-              "(\"Command: (setq x 5)\\r\\n5\\r\\nCommand: (+ x\\r\\nmore: 2)\\r\\n7\\r\\n\" \"2)\" \"(+ x\" "
-              "\"(setq x 5)\" \"(+ x\" \"2)\" \"typed\" \"\")");
-    // The next run has the lines of this one.
+              "(\"2)\" \"(+ x\" \"(setq x 5)\" \"(+ x\" \"2)\" \"typed\" \"\")");
     EXPECT_EQ(first.errors, "");
-    EXPECT_EQ(run(L"(prin1 (car (t_command \"\" 38)))").output, "\"2)\"");
+    EXPECT_EQ(run(L"(ui_key \"UP\" 104) (prin1 (ui_text 104))").output, "\"2)\"");
 }
 
 TEST(Runner, AlertsAndMessageBoxesAreAnsweredAndRecorded) {
@@ -96,9 +98,7 @@ TEST(Runner, ACrashIsToldBehindWhatWasPrinted) {
     const HostRun inAction =
         runHost({L"--headless", L"-e", LR"((ui_session "everything" '((t_crash))) (t_dialog))"});
     EXPECT_EQ(inAction.status, 5U);
-    EXPECT_NE(inAction.errors.find("the last step was session \"everything\", step 1: (T_CRASH)"),
-              std::string::npos)
-        << inAction.errors;
+    EXPECT_TRUE(has(inAction.errors, "the last step was session \"everything\", step 1: (T_CRASH)"));
 }
 
 TEST(Runner, AFileDialogThatRefusesItsAnswerIsToldAndLeft) {

@@ -7,13 +7,12 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <random>
 #include <utility>
 #include <vector>
 
 #include "tests/support/Canvas.h"
+#include "tests/support/TempFolder.h"
 #include "tests/ui/pictures/HugePictures.h"
 
 namespace {
@@ -34,25 +33,11 @@ constexpr const wchar_t* NAMES[] = {L"contactor.bmp", L"contactor.tif", L"lamp.p
 
 fs::path pictureFile(const wchar_t* name) { return fs::path(L"examples/pictures") / name; }
 
-Bytes bytesOf(const wchar_t* name) {
-    std::ifstream file(pictureFile(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+Bytes pictureBytes(const wchar_t* name) { return bytesOf<Bytes>(pictureFile(name)); }
+
+ComPtr<IPicture> pictureOf(const Bytes& bytes) {
+    return loadPicture(TempFolder().file("a picture of the tests", bytes).c_str());
 }
-
-// A file of its own, gone with the object.
-class PictureFile {
-  public:
-    explicit PictureFile(const Bytes& bytes) {
-        std::ofstream(m_path, std::ios::binary)
-            .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    }
-    ~PictureFile() { fs::remove(m_path); }
-    ComPtr<IPicture> load() const { return loadPicture(m_path.c_str()); }
-    const fs::path& path() const { return m_path; }
-
-  private:
-    fs::path m_path = fs::temp_directory_path() / L"a picture of the tests";
-};
 
 // An area of 100 x 100 pixels of one color, and the picture on it.
 class Drawn : public Canvas {
@@ -163,7 +148,7 @@ TEST_F(Pictures, AreScaledSmoothly) {
 }
 
 TEST_F(Pictures, OfTheImagingComponentAreTheSame) {
-    const Bytes bytes = bytesOf(L"lamp.png");
+    const Bytes bytes = pictureBytes(L"lamp.png");
     ComPtr<IStream> stream;
     CreateStreamOnHGlobal(nullptr, TRUE, stream.out());
     stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
@@ -181,24 +166,25 @@ TEST_F(Pictures, ThatNobodyCanReadAreNone) {
     EXPECT_FALSE(loadPicture(L""));
     EXPECT_FALSE(loadPicture(L"examples/pictures"));
     EXPECT_FALSE(loadPicture(L"examples/pictures/nobody.png"));
-    EXPECT_FALSE(PictureFile({}).load());
-    EXPECT_FALSE(PictureFile(Bytes(100000, 'x')).load());
+    EXPECT_FALSE(pictureOf({}));
+    EXPECT_FALSE(pictureOf(Bytes(100000, 'x')));
     // Metafiles without the header that tells their size.
-    const Bytes metafile = bytesOf(L"motor.wmf");
-    EXPECT_FALSE(PictureFile(Bytes(metafile.begin() + 22, metafile.end())).load());
+    const Bytes metafile = pictureBytes(L"motor.wmf");
+    EXPECT_FALSE(pictureOf(Bytes(metafile.begin() + 22, metafile.end())));
 }
 
 TEST_F(Pictures, ThatSomebodyHasOpenAreNone) {
-    const PictureFile file(bytesOf(L"lamp.png"));
-    EXPECT_TRUE(file.load());
-    const HANDLE open = CreateFileW(file.path().c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                    nullptr, OPEN_EXISTING, 0, nullptr);
-    EXPECT_FALSE(file.load());
+    const TempFolder folder;
+    const std::wstring file = folder.file("lamp.png", pictureBytes(L"lamp.png"));
+    EXPECT_TRUE(loadPicture(file.c_str()));
+    const HANDLE open = CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+    EXPECT_FALSE(loadPicture(file.c_str()));
     CloseHandle(open);
 }
 
 void drawIfAny(const Bytes& bytes) {
-    const ComPtr<IPicture> picture = PictureFile(bytes).load();
+    const ComPtr<IPicture> picture = pictureOf(bytes);
     if (!picture) return;
     const Drawn asItIs(*picture, false);
     const Drawn fitted(*picture, true);
@@ -206,7 +192,7 @@ void drawIfAny(const Bytes& bytes) {
 
 TEST_F(Pictures, ThatAreCutOffDoNoHarm) {
     for (const wchar_t* name : NAMES) {
-        const Bytes whole = bytesOf(name);
+        const Bytes whole = pictureBytes(name);
         for (size_t eighth = 0; eighth < 8; ++eighth)
             drawIfAny(
                 Bytes(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(whole.size() * eighth / 8)));
@@ -217,7 +203,7 @@ TEST_F(Pictures, ThatAreSpoiltDoNoHarm) {
     std::mt19937 random(1);
     for (const wchar_t* name : NAMES) {
         SCOPED_TRACE(fs::path(name).string());
-        const Bytes whole = bytesOf(name);
+        const Bytes whole = pictureBytes(name);
         // In the header, where sizes and places stand, and anywhere.
         for (const size_t reach : {std::min<size_t>(whole.size(), 120), whole.size()}) {
             for (int time = 0; time < 30; ++time) {
@@ -231,7 +217,7 @@ TEST_F(Pictures, ThatAreSpoiltDoNoHarm) {
 }
 
 void expectBlackAboveWhite(const Bytes& bytes, const RECT& bounds) {
-    const ComPtr<IPicture> picture = PictureFile(bytes).load();
+    const ComPtr<IPicture> picture = pictureOf(bytes);
     ASSERT_TRUE(picture);
     const Drawn drawn(*picture, false);
     expectBounds(bounds, drawn.bounds());
@@ -271,20 +257,17 @@ TEST_F(Pictures, OfMetafilesMayHoldTextsRegionsAndGradients) {
             for (int x = left; x < right; ++x) count += drawn.at(x, y) == BLACK;
         return count;
     };
+    const auto drawGradientToo = [&](HDC dc) {
+        drawAll(dc);
+        TRIVERTEX corners[] = {{0, 50, 0, 0, 0, 0}, {100, 100, 0xFF00, 0xFF00, 0xFF00, 0}};
+        GRADIENT_RECT rectangle = {0, 1};
+        GdiGradientFill(dc, corners, 2, &rectangle, 1, GRADIENT_FILL_RECT_H);
+    };
     for (const bool enhanced : {false, true}) {
         SCOPED_TRACE(enhanced);
         const Bytes bytes =
-            enhanced
-                ? enhMetafile(
-                      {100, 100},
-                      [&](HDC dc) {
-                          drawAll(dc);
-                          TRIVERTEX corners[] = {{0, 50, 0, 0, 0, 0}, {100, 100, 0xFF00, 0xFF00, 0xFF00, 0}};
-                          GRADIENT_RECT rectangle = {0, 1};
-                          GdiGradientFill(dc, corners, 2, &rectangle, 1, GRADIENT_FILL_RECT_H);
-                      })
-                : metafile({100, 100}, drawAll);
-        const ComPtr<IPicture> picture = PictureFile(bytes).load();
+            enhanced ? enhMetafile({100, 100}, drawGradientToo) : metafile({100, 100}, drawAll);
+        const ComPtr<IPicture> picture = pictureOf(bytes);
         ASSERT_TRUE(picture);
         const Drawn drawn(*picture, true);
         EXPECT_GT(darkPixels(drawn, 0, 50), 10);

@@ -1,8 +1,4 @@
 // The drawing preview in the host: it shows blocks of the current drawing, and answers questions about it.
-#include <gtest/gtest.h>
-
-#include <fstream>
-
 #include "tests/ui/host/HostProcess.h"
 
 namespace {
@@ -19,11 +15,11 @@ constexpr char HELPERS[] = R"(
 
 // What the program prints, with alerts among it.
 std::string printed(const std::string& forms) {
-    const TempFile program(L"preview.lsp"), drawing(L"preview_in_host.wdr");
-    std::ofstream(program.path, std::ios::binary)
-        << "(setq file \"" << drawing.path.generic_string() << "\")" << HELPERS << forms;
-    const HostRun run = startHost(L"bin", {L"--plugin", buildFolder() + L"\\tests\\previewplugin.pgx",
-                                           L"--headless", L"--timeout", L"60", program.path.wstring()});
+    const TempFolder folder;
+    const std::string file = "(setq file \"" + folder.path.generic_string() + "/saved.wdr\")";
+    const HostRun run =
+        startHost(L"bin", {L"--plugin", buildFolder() + L"\\tests\\previewplugin.pgx", L"--headless",
+                           L"--timeout", L"60", folder.file("preview.lsp", file + HELPERS + forms)});
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(run.status, 0U);
     return run.output;

@@ -1,12 +1,11 @@
 // The drawing preview: what it shows of a file, how the mouse moves it, and what is left when it goes.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "host/drive/Resources.h"
 #include "src/platform/host/HostServices.h"
-#include "src/platform/mfc/Drawing.h"
+#include "tests/support/Canvas.h"
+#include "tests/support/Messages.h"
+#include "tests/support/TempFolder.h"
 #include "tests/ui/preview/PreviewProbe.h"
 
 namespace {
@@ -15,7 +14,7 @@ constexpr int SIZE = 200;
 constexpr COLORREF RED = RGB(255, 0, 0);
 
 // A red square in the middle of an empty frame of 10 by 10.
-constexpr const char* DRAWING =
+const std::string DRAWING =
     "wexdrawing 1\nblock \"*Model_Space\" 0 0 0\n"
     "  POLYLINE 0 8 continuous 1 closed 0 0 1 0 0 0 0 10 0 0 0 10 10 0 0 0 10 0 0\n"
     "  SOLID 0 1 continuous 1 4 4 0 6 4 0 6 6 0 4 6 0\n"
@@ -47,19 +46,14 @@ class AlertCloser {
 
 struct PreviewTest : testing::Test {
     PreviewTest() {
-        std::ofstream(file) << DRAWING;
+        folder.file("preview.wdr", DRAWING);
         parent.CreateEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, RECT{0, 0, SIZE, SIZE}, nullptr, 0);
         preview.Create(RECT{0, 0, SIZE, SIZE}, parent.m_hWnd, 1);
         preview.ShowWindow(SW_SHOW);
     }
-    ~PreviewTest() override { std::filesystem::remove(file); }
 
-    bool load() { return preview.loadDrawing(file.wstring()); }
-    COLORREF at(int x, int y) const {
-        UpdateWindow(preview.m_hWnd);
-        const ClientDC dc(preview.m_hWnd);
-        return GetPixel(dc, x, y);
-    }
+    bool load() { return preview.loadDrawing(file); }
+    COLORREF at(int x, int y) const { return colorAt(preview.m_hWnd, x, y); }
     LRESULT mouse(UINT message, int x, int y, WPARAM w = 0) const {
         return preview.SendMessage(message, w, MAKELPARAM(x, y));
     }
@@ -71,7 +65,8 @@ struct PreviewTest : testing::Test {
         return count;
     }
 
-    const std::filesystem::path file = std::filesystem::temp_directory_path() / "preview_test.wdr";
+    const TempFolder folder;
+    const std::wstring file = folder.file("preview.wdr");
     CWnd parent;
     CGsPreviewCtrl preview;
     PreviewProbe probe{preview};
@@ -93,7 +88,7 @@ TEST_F(PreviewTest, TellsOfAFileThatCantBeShown) {
     EXPECT_FALSE(preview.loadDrawing(L"no such file.wdr"));
     EXPECT_FALSE(probe.database());
     ASSERT_TRUE(load());
-    std::ofstream(file) << "wexdrawing 1\n";
+    folder.file("preview.wdr", std::string("wexdrawing 1\n"));
     EXPECT_FALSE(load());
     EXPECT_FALSE(probe.database());
     EXPECT_TRUE(probe.block().empty());
@@ -101,7 +96,7 @@ TEST_F(PreviewTest, TellsOfAFileThatCantBeShown) {
 }
 
 TEST_F(PreviewTest, ShowsNothingForABlockThatIsntThere) {
-    ASSERT_TRUE(preview.loadDrawingByPath(file.wstring()));
+    ASSERT_TRUE(preview.loadDrawingByPath(file));
     EXPECT_TRUE(preview.showBlock(L"*MODEL_SPACE"));
     EXPECT_EQ(at(100, 100), RED);
     EXPECT_TRUE(preview.showBlock(L"nothing"));
@@ -154,9 +149,6 @@ TEST_F(PreviewTest, ADragPansUntilTheButtonIsReleased) {
     preview.setMouseMode(0);
     mouse(WM_MOUSEMOVE, 80, 40);
     EXPECT_FALSE(probe.isPanning());
-    while (ShowCursor(FALSE) > 0) {
-    }
-    ShowCursor(TRUE);
 }
 
 TEST_F(PreviewTest, ADragZoomAppliesItsLastFactorOnceMore) {
@@ -200,13 +192,7 @@ TEST_F(PreviewTest, AZoomFromOutsideScalesTheView) {
 }
 
 TEST_F(PreviewTest, HasOneTipWhoseTextChanges) {
-    const auto text = [&] {
-        wchar_t kept[80] = {};
-        TOOLINFOW tool = {.cbSize = TTTOOLINFOW_V1_SIZE, .hwnd = preview.m_hWnd, .uId = 1};
-        tool.lpszText = kept;
-        probe.tip().SendMessage(TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
-        return std::wstring(kept);
-    };
+    const auto text = [&] { return tipText(probe.tip().m_hWnd, preview.m_hWnd, 1); };
     preview.setToolTipText(L"", true);
     EXPECT_FALSE(probe.tip().isLive());
     preview.setToolTipText(L"A relay", true);

@@ -6,12 +6,10 @@
 #include <ole2.h>
 
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "src/pictures/Picture.h"
 #include "tests/support/Canvas.h"
+#include "tests/support/TempFolder.h"
 #include "tests/ui/slides/QuarterSlide.h"
 
 namespace {
@@ -20,29 +18,17 @@ using Bytes = std::vector<uint8_t>;
 
 class SlideExport : public testing::Test {
   protected:
-    SlideExport() {
-        OleInitialize(nullptr);
-        if (const char* folder = std::getenv("WEX_EXPORTS"))
-            m_folder = folder;
-        else
-            m_own = m_folder = std::filesystem::temp_directory_path() / L"wex-slide-exports";
-        std::filesystem::create_directories(m_folder);
-    }
-    ~SlideExport() override {
-        if (!m_own.empty()) std::filesystem::remove_all(m_own);
-        OleUninitialize();
-    }
+    SlideExport() { OleInitialize(nullptr); }
+    ~SlideExport() override { OleUninitialize(); }
 
-    CString path(const wchar_t* name) const { return (m_folder / name).wstring(); }
+    CString path(const wchar_t* name) const {
+        const char* kept = std::getenv("WEX_EXPORTS");
+        return ((kept ? std::filesystem::path(kept) : m_folder.path) / name).wstring();
+    }
 
   private:
-    std::filesystem::path m_folder, m_own;
+    TempFolder m_folder;
 };
-
-Bytes bytesOf(const CString& path) {
-    std::ifstream file(std::filesystem::path(path.c_str()), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // The picture of a file as an image tile shows it, drawn over all of a white canvas.
 struct Shown : Canvas {
@@ -66,7 +52,7 @@ TEST_F(SlideExport, AsBitmapHasTheSizeThatTheCodeTells) {
     for (int code = 0; code < 4; ++code) {
         const CString file = path(L"size.bmp");
         ASSERT_EQ(slide.SaveBmp(file, code), 1);
-        const Bytes bytes = bytesOf(file);
+        const Bytes bytes = bytesOf<Bytes>(file.c_str());
         const uint32_t rowBytes = (sizes[code].cx + 3) / 4 * 4;
         EXPECT_EQ(bytes.size(), 14 + 40 + 1024 + rowBytes * sizes[code].cy);
         EXPECT_EQ(u32(bytes, 2), bytes.size());
@@ -98,7 +84,7 @@ TEST_F(SlideExport, AsBitmapIsWhiteAndColorsOnBlack) {
 TEST_F(SlideExport, AsMetafileIsPlaceableAndBlackAndColorsOnWhite) {
     const CString file = path(L"slide.wmf");
     ASSERT_EQ(quarter().SaveWmf(file), 1);
-    const Bytes bytes = bytesOf(file);
+    const Bytes bytes = bytesOf<Bytes>(file.c_str());
     EXPECT_EQ(u32(bytes, 8), 100u << 16);
     EXPECT_EQ(u32(bytes, 12) & 0xFFFF, 50u);
     EXPECT_EQ(u32(bytes, 12) >> 16, static_cast<uint32_t>(GetDeviceCaps(ClientDC(nullptr), LOGPIXELSX)));

@@ -1,20 +1,14 @@
 // What docs/lisp.md says is true and complete.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include "host/lisp/Machine.h"
 #include "host/units/UnitFunctions.h"
+#include "tests/support/TempFolder.h"
 #include "tests/unit/lisp/Session.h"
 
 namespace {
 
-std::string documentation() {
-    std::ifstream stream(WEX_SOURCE_FOLDER "/docs/lisp.md");
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
+std::string documentation() { return bytesOf(WEX_SOURCE_FOLDER "/docs/lisp.md"); }
 
 struct Example {
     std::string form;
@@ -48,18 +42,10 @@ std::vector<Example> examplesOf(const std::string& text) {
     return examples;
 }
 
-// An empty folder to work in, gone afterwards.
-struct WorkingFolder {
-    WorkingFolder() : before(std::filesystem::current_path()) {
-        std::string name = (std::filesystem::temp_directory_path() / "lisp-testXXXXXX").string();
-        folder = mkdtemp(name.data());
-        std::filesystem::current_path(folder);
-    }
-    ~WorkingFolder() {
-        std::filesystem::current_path(before);
-        std::filesystem::remove_all(folder);
-    }
-    std::filesystem::path before, folder;
+struct WorkingFolder : TempFolder {
+    WorkingFolder() { std::filesystem::current_path(path); }
+    ~WorkingFolder() { std::filesystem::current_path(before); }
+    const std::filesystem::path before = std::filesystem::current_path();
 };
 
 TEST(Documentation, ExamplesGiveWhatTheySay) {

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "src/listctrl/CellOrder.h"
-#include "tests/unit/listctrl/MemoryRows.h"
+#include "host/units/LinearUnits.h"
+#include "tests/unit/listctrl/PlainSort.h"
 #include "tests/unit/listctrl/RandomCells.h"
 
 namespace {
 
-using Cells = std::vector<CString>;
+using Cells = std::vector<std::wstring>;
 
 std::vector<int> sortedOrder(const Cells& cells, bool ascending, const DistanceParser& parse) {
     return ::sortedOrder(std::vector<std::wstring_view>(cells.begin(), cells.end()), ascending, parse);
@@ -23,10 +23,10 @@ TEST(CellOrder, ComesOutAsThePlainProcedureForAnyTable) {
     for (int table = 0; table < 6000; ++table) {
         const int mix = random.below(5);
         Cells cells(random.below(table % 50 ? 25 : 400));
-        for (CString& cell : cells) cell = random.cell(mix);
+        for (std::wstring& cell : cells) cell = random.cell(mix);
         const bool ascending = random.below(2);
-        for (const auto& parse : {parseDistance, parseOddly})
-            ASSERT_EQ(sortedOrder(cells, ascending, parse), plainOrder(cells, ascending, parse))
+        for (const auto& parse : {DistanceParser(units::distanceFromText), DistanceParser(parseOddly)})
+            ASSERT_EQ(sortedOrder(cells, ascending, parse), PlainSort(cells, ascending, parse).order())
                 << "table " << table;
     }
 }
@@ -40,7 +40,7 @@ TEST(CellOrder, AnyComparisonComesToAnEnd) {
     EXPECT_EQ(calls, 3000) << "each text is parsed once";
     Cells alternating;
     for (int row = 0; row < 3000; ++row) alternating.push_back(row % 2 ? L"5" : L"a" + std::to_wstring(row));
-    EXPECT_EQ(sortedOrder(alternating, false, parseDistance).size(), alternating.size());
+    EXPECT_EQ(sortedOrder(alternating, false, units::distanceFromText).size(), alternating.size());
 }
 
 }  // namespace

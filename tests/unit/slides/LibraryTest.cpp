@@ -5,8 +5,8 @@
 #include "src/slides/CSlideLibObject.h"
 #include "src/slides/LibraryDirectory.h"
 #include "src/slides/SlidePath.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/slides/MadeSlide.h"
-#include "tests/unit/slides/TempFolder.h"
 
 namespace {
 
@@ -124,7 +124,7 @@ TEST(LibraryFile, IsReadBackAsItWasWritten) {
     library.Insert(slideNamed(L"c:\\x\\odd.sld", slideImage(7)), nullptr);
     library.Insert(new CSlideObject, nullptr);
     library.Insert(slideNamed(L"l.slb(even)", slideImage(9)), nullptr);
-    const CString path = folder.path("made.slb");
+    const std::wstring path = folder.file("made.slb");
     ASSERT_EQ(library.Save(path), 1);
 
     // Half of each name: "EVEN" keeps two letters, "ODD" one and the half that a zero byte completes.
@@ -135,9 +135,9 @@ TEST(LibraryFile, IsReadBackAsItWasWritten) {
     std::copy_n("O\0D", 3, odd.begin());
     const auto place = [](size_t offset) { return Bytes{static_cast<uint8_t>(offset), 0, 0, 0}; };
     const size_t first = 68 + 3 * 36;
-    EXPECT_EQ(TempFolder::bytesOf(path), joined({Bytes(header.begin(), header.end()), even, place(first),
-                                                 Bytes(32), place(first + nine.size()), odd,
-                                                 place(first + nine.size() + 33), Bytes(36), nine, seven}));
+    EXPECT_EQ(bytesOf<Bytes>(path), joined({Bytes(header.begin(), header.end()), even, place(first),
+                                            Bytes(32), place(first + nine.size()), odd,
+                                            place(first + nine.size() + 33), Bytes(36), nine, seven}));
     EXPECT_EQ(library.GetFileSize(), 68 + 3 * 36 + nine.size() + 33 + seven.size());
 
     // The reader finds both slides again, if it comes past the header, and then past the gate.
@@ -167,18 +167,18 @@ TEST(LibraryFile, OfNoKindOrTooShortOrUnwritableGivesZero) {
     CSlideLibObject library;
     EXPECT_EQ(library.Load(folder.file("short.slb", Bytes(67))), 0);
     EXPECT_EQ(library.Load(folder.file("zeros.slb", Bytes(68))), 0);
-    EXPECT_EQ(library.Load(folder.path("none.slb")), 0);
+    EXPECT_EQ(library.Load(folder.file("none.slb")), 0);
     for (const wchar_t* path : {L"", L"slb", L"l.slb(a.b)", L"a.slbx", L"a.sld", L"a.slb(x)", L"a.b(x)"})
         EXPECT_EQ(library.Load(path), 0);
-    EXPECT_EQ(CSlideObject().Load(folder.path("zeros.slb") + L"(a)"), 0);
+    EXPECT_EQ(CSlideObject().Load(folder.file("zeros.slb") + L"(a)"), 0);
     EXPECT_EQ(CSlideObject().Load(L"a)"), 0);
     EXPECT_EQ(library.GetCount(), 0u);
     EXPECT_EQ(library.GetOpenFlag(), 1);
     EXPECT_EQ(library.GetFileSize(), 68u);
     EXPECT_EQ(library.GetFileName(), L"");
     EXPECT_STREQ(library.GetRuntimeClass()->name, "CSlideLibObject");
-    EXPECT_EQ(library.Save(folder.path("l.sld")), 0);
-    EXPECT_EQ(library.Save(folder.path("no/folder.slb")), 0);
+    EXPECT_EQ(library.Save(folder.file("l.sld")), 0);
+    EXPECT_EQ(library.Save(folder.file("no/folder.slb")), 0);
 }
 
 // Names of the slides in order.

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "src/slides/CSlideObject.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/slides/MadeSlide.h"
-#include "tests/unit/slides/TempFolder.h"
 
 namespace {
 
@@ -74,7 +74,7 @@ TEST(SlideLoad, GoesByThePath) {
     EXPECT_EQ(slide.Load(L""), 1);
     EXPECT_FALSE(slide.HasImage());
     EXPECT_EQ(slide.LoadFromFile(L"sld"), 0);
-    EXPECT_EQ(slide.LoadFromFile(folder.path("none.sld")), 0);
+    EXPECT_EQ(slide.LoadFromFile(folder.file("none.sld")), 0);
     EXPECT_EQ(slide.LoadFromFile(folder.file("slide.txt", wideSlide(100))), 0);
 
     EXPECT_TRUE(CSlideObject::IsLibraryPath(L"a)"));
@@ -95,7 +95,7 @@ TEST(SlideLoad, HasOneLeastSizeForFilesAndOneForMembers) {
     EXPECT_EQ(slide.GetDataSize(), 33u);
 
     CFile file;
-    ASSERT_TRUE(file.Open(folder.path("whole.sld"), CFile::Access::Read, CFile::Sharing::None));
+    ASSERT_TRUE(file.Open(folder.file("whole.sld"), CFile::Access::Read, CFile::Sharing::None));
     EXPECT_EQ(slide.LoadFromStream(L"a", &file, 31), 0);
     EXPECT_EQ(slide.GetDataSize(), 31u);
     EXPECT_EQ(slide.LoadFromStream(L"a", nullptr, 50), 0);
@@ -112,8 +112,8 @@ TEST(SlideLoad, OfWhatIsNoFileLeavesTheOldSlideAndNeverReadsBehindIt) {
     EXPECT_TRUE(slide.HasImage());
     EXPECT_EQ(slide.LoadFromStream(L"a", nullptr, 100000), 0);
     const TempFolder folder;
-    EXPECT_EQ(slide.SaveSld(folder.path("copy.sld")), 1);
-    EXPECT_EQ(TempFolder::bytesOf(folder.path("copy.sld")), narrowSlide());
+    EXPECT_EQ(slide.SaveSld(folder.file("copy.sld")), 1);
+    EXPECT_EQ(bytesOf<Bytes>(folder.file("copy.sld")), narrowSlide());
 }
 
 TEST(SlideName, IsTheMembersOrTheFilesWithoutExtension) {
@@ -156,12 +156,12 @@ TEST(SlideCopy, HasBytesOfItsOwn) {
 TEST(SlideSaving, WritesTheBytesAndTellsFailure) {
     const TempFolder folder;
     const OpenSlide slide(narrowSlide());
-    EXPECT_EQ(slide.SaveSld(folder.path("a.SLD")), 1);
-    EXPECT_EQ(TempFolder::bytesOf(folder.path("a.SLD")), narrowSlide());
-    EXPECT_EQ(slide.SaveSld(folder.path("a.slb")), 0);
-    EXPECT_EQ(slide.SaveSld(folder.path("no/folder.sld")), 0);
-    EXPECT_EQ(CSlideObject().SaveSld(folder.path("empty.sld")), 1);
-    EXPECT_EQ(TempFolder::bytesOf(folder.path("empty.sld")), Bytes{});
+    EXPECT_EQ(slide.SaveSld(folder.file("a.SLD")), 1);
+    EXPECT_EQ(bytesOf<Bytes>(folder.file("a.SLD")), narrowSlide());
+    EXPECT_EQ(slide.SaveSld(folder.file("a.slb")), 0);
+    EXPECT_EQ(slide.SaveSld(folder.file("no/folder.sld")), 0);
+    EXPECT_EQ(CSlideObject().SaveSld(folder.file("empty.sld")), 1);
+    EXPECT_EQ(bytesOf<Bytes>(folder.file("empty.sld")), Bytes{});
     EXPECT_EQ(slide.WriteData(nullptr), 0u);
 }
 

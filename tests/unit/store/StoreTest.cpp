@@ -3,11 +3,10 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <vector>
 
 #include "store/DataStore.h"
+#include "tests/support/TempFolder.h"
 
 namespace {
 
@@ -41,14 +40,7 @@ class StoreTest : public testing::Test {
   protected:
     StoreTest() {
         told.clear();
-        std::string name = (fs::temp_directory_path() / "store-testXXXXXX").string();
-        folder = mkdtemp(name.data());
-        file = (folder / L"parts.sqlite").wstring();
         database.setReporter([](HostText line) { told.emplace_back(view(line)); });
-    }
-    ~StoreTest() override {
-        database.close();
-        fs::remove_all(folder);
     }
 
     bool open(OpenDatabase& which) { return which.openFile(lent(file)); }
@@ -69,8 +61,8 @@ class StoreTest : public testing::Test {
         stream << bytes;
     }
 
-    fs::path folder;
-    std::wstring file;
+    const TempFolder folder;
+    const std::wstring file = folder.file("parts.sqlite");
     OpenDatabase database{nullptr};
     DataStore store{database};
 };
@@ -172,7 +164,7 @@ TEST_F(StoreTest, AReadOnlyDatabaseIsReadAndNotChanged) {
     run(L"CREATE TABLE t (a)");
     database.close();
     fs::permissions(fs::path(file), fs::perms(0444));
-    fs::permissions(folder, fs::perms(0555));
+    fs::permissions(folder.path, fs::perms(0555));
     // Root may write everywhere: nobody may not.
     const uid_t before = geteuid();
     ASSERT_EQ(before == 0 ? seteuid(65534) : 0, 0);
@@ -182,7 +174,7 @@ TEST_F(StoreTest, AReadOnlyDatabaseIsReadAndNotChanged) {
     EXPECT_EQ(run(L"INSERT INTO t VALUES (1)"), -1);
     EXPECT_EQ(words(), L"attempt to write a readonly database");
     ASSERT_EQ(seteuid(before), 0);
-    fs::permissions(folder, fs::perms::owner_all);
+    fs::permissions(folder.path, fs::perms::owner_all);
 }
 
 TEST_F(StoreTest, AFullDatabaseKeepsWhatItHas) {
@@ -215,8 +207,7 @@ TEST_F(StoreTest, ACorruptDatabaseIsToldOrRead) {
         L"* i) FROM n";
     ASSERT_TRUE(database.query(lent(FILL), nullptr, 0, &rows));
     database.close();
-    std::ifstream stream(fs::path(file), std::ios::binary);
-    const std::string whole((std::istreambuf_iterator<char>(stream)), {});
+    const std::string whole = bytesOf(file);
     std::srand(11);
     int failures = 0;
     for (int round = 0; round < 60; ++round) {
