@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/lisp/Tokens.h"
+#include "host/lisp/Text.h"
 
 namespace check {
 

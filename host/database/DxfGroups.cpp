@@ -7,15 +7,6 @@
 #include "host/lisp/Text.h"
 
 namespace cad {
-namespace {
-
-std::string_view trimmed(std::string_view text) {
-    const size_t first = text.find_first_not_of(" \t\r");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
-
-}  // namespace
 
 double Group::number() const {
     double number = 0.0;
@@ -34,7 +25,7 @@ int Group::whole() const {
 }
 
 void Groups::next() {
-    const std::string_view code = trimmed(line());
+    const std::string_view code = lisp::trimmed(line());
     m_group.line = m_number + 1;
     const auto [end, fault] = std::from_chars(code.data(), code.data() + code.size(), m_group.code);
     if (fault != std::errc() || end != code.data() + code.size()) {
@@ -43,7 +34,7 @@ void Groups::next() {
     }
     // Blanks at the begin of a text are its own.
     m_group.value = line();
-    if (m_group.code >= 10 || m_group.code == 0) m_group.value = trimmed(m_group.value);
+    if (m_group.code >= 10 || m_group.code == 0) m_group.value = lisp::trimmed(m_group.value);
 }
 
 std::string_view Groups::line() {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "host/lisp/Reader.h"
-#include "host/lisp/Tokens.h"
+#include "host/lisp/Text.h"
 
 void Prompt::enter(std::u16string_view line) {
     m_pending.append(line).append(u"\n");

@@ -23,13 +23,6 @@ char16_t takeUnicode(std::u16string_view text, size_t& at) {
 
 }  // namespace
 
-std::u16string_view trimmed(std::u16string_view text) {
-    constexpr std::u16string_view BLANKS = u" \t\r\n";
-    const size_t first = text.find_first_not_of(BLANKS);
-    if (first == text.npos) return {};
-    return text.substr(first, text.find_last_not_of(BLANKS) - first + 1);
-}
-
 char16_t escaped(char16_t letter, std::u16string_view text, size_t& at) {
     switch (letter) {
         case u'n':

@@ -21,9 +21,6 @@ constexpr int digitValue(char16_t c) {
     return 99;
 }
 
-// Without the blanks and line ends at its ends.
-std::u16string_view trimmed(std::u16string_view text);
-
 // What a backslash and `letter` behind it stand for in a string. `at` is where the text goes on behind the
 // letter, and moves behind the digits that belong to it.
 char16_t escaped(char16_t letter, std::u16string_view text, size_t& at);

@@ -1,17 +1,12 @@
 #include "host/services/DataChoice.h"
 
+#include "host/lisp/Text.h"
 #include "src/platform/base/Text.h"
 
 namespace {
 
 constexpr std::wstring_view ODBC_PREFIX = L"odbc:";
 constexpr std::wstring_view BLANKS = L" \t\r\n";
-
-std::wstring_view trimmed(std::wstring_view text) {
-    const size_t first = text.find_first_not_of(BLANKS);
-    if (first == text.npos) return {};
-    return text.substr(first, text.find_last_not_of(BLANKS) + 1 - first);
-}
 
 bool isSecret(std::wstring_view name) {
     return equalIgnoringCase(name, L"PWD") || equalIgnoringCase(name, L"Password");
@@ -38,7 +33,7 @@ class ConnectString {
 
     void takeAttribute(DataChoice& choice) {
         const std::wstring_view head = take(m_rest.find_first_of(L"=;"));
-        const std::wstring name(trimmed(head));
+        const std::wstring name(lisp::trimmed(head));
         if (m_rest.empty() || m_rest[0] == L';') {
             take(1);
             if (!name.empty()) choice.error = L"odbc: " + name + L" is no NAME=VALUE";
@@ -66,7 +61,7 @@ class ConnectString {
             }
         } while (end + 1 < m_rest.size() && m_rest[end + 1] == L'}' && ++end);
         const size_t close = std::min(m_rest.find(L';', end), m_rest.size());
-        if (!trimmed(m_rest.substr(end + 1, close - end - 1)).empty())
+        if (!lisp::trimmed(m_rest.substr(end + 1, close - end - 1)).empty())
             choice.error = L"odbc: " + name + L" has more behind its closing brace";
         return take(close);
     }
@@ -79,7 +74,7 @@ class ConnectString {
 
 DataChoice parseDataChoice(std::wstring_view text) {
     DataChoice choice;
-    if (trimmed(text).empty()) {
+    if (lisp::trimmed(text).empty()) {
         choice.error = L"no database is named";
     } else if (text.find(L'\0') != text.npos) {
         choice.error = L"the name of a database has a NUL in it";
