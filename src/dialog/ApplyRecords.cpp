@@ -31,20 +31,19 @@ bool WexDialog::OnInitDialog() {
     return true;
 }
 
-// Anchors of the template count where Lisp set none. A dialog that grows by them is never smaller than its
-// template.
+// Anchors of the template count where Lisp gave no code. A dialog that grows by them is never smaller than
+// its template, unless Lisp set limits.
 void WexDialog::takeTemplateAnchors() {
     const auto anchors = templateAnchors(m_templateModule, m_templateId);
     if (anchors.empty()) return;
     for (size_t at = 0; at < m_tiles.size(); ++at) {
         CCtrlInfo& tile = *m_tiles.at(at);
         const auto anchor = anchors.find(tile.m_ctrlId);
-        if (tile.m_resizeCode != -1 || anchor == anchors.end()) continue;
+        if (tile.m_isCodeGiven || tile.m_resizeCode != -1 || anchor == anchors.end()) continue;
         tile.m_resizeCode = anchor->second.code;
         tile.m_heightShares = anchor->second.shares;
     }
-    const SizeLimits unset;
-    if (m_limits.minWidth != unset.minWidth || m_limits.minHeight != unset.minHeight) return;
+    if (m_hasMinimum) return;
     const RECT window = GetWindowRect();
     m_limits.minWidth = static_cast<int>((window.right - window.left) / hostMonitorDpiXScale(nullptr));
     const auto height = static_cast<int>((window.bottom - window.top) / hostMonitorDpiYScale(nullptr));

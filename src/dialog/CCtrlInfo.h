@@ -46,6 +46,7 @@ struct CCtrlInfo : CObject {
     int32_t m_mode = MODE_ENABLE;
     int32_t m_ctrlId = -1;
     int32_t m_resizeCode = -1;
+    bool m_isCodeGiven = false;   // by Lisp: the template's anchor doesn't count
     int32_t m_editLimit = 36000;  // characters
     CWnd* m_control = nullptr;    // the dialog's
     CString m_slideFile;

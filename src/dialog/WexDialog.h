@@ -73,6 +73,7 @@ class WexDialog : public CSnapDlg {
     CString m_title;                   // set before the window exists
     bool m_inAction = false;           // a button's click is being served
     int32_t m_focusId = -1;            // the control that gets the focus at the first paint
+    bool m_hasMinimum = false;         // Lisp set the lower limits: the template's size is none
     CThemeHelperST m_themeHelper;
     mutable std::unique_ptr<const DialogTemplate> m_layout;  // read when a warning first asks for it
 

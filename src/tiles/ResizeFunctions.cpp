@@ -41,7 +41,10 @@ void setResizing(LispCall& call) {
         if (dialog->hasApplied())
             warnRuns(*dialog, L"anchors count from its start action (wex_setaction_oninit)");
         dialog->m_resizable = true;
-        if (CCtrlInfo* tile = dialog->tileFor(address)) tile->m_resizeCode = *code;
+        if (CCtrlInfo* tile = dialog->tileFor(address)) {
+            tile->m_resizeCode = *code;
+            tile->m_isCodeGiven = true;
+        }
     }
     call.retVoid();
 }
@@ -51,6 +54,7 @@ void setMinResizing(LispCall& call) {
         warnOfTooSmall(width, height);
         dialog.m_limits.minWidth = std::max(width, SMALLEST);
         dialog.m_limits.minHeight = std::max(height, SMALLEST);
+        dialog.m_hasMinimum = true;
         dialog.m_resizable = true;
     });
 }

@@ -7,7 +7,8 @@
       '((ui_click "KEEP") (ui_click "KEEP") (ui_click "HELP") (ui_click "B_CAT")
         (want '(("keep" "1" 1) ("keep" "0" 1) ("help" "0" 1) ("b_cat" "1" 1)) notes)
         (setq notes nil)
-        (ui_key "SPACE" "KEEP") (ui_key "ENTER" "DESC") (ui_key "F1" "DESC")))
+        (ui_key "SPACE" "KEEP") (ui_key "ENTER" "DESC") (ui_key "F1" "DESC")
+        (want T (look "DESC" "focus"))))
     (want '(("keep" "1" 1) ("ok" "0" 1) ("help" "0" 1)) notes)))
 
 (test "An edit box reports its text once, when the focus leaves it and before the button that takes it"

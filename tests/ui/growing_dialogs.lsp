@@ -17,12 +17,15 @@
         (want '(0 0 0 0) (change "LST"))
         (want '(0 0 0 0) (change "OK"))))))
 
-(test "Anchors of the program come before those of the template"
-  '((in-dialog "RATING_LST_EDIT" '(wex_setresizing "LST" 25)
-      '((note-places '("LST" "OK"))
+(test "Anchors of the program come before those of the template, also none and the lowest limits"
+  '((in-dialog "RATING_LST_EDIT"
+      '(progn (wex_setresizing "LST" 25) (wex_setresizing "ADD" -1) (wex_setminresizing 50 50))
+      '((note-places '("LST" "ADD" "OK"))
         (ui_drag "GRIP" 40 30)
-        (want '(0 0 40 0) (change "LST"))
-        (want '(40 30 0 0) (change "OK"))))))
+        (want '((0 0 40 0) (0 0 0 0) (40 30 0 0)) (mapcar 'change '("LST" "ADD" "OK")))
+        (ui_drag "GRIP" -140 -90)
+        (want '(-100 -60 0 0) (change "OK"))
+        (ui_drag "GRIP" 100 60)))))
 
 (test "Lists that stand one above the other share the height, and what is between them goes along"
   '((foreach row '(("PICK_DWGS" "LST1" "ALL" "LST2") ("XREF_SETUP_TABLE" "COLS" "TITLE" "SAMPLE") ("HELP_PROJ_SETTINGS" "TOPICS" nil "TEXT"))
