@@ -84,12 +84,15 @@ class CGsPreviewCtrl : public CStatic {
     // The path where the host finds the file; empty, with an alert, where it doesn't.
     CString findDrawing(const CString& fileName);
     bool readDrawing(const CString& path, int sharing);
-    void frameModelSpace();
 
     bool isOfOwnDrawing(const HostBlockRecord& record) const;
     void setUpGraphics(HMODULE resources, bool withModel);
     void frameBlock(HostBlockRecord* record, double zoom, bool fitOff, int mode,
                     const HostVector3d& direction);
+    // The block of m_blockName; false, with an empty name, where there is none.
+    bool frameShown(double zoom, bool fitOff, int mode, const HostVector3d& direction);
+    // Null where the drawing hasn't that block; the caller closes it.
+    HostBlockRecord* openShown() const;
     HostExtents extentsOf(HostBlockRecord* record) const;
     void setViewOrRecover(const struct ViewFrame& frame);
 

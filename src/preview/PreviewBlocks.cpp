@@ -34,8 +34,6 @@ class Open {
     explicit operator bool() const { return m_opened; }
     Opened* operator->() const { return m_opened; }
     Opened* get() const { return m_opened; }
-    // Somebody else closes it.
-    Opened* release() { return std::exchange(m_opened, nullptr); }
 
   private:
     Opened* m_opened;
@@ -128,17 +126,23 @@ bool CGsPreviewCtrl::showBlockFull(const CString& name, double zoom, bool fitOff
     if (m_database && m_fileName.empty()) deleteDatabase();
     m_blockName = name;
     if (name.empty()) return false;
-    HostDatabase* database = shownDatabase();
-    Open<HostBlockTable> blocks(database ? database->openBlockTable(HOST_FOR_READ) : nullptr);
-    HostBlockRecord* record =
-        blocks ? database->openBlock(blocks->getAt(name.c_str()), HOST_FOR_READ) : nullptr;
-    if (!record) {
-        m_blockName.clear();
-        return true;
-    }
-    blocks.release()->close();
-    frameBlock(record, zoom, fitOff, mode, direction);
+    frameShown(zoom, fitOff, mode, direction);
     return true;
+}
+
+bool CGsPreviewCtrl::frameShown(double zoom, bool fitOff, int mode, const HostVector3d& direction) {
+    HostBlockRecord* record = openShown();
+    if (record)
+        frameBlock(record, zoom, fitOff, mode, direction);
+    else
+        m_blockName.clear();
+    return record != nullptr;
+}
+
+HostBlockRecord* CGsPreviewCtrl::openShown() const {
+    HostDatabase* database = shownDatabase();
+    const Open<HostBlockTable> blocks(database ? database->openBlockTable(HOST_FOR_READ) : nullptr);
+    return blocks ? database->openBlock(blocks->getAt(m_blockName.c_str()), HOST_FOR_READ) : nullptr;
 }
 
 bool CGsPreviewCtrl::showBlockRecord(HostBlockRecord* record) {
@@ -291,17 +295,8 @@ bool CGsPreviewCtrl::loadDrawing(const CString& fileName) {
     const CString path = findDrawing(fileName);
     if (path.empty() || !readDrawing(path, HOST_SHARE_READ)) return false;
     m_fileName.clear();
-    frameModelSpace();
+    if (!frameShown(0.0, true, 1, PLAN_DIRECTION)) forgetDrawing();
     return true;
-}
-
-void CGsPreviewCtrl::frameModelSpace() {
-    Open<HostBlockTable> blocks(m_database->openBlockTable(HOST_FOR_READ));
-    HostBlockRecord* record =
-        blocks ? m_database->openBlock(blocks->getAt(m_blockName.c_str()), HOST_FOR_READ) : nullptr;
-    if (!record) return forgetDrawing();
-    blocks.release()->close();
-    frameBlock(record, 0.0, true, 1, PLAN_DIRECTION);
 }
 
 bool CGsPreviewCtrl::loadDrawingByPath(const CString& fileName) {

@@ -65,11 +65,14 @@ void CGsPreviewCtrl::showMenu() {
         see(m_direction);
 }
 
-// The block whole, seen from there, in the style that was chosen.
+// The block whole, seen from there, in the style that was chosen. Of a loaded drawing too, which showing a
+// block by its name may end.
 void CGsPreviewCtrl::see(const HostVector3d& direction) {
     const CString name = m_blockName;
     m_direction = direction;
-    showBlockFull(name, 0.0, true, 1, {0, 1, 0}, direction);
+    clearGraphics();
+    m_blockName = name;
+    frameShown(0.0, true, 1, direction);
     setShownStyle(m_style);
 }
 

@@ -11,6 +11,7 @@ class PreviewProbe {
     const CString& block() const { return m_preview.m_blockName; }
     void orbitFrom(POINT at) const { m_preview.m_orbiting = true, m_preview.m_lastPoint = at; }
     void dragZoomFrom(POINT at) const { m_preview.m_zoomDragging = true, m_preview.m_lastPoint = at; }
+    void see(const HostVector3d& direction) const { m_preview.see(direction); }
 
     HostDatabase* database() const { return m_preview.m_database; }
     CToolTipCtrl& tip() const { return m_preview.m_toolTip; }

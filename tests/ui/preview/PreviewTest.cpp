@@ -78,6 +78,10 @@ TEST_F(PreviewTest, ShowsADrawingInPlan) {
     EXPECT_EQ(at(100, 100), RED);
     EXPECT_NE(at(50, 100), RED);
     EXPECT_NEAR(square(), SIZE / 5, 1);
+    // From below, as its menu can show it: the drawing stays loaded.
+    probe.see({0, 0, -1});
+    EXPECT_TRUE(probe.database());
+    EXPECT_EQ(at(100, 100), RED);
     preview.MoveWindow(RECT{0, 0, SIZE / 2, SIZE / 2});
     EXPECT_EQ(at(50, 50), RED);
     EXPECT_NEAR(square(), SIZE / 10, 1);

@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <random>
+#include <tuple>
+#include <vector>
 
 #include "host/graphics/Camera.h"
 
@@ -49,11 +51,34 @@ graphics::Camera anyCamera() {
     return camera;
 }
 
+// The ball is as wide as 0.4 of the shorter side, and in the middle wherever the viewport begins.
 TEST(OrbitMath, TurnsFromTheCentreToTheRight) {
-    const ArcballTurn turn = arcballTurn(VIEWPORT, {CENTRE, CENTRE}, {CENTRE + RADIUS, CENTRE});
-    EXPECT_EQ(turn.roll, 0.0);
-    EXPECT_DOUBLE_EQ(turn.tilt, std::acos(0.0) + QUARTER);
-    EXPECT_DOUBLE_EQ(turn.swing, std::asin(1.0));
+    for (const auto& [viewport, x, y, r] : {std::tuple(VIEWPORT, CENTRE, CENTRE, RADIUS),
+                                            {HostGsRect{10, 30, 309, 129}, 160, 80, 40},
+                                            {HostGsRect{10, 30, 109, 329}, 60, 180, 40}}) {
+        const ArcballTurn turn = arcballTurn(viewport, {x, y}, {x + r, y});
+        EXPECT_EQ(turn.roll, 0.0);
+        EXPECT_DOUBLE_EQ(turn.tilt, std::acos(0.0) + QUARTER);
+        EXPECT_DOUBLE_EQ(turn.swing, std::asin(1.0));
+    }
+    // The radius is worked out in floats: 7 * 0.4 is the float 2.8.
+    EXPECT_DOUBLE_EQ(arcballTurn({0, 0, 6, 6}, {3, 3}, {4, 3}).swing, std::asin(1.0 / double(2.8f)));
+    const ArcballTurn none = arcballTurn(VIEWPORT, {120, 90}, {120, 90});
+    EXPECT_EQ(none.tilt, QUARTER);
+    EXPECT_EQ(none.swing, 0.0);
+}
+
+TEST(OrbitMath, TheGadgetIsACircleInTheMiddleWithFourHandles) {
+    const auto placed = [](const HostGsRect& window) {
+        const auto [circle, centre, handles] = orbitGadgetPlaces(window);
+        std::vector<int> all = {circle.left, circle.top, circle.right, circle.bottom, centre.x, centre.y};
+        for (const ViewPoint& handle : handles) all.insert(all.end(), {handle.x, handle.y});
+        return all;
+    };
+    EXPECT_EQ(placed({0, 0, 200, 100}),
+              (std::vector{70, 20, 130, 80, 100, 50, 100, 20, 100, 80, 70, 50, 130, 50}));
+    EXPECT_EQ(placed({5, 10, 106, 213}),
+              (std::vector{25, 81, 85, 141, 55, 111, 55, 81, 55, 141, 25, 111, 85, 111}));
 }
 
 // The camera turns about its target so that what the drag took hold of on the ball comes under its end; up to

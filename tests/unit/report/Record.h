@@ -19,9 +19,9 @@ struct Drawn {
 class Record : public ReportSurface {
   public:
     Record(int dpi, int lineHeight, int letterWidth = 0)
-        : m_dpi(dpi), m_lineHeight(lineHeight), m_letterWidth(letterWidth) {}
+        : dpiAcross(dpi), m_dpi(dpi), m_lineHeight(lineHeight), m_letterWidth(letterWidth) {}
 
-    int dpiX() const override { return m_dpi; }
+    int dpiX() const override { return dpiAcross; }
     int dpiY() const override { return m_dpi; }
     void useFont(ReportFont font) override {
         drawn.push_back({Drawn::font, {}, font == ReportFont::bold ? L"bold" : L"normal"});
@@ -36,6 +36,7 @@ class Record : public ReportSurface {
     void setPixel(int x, int y) override { drawn.push_back({Drawn::pixel, {x, y}, {}}); }
 
     std::vector<Drawn> drawn;
+    int dpiAcross;
 
   private:
     // Each line takes at least one letter.

@@ -103,6 +103,15 @@ TEST(ReportPage, WithoutRowsReachesTheRightMargin) {
     EXPECT_EQ(record.drawn[3], (Drawn{Drawn::line, {56, 52}, {}}));
 }
 
+TEST(ReportPage, TakesTheSideMarginsAloneFromTheResolutionAcross) {
+    Record record(96, 14);
+    record.dpiAcross = 200;
+    drawReportTable(record, sampleReport(), SCREEN.page, 0);
+    EXPECT_EQ(record.drawn[1].rect, (PixelRect{8 + 100 + 3, 55, 165, 352}));  // 63.6 + 108 - 6
+    drawReportFooter(record, SCREEN.page, 0, L"");
+    EXPECT_EQ(record.drawn.back().rect, (PixelRect{324, 760, 438, 772}));  // 438 - 99 * 1.15
+}
+
 TEST(ReportPage, ARowOfEmptyCellsIsAsHighAsItsPad) {
     ReportRows rows;
     rows.push_back(reportRow({L"", L""}, {0.5, 0.1}));

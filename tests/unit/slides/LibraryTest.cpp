@@ -140,6 +140,11 @@ TEST(LibraryFile, IsReadBackAsItWasWritten) {
                                             place(first + nine.size() + 33), Bytes(36), nine, seven}));
     EXPECT_EQ(library.GetFileSize(), 68 + 3 * 36 + nine.size() + 33 + seven.size());
 
+    // Of a long name 16 letters.
+    const auto longNamed = writtenLibraryEntry(std::wstring(40, L'x'), 7);
+    EXPECT_EQ(textOfUnits(std::span(longNamed).first(32)), std::wstring(16, L'X'));
+    EXPECT_EQ(longNamed[32], 7);
+
     // The reader finds both slides again, if it comes past the header, and then past the gate.
     CSlideLibObject two;
     two.Insert(slideNamed(L"two", seven), nullptr);
@@ -209,6 +214,18 @@ TEST(LibraryList, OwnsItsSlides) {
     copy.Remove(slideNamed(L"of nobody"));
     copy.Remove(nullptr);
     EXPECT_EQ(names(copy), L"b");
+
+    // What stands behind a slide is that slide once more; the other one goes nowhere.
+    CSlideObject* const a = library.Find(L"a");
+    const std::unique_ptr<CSlideObject> spare(slideNamed(L"spare"));
+    library.Insert(slideNamed(L"c"), nullptr);
+    EXPECT_EQ(library.GetAt(library.Insert(spare.get(), a)), a);
+    library.Insert(spare.get(), slideNamed(L"d"));
+    EXPECT_EQ(names(library), L"caad");
+    EXPECT_EQ(names(CSlideLibObject(library)), L"caad");
+    library.Insert(spare.get(), library.Find(L"d"));
+    library.Remove(a);
+    EXPECT_EQ(names(library), L"cdd");
 
     auto none = CSlideLibObject().GetHeadPosition();
     EXPECT_THROW(library.GetNext(none), CInvalidArgException);

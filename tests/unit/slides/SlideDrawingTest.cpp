@@ -33,16 +33,18 @@ std::string drawnInRect(const std::vector<uint8_t>& image, const PixelRect& rect
 TEST(SlideDrawing, IsTheSameInAllForms) {
     for (const SlideForm form : EVERY_FORM) {
         const MadeSlide slide = MadeSlide(form, 500, 400)
+                                    .vector(1, 2, 0xFFFD, 0xFFF0)
                                     .vector(0x0102, 0xFFFF, 0x8000, 0x7FFF)
                                     .offsetVector(1, 255, 3, 4)
                                     .endpoint(255, 2)
-                                    .fill({{1, 2}, {0xFFFE, 0x0304}})
+                                    .fill({{1, 0xFFFC}, {0xFFFE, 0x0304}})
                                     .color(1)
                                     .end();
         EXPECT_EQ(
             drawn(slide),
-            "MoveTo 32768,32767; LineTo 258,1; MoveTo 261,5; LineTo 259,256; LineTo 514,258; SetPolyFillMode "
-            "1; Polygon 1,2 2,772; CreatePen ff; CreateBrush ff; SelectPen 10; SelectBrush 11; SelectPen 1; "
+            "MoveTo 3,16; LineTo 1,2; MoveTo 32768,32767; LineTo 258,1; MoveTo 261,5; LineTo 259,256; LineTo "
+            "514,258; SetPolyFillMode 1; Polygon 1,4 2,772; CreatePen ff; CreateBrush ff; SelectPen 10; "
+            "SelectBrush 11; SelectPen 1; "
             "Destroy 10; SelectBrush 2; Destroy 11")
             << form.level << form.littleEndian;
     }
@@ -80,8 +82,10 @@ TEST(SlideDrawing, EndsWhereARecordIsUnknownOrRunsPastTheEnd) {
 TEST(SlideDrawing, TakesNoPointBeforeTheFirstVectorFromAnywhere) {
     EXPECT_EQ(drawn(plain().endpoint(3, 4).offsetVector(1, 1, 2, 2)), "LineTo 3,4; MoveTo 5,6; LineTo 4,5");
     // Fills and colours leave the last point alone.
-    EXPECT_EQ(drawn(plain().vector(9, 9, 1, 1).fill({{5, 5}}).endpoint(0, 0)),
-              "MoveTo 1,1; LineTo 9,9; SetPolyFillMode 1; Polygon 5,5; LineTo 9,9");
+    EXPECT_EQ(
+        drawn(plain().vector(9, 9, 1, 1).fill({{5, 5}}).fill({{6, 7}}).endpoint(0, 0)),
+        "MoveTo 1,1; LineTo 9,9; SetPolyFillMode 1; Polygon 5,5; SetPolyFillMode 1; Polygon 6,7; LineTo "
+        "9,9");
     EXPECT_EQ(drawn(plain().fill({}).vector(1, 2, 3, 4)), "MoveTo 3,4; LineTo 1,2");
 }
 

@@ -163,6 +163,17 @@ TEST(SlideSaving, WritesTheBytesAndTellsFailure) {
     EXPECT_EQ(CSlideObject().SaveSld(folder.file("empty.sld")), 1);
     EXPECT_EQ(bytesOf<Bytes>(folder.file("empty.sld")), Bytes{});
     EXPECT_EQ(slide.WriteData(nullptr), 0u);
+
+    // A bitmap's rows are told to begin behind a palette of 2 to the power of its bits, modulo 32.
+    for (const auto& [bits, begin] : {std::pair(4, 14 + 40 + 64), {8, 14 + 40 + 1024}, {33, 14 + 40 + 8}}) {
+        Bytes block(40);
+        block[0] = 40;
+        block[14] = static_cast<uint8_t>(bits);
+        EXPECT_EQ(CSlideObject::WriteDibFile(folder.file("a.bmp"), block), 1);
+        const Bytes written = bytesOf<Bytes>(folder.file("a.bmp"));
+        EXPECT_EQ(written.size(), 54u);
+        EXPECT_EQ(written[10] | written[11] << 8, begin);
+    }
 }
 
 }  // namespace
