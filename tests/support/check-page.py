@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Usage: check-page.py PAGE.pdf DRAWN.pgm    fails where a printed report isn't the sample report on one A4 page, or
 differs from its picture, which is drawn at 300 dots per inch."""
+import os
 import re
 import subprocess
 import sys
@@ -20,22 +21,11 @@ def expect(what, wanted, got):
         sys.exit(f"{what}: wanted {wanted}, got {got}")
 
 
-def read_pgm(data):
-    fields, at = [], 0
-    while len(fields) < 4:
-        while data[at:at + 1].isspace():
-            at += 1
-        if data[at:at + 1] == b"#":
-            at = data.index(b"\n", at)
-            continue
-        end = at
-        while not data[end:end + 1].isspace():
-            end += 1
-        fields.append(data[at:end])
-        at = end
-    width, height = int(fields[1]), int(fields[2])
-    pixels = data[at + 1:]
-    return width, height, [pixels[y * width:(y + 1) * width] for y in range(height)]
+def rows_of(picture):
+    """Of its points, a byte each."""
+    width = int(output("identify", "-format", "%w", picture))
+    points = output("convert", picture, "-depth", "8", "gray:-")
+    return [points[at:at + width] for at in range(0, len(points), width)]
 
 
 def dots(rows):
@@ -71,9 +61,9 @@ fonts = output("pdffonts", pdf).decode().splitlines()[2:]
 expect("fonts", 2, len(fonts))
 expect("bold fonts", 1, sum("Bold" in font for font in fonts))
 
-_, _, rows = read_pgm(output("gs", "-q", "-dNOPAUSE", "-dBATCH", "-dSAFER", "-sDEVICE=pgmraw", f"-r{DPI}",
-                             "-sOutputFile=-", pdf))
-_, _, own = read_pgm(open(drawn, "rb").read())
+output("gs", "-q", "-dNOPAUSE", "-dBATCH", "-dSAFER", "-sDEVICE=pgmraw", f"-r{DPI}", f"-sOutputFile={pdf}.pgm", pdf)
+rows, own = rows_of(f"{pdf}.pgm"), rows_of(drawn)
+os.remove(f"{pdf}.pgm")
 
 # Beside the left edge no letter begins: the lines there are those of the table.
 ours, theirs = lines_down(own, 155, 140, 3300), lines_down(rows, 155, 140, 3300)

@@ -37,10 +37,31 @@
 
 (defun note (what) (setq notes (append notes (list what))))
 
+; The scale of the display; on one of another it is set before this file is loaded.
+(if (not (boundp 'scale)) (setq scale 1.0))
+
 ; The notes since the last call.
 (defun told (/ was) (setq was notes notes nil) was)
 
 (defun look (tile what) (cdr (assoc what (ui_look tile))))
+
+(defun alerts () (length (ui_alerts)))
+
+; What the form's error says, nil without one.
+(defun refused (form) (catch-error (progn (eval form) nil)))
+
+; Of the menu that is up: all its items, nil for a line, and those that are checked.
+(defun texts () (mapcar '(lambda (item) (if item (car item))) (ui_menu)))
+(defun chosen () (apply 'append (mapcar '(lambda (item) (if (member "checked" item) (list (car item)))) (ui_menu))))
+
+; Puts what is on the clipboard into LINES.
+(defun paste () (wex_set_tile "LINES" "") (ui_key "CTRL+V" "LINES"))
+
+; A list control with two columns and those rows.
+(defun fill-table (tile rows)
+  (wex_listctrl_setcolumns tile "\tName\tSize")
+  (fill tile rows))
+(setq three-rows '("alpha\t10" "beta\t9" "gamma\t100"))
 
 (defun fill (tile items)
   (wex_start_list tile)
@@ -58,7 +79,10 @@
 (defun in-dialog (name prepare session)
   (run-dialog name prepare (append session '((ui_click "Cancel")))))
 
-; --- sessions of chance. (setq seed n events m) before the file gives another run.
+; --- sessions of chance. Another run, longer or of another seed, beside the add-on of odd dialogs:
+;
+;   wine64 build/windows/testbin/wexhost.exe --headless tests/support/check.lsp -e '(setq seed 7 events 100000)' tests/ui/random_lists.lsp \
+;     -e '(report-tests)'
 
 ; The minimal standard generator, whose products fit a real.
 (defun chance (n) (setq state (fix (rem (* state 16807.0) 2147483647))) (rem state n))
@@ -74,5 +98,8 @@
   (if (and fine *wrong*)
     (note-wrong (strcat "by event " (itoa count) " of seed " (itoa seed) "; the last were "
                         (prin1-to-string (mapcar '(lambda (i) (nth i trail)) (range 5)))))))
+
+; `step` so many times, as forms of a session.
+(defun steps-of (step / steps) (repeat events (setq steps (cons step steps))) steps)
 
 (defun put-nth (n new some) (mapcar '(lambda (i old) (if (= i n) new old)) (range (length some)) some))

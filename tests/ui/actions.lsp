@@ -11,12 +11,6 @@
         (want T (look "DESC" "focus"))))
     (want '(("keep" "1" 1) ("ok" "0" 1) ("help" "0" 1)) notes)))
 
-(test "An edit box reports its text once, when the focus leaves it and before the button that takes it"
-  '((in-dialog "ADD_REC"
-      '(progn (wex_action_tile "DESC" "(note (list $key $value $reason))") (wex_action_tile "HELP" "(note $key)"))
-      '((ui_type "DESC" "ACME") (ui_click "HELP")))
-    (want '(("desc" "ACME" 2) "help") notes)))
-
 (test "The function's name follows the spelling, and the record of OK has three names"
   '((want 1 (run-dialog "ADD_REC"
       '(want T (wex_action_tile "accept" "(setq pressed \"accept\") (wex_done_dialog 1)"))

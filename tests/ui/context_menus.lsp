@@ -1,19 +1,13 @@
 ; Context menus: what each kind of tile offers, what can't apply is disabled, and what is chosen is done. Where the right button
 ; has an event of its own, no menu comes up.
 
-(defun texts () (mapcar '(lambda (item) (if item (car item))) (ui_menu)))
 (defun enabled () (apply 'append (mapcar '(lambda (item) (if (and item (not (member "disabled" item))) (list (car item)))) (ui_menu))))
-(defun chosen () (apply 'append (mapcar '(lambda (item) (if (member "checked" item) (list (car item)))) (ui_menu))))
 
-; LINES takes what is on the clipboard.
 (defun in-list (session)
   (setq notes nil)
   (in-dialog "ODD_KINDS"
-    '(progn (wex_listctrl_setcolumns "LISTVIEW" "\tName\tSize")
-            (wex_start_list "LISTVIEW") (wex_add_list '("alpha\t10" "beta\t9" "gamma\t100")) (wex_end_list)
-            (wex_action_tile "LISTVIEW" "(note $value)"))
+    '(progn (fill-table "LISTVIEW" three-rows) (wex_action_tile "LISTVIEW" "(note $value)"))
     session))
-(defun paste () (wex_set_tile "LINES" "") (ui_key "CTRL+V" "LINES"))
 
 (test "A list copies its selected rows with and without the titles, selects all rows and fits its columns, by keys and by a right click above the rows; a right press on a row tells of it alone"
   '((in-list

@@ -4,10 +4,6 @@
 (defun run-with (session) (run-dialog "CONFIRM_DELREC" nil session))
 (defun status-of (action) (run-dialog "CONFIRM_DELREC" '(wex_action_tile "OK" action) '((ui_click "OK"))))
 
-(test "A dialog is found whatever the case of its name"
-  '((foreach name '("add_rec" "ADD_REC" "Add_Rec")
-      (want -1 (in-dialog name nil nil)))))
-
 (test "OK, Cancel, Esc and the close box without actions all give -1"
   '((want -1 (run-with '((ui_click "OK"))))
     (want -1 (run-with '((ui_click "Cancel"))))

@@ -1,7 +1,6 @@
 ; Drawings of the host: what is made can be asked, files are read whole or not at all, and the main frame shows them.
 
 (defun told (number name) (cdr (assoc name (draw_get number))))
-(defun refusal (form) (catch-error (progn (eval form) "no error")))
 (defun write-lines (path lines / file)
   (setq file (open path "w"))
   (foreach line lines (write-line line file))
@@ -32,7 +31,7 @@
     (foreach form '((draw_line '(0) '(1 1)) (draw_circle '(0 0) 0) (draw_mesh '((0 0) (1 0) (1 1)) '((0 1 3)))
                     (draw_solid '(0 0) '(1 0) '("x" 1)) (draw_get 0) (draw_pattern "wavy") (draw_show "nothing")
                     (draw_circle '(0 0) 1 '(0 0 0)) (draw_arc '(0 0) 1 0 (* 1e300 1e300)))
-      (want nil (equal "no error" (refusal form))))
+      (want T (stringp (refused form))))
     (want 0 (draw_count))))
 
 (test "A file is read whole or not at all, and says which line is wrong"
@@ -43,13 +42,10 @@
     (draw_open "drawings_test.wdr")
     (want '(1 (4.0 3.0 0.0)) (list (draw_count) (told 0 "end")))
     (write-lines "drawings_test.wdr" '("wexdrawing 1" "layer \"0\" 7 on" "LINE"))
-    (want T (not (null (string-search (refusal '(draw_open "drawings_test.wdr")) "line 3: an entity needs a block before it"))))
+    (want T (not (null (string-search (refused '(draw_open "drawings_test.wdr")) "line 3: an entity needs a block before it"))))
     (want 1 (draw_count))
-    (write-lines "drawings_test.dxf"
-      '("0" "SECTION" "2" "BLOCKS" "0" "BLOCK" "2" "Lamp" "0" "CIRCLE" "40" "2" "0" "ENDBLK" "0" "ENDSEC"
-        "0" "SECTION" "2" "ENTITIES" "0" "INSERT" "2" "Lamp" "10" "20" "0" "SPLINE" "0" "ENDSEC" "0" "EOF"))
+    (write-lines "drawings_test.dxf" '("0" "SECTION" "2" "ENTITIES" "0" "LINE" "11" "22" "0" "SPLINE" "0" "ENDSEC" "0" "EOF"))
     (draw_open "drawings_test.dxf")
-    (want '(1 "POLYLINE") (list (draw_count) (told 0 "kind")))
-    (want T (< 21.99 (caadr (draw_extents)) 22.01))
+    (want '(1 "LINE" 22.0) (list (draw_count) (told 0 "kind") (caadr (draw_extents))))
     (delete-file "drawings_test.wdr")
     (delete-file "drawings_test.dxf")))

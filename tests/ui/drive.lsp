@@ -1,16 +1,10 @@
 ; What the functions of sessions do is what a person's hands would do.
 
-(defun fill-table (tile)
-  (wex_listctrl_setcolumns tile "\tName\tSize")
-  (fill tile '("alpha\t10" "beta\t9" "gamma\t100" "delta\t1")))
-
 (defun in-list (session)
   (in-dialog "PICK_DWGS"
-    '(progn (fill-table "LST1") (wex_action_tile "LST1" "(note $value)"))
+    '(progn (fill-table "LST1" (append three-rows '("delta\t1"))) (wex_action_tile "LST1" "(note $value)"))
     session))
 (defun selected (tile) (look tile "selected"))
-; Whether the form is refused.
-(defun refused (form) (catch-error (progn (eval form) nil) '(lambda (message) T)))
 
 (test "A key is let go behind the character that it makes, and where the focus is then"
   '((in-list
@@ -41,7 +35,7 @@
         (ui_pick "LST1" 1 1 "CTRL") (want '(0 2) (selected "LST1"))
         (ui_pick "LST1" '(3 0)) (want '(0 3) (selected "LST1"))
         (ui_pick "LST1" 2) (want '(2) (selected "LST1"))
-        (want T (refused '(ui_pick "LST1" 2 "ALT")))))))
+        (want T (stringp (refused '(ui_pick "LST1" 2 "ALT"))))))))
 
 (test "A drag over entries takes those between; from far apart it is refused"
   '((in-dialog "ODD_KINDS"
@@ -49,7 +43,7 @@
       '((ui_sweep "MULTI" "b" "d") (want '(1 2 3) (selected "MULTI"))
         (ui_sweep "MULTI" 2 0) (want '(0 1 2) (selected "MULTI"))
         (ui_hold "MULTI" "c") (ui_release "MULTI" "e") (want '(2 3 4) (selected "MULTI"))
-        (want T (refused '(ui_sweep "MULTI" 0 11)))))))
+        (want T (stringp (refused '(ui_sweep "MULTI" 0 11))))))))
 
 ; The box that is left runs the action.
 (defun leave-and-click (action)
@@ -72,7 +66,7 @@
       '((ui_type "LINES" "a\nb") (want '("a") notes) (want "a\r\nb" (wex_get_tile "LINES"))))))
 
 (test "A tab is reached in either direction, however far it is scrolled off"
-  '((in-dialog "ODD_PAGES"
+  '((in-dialog "ODD_TABS"
       '(setq n 0)
       '((repeat 30 (setq n (1+ n)) (wex_tab_add "TAB" (strcat "A long name of page " (itoa n))))
         (foreach tab '(29 3 17 0 28 27 1) (ui_pick "TAB" tab))
@@ -94,7 +88,7 @@
   '((run-dialog "ADD_REC" '(wex_setresizing "DESC" 25)
       '((setq before (cdr (assoc "client" (ui_look))))
         (wex_enable_dialog nil)
-        (want T (refused '(ui_drag "GRIP" 20 20)))
+        (want T (stringp (refused '(ui_drag "GRIP" 20 20))))
         (want before (cdr (assoc "client" (ui_look))))
         (wex_enable_dialog T)
         (ui_drag "GRIP" 20 20)

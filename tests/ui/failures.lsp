@@ -72,6 +72,3 @@
     (rename-file event-file (strcat event-file "." (itoa (ticks))))
     (ui_session "CONFIRM_DELREC" '((ui_click "OK")))
     (want 8 (wex_start_dialog))))
-
-(test "Functions of families that come later say so"
-  '((want nil (wex_end_image))))

@@ -5,15 +5,12 @@
 
 (defun missing () (remove-if 'boundp all-functions))
 
-(test "A second document has them too, and they stay when it closes"
-  '((want nil (missing))
-    (host_open_document)
+(test "A second document has them too, and they stay when it closes; they go with the last one and come with the next"
+  '((host_open_document)
     (want nil (missing))
     (host_close_document)
-    (want nil (missing))))
-
-(test "They go with the last document and come with the next one"
-  '((host_close_document)
+    (want nil (missing))
+    (host_close_document)
     (want all-functions (missing))
     (host_open_document)
     (want nil (missing))

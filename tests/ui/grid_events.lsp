@@ -102,20 +102,6 @@
         (want '("\tread\tred" "\tpush\tred" "\tface\tred") (shown))
         (want nil (remove-if '(lambda (event) (= (cadr event) 4)) (told)))))))
 
-(test "An event may change the grid that it comes from: the cell, the rows, the columns"
-  '((foreach change '((wex_grid_setcell "LST" 1 1 100 "other") (wex_grid_setcell "LST" 1 1 52513 "locked") (wex_grid_setrowcolumns "LST" 0 0)
-                      (wex_grid_setrowcolumns "LST" 9 9) (wex_start_list "LST") (wex_grid_clearcells "LST" 0 0 -1 -1 T)
-                      (wex_mode_tile "LST" 1) (wex_mode_tile "LST" 6))
-      (foreach reason '(4 7)
-        (in-dialog "EDIT_NONWD_ATTRS" '(wex_action_tile "LST" "(if (= $reason reason) (eval change))")
-          '((fill-grid)
-            (ui_pick "LST" 1 1)
-            (if (and (look "LST" "visible") (look "LST" "enabled") (> (wex_grid_getrowcount "LST") 0)) (ui_type "LST" "ab"))
-            (wex_mode_tile "LST" 0) (wex_mode_tile "LST" 5)
-            (fill-grid)
-            (ui_pick "LST" 2 1)
-            (if (and (look "LST" "visible") (look "LST" "enabled")) (ui_key "CTRL+V"))))))))
-
 (setq ends '(((ui_pick "LST" 2 1) 4) ((ui_key "DOWN") 4) ((ui_pick "LST" 1 1 3 2) 4) ((ui_type "LST" "xyz") 7) ((ui_key "DELETE") 7)
              ((ui_key "CTRL+V") 7)
              ((progn (wex_grid_setcell "LST" 1 1 52501 "0") (ui_key "SPACE")) 7)))

@@ -12,7 +12,6 @@
 ; What the cells of that row or column are, from the header on.
 (defun along (row what) (mapcar '(lambda (column) (cell row column what)) (range (1+ (cadr (counts))))))
 (defun down (column what) (mapcar '(lambda (row) (cell row column what)) (range (1+ (car (counts))))))
-(defun alerts () (length (ui_alerts)))
 (defun answers (functions arguments) (mapcar '(lambda (f) (apply f arguments)) functions))
 
 (test "A grid begins empty; the count of columns includes that of the headers; what is no number is 0"

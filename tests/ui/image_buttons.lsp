@@ -1,8 +1,5 @@
 ; The icons of image buttons, looked at in every state: what a person sees on the button, not what it answers.
 
-; The display's; on one of another scale it is set before this file is loaded.
-(if (not (boundp 'scale)) (setq scale 1.0))
-
 ; Colors that the icons are drawn in.
 (setq folder 16767079 arrow 1925030)
 

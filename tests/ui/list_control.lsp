@@ -7,10 +7,6 @@
 
 (defun titles (tile) (mapcar 'car (ui_columns tile)))
 (defun widths (tile) (mapcar 'cadr (ui_columns tile)))
-(defun alerts () (length (ui_alerts)))
-
-; The display's; on one of another scale it is set before this file is loaded.
-(if (not (boundp 'scale)) (setq scale 1.0))
 
 (setq three-columns "(wex_listctrl_setcolumns \"TABLE\" \"x\tName\tSize\tMaker\")")
 

@@ -1,15 +1,11 @@
 ; What a person does to a list control with mouse and keys, and what Lisp is told of it.
 (host_warn nil)  ; what the functions refuse is tried on purpose
 
-(defun fill-table (tile)
-  (wex_listctrl_setcolumns tile "\tName\tSize")
-  (fill tile '("alpha\t10" "beta\t9" "gamma\t100")))
-
 ; A session on a list of three rows in which several can be selected, and then Cancel.
 (defun in-list (init session)
   (setq notes nil)
   (in-dialog "PICK_DWGS"
-    '(progn (fill-table "LST1")
+    '(progn (fill-table "LST1" three-rows)
             (wex_action_tile "LST1" "(note (list $key $value $reason))")
             (eval init))
     session))
@@ -18,7 +14,7 @@
 (defun in-single-list (init session)
   (setq notes nil)
   (run-dialog "CAT_PICK_LST"
-    '(progn (fill-table "LST")
+    '(progn (fill-table "LST" three-rows)
             (wex_action_tile "LST" "(note (list $value $reason))")
             (eval init))
     session))
@@ -141,11 +137,10 @@
     (in-single-list nil
       '((wex_listctrl_enabledbclk "lst" nil) (ui_dblclick "LST" 1) (want '(("1" 5)) (told)) (ui_key "ESC")))))
 
-; A list whose template says nothing of how it looks. LINES takes what is on the clipboard.
+; A list whose template says nothing of how it looks.
 (defun in-kinds (session)
   (in-dialog "ODD_KINDS"
-    '(progn (fill-table "LISTVIEW")
-            (wex_action_tile "LISTVIEW" "(note $value)"))
+    '(progn (fill-table "LISTVIEW" three-rows) (wex_action_tile "LISTVIEW" "(note $value)"))
     session))
 
 ; The color of the second row at the right of its text.
@@ -169,8 +164,6 @@
         (ui_pick "LISTVIEW" 1)
         (wex_mode_tile "EDIT" 2)
         (want kept (row-color))))))
-
-(defun paste () (wex_set_tile "LINES" "") (ui_key "CTRL+V" "LINES"))
 
 (test "Copying puts titles and selected rows on the clipboard, where a cell can't look like more; the keys are told as ever"
   '((in-kinds

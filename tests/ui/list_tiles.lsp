@@ -3,11 +3,6 @@
 
 (defun in-lists (prepared session) (in-dialog "DISP_ASSYVALS" prepared session))
 
-(test "Rows that wait in the record show in order, with the first one selected"
-  '((in-lists '(fill "LST" '("one" "two" "three"))
-      '((want '("one" "two" "three") (ui_items "LST"))
-        (want "0" (wex_get_tile "LST"))))))
-
 (test "A value selects a row at the start, and one that doesn't exist selects none"
   '((in-lists '(progn (wex_set_tile "LST" "2") (fill "LST" '("one" "two" "three")))
       '((want "2" (wex_get_tile "LST"))))

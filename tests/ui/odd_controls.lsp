@@ -9,20 +9,9 @@
           (want row (list (car row) (ui_text (car row)))))
         (ui_shot "odd_buttons.png")))))
 
-(test "Only an exact group box is replaced"
-  '((in-dialog "ODD_BUTTONS" nil
-      '((want nil (equal "Button" (look "FRAME" "class")))
-        (want "Button" (look "BOX" "class"))
-        (want "Button" (look "HIDDEN_BOX" "class"))))))
-
 (test "Frames and tab controls lie under the controls that they surround"
   '((in-dialog "ODD_BUTTONS" nil '((want 114 (last (cdr (assoc "controls" (ui_look)))))))
     (in-dialog "ODD_KINDS" nil '((want 118 (last (cdr (assoc "controls" (ui_look)))))))))
-
-(test "Only an image tile tells its size"
-  '((in-dialog "ODD_BUTTONS" nil
-      '((want (cddr (look "SLIDE" "rect")) (list (wex_dimx_tile "SLIDE") (wex_dimy_tile "SLIDE")))
-        (foreach tile '("PLAIN" "LEFT" "CHECK" "FRAME") (want 0 (wex_dimx_tile tile)))))))
 
 (test "A box of three states is on for Lisp in its third, though its event says 0"
   '((in-dialog "ODD_BUTTONS" '(wex_action_tile "THREE" "(note (list $value (wex_get_tile \"THREE\")))")

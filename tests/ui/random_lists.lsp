@@ -1,9 +1,5 @@
 ; Random clicks, keys and list calls on a dialog with a list box, a combo box and a list control. After each of them the
-; lists show what a plain model says, and the actions have heard what it says. Another run, longer or of another seed:
-;
-;   ./wexhost --headless tests/support/check.lsp -e '(setq seed 7 events 100000)' tests/ui/random_lists.lsp -e '(report-tests)'
-;
-; beside the add-on of odd dialogs: with build/windows/testbin/wexhost.exe. Where the platform decides (which rows a click
+; lists show what a plain model says, and the actions have heard what it says. Where the platform decides (which rows a click
 ; on one of several selected rows leaves, whether a click on the selected entry is told) it is Wine that was asked.
 (host_warn nil)  ; what the functions refuse is tried on purpose
 
@@ -218,9 +214,7 @@
   (note-event fine))
 
 (test (strcat (itoa events) " random events, seed " (itoa seed))
-  '((setq steps nil)
-    (repeat events (setq steps (cons '(if (null *wrong*) (event)) steps)))
-    (ui_session "ODD_KINDS" (append steps '((compare) (ui_click "Cancel"))))
+  '((ui_session "ODD_KINDS" (append (steps-of '(if (null *wrong*) (event))) '((compare) (ui_click "Cancel"))))
     (wex_new_dialog "ODD_KINDS")
     (foreach tile tiles (wex_action_tile tile "(heard)"))
     (wex_action_tile "OK" "(heard)")
@@ -233,4 +227,4 @@
       (if (equal tile table)
         (setq waiting items rows (mapcar '(lambda (text) (cons (cells (trimmed text)) nil)) items))
         (set-box tile items (if (equal tile "LISTBOX") 0 -1))))
-    (wex_start_dialog)))
+    (want -1 (wex_start_dialog))))

@@ -2,7 +2,6 @@
 ; pixels here is so at all of them.
 (host_warn nil)  ; what the functions refuse is tried on purpose
 
-(if (not (boundp 'scale)) (setq scale 1.0))
 (setq tab 100 preview '(100 101) bar '(100 102) drawing '(100 103))
 (setq page-buttons '(3 4 5 6 1 7))
 
@@ -33,7 +32,7 @@
         (want '((0) (T T nil)) (list (look tab "selected") (shown)))))))
 
 (test "No other dialog has them, also with a control of that id"
-  '((in-dialog "ODD_REPORT" nil
+  '((in-dialog "ODD_TREES" nil
       '((want nil (ui_items tab))
         (ui_click 3)
         (want nil (ui_alerts))))))

@@ -1,7 +1,5 @@
 ; Rows of the product's dialogs: what stands side by side is equally high, at one height, and apart.
 
-(if (not (boundp 'scale)) (setq scale 1.0))
-
 ; The heights, in pixels at 96 dots per inch, between those of check boxes and of lists: edit boxes of one line, combo
 ; boxes, push buttons and image buttons.
 (setq lowest 18 highest 30)

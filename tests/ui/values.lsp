@@ -1,13 +1,6 @@
 ; Setting and reading what tiles show, before and during the run.
 (host_warn nil)  ; what the functions refuse is tried on purpose
 
-(test "Values that wait in the records show at the start"
-  '((want -1 (in-dialog "ADD_REC"
-      '(progn (want nil (wex_set_tile "DESC" "ACME")) (wex_set_tile "QTY" 12) (wex_set_tile "KEEP" 1)
-              (wex_set_tile "MAIN_TITLE" "New part") (wex_settitlebar "not kept") (want nil (wex_get_tile "DESC")))
-      '((want "ACME" (ui_text "DESC")) (want "12" (ui_text "QTY")) (want T (look "KEEP" "checked"))
-        (want "New part" (ui_title)))))))
-
 (test "A button takes 1 and 0 as its state and anything else as its caption"
   '((in-dialog "ADD_REC" '(wex_setaction_oninit "(wex_set_tile \"KEEP\" \"1\")")
       '((want "1" (wex_get_tile "KEEP"))

@@ -4,26 +4,24 @@
 ; A warning without its place, which is checked further down.
 (defun words (line) (substr line (+ 3 (string-search line ": "))))
 
-; Each row is a form and its warning.
+(defun want-warnings (form warnings) (eval form) (want (list form warnings) (list form (mapcar 'words (ui_warnings)))))
+
+; Each row is a form and its warnings, or one that several functions give behind their names, and a form for each.
 (defun warned (rows)
   (ui_warnings)
   (foreach row rows
-    (eval (car row))
-    (want (list (car row) (cdr row)) (list (car row) (mapcar 'words (ui_warnings)))))
+    (if (stringp (car row))
+      (foreach form (cdr row) (want-warnings form (list (strcat (strcase (princ-to-string (car form)) T) ": " (car row)))))
+      (want-warnings (car row) (cdr row))))
   (ui_alerts))
 
 (test "Without a dialog"
   '((warned '(
       ((wex_new_dialog "ADD_RECK") "wex_new_dialog: there is no dialog \"ADD_RECK\"; did you mean \"ADD_REC\"?")
       ((wex_new_dialog 5) "wex_new_dialog: argument 1: expected a string, got 5" "wex_new_dialog: there is no dialog \"ADD_RECK\"; did you mean \"ADD_REC\"?")
-      ((wex_set_tile "CAT" "x") "wex_set_tile: no dialog is current: wex_new_dialog makes one")
-      ((wex_start_dialog) "wex_start_dialog: no dialog is current: wex_new_dialog makes one")
-      ((wex_done_dialog 1) "wex_done_dialog: no dialog is current: wex_new_dialog makes one")
-      ((wex_get_tile "CAT") "wex_get_tile: no dialog is current: wex_new_dialog makes one")
-      ((wex_tree_getcursel "TREE") "wex_tree_getcursel: no dialog is current: wex_new_dialog makes one")
-      ((wex_add_list "x") "wex_add_list: no dialog is current: wex_new_dialog makes one")
-      ((wex_settitlebar "x") "wex_settitlebar: no dialog is current: wex_new_dialog makes one")
-      ((wex_start_image "X") "wex_start_image: no dialog is current: wex_new_dialog makes one")
+      ("no dialog is current: wex_new_dialog makes one"
+        (wex_set_tile "CAT" "x") (wex_start_dialog) (wex_done_dialog 1) (wex_get_tile "CAT") (wex_tree_getcursel "TREE")
+        (wex_add_list "x") (wex_settitlebar "x") (wex_start_image "X"))
       ((wex_alert "x" 9) "wex_alert: argument 2: there is no icon 9")
       ((wex_alert "x" 1 2 '(3)) "wex_alert: of 4 arguments it takes 2")
       ((wex_fp_getcount) "wex_fp_getcount: no table is set up: wex_fp_setupdatasrc sets one up")
@@ -37,26 +35,21 @@
 (test "Before the dialog runs"
   '((wex_new_dialog "ODD_KINDS")
     (warned '(
-      ((wex_set_tile "EDIR" "x") "wex_set_tile: ODD_KINDS has no tile \"EDIR\"; did you mean \"EDIT\"?")
+      ("ODD_KINDS has no tile \"EDIR\"; did you mean \"EDIT\"?"
+        (wex_set_tile "EDIR" "x") (wex_action_tile "EDIR" "(princ)") (wex_mode_tile "EDIR" 1))
       ((wex_set_tile "nothing like it" "x") "wex_set_tile: ODD_KINDS has no tile \"nothing like it\"")
       ((wex_set_tile 98 "x") "wex_set_tile: ODD_KINDS has no tile 98")
       ((wex_set_tile nil "x") "wex_set_tile: argument 1: expected the key or the id of a tile, got nil")
       ((wex_set_tile "EDIT" 1.5) "wex_set_tile: argument 2: expected a string or an integer, got 1.5")
       ((wex_set_tile "EDIT") "wex_set_tile: argument 2 is missing")
-      ((wex_action_tile "EDIR" "(princ)") "wex_action_tile: ODD_KINDS has no tile \"EDIR\"; did you mean \"EDIT\"?")
       ((wex_action_tile "STATIC" "(princ)") "wex_action_tile: tile \"STATIC\" is a text, and the function is for tiles that a person works")
       ((wex_action_tile "EDIT" 5) "wex_action_tile: argument 2: expected a string, got 5")
       ((wex_setaction_oninit nil) "wex_setaction_oninit: argument 1: expected a string, got nil")
       ((wex_mode_tile "EDIT" 7) "wex_mode_tile: argument 2: there is no mode 7")
       ((wex_mode_tile "EDIT" "1") "wex_mode_tile: argument 2: expected an integer, got \"1\"")
-      ((wex_mode_tile "EDIR" 1) "wex_mode_tile: ODD_KINDS has no tile \"EDIR\"; did you mean \"EDIT\"?")
-      ((wex_get_tile "EDIT") "wex_get_tile: ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on")
-      ((wex_done_dialog 1) "wex_done_dialog: ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on")
-      ((wex_tab_add "TAB" "x") "wex_tab_add: ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on")
-      ((wex_tree_insertparent "TREE" "x") "wex_tree_insertparent: ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on")
-      ((wex_grid_addrow "TREE" "x") "wex_grid_addrow: ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on")
-      ((wex_listctrl_additem "LISTVIEW" "x") "wex_listctrl_additem: ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on")
-      ((wex_settitlebar "x") "wex_settitlebar: ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on")
+      ("ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on"
+        (wex_get_tile "EDIT") (wex_done_dialog 1) (wex_tab_add "TAB" "x") (wex_tree_insertparent "TREE" "x")
+        (wex_grid_addrow "TREE" "x") (wex_listctrl_additem "LISTVIEW" "x") (wex_settitlebar "x") (wex_vector_image "EDIT" 1 2 3 4 5))
       ((wex_add_list "x") "wex_add_list: no list is open: wex_start_list opens one")
       ((wex_end_list) "wex_end_list: no list is open: wex_start_list opens one")
       ((wex_start_list "LISTBOX" 1 3) "wex_start_list: argument 3: the entry that changes is the selected one, not this one" "wex_start_list: operation 1 before the dialog has started only makes it start with a disabled tile")
@@ -80,7 +73,6 @@
       ((wex_slide_image 0 0 9 9 "x.slb") "wex_slide_image: no image is open: wex_start_image opens one")
       ((wex_start_image "EDIT") "wex_start_image: tile \"EDIT\" is an edit box, and the function is for image tiles")
       ((wex_start_image "SLIDE9") "wex_start_image: another image is still open: wex_end_image closes it" "wex_start_image: ODD_KINDS has no tile \"SLIDE9\"")
-      ((wex_vector_image "EDIT" 1 2 3 4 5) "wex_vector_image: ODD_KINDS doesn't run yet: this works from its start action (wex_setaction_oninit) on")
       ((wex_slide_image 0 0 9 9 "nobody(x)") "wex_slide_image: there is no file \"nobody.slb\", or its path is too long")))
     (wex_set_tile "NOCONTROL" "x")
     (wex_set_tile "LISTBOX" "7")
@@ -124,12 +116,9 @@
       ((wex_listctrl_getcolcount "EDIT") "wex_listctrl_getcolcount: tile \"EDIT\" is an edit box, and the function is for list controls")
       ((wex_tree_getcount "EDIT") "wex_tree_getcount: tile \"EDIT\" is an edit box, and the function is for trees")
       ((wex_tree_insertchild "TREE" nil "x") "wex_tree_insertchild: argument 2: expected an integer, got nil")
-      ((wex_tree_insertchild "TREE" 5 "x") "wex_tree_insertchild: the tree has no item 5")
-      ((wex_tree_selectitem "TREE" 5) "wex_tree_selectitem: the tree has no item 5")
-      ((wex_tree_setitemtext "TREE" 5 "x") "wex_tree_setitemtext: the tree has no item 5")
-      ((wex_tree_getitemdata "TREE" 5) "wex_tree_getitemdata: the tree has no item 5")
-      ((wex_tree_deleteitem "TREE" 5) "wex_tree_deleteitem: the tree has no item 5")
-      ((wex_tree_getparent "TREE" 5) "wex_tree_getparent: the tree has no item 5")
+      ("the tree has no item 5"
+        (wex_tree_insertchild "TREE" 5 "x") (wex_tree_selectitem "TREE" 5) (wex_tree_setitemtext "TREE" 5 "x")
+        (wex_tree_getitemdata "TREE" 5) (wex_tree_deleteitem "TREE" 5) (wex_tree_getparent "TREE" 5))
       ((wex_tree_expanditem "TREE" 0) "wex_tree_expanditem: the tree has no item 0")
       ((wex_tree_getitemtext "TREE" nil) "wex_tree_getitemtext: argument 2: expected an integer, got nil")
       ((wex_tree_expanditem "TREE" 0 7) "wex_tree_expanditem: argument 3: there is no mode 7")
@@ -143,7 +132,6 @@
       ((wex_listctrl_addcolumn "TABLE" 5) "wex_listctrl_addcolumn: argument 2: expected a string, got 5")
       ((wex_listctrl_additem "TABLE" 5 "x") "wex_listctrl_additem: the list has no row 5: the text becomes row 0")
       ((wex_listctrl_setitem "TABLE" 0 "x") "wex_listctrl_setitem: row 0 is set by a column only, and none is given")
-      ((wex_listctrl_setitem "TABLE" 0 7 "x") "wex_listctrl_setitem: the list has no column 7")
       ((wex_listctrl_setitem "TABLE" 0 1 nil) "wex_listctrl_setitem: the text is no string: it counts as an empty one")
       ((wex_listctrl_additem "TABLE" 0 1) "wex_listctrl_additem: argument 4 is missing")
       ((wex_listctrl_setitem "TABLE" -5 1 "x") "wex_listctrl_setitem: the list has no row -5")
@@ -156,10 +144,9 @@
       ((wex_listctrl_setitemcount "VIRTUAL" -2) "wex_listctrl_setitemcount: -2 is no number of rows")
       ((wex_listctrl_allowsorting "VIRTUAL" T) "wex_listctrl_allowsorting: the list is a virtual one, which has no rows that could be sorted")
       ((wex_listctrl_deletecolumn "TABLE" -1) "wex_listctrl_deletecolumn: the list has no column -1")
-      ((wex_listctrl_setcolumnwidth "TABLE" 7 50) "wex_listctrl_setcolumnwidth: the list has no column 7")
-      ((wex_listctrl_getcolumnwidth "TABLE" 7) "wex_listctrl_getcolumnwidth: the list has no column 7")
-      ((wex_listctrl_deletecolumn "TABLE" 7) "wex_listctrl_deletecolumn: the list has no column 7")
-      ((wex_listctrl_renamecolumn "TABLE" 7 "x") "wex_listctrl_renamecolumn: the list has no column 7")
+      ("the list has no column 7"
+        (wex_listctrl_setitem "TABLE" 0 7 "x") (wex_listctrl_setcolumnwidth "TABLE" 7 50) (wex_listctrl_getcolumnwidth "TABLE" 7)
+        (wex_listctrl_deletecolumn "TABLE" 7) (wex_listctrl_renamecolumn "TABLE" 7 "x"))
       ((wex_listctrl_showgridlines "TABLE" nil) "wex_listctrl_showgridlines: only T is understood: what is on stays on")
       ((wex_listctrl_allowsorting "TABLE" nil) "wex_listctrl_allowsorting: only T is understood: sorting can't be taken back")
       ((wex_listctrl_keephighlight "BUTTON" T) "wex_listctrl_keephighlight: tile \"BUTTON\" is a button, and the function is for list controls")
@@ -167,8 +154,11 @@
 
 (test "Grids"
   '((in-dialog "EDIT_NONWD_ATTRS" nil '((wex_grid_setrowcolumns "LST" 5 3) (warned '(
-      ((wex_grid_setcell "LST" 9 1 -1 "x") "wex_grid_setcell: row 9 is outside the grid, whose last one is 5")
-      ((wex_grid_setcell "LST" 1 9 -1 "x") "wex_grid_setcell: column 9 is outside the grid, whose last one is 2")
+      ("row 9 is outside the grid, whose last one is 5"
+        (wex_grid_setcell "LST" 9 1 -1 "x") (wex_grid_setrow "LST" 9 "x") (wex_grid_setrowheight "LST" 9 20)
+        (wex_grid_clearcells "LST" 1 1 9 1))
+      ("column 9 is outside the grid, whose last one is 2"
+        (wex_grid_setcell "LST" 1 9 -1 "x") (wex_grid_setcolumnwidth "LST" 9 20) (wex_grid_sortcolbytext "LST" 9))
       ((wex_grid_setcell "LST" 1 1 7 "x") "wex_grid_setcell: there is no code 7")
       ((wex_grid_setcell "LST" 1 1 52500 "red" '("red" "blue")) "wex_grid_setcell: argument 6: expected a string, got a list")
       ((wex_grid_setcell "LST" 1 1 -1 '("x")) "wex_grid_setcell: argument 5: expected a string, a number, T or nil, got a list")
@@ -176,16 +166,11 @@
       ((wex_grid_setcell "LST" 1 1 100 1.5) "wex_grid_setcell: code 100 of a number is its decimal places")
       ((wex_grid_setcell "LST" 1 1 -1 "x" "x\ny") "wex_grid_setcell: choices are for texts with a code from 52500 on, below the row of headers")
       ((wex_grid_getcell "LST" -1 1) "wex_grid_getcell: row -1 is outside the grid, whose last one is 5")
-      ((wex_grid_setrow "LST" 9 "x") "wex_grid_setrow: row 9 is outside the grid, whose last one is 5")
       ((wex_grid_setrow "LST" 1 "a\tb\tc\t"))
       ((wex_grid_setrow "LST" 1 "a\tb\tc\td") "wex_grid_setrow: tile \"LST\" has 3 columns for the 4 fields of a row")
       ((wex_grid_setrow "LST" 1 "x" T) "wex_grid_setrow: argument 5 is missing")
-      ((wex_grid_setrowheight "LST" 9 20) "wex_grid_setrowheight: row 9 is outside the grid, whose last one is 5")
-      ((wex_grid_setcolumnwidth "LST" 9 20) "wex_grid_setcolumnwidth: column 9 is outside the grid, whose last one is 2")
-      ((wex_grid_clearcells "LST" 1 1 9 1) "wex_grid_clearcells: row 9 is outside the grid, whose last one is 5")
       ((wex_grid_setjustification "LST" 1 "c") "wex_grid_setjustification: \"c\" is none of \"L\", \"C\" and \"R\", and counts as \"L\"")
       ((wex_grid_setjustification "LST" 1 5) "wex_grid_setjustification: argument 3: expected a string, got 5")
-      ((wex_grid_sortcolbytext "LST" 9) "wex_grid_sortcolbytext: column 9 is outside the grid, whose last one is 2")
       ((wex_grid_setrowcolumns "LST" -5 3) "wex_grid_setrowcolumns: a grid can't have -5 rows and 3 columns: what can't be stays as it is")
       ((wex_start_list "LST" 2) )
       ((wex_add_list "x") "wex_add_list: tile \"LST\" is a grid, and the function is for list boxes, combo boxes and list controls")
