@@ -1,6 +1,6 @@
 // The choice of a database: whatever it is, it names a target or an error, and never shows a secret.
 #include "host/services/DataChoice.h"
-#include "tests/fuzz/ListTextFuzz.h"
+#include "tests/fuzz/Fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::wstring text = textWithTabs(data, size);

@@ -1,14 +1,6 @@
 // Key list text, as a resource module of anybody's brings it.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-
 #include "src/platform/base/KeyListText.h"
-
-static void require(bool condition) {
-    if (!condition) abort();
-}
+#include "tests/fuzz/Fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::wstring text(data, data + size);

@@ -1,10 +1,5 @@
 // The Lisp: any text is read and run within bounds, and ends in a value or a Lisp error.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <memory>
-#include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -12,12 +7,9 @@
 #include "host/lisp/Machine.h"
 #include "host/lisp/Reader.h"
 #include "host/lisp/Text.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
-
-void require(bool condition) {
-    if (!condition) abort();
-}
 
 class NoFiles : public lisp::FileAccess {
   public:

@@ -2,7 +2,7 @@
 // into one, and no cell holds a tab.
 #include "src/grid/LineFolding.h"
 #include "src/grid/ListRows.h"
-#include "tests/fuzz/ListTextFuzz.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // A row of a list control as one text.
 #include "src/listctrl/RowText.h"
-#include "tests/fuzz/ListTextFuzz.h"
+#include "tests/fuzz/Fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::wstring text = textWithTabs(data, size);

@@ -1,5 +1,5 @@
 // A slide past the gate's comparison, and what its drawings do.
-#include "tests/fuzz/ListTextFuzz.h"
+#include "tests/fuzz/Fuzz.h"
 #include "tests/support/slides/MadeSlide.h"
 #include "tests/support/slides/TestSurface.h"
 

@@ -1,7 +1,7 @@
 // A library's directory and members, past both gates.
 #include "src/slides/LibraryDirectory.h"
 #include "src/slides/SlidePath.h"
-#include "tests/fuzz/ListTextFuzz.h"
+#include "tests/fuzz/Fuzz.h"
 #include "tests/support/slides/MadeSlide.h"
 #include "tests/support/slides/TestSurface.h"
 

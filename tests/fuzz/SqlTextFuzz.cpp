@@ -1,6 +1,6 @@
 // Square brackets made into a database's own quotes.
 #include "store/SqlText.h"
-#include "tests/fuzz/ListTextFuzz.h"
+#include "tests/fuzz/Fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::wstring sql = textWithTabs(data, size);

@@ -1,15 +1,10 @@
 // Distances and angles as a person may type them: nothing crashes, and what is read is shown, read again and
 // shown as the same.
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
 
 #include "host/units/AngularUnits.h"
 #include "host/units/LinearUnits.h"
-
-static void require(bool condition) {
-    if (!condition) std::abort();
-}
+#include "tests/fuzz/Fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size < 2) return 0;

@@ -1,7 +1,7 @@
 // How the items of a menu look, drawn on a picture.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <memory>
 #include <vector>
 
 #include "src/platform/buttons/BCMenu.h"
@@ -11,48 +11,35 @@ namespace {
 
 class DrawnItem {
   public:
-    explicit DrawnItem(const MenuItemLook& item, bool highContrast = false)
-        : m_look(GetDesktopWindow(), highContrast) {
-        m_metrics = m_look.metrics();
-        m_look.measure(item, m_metrics);
-        m_width = menuItemWidth(m_metrics);
-        m_height = menuItemHeight(m_metrics);
-        parts = placeMenuItem({0, 0, m_width, m_height}, m_metrics);
-        const Canvas canvas(m_width, m_height);
-        m_look.draw(canvas.dc(), {0, 0, m_width, m_height}, item, m_metrics);
-        m_pixels = canvas.dots();
+    explicit DrawnItem(const MenuItemLook& item, bool highContrast = false) {
+        MenuLook look(GetDesktopWindow(), highContrast);
+        MenuMetrics metrics = look.metrics();
+        look.measure(item, metrics);
+        const int width = menuItemWidth(metrics), height = menuItemHeight(metrics);
+        parts = placeMenuItem({0, 0, width, height}, metrics);
+        m_canvas = std::make_unique<Canvas>(width, height);
+        look.draw(m_canvas->dc(), {0, 0, width, height}, item, metrics);
     }
 
-    // How many pixels there have another color than that of the area's left upper corner.
-    int ink(const MenuBox& box) const {
+    // How many pixels there are of a box that `is` tells of.
+    template <class Is>
+    int count(const MenuBox& box, Is is) const {
         int count = 0;
         for (int y = box.top; y < box.bottom; ++y)
-            for (int x = box.left; x < box.right; ++x) count += at(x, y) != at(box.left, box.top);
+            for (int x = box.left; x < box.right; ++x) count += is(at(x, y));
         return count;
     }
-    // As GetSysColor numbers them.
-    COLORREF ground(const MenuBox& box) const { return colorOf(at(box.left, box.top)); }
-    // Whether any pixel of the box has that color.
-    bool shows(const MenuBox& box, int systemColor) const {
-        for (int y = box.top; y < box.bottom; ++y)
-            for (int x = box.left; x < box.right; ++x)
-                if (colorOf(at(x, y)) == GetSysColor(systemColor)) return true;
-        return false;
+    // Those that have another color than the left upper corner.
+    int ink(const MenuBox& box) const {
+        return count(box, [&](COLORREF color) { return color != ground(box); });
     }
-    uint32_t at(int x, int y) const { return m_pixels[y * m_width + x]; }
+    COLORREF ground(const MenuBox& box) const { return at(box.left, box.top); }
+    COLORREF at(int x, int y) const { return m_canvas->at(x, y); }
 
     MenuItemParts parts;
 
   private:
-    static COLORREF colorOf(uint32_t pixel) {
-        return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
-    }
-
-    MenuLook m_look;
-    MenuMetrics m_metrics;
-    int m_width = 0;
-    int m_height = 0;
-    std::vector<uint32_t> m_pixels;
+    std::unique_ptr<Canvas> m_canvas;
 };
 
 MenuItemLook item() {
@@ -100,10 +87,9 @@ TEST(MenuItemLook, AnIconFillsItsSquareAndADisabledOneIsGrey) {
     const DrawnItem greyed(look);
     const MenuBox& box = shown.parts.mark;
     const int x = box.left + box.width() / 4, y = box.top + box.height() / 2;
-    const auto red = [](uint32_t pixel) { return static_cast<int>(pixel >> 16 & 0xFF); };
-    const auto blue = [](uint32_t pixel) { return static_cast<int>(pixel & 0xFF); };
-    EXPECT_GT(red(shown.at(x, y)) - blue(shown.at(x, y)), 60);
-    EXPECT_LT(std::abs(red(greyed.at(x, y)) - blue(greyed.at(x, y))), 30);
+    const auto redness = [](COLORREF color) { return GetRValue(color) - GetBValue(color); };
+    EXPECT_GT(redness(shown.at(x, y)), 60);
+    EXPECT_LT(std::abs(redness(greyed.at(x, y))), 30);
 }
 
 TEST(MenuItemLook, ASeparatorLiesInTheMiddle) {
@@ -135,7 +121,8 @@ TEST(MenuItemLook, HighContrastHasTheSystemsColorsAlone) {
             const int ink = disabled ? COLOR_GRAYTEXT : selected ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT;
             for (const MenuBox* part : {&parts.label, &parts.mark, &parts.arrow}) {
                 EXPECT_EQ(drawn.ground(*part), GetSysColor(ground)) << disabled << selected;
-                EXPECT_TRUE(drawn.shows(*part, ink)) << disabled << selected;
+                const auto isInk = [&](COLORREF color) { return color == GetSysColor(ink); };
+                EXPECT_GT(drawn.count(*part, isInk), 0) << disabled << selected;
             }
         }
     }

@@ -2,8 +2,6 @@
 #include "tests/support/Canvas.h"
 #include "tests/ui/gridlib/Support.h"
 
-namespace {
-
 TEST_F(GridTest, AttachesOnceAndAgainToTheSameWindow) {
     CWnd other;
     const HWND window = CreateWindowExW(0, GRID_WINDOW_CLASS, L"", WS_CHILD, 0, 0, 10, 10, parent.m_hWnd,
@@ -146,5 +144,3 @@ TEST_F(GridTest, ColumnWiderThanTheWindowIsScrolledThrough) {
     EXPECT_NE(colorAt(grid.m_hWnd, header / 4, middle), green) << "the row's header lies over it";
     EXPECT_GT(scrollBar(SB_HORZ).nPos, 900);
 }
-
-}  // namespace

@@ -3,8 +3,6 @@
 
 #include "tests/ui/host/HostProcess.h"
 
-namespace {
-
 TEST(CheckDialogs, tellsWhatIsWrongInKeyListsTemplatesAndRoomForTexts) {
     const HostRun run =
         startHost(L"testbin", {L"--check-dialogs", buildFolder() + L"\\testbin\\WexDialogs.d\\Odd.dll"});
@@ -90,5 +88,3 @@ TEST(CheckDialogs, goesOnAfterAModuleThatIsNoneAndTellsWhatIsTaken) {
     EXPECT_FALSE(has(all.output, "ODD_KINDS: is in"));
     EXPECT_TRUE(has(twin.output, "ODD_KINDS: is in FIRST.DLL already"));
 }
-
-}  // namespace

@@ -3,8 +3,6 @@
 
 #include "tests/ui/host/HostProcess.h"
 
-namespace {
-
 TEST(Runner, StepsRunInOrderAndStopAtTheFirstError) {
     const HostRun run = runHost({L"--headless", L"-e", L"(setq x 1)", L"-e", L"(princ (1+ x))", L"-e",
                                  L"(car 5)", L"-e", L"(princ \"never\")"});
@@ -111,5 +109,3 @@ TEST(Runner, AFileDialogThatRefusesItsAnswerIsToldAndLeft) {
               "session of the main frame, step 2: (UI_KEY \"CTRL+O\" 103)\n"
               "  dialog \"Open Program\" did not take the answer OK with the name \"no such.lsp\"\n");
 }
-
-}  // namespace

@@ -5,7 +5,6 @@
 
 #include "src/dialog/WexDialog.h"
 #include "src/listctrl/ListCells.h"
-#include "src/listctrl/RowSelection.h"
 #include "src/listctrl/WexListCtrl.h"
 #include "src/platform/mfc/RedrawHold.h"
 
@@ -36,10 +35,8 @@ class Rows : public RowSource {
 // The dialog with its list of four columns, up on the screen, painted.
 class Shown {
   public:
-    explicit Shown(const std::function<void(WexDialog&)>& before = {})
-        : dialog({DIALOG_OF_ROWS, GetModuleHandleW(nullptr), GetModuleHandleW(nullptr)}, nullptr) {
+    Shown() : dialog({DIALOG_OF_ROWS, GetModuleHandleW(nullptr), GetModuleHandleW(nullptr)}, nullptr) {
         dialog.tileForId(TABLE)->m_auxText = L"x\tFirst\tSecond\tThird\tFourth";
-        if (before) before(dialog);
         EXPECT_TRUE(dialog.Create());
         releaseRedraw();
         dialog.ShowWindow(SW_SHOW);
@@ -47,13 +44,6 @@ class Shown {
     }
 
     WexListCtrl& list() { return dynamic_cast<WexListCtrl&>(*dialog.GetDlgItem(TABLE)); }
-    std::vector<int> selected() { return selectedRows(list()); }
-    // Asked for itself, LVM_ISITEMVISIBLE is wrong under Wine for rows that far down.
-    bool isInSight(int row) {
-        const LRESULT top = list().SendMessage(LVM_GETTOPINDEX);
-        return row >= top && row < top + list().SendMessage(LVM_GETCOUNTPERPAGE);
-    }
-
     WexDialog dialog;
 };
 

@@ -17,6 +17,10 @@ TEST_F(ModalTest, RunsWithTheOwnerDisabledAndGivesItBack) {
         EXPECT_EQ(::GetWindow(dialog.m_hWnd, GW_OWNER), owner.m_hWnd);
         EXPECT_EQ(GetActiveWindow(), dialog.m_hWnd);
         EXPECT_EQ(dialog.DoModal(), -1) << "a dialog runs once at a time";
+        CButton plain;  // without a line for the click, which it so leaves to the dialog
+        plain.SubclassWindow(::GetDlgItem(dialog.m_hWnd, 1));
+        dialog.SendMessage(WM_COMMAND, MAKEWPARAM(1, BN_SETFOCUS), reinterpret_cast<LPARAM>(plain.m_hWnd));
+        EXPECT_TRUE(IsWindowVisible(dialog.m_hWnd)) << "only a click is an OK";
         dialog.click(1);
     }};
     EXPECT_EQ(dialog.DoModal(), IDOK);

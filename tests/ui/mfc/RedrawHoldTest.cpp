@@ -57,15 +57,11 @@ TEST_F(RedrawHoldTest, WhatIsShownOrHiddenMeanwhileStaysSo) {
     releaseRedraw();
     EXPECT_TRUE(IsWindowVisible(hidden));
     EXPECT_FALSE(IsWindowVisible(shown));
-}
-
-TEST_F(RedrawHoldTest, AHiddenControlStaysHiddenAndOneThatIsGoneIsPassedOver) {
-    const HWND hidden = make(0), gone = make(WS_VISIBLE);
-    holdRedraw(hidden);
-    holdRedraw(gone);
-    DestroyWindow(gone);
+    // The latter stays hidden; one that is gone is passed over.
+    for (const HWND control : {shown, hidden}) holdRedraw(control);
+    DestroyWindow(hidden);
     releaseRedraw();
-    EXPECT_FALSE(IsWindowVisible(hidden));
+    EXPECT_FALSE(IsWindowVisible(shown));
 }
 
 }  // namespace

@@ -54,7 +54,7 @@ class TestDialog : public CDialog {
   public:
     explicit TestDialog(CWnd* parent, UINT templateId = 1) : CDialog(templateId, parent) {}
 
-    Action init, ok, cancel, size, timer, destroy, show, paint, preTranslate;
+    Action init, ok, timer, destroy, paint, preTranslate;
 
     bool PreTranslateMessage(MSG& message) override {
         run(preTranslate);
@@ -63,10 +63,8 @@ class TestDialog : public CDialog {
 
     const MessageMap& messageMap() const override {
         static const MessageMap map(CDialog::messageMap(), {
-                                                               on<WM_SIZE, &TestDialog::onSize>(),
                                                                on<WM_TIMER, &TestDialog::onTimer>(),
                                                                on<WM_DESTROY, &TestDialog::onDestroy>(),
-                                                               on<WM_SHOWWINDOW, &TestDialog::onShow>(),
                                                                on<WM_PAINT, &TestDialog::onPaint>(),
                                                            });
         return map;
@@ -81,16 +79,10 @@ class TestDialog : public CDialog {
         return true;
     }
     void OnOK() override { ok ? ok() : CDialog::OnOK(); }
-    void OnCancel() override { cancel ? cancel() : CDialog::OnCancel(); }
 
   private:
-    void onSize(UINT, int, int) { run(size); }
     void onTimer(UINT_PTR) { run(timer); }
     void onDestroy() { run(destroy); }
-    void onShow() {
-        run(show);
-        Default();
-    }
     void onPaint() {
         run(paint);
         Default();

@@ -3,8 +3,6 @@
 
 #include "src/tiles/WexFrame.h"
 
-namespace {
-
 TEST(Frame, TakesThePlaceOfAGroupBoxAndSizesItsOwn) {
     CWnd parent;
     parent.CreateEx(0, L"Static", L"", WS_POPUP, RECT{0, 0, 400, 300}, nullptr, 0);
@@ -31,5 +29,3 @@ TEST(Frame, TakesThePlaceOfAGroupBoxAndSizesItsOwn) {
     const RECT inside = inner->rectInParent(), wanted{0, 0, 150, 90};
     EXPECT_TRUE(EqualRect(&inside, &wanted));
 }
-
-}  // namespace

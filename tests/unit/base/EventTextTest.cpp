@@ -4,8 +4,6 @@
 
 #include "src/shell/ResourceFolder.h"
 
-namespace {
-
 TEST(EventText, TheDefinitionStandsByteForByte) {
     EXPECT_EQ(actionDefinition(L"add_recadd", L"(wex_done_dialog 1)"),
               L"\n(defun c:OnActionEvent_add_recadd() \n(wex_done_dialog 1)\n(princ)\n )\n");
@@ -23,5 +21,3 @@ TEST(ResourceFolder, IsCutBeforeTheLastBackslash) {
     EXPECT_EQ(folderOf(L"\\b.pgx"), L"");
     EXPECT_EQ(folderOf(L""), L"");
 }
-
-}  // namespace

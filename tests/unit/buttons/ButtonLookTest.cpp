@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 TEST(ButtonLook, TheStrongestStateShows) {
     EXPECT_EQ(buttonFace({.disabled = true, .pressed = true, .hover = true}), ButtonFace::disabled);
     EXPECT_EQ(buttonFace({.pressed = true, .hover = true}), ButtonFace::pressed);
@@ -34,5 +32,3 @@ TEST(ButtonParts, WhatIsTooWideStartsAtTheEdgeAndTheTextGetsTheRest) {
     EXPECT_EQ(wide.text.width, 30);
     EXPECT_EQ(placeButtonParts({0, 0, 10, 20}, {16, 16}, {20, 13}, 4).text.width, 0);
 }
-
-}  // namespace

@@ -4,8 +4,6 @@
 
 #include <string_view>
 
-namespace {
-
 constexpr MenuMetrics METRICS = {
     .dpi = 96, .iconSide = 16, .lineHeight = 15, .labelWidth = 100, .shortcutWidth = 40};
 
@@ -51,5 +49,3 @@ TEST(MenuKey, ChoosesTheOnlyItemAndGoesRoundAmongSeveral) {
     EXPECT_EQ(answerMenuKey(keys, L'\0', 0), MenuKeyAnswer());
     EXPECT_EQ(answerMenuKey({}, L'a', -1), MenuKeyAnswer());
 }
-
-}  // namespace

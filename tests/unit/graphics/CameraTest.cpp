@@ -5,8 +5,6 @@
 #include <cmath>
 #include <limits>
 
-namespace {
-
 using graphics::Camera;
 
 TEST(Camera, OrbitsTowardsItsRightAndItsUp) {
@@ -49,5 +47,3 @@ TEST(Camera, StaysSquareOverALongDrag) {
     EXPECT_NEAR(camera.up().dotProduct(camera.back()), 0.0, 1e-12);
     EXPECT_NEAR((camera.position() - camera.target()).length(), 1.0, 1e-9);
 }
-
-}  // namespace

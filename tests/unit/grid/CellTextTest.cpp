@@ -7,8 +7,6 @@
 
 #include "src/platform/gridlib/TextMemory.h"
 
-namespace {
-
 TEST(CellTextTest, KeepsEachTextWhateverItsLengthAndWhoCopiesIt) {
     std::mt19937 random(5);
     const auto below = [&](size_t limit) { return random() % limit; };
@@ -66,5 +64,3 @@ TEST(TextMemoryTest, PiecesNeverOverlapAndAreUsedAgain) {
     memory.giveBack(first, 40);
     EXPECT_EQ(memory.take(33), first);
 }
-
-}  // namespace

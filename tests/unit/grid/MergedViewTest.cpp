@@ -5,8 +5,6 @@
 
 #include <random>
 
-namespace {
-
 // Few texts and many merge bits, so that runs of all shapes come about, also below and beside the view.
 TEST(MergedViewTest, AgreesWithEachCellAskedAlone) {
     std::mt19937 random(11);
@@ -37,5 +35,3 @@ TEST(MergedViewTest, AgreesWithEachCellAskedAlone) {
             }
     }
 }
-
-}  // namespace

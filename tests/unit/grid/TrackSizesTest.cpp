@@ -5,8 +5,6 @@
 
 #include "src/platform/gridlib/TrackView.h"
 
-namespace {
-
 // Sizes of every kind at random, also hidden ones, with the count going up and down over block borders.
 TEST(TrackSizesTest, AgreesWithAPlainArray) {
     std::mt19937 random(7);
@@ -128,5 +126,3 @@ TEST(TrackViewTest, ABarReachesTheEndOfTheLargestTable) {
     EXPECT_EQ(view.first(), view.lastFirst());
     EXPECT_EQ(view.bar().position + bar.page, bar.last + 1);
 }
-
-}  // namespace

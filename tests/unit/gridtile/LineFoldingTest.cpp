@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 TEST(LineFoldingTest, KeyFieldLacksItsLastCharacter) {
     const struct {
         const wchar_t* line;
@@ -62,5 +60,3 @@ TEST(LineFoldingTest, ManyLinesAreFoldedOneAfterTheOther) {
     for (const wchar_t* next : {L"xx\ty\tzz\tuu", L"vv\tww\tss", L"\tii\tjj"}) folded.fold(next);
     EXPECT_EQ(folded.text(), L"\n\nww\nii\tCD\nzz\nss\njj\t");
 }
-
-}  // namespace

@@ -29,27 +29,6 @@ std::vector<std::optional<uint32_t>> colorsOf(const CGXGridCore& grid) {
     return colors;
 }
 
-void color(CGXGridCore& grid, uint32_t row, uint32_t column, uint32_t color) {
-    grid.SetStyleRange(CGXRange(row, column), CGXStyle().SetInterior(color));
-}
-
-TEST(StyleSortTest, TextsStayAndTheStylesOfTheSortedColumnTradePlacesAcrossTheRows) {
-    CGXGridCore grid;
-    grid.SetRowCount(3);
-    grid.SetColCount(2);
-    for (const uint32_t row : {1u, 2u, 3u}) grid.SetValueRange(CGXRange(row, 1), row == 1 ? L"b" : L"a");
-    color(grid, 1, 1, 0x111111);
-    color(grid, 2, 1, 0x222222);
-    color(grid, 2, 2, 0x333333);
-    const Texts before = textsOf(grid);
-    sortRowsByText(grid, 1, true, 1, -1);
-    EXPECT_EQ(textsOf(grid), before);
-    using Colors = std::vector<std::optional<uint32_t>>;
-    const uint32_t one = 0x111111, two = 0x222222;
-    EXPECT_EQ(colorsOf(grid), (Colors{{}, {}, {}, two, two, two, one, one, one, {}, {}, {}}))
-        << "the last row is left out";
-}
-
 // The procedure itself, in its own words, with each text read where it is compared.
 class PlainSort {
   public:

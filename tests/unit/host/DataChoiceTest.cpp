@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 TEST(DataChoice, AFileOrAConnectString) {
     const DataChoice file = parseDataChoice(L"C:\\parts; all=1.sqlite");
     EXPECT_FALSE(file.isOdbc);
@@ -30,5 +28,3 @@ TEST(DataChoice, WhatIsWrongIsNamed) {
     };
     for (const auto& [text, error] : cases) EXPECT_EQ(parseDataChoice(text).error, error);
 }
-
-}  // namespace

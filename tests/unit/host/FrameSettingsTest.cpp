@@ -4,8 +4,6 @@
 
 #include "host/frame/NameGroups.h"
 
-namespace {
-
 constexpr FrameBox SCREEN = {0, 0, 1280, 1000};
 
 TEST(FrameSettings, WhatIsWrittenIsReadAgain) {
@@ -65,5 +63,3 @@ TEST(NameGroups, LettersShareAGroupAsLongAsThereIsRoom) {
     EXPECT_EQ(groups[2].title, L"&D");
     EXPECT_TRUE(groupNames({}, 3).empty());
 }
-
-}  // namespace

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 TEST(KeyNames, KeysAndHeldKeysInAnyCaseAndOrder) {
     EXPECT_EQ(parseKeyStroke(L"ENTER"), KeyStroke{0x0D});
     EXPECT_EQ(parseKeyStroke(L"f12"), KeyStroke{0x7B});
@@ -31,5 +29,3 @@ TEST(KeyNames, AStrokeIsNamedAsItIsRead) {
     EXPECT_EQ(keyStrokeName({.virtualKey = 0x11}), L"CTRL");
     EXPECT_EQ(keyStrokeName({.virtualKey = 0xFF}), L"");
 }
-
-}  // namespace

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 using Kind = RecordedStep::Kind;
 
 TEST(Recording, SessionsStandInTheOrderInWhichTheirDialogsCameUp) {
@@ -48,5 +46,3 @@ TEST(Recording, BoxesAreAnsweredBeforeTheStepThatBringsThemUp) {
     recording.add(session, {Kind::other, {}, L"(menu)", {}});
     EXPECT_TRUE(recording.text().ends_with(L"(step 2)\n    (menu)))\n"));
 }
-
-}  // namespace

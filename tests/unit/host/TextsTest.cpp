@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 TEST(Texts, Utf8OfEveryLength) {
     const std::wstring text = wideFromUtf8("a\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80");
     EXPECT_EQ(text.substr(0, 3), L"a\u00FC\u20AC");
@@ -22,5 +20,3 @@ TEST(Texts, WrongBytesAndUnitsAreReplacedAndTheRestStands) {
         EXPECT_EQ(utf8Text(wideFromUtf8(std::string(cut))), MARK);
     }
 }
-
-}  // namespace

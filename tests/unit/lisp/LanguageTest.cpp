@@ -6,8 +6,6 @@
 
 #include "tests/unit/lisp/Session.h"
 
-namespace {
-
 TEST(Language, GivesWhatItsTableSays) {
     for (const bool collectAlways : {false, true}) {
         std::ifstream table(WEX_SOURCE_FOLDER "/tests/unit/lisp/language.txt");
@@ -51,5 +49,3 @@ TEST(Output, GoesWhereItIsSentAndEndsInNoValue) {
     EXPECT_EQ(session.run("(list (quiet))"), "(nil)");
     EXPECT_EQ(session.run("(type (quiet))"), "nil");
 }
-
-}  // namespace

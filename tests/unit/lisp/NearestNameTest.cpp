@@ -6,8 +6,6 @@
 #include "host/lisp/NearestName.h"
 #include "host/lisp/Text.h"
 
-namespace {
-
 TEST(NearestName, IsTheOneThatASlipMadeAnother) {
     const std::vector<std::u16string> names = {u"CATALOG", u"Cat",    u"MFG",          u"OK",   u"Cancel",
                                                u"LABEL1",  u"LABEL2", u"wex_set_tile", u"Größe"};
@@ -42,5 +40,3 @@ TEST(NearestName, NeedsLettersThatAreAlike) {
     EXPECT_EQ(lisp::nearestName(u"Y", letters), u"YZ");
     EXPECT_EQ(lisp::nearestName(u"W", {}), std::nullopt);
 }
-
-}  // namespace

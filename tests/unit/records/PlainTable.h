@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "src/records/WexIndexError.h"
 #include "tests/unit/records/MemoryStore.h"
 
 struct PlainTable {
@@ -12,7 +13,6 @@ struct PlainTable {
         std::vector<Fields> rows;
         int state = 0;
     };
-    struct OutOfRange {};
     using Found = std::vector<Fields>::iterator;
 
     int counted;  // by the store
@@ -62,9 +62,9 @@ struct PlainTable {
     }
 
     // Null where the place has no row.
-    Fields* at(int n, int* pageOfRow = nullptr) {
+    Fields* At(int n, int* pageOfRow = nullptr) {
         if (count == -1) ask();
-        if (unsigned(n) >= unsigned(std::max(count, 0))) throw OutOfRange();
+        if (unsigned(n) >= unsigned(std::max(count, 0))) throw WexIndexError();
         const auto [page, offset] = locate(n);
         if (page < 0 || page >= int(pages.size())) return nullptr;
         if (pages[page].rows.empty()) load(page);
@@ -73,7 +73,7 @@ struct PlainTable {
         return isThere ? &pages[page].rows[offset] : nullptr;
     }
 
-    void add(const Fields& record) {
+    void Add(const Fields& record) {
         if (pages.empty()) pages.push_back({});
         const int last = int(pages.size()) - 1;
         if (pages[last].rows.size() >= 100) {
@@ -89,15 +89,15 @@ struct PlainTable {
 
     int touch(int n) {
         const int page = locate(n).first;
-        if (page < 0 || page >= int(pages.size())) throw OutOfRange();
+        if (page < 0 || page >= int(pages.size())) throw WexIndexError();
         if (pages[page].state == 0) load(page);
         pages[page].state = 3;
         return page;
     }
 
     Fields& existing(int n, int* page = nullptr) {
-        Fields* record = at(n, page);
-        if (!record) throw OutOfRange();
+        Fields* record = At(n, page);
+        if (!record) throw WexIndexError();
         return *record;
     }
 
@@ -106,7 +106,7 @@ struct PlainTable {
             entry[field] = field < values.size() ? values[field] : L"";
     }
 
-    void update(int n, const Fields& values) {
+    void Update(int n, const Fields& values) {
         touch(n);
         Fields& record = existing(n);
         const Found inAdded = std::find(added.begin(), added.end(), record);
@@ -121,7 +121,7 @@ struct PlainTable {
         write(record, values);
     }
 
-    void remove(int n) {
+    void Remove(int n) {
         const int touched = touch(n);
         if (pages[touched].rows.empty()) pages[touched].state = 4;
         int page = 0;

@@ -8,8 +8,6 @@
 #include "src/records/TrackedRecords.h"
 #include "tests/unit/records/MemoryStore.h"
 
-namespace {
-
 TEST(Record, KeepsItsTextsAsTheyAre) {
     const Fields fields = {L"", L"a", std::wstring(L"b\0c", 3), std::wstring(100000, L'x'), L""};
     const Record record = recordOf(fields);
@@ -71,5 +69,3 @@ TEST(TrackedRecords, AreFoundByTheFirstThatIsTheSame) {
     EXPECT_TRUE(tracked.find(recordOf({L"a"})) == tracked.find(recordOf({L"c"})));
     EXPECT_EQ(tracked.from(1)->second, recordOf({L"b"}));
 }
-
-}  // namespace

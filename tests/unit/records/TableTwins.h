@@ -17,7 +17,12 @@ class TableTwins {
     // What went wrong; empty for nothing. Both are changed by the call: `action` 0 reads, 1 adds, 2 sets, 3
     // removes, 4 forgets the changes, 5 looks without loading. `text` is the first field of what is written.
     std::wstring call(int action, int n, const std::wstring& text) {
-        const auto [ours, plain] = std::pair(ourOutcome(action, n, text), plainOutcome(action, n, text));
+        const auto asItIs = [](const Fields& fields) { return fields; };
+        const std::wstring ours = outcome(m_table, action, n, text, recordOf);
+        PlainTable copy = m_plain;  // on which a look may load pages
+        const std::wstring plain = action != 5                ? outcome(m_plain, action, n, text, asItIs)
+                                   : n < 0 || n >= copy.count ? L"no record"
+                                                              : told(copy.At(n));
         if (ours != plain) return L"outcome " + ours + L" for " + plain;
         return difference();
     }
@@ -30,41 +35,26 @@ class TableTwins {
         return store;
     }
 
-    std::wstring ourOutcome(int action, int n, const std::wstring& text) {
+    template <class Table, class Row>
+    static std::wstring outcome(Table& table, int action, int n, const std::wstring& text, Row row) {
         try {
-            if (action == 0 || action == 5) {
-                const Record* record = action == 0 ? m_table.At(n) : m_table.peek(n);
-                return record ? L"record " + std::wstring(record->field(0)) : L"no record";
-            }
-            if (action == 1) m_table.Add(recordOf({text, L"added"}));
-            if (action == 2) m_table.Update(n, recordOf({text}));
-            if (action == 3) m_table.Remove(n);
-            if (action == 4) m_table.forgetChanges();
+            if (action == 0) return told(table.At(n));
+            if constexpr (std::is_same_v<Table, WexRecordTable>)
+                if (action == 5) return told(table.peek(n));
+            if (action == 1) table.Add(row({text, L"added"}));
+            if (action == 2) table.Update(n, row({text}));
+            if (action == 3) table.Remove(n);
+            if (action == 4) table.forgetChanges();
             return L"done";
         } catch (const WexIndexError&) {
             return L"out of range";
         }
     }
 
-    std::wstring plainOutcome(int action, int n, const std::wstring& text) {
-        try {
-            if (action == 0) return read(m_plain, n);
-            if (action == 5) {
-                PlainTable copy = m_plain;
-                return n < 0 || n >= copy.count ? L"no record" : read(copy, n);
-            }
-            if (action == 1) m_plain.add({text, L"added"});
-            if (action == 2) m_plain.update(n, {text});
-            if (action == 3) m_plain.remove(n);
-            if (action == 4) m_plain.forgetChanges();
-            return L"done";
-        } catch (const PlainTable::OutOfRange&) {
-            return L"out of range";
-        }
+    static std::wstring told(const Record* record) {
+        return record ? L"record " + std::wstring(record->field(0)) : L"no record";
     }
-
-    static std::wstring read(PlainTable& table, int n) {
-        const Fields* record = table.at(n);
+    static std::wstring told(const Fields* record) {
         return record ? L"record " + (record->empty() ? L"" : record->front()) : L"no record";
     }
 

@@ -3,8 +3,6 @@
 
 #include "src/report/SheetLayout.h"
 
-namespace {
-
 TEST(Sheet, HasTheShapeOfAPage) {
     // 300 * 22 / 15 is 440 exactly, which no double is.
     EXPECT_EQ(reportPageHeight(300), 444);
@@ -33,5 +31,3 @@ TEST(Sheet, ScrollsUntilItsEndShows) {
     EXPECT_EQ(reportScrollRange({0, 0, 300, 186}), 30);
     EXPECT_EQ(reportScrollRange({0, 0, 300, 700}), -21);
 }
-
-}  // namespace

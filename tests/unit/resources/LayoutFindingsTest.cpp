@@ -5,8 +5,6 @@
 
 #include "host/runner/Contrast.h"
 
-namespace {
-
 TEST(LayoutFindings, overlapsButWhatSurroundsAndWhatStandsOnPages) {
     constexpr uint32_t groupBox = 7, etchedFrame = 0x12;
     const std::vector<PlacedControl> controls{
@@ -39,5 +37,3 @@ TEST(Contrast, isThatOfTheStrongestColorToTheGround) {
     EXPECT_NEAR(contrastOf(Pixels{0xFFFFFF, 0xFFFFFF, 0x767676}), 4.54, 0.01);
     EXPECT_NEAR(contrastOf(Pixels{0xFFFFFF, 0xFFFFFF, 0x777777}), 4.48, 0.01);
 }
-
-}  // namespace

@@ -49,33 +49,7 @@ TEST(SqlText, ABlockOfStatementsBeginsNoTransaction) {
         EXPECT_FALSE(beginsTransaction(sql)) << testing::PrintToString(sql);
 }
 
-TEST(SqlText, AnEmptyOrderGoes) {
-    EXPECT_EQ(withoutEmptyOrder(L"SELECT * FROM [Parts] ORDER BY []"), L"SELECT * FROM [Parts]");
-    EXPECT_EQ(withoutEmptyOrder(L"SELECT * FROM [Parts] ORDER BY [PN]"),
-              L"SELECT * FROM [Parts] ORDER BY [PN]");
-    EXPECT_EQ(withoutEmptyOrder(L"[]"), L"[]");
-}
-
-std::wstring textOf(DataValue value) {
-    std::wstring text;
-    appendText(text, value);
-    return text;
-}
-
-DataValue realValue(double real) {
-    DataValue value{.kind = DataKind::real};
-    value.real = real;
-    return value;
-}
-
-TEST(ValueText, ARealIsItsShortestText) {
-    EXPECT_EQ(textOf(realValue(0.1)), L"0.1");
-    EXPECT_EQ(textOf(realValue(12)), L"12");
-    EXPECT_EQ(textOf(realValue(1.0 / 3)), L"0.3333333333333333");
-    EXPECT_EQ(textOf(realValue(-1e300)), L"-1e+300");
-    EXPECT_EQ(realOfSingle(0.1f), 0.1);
-    EXPECT_EQ(textOf({}), L"");
-}
+TEST(ValueText, ASingleIsItsShortestReal) { EXPECT_EQ(realOfSingle(0.1f), 0.1); }
 
 TEST(Utf8, EveryCharacterComesBack) {
     std::wstring all;

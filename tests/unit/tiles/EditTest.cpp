@@ -5,8 +5,6 @@
 #include "src/tiles/EditFilter.h"
 #include "src/tiles/EndOfEdit.h"
 
-namespace {
-
 // kept: but for the blank before a fraction, for which a dash is typed.
 TEST(EditFilter, WhatTheHostShowsCanBeTypedAgain) {
     constexpr int FRACTIONAL = 5;
@@ -39,5 +37,3 @@ TEST(EndOfEdit, AValueThatCannotBeFormattedStaysAsItWasTyped) {
     EXPECT_EQ(endOfEdit(L"", L"old", converters).shown, L"0.0");
     EXPECT_EQ(seen, L"0.0");
 }
-
-}  // namespace

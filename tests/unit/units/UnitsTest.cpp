@@ -131,35 +131,6 @@ TEST(AngularUnits, ReadWithAndWithoutTheUnitsMark) {
         EXPECT_FALSE(angleFromText(text, 2)) << text;
 }
 
-// Half a unit of the last place that a precision shows, in the value's own measure.
-double halfPlace(int unit, int precision, double value) {
-    switch (unit) {
-        case 1:
-            return 0.5 * std::pow(10, std::floor(std::log10(std::max(std::fabs(value), 1e-300))) - precision);
-        case 4:
-        case 5:
-            return 0.5 * std::ldexp(1, -precision);
-        default:
-            return 0.5 * std::pow(10, -precision);
-    }
-}
-
-double halfAngle(int unit, int precision) {
-    const double seconds = PI / 180 / 3600;
-    switch (unit) {
-        case 1:
-            return 0.5 * std::pow(10, -precision) / 180 * PI;
-        case 3:
-            return 0.5 * std::pow(10, -precision) / 200 * PI;
-        case 4:
-            return 0.5 * std::pow(10, -precision);
-        default:
-            return 0.5 * (precision == 0   ? 3600 * seconds
-                          : precision <= 2 ? 60 * seconds
-                                           : seconds * std::pow(10, -std::max(0, precision - 4)));
-    }
-}
-
 TEST(Units, WhatIsShownIsReadAgainToTheLastPlace) {
     std::mt19937 random(20);
     std::uniform_real_distribution<double> mantissa(-1, 1);
@@ -167,16 +138,23 @@ TEST(Units, WhatIsShownIsReadAgainToTheLastPlace) {
         const int unit = 1 + static_cast<int>(random() % 5);
         const int precision = static_cast<int>(random() % 9);
         const double value = mantissa(random) * std::pow(10, static_cast<int>(random() % 7));
+        // The last place, of each distance and of each angle.
+        const double ten = std::pow(10, -precision), two = std::ldexp(1, -precision), degree = PI / 180;
+        const double power = std::pow(10, std::floor(std::log10(std::max(std::fabs(value), 1e-300))));
+        const double part = precision == 0   ? degree
+                            : precision <= 2 ? degree / 60
+                                             : degree / 3600 * std::pow(10, -std::max(0, precision - 4));
+        const double lengths[] = {ten * power, ten, ten, two, two};
+        const double turns[] = {ten * degree, part, ten * PI / 200, ten, part};
         const auto text = distanceText(value, unit, precision);
         const auto back = distanceFromText(*text, unit);
         ASSERT_TRUE(back) << *text;
-        EXPECT_NEAR(*back, value, halfPlace(unit, precision, value) * (1 + 1e-6) + std::fabs(value) * 1e-14)
-            << *text;
+        EXPECT_NEAR(*back, value, lengths[unit - 1] * (0.5 + 1e-6) + std::fabs(value) * 1e-14) << *text;
         const auto shown = angleText(value, unit, precision);
         const auto angle = angleFromText(*shown, unit);
         ASSERT_TRUE(angle) << *shown;
         const double apart = std::fabs(std::remainder(*angle - value, TURN));
-        EXPECT_LE(apart, halfAngle(unit, precision) * (1 + 1e-6) + 1e-9) << *shown << " from " << value;
+        EXPECT_LE(apart, turns[unit - 1] * (0.5 + 1e-6) + 1e-9) << *shown << " from " << value;
     }
 }
 

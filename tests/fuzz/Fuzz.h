@@ -1,4 +1,4 @@
-// Text for the targets that read a list control's texts: each byte up to a NUL a character, '|' a tab.
+// What targets share.
 #pragma once
 
 #include <algorithm>
@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string>
 
+// Each byte up to a NUL a character, '|' a tab.
 inline std::wstring textWithTabs(const uint8_t* data, size_t size) {
     std::wstring text(data, data + size);
     text.resize(std::min(text.find(L'\0'), text.size()));
