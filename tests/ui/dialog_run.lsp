@@ -58,9 +58,19 @@
   (cond ((< depth 50) (status-of "(open-deeper) (wex_done_dialog depth)"))
         (T (setq titles (length (ui_dialogs))))))
 
-(test "Actions open dialogs fifty deep, and each comes back"
+; By the session itself, without an action between.
+(defun step-deeper ()
+  (setq depth (1+ depth))
+  (if (< depth 50) (run-dialog "CONFIRM_DELREC" nil '((step-deeper) (ui_click "OK")))
+                   (setq titles (length (ui_dialogs)))))
+
+(test "Actions, and steps of sessions, open dialogs fifty deep, and each comes back"
   '((setq depth 0)
     (want 50 (open-deeper))
+    (want 49 titles)
+    (setq depth 0)
+    (step-deeper)
+    (want 50 depth)
     (want 49 titles)
     (want nil (ui_dialogs))))
 

@@ -43,6 +43,9 @@ void clearVisible(std::vector<BYTE>& bytes) {
     std::memcpy(&bytes[at], &style, sizeof style);
 }
 
+// Who watches for idle loops of nested dialogs and message boxes stands at the end of the chain of owners. It
+// is told at once: passed on from owner to owner the message would nest as deep as the dialogs do, and the
+// platform sets a limit to that.
 HWND lastOwner(HWND window) {
     while (const HWND owner = GetWindow(window, GW_OWNER)) window = owner;
     return window;
@@ -156,7 +159,8 @@ bool CDialog::idle(HWND owner) {
         return true;
     }
     if (std::exchange(m_toldIdle, true)) return false;
-    ::SendMessageW(owner ? owner : m_hWnd, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
+    ::SendMessageW(lastOwner(owner ? owner : m_hWnd), WM_ENTERIDLE, MSGF_DIALOGBOX,
+                   reinterpret_cast<LPARAM>(m_hWnd));
     return true;
 }
 
@@ -214,9 +218,7 @@ LRESULT CDialog::WindowProc(UINT message, WPARAM w, LPARAM l) {
         releaseRedraw();
         return 0;
     }
-    // Who watches for idle loops of nested dialogs and message boxes stands at the end of the chain of
-    // owners. It is told at once: passed on from owner to owner the message would nest as deep as the
-    // dialogs do, and the platform sets a limit to that.
+    // From a dialog of the platform's own, which tells its owner.
     if (message == WM_ENTERIDLE && w == MSGF_DIALOGBOX)
         if (const HWND last = lastOwner(m_hWnd); last != m_hWnd) return ::SendMessageW(last, message, w, l);
     return CWnd::WindowProc(message, w, l);

@@ -44,7 +44,7 @@ class CDialog : public CWnd {
 
     // Runs the dialog until EndDialog. Gives its result, or -1 where the template can't be found or the
     // window can't be made, and when the application quits. The owner is disabled meanwhile. While the loop
-    // is idle it sends WM_ENTERIDLE to the owner (to itself without one), once in each idle period. An
+    // is idle it sends WM_ENTERIDLE to the last of its owners (itself without one), once in each period. An
     // exception that was kept meanwhile ends the loop and is raised again from here, when the owner is
     // enabled and the window destroyed. The object must outlive the call, and runs once at a time.
     int DoModal();
