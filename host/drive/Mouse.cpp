@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <deque>
+#include <iterator>
+#include <utility>
 #include <vector>
 
 #include "host/drive/MessageBoxes.h"
@@ -39,13 +41,13 @@ bool isBlocked(HWND window, HWND going) {
     return dialog && (otherIsActive || !IsWindowEnabled(dialog));
 }
 
-// Watches what the drive has posted until all of it was taken from the queue: so loops pay for the watch only
-// while the mouse is at work.
-class PostedMouse {
+// Watches what the drive has posted or clicked until all of it was taken from the queue: so loops pay for the
+// watch only while the mouse is at work.
+class WatchedMouse {
   public:
     void post(const Posted& posted) {
         std::erase_if(m_waiting, [](const Posted& old) { return !IsWindow(old.window); });
-        if (!m_hook) m_hook = SetWindowsHookExW(WH_GETMESSAGE, &messageHook, nullptr, GetCurrentThreadId());
+        watch();
         m_waiting.push_back(posted);
         posted.post();
     }
@@ -59,7 +61,14 @@ class PostedMouse {
         post(release);
     }
 
-    void deliverHeld(HWND going) {
+    // The real mouse's click, whose messages come from the system.
+    void watchReal(const Spot& spot) {
+        watch();
+        m_real.push_back({spot, false});
+    }
+
+    // Whether there was one to deliver.
+    bool deliverHeld(HWND going) {
         const std::vector<Posted> held = std::move(m_held);
         m_held.clear();
         for (const Posted& release : held) {
@@ -70,22 +79,77 @@ class PostedMouse {
                 post(release);
             }
         }
+        return deliverReal(going) || m_held.size() < held.size();
     }
 
   private:
+    struct RealClick {
+        Spot spot;
+        bool isPressed;
+    };
+
     static LRESULT CALLBACK messageHook(int code, WPARAM removed, LPARAM l) noexcept;
 
-    // The message leaves the queue. A press doesn't reach a window that can't be worked.
     void taken(MSG& message) {
+        takenReal(message);
+        takenPosted(message);
+    }
+
+    void watch() {
+        if (!m_hook) m_hook = SetWindowsHookExW(WH_GETMESSAGE, &messageHook, nullptr, GetCurrentThreadId());
+    }
+
+    void stopWatching() {
+        if (m_waiting.empty() && m_real.empty() && m_hook)
+            UnhookWindowsHookEx(std::exchange(m_hook, nullptr));
+    }
+
+    // The release of a press that has brought up a box goes to what lies under the mouse, also to another
+    // program. Where the queue is empty and it hasn't come, it never will.
+    bool deliverReal(HWND going) {
+        if (going) return false;
+        std::erase_if(m_real, [](const RealClick& click) { return !click.isPressed; });
+        const auto free = std::find_if(m_real.begin(), m_real.end(), [](const RealClick& click) {
+            return !IsWindow(click.spot.window) || !isBlocked(click.spot.window, nullptr);
+        });
+        const bool isFree = free != m_real.end();
+        if (isFree) {
+            moveMouse(free->spot, MOUSEEVENTF_LEFTUP);
+            m_real.erase(free);
+        }
+        stopWatching();
+        return isFree;
+    }
+
+    // The message leaves the queue.
+    void takenReal(MSG& message) {
+        if (message.message == WM_LBUTTONDOWN) {
+            const auto click = std::find_if(m_real.begin(), m_real.end(), [&](const RealClick& waiting) {
+                return !waiting.isPressed && waiting.spot.window == message.hwnd;
+            });
+            if (click != m_real.end()) click->isPressed = true;
+        }
+        if (message.message != WM_LBUTTONUP) return;
+        // The last one that was pressed: earlier ones may wait behind boxes.
+        const auto click = std::find_if(m_real.rbegin(), m_real.rend(),
+                                        [](const RealClick& waiting) { return waiting.isPressed; });
+        if (click == m_real.rend()) return;
+        if (isBlocked(click->spot.window, nullptr)) {
+            message.message = WM_NULL;
+        } else {
+            m_real.erase(std::next(click).base());
+            stopWatching();
+        }
+    }
+
+    // The same of what was posted. A press doesn't reach a window that can't be worked.
+    void takenPosted(MSG& message) {
         const auto found = std::find(m_waiting.begin(), m_waiting.end(),
                                      Posted{message.hwnd, message.message, message.wParam, message.lParam});
         if (found == m_waiting.end()) return;
         const Posted posted = *found;
         m_waiting.erase(found);
-        if (m_waiting.empty()) {
-            UnhookWindowsHookEx(m_hook);
-            m_hook = nullptr;
-        }
+        stopWatching();
         const bool isStopped = isBlocked(posted.window, nullptr);
         const bool isMove = posted.message == WM_MOUSEMOVE;
         if (!isMove && !isRelease(posted.message)) m_pressLost = isStopped;
@@ -112,6 +176,7 @@ class PostedMouse {
 
     std::deque<Posted> m_waiting;
     std::vector<Posted> m_held;
+    std::vector<RealClick> m_real;  // the ones whose release hasn't come yet
     HHOOK m_hook = nullptr;
     bool m_pressLost = false;
     struct {
@@ -120,12 +185,12 @@ class PostedMouse {
     int m_repeats = 0;  // of it
 };
 
-PostedMouse& mouse() {
-    static PostedMouse instance;
+WatchedMouse& mouse() {
+    static WatchedMouse instance;
     return instance;
 }
 
-LRESULT CALLBACK PostedMouse::messageHook(int code, WPARAM removed, LPARAM l) noexcept {
+LRESULT CALLBACK WatchedMouse::messageHook(int code, WPARAM removed, LPARAM l) noexcept {
     if (code == HC_ACTION && removed & PM_REMOVE) mouse().taken(*reinterpret_cast<MSG*>(l));
     return CallNextHookEx(nullptr, code, removed, l);
 }
@@ -179,6 +244,8 @@ void letGo(const Spot& spot, WPARAM keys) {
 void click(const Spot& wanted, WPARAM keys) {
     const Spot spot = pressSpot(wanted);
     if (usesRealInput()) {
+        // What else takes a press, such as a table, follows the mouse by itself from then on.
+        if (isButton(spot.window) || hasWindowClass(spot.window, WC_LISTBOXW)) mouse().watchReal(spot);
         post(spot, WM_LBUTTONDOWN, keys);
         return post(spot, WM_LBUTTONUP, keys);
     }
@@ -214,4 +281,4 @@ void sweep(const Spot& from, const Spot& to, WPARAM keys) {
     post(to, WM_LBUTTONUP, keys);
 }
 
-void deliverHeldReleases(HWND going) { mouse().deliverHeld(going); }
+bool deliverHeldReleases(HWND going) { return mouse().deliverHeld(going); }

@@ -27,5 +27,5 @@ void sweep(const Spot& from, const Spot& to, WPARAM keys);
 // A press may open a message box or another dialog before it was handled to its end, whose loop then takes
 // the release from the queue while the pressed window can't be worked. Such a release is held back, and
 // delivered when that window's dialog can be worked again. To be called in idle moments, and with the window
-// that goes.
-void deliverHeldReleases(HWND going);
+// that goes. True: there was one.
+bool deliverHeldReleases(HWND going);

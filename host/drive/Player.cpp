@@ -95,7 +95,7 @@ void Player::dialogIdle(HWND dialog) {
 
 void Player::idle(HWND dialog) {
     host().console().flush();
-    deliverHeldReleases(nullptr);
+    if (deliverHeldReleases(nullptr)) return wakeAgain(dialog, false);
     const bool playable = isPlayable(dialog);
     if (!playable && isSystemDialog(dialog)) answer(dialog);
     if (!doStep(dialog) && playable) play(dialog);

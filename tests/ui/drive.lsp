@@ -54,11 +54,14 @@
     '((ui_type "DESC" "one") (ui_click "HELP") (want '("help") notes)
       (ui_type "DESC" "two") (ui_click "OK"))))
 
-(test "A click arrives also where the box that is left shows an alert or runs a dialog"
-  '((want 7 (leave-and-click "(wex_alert \"Mind this\" 2)"))
-    (setq notes nil)
-    (repeat 2 (ui_session "CONFIRM_DELREC" '((ui_click "OK"))))
-    (want 7 (leave-and-click "(wex_new_dialog \"CONFIRM_DELREC\") (wex_start_dialog)"))))
+(test "A click arrives also where the box that is left shows an alert or runs a dialog, by either input"
+  '((foreach input '("POSTED" "REAL" "POSTED")
+      (ui_input input)
+      (setq notes nil)
+      (want 7 (leave-and-click "(wex_alert \"Mind this\" 2)"))
+      (setq notes nil)
+      (repeat 2 (ui_session "CONFIRM_DELREC" '((ui_click "OK"))))
+      (want 7 (leave-and-click "(wex_new_dialog \"CONFIRM_DELREC\") (wex_start_dialog)")))))
 
 (test "A new line may bring up a box: what is typed behind it comes when that was answered"
   '((in-dialog "ODD_KINDS"
