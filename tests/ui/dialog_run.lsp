@@ -119,6 +119,17 @@
       '((want '("one" "two") (ui_items "LST1")) (want grown (look "LST1" "rect")) (ui_click "Cancel")))
     (want -1 (wex_start_dialog))))
 
+(test "The name given last counts at each start: a dialog that waited behind another has lost its actions, and has the other's size"
+  '((foreach name '("ADD_REC" "CONFIRM_DELREC")
+      (wex_new_dialog name)
+      (wex_setresizing "OK" 0)
+      (wex_action_tile "Cancel" "(note $key)"))
+    (ui_session "CONFIRM_DELREC" '((ui_size 430 270) (ui_click "Cancel")))
+    (wex_start_dialog)
+    (ui_session "ADD_REC" '((note (cdddr (assoc "rect" (ui_look)))) (ui_click "Cancel")))
+    (wex_start_dialog)
+    (want '("cancel" (430 270)) notes)))
+
 (test "A point moves nothing, and a name of another type stands for the last one"
   '((want T (wex_new_dialog "CONFIRM_DELREC" (list 10.0 20.0)))
     (want T (wex_new_dialog 5))

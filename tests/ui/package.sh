@@ -34,6 +34,14 @@ done
 for module in WexDialogs.pgx hostapi.dll WEXDATASTOREMGDREV.dll; do
     x86_64-w64-mingw32-nm "../$(basename "$PWD")-symbols/$module.debug" | grep __stack_chk_fail >/dev/null || fail "$module's stack isn't guarded"
 done
+# What other modules reach of the plug-in by name: its functions, and two templates that stand in it as examples.
+for name in pluginEntryPoint pluginGetApiVersion GeneratedLispFileMgr11GetInstance GeneratedLispFileMgr8openFile \
+    GeneratedLispFileMgr9closeFile GeneratedLispFileMgrC1 GeneratedLispFileMgrD1 WexGrid12CreateObject WexGrid12GetThisClass WexGrid15GetRuntimeClass; do
+    x86_64-w64-mingw32-objdump -p WexDialogs.pgx | grep "$name" >/dev/null || fail "WexDialogs.pgx doesn't export $name"
+done
+for name in IDD_SCHEM_WIRE2PNL_FORMAT IDD_SU_SCHEM_WIRE2PNL_FORMAT; do
+    strings -el WexDialogs.pgx | grep "$name" >/dev/null || fail "WexDialogs.pgx holds no template $name"
+done
 # Handles of tree items are addresses that cross Lisp as 32 bits.
 ! x86_64-w64-mingw32-objdump -p wexhost.exe | grep HIGH_ENTROPY_VA >/dev/null || fail "the host's memory may lie beyond 32 bits"
 for page in README.html docs/lisp-functions.html; do
