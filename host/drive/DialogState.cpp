@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <span>
 #include <sstream>
 #include <vector>
 
@@ -19,8 +20,6 @@ namespace {
 // Larger grids are left to the program.
 constexpr uint64_t MOST_CELLS = 20'000;
 constexpr wchar_t BETWEEN_NAMES = L'\x1f', BETWEEN_PATHS = L'\x1e';
-// The control type of a cell with a box to tick.
-constexpr int32_t TICK_BOX = 52501;
 constexpr std::wstring_view CELL = L"3cell";
 constexpr std::wstring_view PLACE = L"0place";
 constexpr std::wstring_view FOCUS = L"6focus";
@@ -185,32 +184,32 @@ void setSelected(HWND window, const std::wstring& entries) {
     }
 }
 
-// --- the cell of a grid on which a person stands
+// --- what is selected in a grid: the current cell, and each area with its kind
 
-std::optional<std::wstring> currentCell(HWND window) {
+std::optional<std::wstring> gridSelection(HWND window) {
     const auto grid = gridOf(window);
     if (!grid) return std::nullopt;
     const GridTableLook table = grid->table();
     if (!table.hasCurrent) return L"";
-    return joined({static_cast<int>(table.current.row), static_cast<int>(table.current.column)});
+    std::vector<uint32_t> numbers = {table.current.row, table.current.column};
+    for (const GridArea& area : std::span(table.areas, table.areaCount))
+        numbers.insert(numbers.end(), {area.kind, area.top, area.left, area.bottom, area.right});
+    return joined({numbers.begin(), numbers.end()});
 }
 
-// By a press, as a grid has no other way to be told. The focus stays where it is.
-void setCurrentCell(HWND window, const std::wstring& place) {
-    const std::vector<int> numbers = numbersIn(place);
+void setGridSelection(HWND window, const std::wstring& selection) {
+    const std::vector<int> numbers = numbersIn(selection);
     if (numbers.size() < 2) return;
-    const auto grid = gridOf(window);
-    const auto spot =
-        grid->bringIntoView({static_cast<uint32_t>(numbers[0]), static_cast<uint32_t>(numbers[1])});
-    const auto cell = grid->cell({static_cast<uint32_t>(numbers[0]), static_cast<uint32_t>(numbers[1])});
-    const auto hit = spot ? grid->hit(spot->point) : std::nullopt;
-    // A press would change these.
-    if (!hit || !cell || cell->controlType == TICK_BOX || hit->opensChoices) return;
-    const HWND focus = GetFocus();
-    const LPARAM at = MAKELPARAM(spot->point.x, spot->point.y);
-    SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, at);
-    SendMessageW(window, WM_LBUTTONUP, 0, at);
-    if (focus && focus != GetFocus() && IsWindow(focus)) SetFocus(focus);
+    const std::vector<uint32_t> at(numbers.begin(), numbers.end());
+    std::vector<GridArea> areas;
+    for (size_t i = 2; i + 5 <= at.size(); i += 5)
+        areas.push_back({at[i + 1], at[i + 2], at[i + 3], at[i + 4], static_cast<GridArea::Kind>(at[i])});
+    GridTableLook wanted;
+    wanted.hasCurrent = true;
+    wanted.current = {at[0], at[1]};
+    wanted.areas = areas.data();
+    wanted.areaCount = static_cast<uint32_t>(areas.size());
+    gridOf(window)->select(wanted);
 }
 
 // --- how far it is scrolled
@@ -223,10 +222,8 @@ std::optional<std::wstring> firstInView(HWND window) {
     if (name == L"Edit") return asked(EM_GETFIRSTVISIBLELINE);
     if (name == L"SysTreeView32") {
         const auto items = itemsOf(window);
-        const LRESULT first = SendMessageW(window, TVM_GETNEXTITEM, TVGN_FIRSTVISIBLE, 0);
-        for (int at = 0; at < items->count(); ++at)
-            if (handleOf(*items, at) == static_cast<int32_t>(first)) return pathOf(*items->tree(), at);
-        return L"";
+        const int first = items->tree()->first();
+        return first < 0 ? L"" : pathOf(*items->tree(), first);
     }
     if (const auto grid = gridOf(window)) {
         const GridTableLook table = grid->table();
@@ -275,7 +272,7 @@ constexpr Aspect ASPECTS[] = {
     {L"2open", openBranches, setOpenBranches},
     {L"2sorted", sortedBy, sortBy},
     {L"3check", check, setCheck},
-    {L"4current", currentCell, setCurrentCell},
+    {L"4cells", gridSelection, setGridSelection},
     {L"4selected", selected, setSelected},
     {L"4text", enteredText, setText},
     {L"5first", firstInView, setFirstInView},

@@ -15,6 +15,8 @@ GridTableLook GridWindow::table() const {
     return table;
 }
 
+void GridWindow::select(GridTableLook wanted) const { ask(GridQuestion::Select, wanted); }
+
 std::optional<GridCellLook> GridWindow::cell(GridPlace place) const {
     GridCellLook cell;
     cell.at = place;

@@ -15,6 +15,8 @@ class GridWindow {
     GridTableLook table() const;
     // Nothing where the table has no such cell.
     std::optional<GridCellLook> cell(GridPlace place) const;
+    // Makes its current cell and its areas those of the grid. Lisp isn't told.
+    void select(GridTableLook wanted) const;
     // What a press at that point of its client area means; nothing where no cell lies there.
     std::optional<GridHit> hit(POINT at) const;
     // The middle of what is in view of the cell; nothing where none of it is.

@@ -22,6 +22,8 @@ class TreeLook {
     // The number of the image that is drawn: that of a selected item is another. -1 for none.
     virtual int image(int index) const = 0;
     virtual bool isChecked(int index) const = 0;
+    // The place of the first item in view; -1 in an empty tree.
+    virtual int first() const = 0;
 
   protected:
     ~TreeLook() = default;

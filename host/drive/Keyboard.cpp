@@ -1,10 +1,16 @@
 #include "host/drive/Keyboard.h"
 
+#include <commctrl.h>
+
+#include <algorithm>
+#include <iterator>
 #include <string>
 
+#include "host/drive/GridWindow.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/Player.h"
 #include "host/drive/RealInput.h"
+#include "host/drive/WindowClass.h"
 
 namespace {
 
@@ -35,11 +41,36 @@ void setKeys(const KeyStroke& stroke, BYTE state) {
     SetKeyboardState(keys);
 }
 
+// With Ctrl held these keys scroll a tree. Wine's looks for Ctrl at the keyboard itself, where a posted key
+// doesn't show.
+struct ScrollKey {
+    int key;
+    UINT message;
+    WORD way;
+};
+constexpr ScrollKey SCROLL_KEYS[] = {
+    {VK_UP, WM_VSCROLL, SB_LINEUP},     {VK_DOWN, WM_VSCROLL, SB_LINEDOWN},
+    {VK_PRIOR, WM_VSCROLL, SB_PAGEUP},  {VK_NEXT, WM_VSCROLL, SB_PAGEDOWN},
+    {VK_HOME, WM_VSCROLL, SB_TOP},      {VK_END, WM_VSCROLL, SB_BOTTOM},
+    {VK_LEFT, WM_HSCROLL, SB_LINELEFT}, {VK_RIGHT, WM_HSCROLL, SB_LINERIGHT}};
+
+// Whether the key does; then it has done so.
+bool scrollsTree(HWND window, const KeyStroke& stroke) {
+    if (!stroke.control || stroke.alt || !hasWindowClass(window, WC_TREEVIEWW)) return false;
+    const auto found = std::find_if(std::begin(SCROLL_KEYS), std::end(SCROLL_KEYS),
+                                    [&](const ScrollKey& at) { return at.key == stroke.virtualKey; });
+    if (found == std::end(SCROLL_KEYS)) return false;
+    PostMessageW(window, found->message, found->way, 0);
+    return true;
+}
+
 }  // namespace
 
-// A new line may run an action, whose boxes are answered before a person goes on typing.
+// A new line may run an action, and each character where what is typed isn't only text; its dialogs and boxes
+// are done with before a person goes on typing.
 void typeText(HWND window, std::wstring_view text) {
-    const size_t lineEnd = text.find_first_of(L"\r\n");
+    const bool isText = hasWindowClass(window, WC_EDITW) && !gridOf(GetParent(window));
+    const size_t lineEnd = isText ? text.find_first_of(L"\r\n") : 0;
     const std::wstring_view line = text.substr(0, lineEnd == text.npos ? lineEnd : lineEnd + 1);
     const bool isReal = usesRealInput() && line.find_first_of(L"\r\x1B") == line.npos;
     for (const wchar_t c : line) {
@@ -48,7 +79,7 @@ void typeText(HWND window, std::wstring_view text) {
         else
             PostMessageW(window, WM_CHAR, c == L'\n' ? L'\r' : c, 1);
     }
-    if (line.size() == text.size()) return;
+    if (line.size() >= text.size()) return;
     player().steps().add(dialogOf(window), [window, rest = std::wstring(text.substr(line.size()))] {
         const HWND focus = GetFocus();
         typeText(focus ? focus : window, rest);
@@ -67,7 +98,8 @@ void pressKey(HWND window, const KeyStroke& stroke) {
         player().steps().add(nullptr, [=] { sendKey(stroke.virtualKey, false); });
         return player().steps().add(nullptr, [=] { setKeys(stroke, 0); });
     }
-    PostMessageW(window, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key, scan | alt);
+    if (!scrollsTree(window, stroke))
+        PostMessageW(window, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key, scan | alt);
     if (stroke.virtualKey == VK_F1 && !stroke.alt) PostMessageW(window, WM_KEYF1, 0, 0);
     player().steps().add(nullptr, [=] {
         const HWND focus = GetFocus();

@@ -77,6 +77,7 @@ void addTree(Pairs& look, lisp::Interpreter& lisp, const Items& items, const Tre
     look.add(u"expanded", open.list());
     look.add(u"images", images.list());
     look.add(u"checks", checked.list());
+    look.add(u"first", tree.first() < 0 ? lisp::Value() : pathList(lisp, tree, tree.first()));
 }
 
 void addGrid(Pairs& look, lisp::Interpreter& lisp, const GridWindow& grid) {

@@ -268,10 +268,13 @@ void doubleClick(const Spot& wanted, WPARAM keys) {
     post(spot, WM_LBUTTONUP, keys);
 }
 
-void rightClick(const Spot& spot, WPARAM keys) {
+void rightClick(const Spot& wanted, WPARAM keys) {
+    const Spot spot = pressSpot(wanted);
     post(spot, WM_RBUTTONDOWN, MK_RBUTTON | keys);
     post(spot, WM_RBUTTONUP, keys);
 }
+
+void hover(const Spot& spot, WPARAM keys) { post(spot, WM_MOUSEMOVE, keys); }
 
 void sweep(const Spot& from, const Spot& to, WPARAM keys) {
     const POINT between = {(from.point.x + to.point.x) / 2, (from.point.y + to.point.y) / 2};

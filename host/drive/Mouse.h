@@ -21,6 +21,7 @@ void letGo(const Spot& spot, WPARAM keys);
 void click(const Spot& spot, WPARAM keys);
 void doubleClick(const Spot& spot, WPARAM keys);
 void rightClick(const Spot& spot, WPARAM keys);
+void hover(const Spot& spot, WPARAM keys);
 // Presses the left button at the first spot, moves to the second one and lets go there. Of one window.
 void sweep(const Spot& from, const Spot& to, WPARAM keys);
 

@@ -7,6 +7,7 @@
 #include "host/drive/Menus.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/Mouse.h"
+#include "host/drive/RealInput.h"
 #include "host/services/Host.h"
 #include "host/services/Texts.h"
 
@@ -42,7 +43,10 @@ void Player::setPlays(bool plays) {
     m_plays = plays;
     host().alerts().setAttended(!plays);
     m_watch.reset();
-    if (plays) m_watch.emplace(*this);
+    m_still.reset();
+    if (!plays) return;
+    m_watch.emplace(*this);
+    m_still.emplace();
 }
 
 void Player::queue(std::unique_ptr<Session> session) {
@@ -85,7 +89,10 @@ void Player::watchForMenu() {
 
 void CALLBACK Player::menuTimer(HWND, UINT, UINT_PTR, DWORD) noexcept {
     const HWND dialog = player().newestPlayable();
-    if (dialog && worksMenu()) player().idle(dialog);
+    if (dialog && worksMenu())
+        player().idle(dialog);
+    else
+        repeatLostRelease();
 }
 
 void Player::dialogIdle(HWND dialog) {
@@ -200,12 +207,21 @@ void Player::act(HWND dialog, Steps::Work work) {
     }
 }
 
-void Player::messageBoxShown(HWND box) { answer(box); }
+// It also comes to the front again when a dialog goes that its coming up had brought up; the loop of that one
+// may have taken the answer from the queue.
+void Player::messageBoxShown(HWND box) {
+    if (const Answered* given = findAnswered(box)) return answerBox(box, given->answer);
+    answer(box);
+}
 
-void Player::answer(HWND box) {
+Player::Answered* Player::findAnswered(HWND box) {
     const auto found = std::find_if(m_answered.begin(), m_answered.end(),
                                     [=](const Answered& given) { return given.box == box; });
-    if (found != m_answered.end()) return answerAnew(*found);
+    return found == m_answered.end() ? nullptr : &*found;
+}
+
+void Player::answer(HWND box) {
+    if (Answered* given = findAnswered(box)) return answerAnew(*given);
     host().alerts().record(boxText(box));
     m_lastBox = boxLook(box);
     m_answered.push_back({box, takeAnswer()});
@@ -242,6 +258,8 @@ void Player::answerAnew(Answered& given) {
 void Player::windowGone(HWND window) {
     std::erase_if(m_answered, [=](const Answered& given) { return given.box == window; });
     if (window == m_frame) m_frame = nullptr;
+    // What had brought it up may go on with a menu, or with a loop that waits for the mouse.
+    if (m_plays && isSystemDialog(window)) watchForMenu();
     m_steps.forget(window);
     deliverHeldReleases(window);
     const auto found =

@@ -14,6 +14,7 @@
 #include "host/drive/Progress.h"
 #include "host/drive/Sessions.h"
 #include "host/drive/Steps.h"
+#include "host/drive/StillMouse.h"
 
 class Player : public DialogObserver {
   public:
@@ -82,6 +83,7 @@ class Player : public DialogObserver {
     static void CALLBACK menuTimer(HWND, UINT, UINT_PTR, DWORD) noexcept;
     void closeLeftOpen(Run& run);
     void answer(HWND box);
+    Answered* findAnswered(HWND box);
     BoxAnswer takeAnswer();
     void answerAnew(Answered& given);
 
@@ -99,6 +101,7 @@ class Player : public DialogObserver {
     BoxLook m_lastBox;
     Steps m_steps;
     std::optional<IdleWatch> m_watch;
+    std::optional<StillMouse> m_still;
     Progress m_progress;
 };
 

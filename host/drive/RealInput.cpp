@@ -35,6 +35,15 @@ void moveMouse(const Spot& spot, DWORD flags) {
     send(input);
 }
 
+void repeatLostRelease() {
+    const bool isDown = GetAsyncKeyState(VK_LBUTTON) < 0 || GetAsyncKeyState(VK_RBUTTON) < 0;
+    if (!g_isReal || isDown || !GetCapture()) return;
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = MOUSEEVENTF_RIGHTUP;
+    send(input);
+}
+
 Spot besideLastClick(const Spot& spot) {
     static Spot last{};
     Spot beside = spot;

@@ -15,5 +15,8 @@ void useRealInput(bool real);
 void moveMouse(const Spot& spot, DWORD flags);
 // Two clicks at one place would be a double click: the second one goes to a place beside the first.
 Spot besideLastClick(const Spot& spot);
+// A list that was pressed with the right button waits for it in a loop of its own, though the button may have
+// come up before a box that the press had brought up. Then it comes up once more.
+void repeatLostRelease();
 void sendKey(int virtualKey, bool down);
 void sendCharacter(wchar_t c);

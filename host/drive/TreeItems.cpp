@@ -37,10 +37,8 @@ class TreeItems : public ControlItems, public TreeLook {
         return lisp::Value::integer(static_cast<int32_t>(reinterpret_cast<intptr_t>(m_items[index].handle)));
     }
     std::vector<int> selected() const override {
-        const HTREEITEM caret = next(TVGN_CARET, nullptr);
-        for (int i = 0; i < count(); ++i)
-            if (caret && m_items[i].handle == caret) return {i};
-        return {};
+        const int caret = indexOf(next(TVGN_CARET, nullptr));
+        return caret < 0 ? std::vector<int>() : std::vector{caret};
     }
     void bringIntoView(int index, int) const override {
         send(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(m_items[index].handle));
@@ -58,9 +56,7 @@ class TreeItems : public ControlItems, public TreeLook {
         TVHITTESTINFO hit{};
         hit.pt = at;
         send(TVM_HITTEST, 0, &hit);
-        for (int i = 0; i < count(); ++i)
-            if (hit.hItem && m_items[i].handle == hit.hItem) return i;
-        return -1;
+        return indexOf(hit.hItem);
     }
 
     const TreeLook* tree() const override { return this; }
@@ -79,6 +75,7 @@ class TreeItems : public ControlItems, public TreeLook {
     }
     // The second of the images of a tree's check boxes is the one with the mark.
     bool isChecked(int index) const override { return (state(index) & TVIS_STATEIMAGEMASK) >> 12 == 2; }
+    int first() const override { return indexOf(next(TVGN_FIRSTVISIBLE, nullptr)); }
 
   private:
     struct Item {
@@ -88,6 +85,12 @@ class TreeItems : public ControlItems, public TreeLook {
 
     HTREEITEM next(UINT relation, HTREEITEM from) const {
         return reinterpret_cast<HTREEITEM>(send(TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(from)));
+    }
+    // -1 for none.
+    int indexOf(HTREEITEM item) const {
+        for (int i = 0; i < count(); ++i)
+            if (item && m_items[i].handle == item) return i;
+        return -1;
     }
     void gather(HTREEITEM item, int parent) {
         for (; item; item = next(TVGN_NEXT, item)) {

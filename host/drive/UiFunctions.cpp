@@ -44,8 +44,14 @@ HWND typingWindow(const Tile& tile) {
     return isCombo ? parts.hwndItem : tile.window();
 }
 
-void retype(HWND window, const std::wstring& characters) {
-    PostMessageW(window, EM_SETSEL, 0, -1);
+// What the characters take the place of; all as a person marks it.
+struct TextRange {
+    WPARAM from = 0;
+    LPARAM to = -1;
+};
+
+void retype(HWND window, TextRange range, const std::wstring& characters) {
+    PostMessageW(window, EM_SETSEL, range.from, range.to);
     if (characters.empty()) {
         pressKey(window, {VK_DELETE});
     } else {
@@ -53,23 +59,26 @@ void retype(HWND window, const std::wstring& characters) {
     }
 }
 
-void typeInto(const Tile& tile, const std::wstring& characters) {
+void typeInto(const Tile& tile, TextRange range, const std::wstring& characters) {
     if (gridOf(tile.window())) return typeIntoGrid(tile, characters);
     const HWND window = typingWindow(tile);
     // A click where it has the focus already would be the second half of a double click.
-    if (GetFocus() == window) return retype(window, characters);
+    if (GetFocus() == window) return retype(window, range, characters);
     click(middleOf(window), 0);
     player().steps().add(tile.dialog(), [=] {
         tile.mustBeWorkable();
-        retype(window, characters);
+        retype(window, range, characters);
     });
 }
 
-// (ui_type tile "text"): as if the person had marked what stood there.
+// (ui_type tile "text" [from to]): as if the person had marked what stood there, or a part of it.
 Value type(Call& call) {
     const Tile tile(call, 0);
     tile.mustBeWorkable();
-    player().act(tile.dialog(), [=, characters = wideArgument(call, 1)] { typeInto(tile, characters); });
+    TextRange range;
+    if (call.has(2)) range = {static_cast<WPARAM>(call.integer(2)), call.integer(3)};
+    player().act(tile.dialog(),
+                 [=, characters = wideArgument(call, 1)] { typeInto(tile, range, characters); });
     return Value::none();
 }
 
@@ -238,7 +247,7 @@ Value alerts(Call& call) { return texts(call, host().alerts().take()); }
 Value warnings(Call& call) { return texts(call, host().warnings().take()); }
 
 constexpr UiFunction FUNCTIONS[] = {
-    {u"ui_session", &session, 2, 2}, {u"ui_type", &type, 2, 2},       {u"ui_key", &key, 1, 2},
+    {u"ui_session", &session, 2, 2}, {u"ui_type", &type, 2, 4},       {u"ui_key", &key, 1, 2},
     {u"ui_char", &character, 1, 2},  {u"ui_close", &close, 0, 0},     {u"ui_size", &size, 2, 2},
     {u"ui_drag", &drag, 3, 3},       {u"ui_wait", &wait, 1, 1},       {u"ui_text", &textOfTile, 1, 1},
     {u"ui_items", &items, 1, 3},     {u"ui_look", &look, 0, 1},       {u"ui_pixel", &pixel, 3, 3},

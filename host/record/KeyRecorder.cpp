@@ -2,6 +2,9 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <string_view>
+
 #include "host/drive/GridWindow.h"
 #include "host/drive/MessageBoxes.h"
 #include "host/drive/WindowClass.h"
@@ -29,10 +32,42 @@ bool isPrintable(const KeyStroke& stroke) {
     return (MapVirtualKeyW(stroke.virtualKey, MAPVK_VK_TO_CHAR) & 0xFFFF) >= L' ';
 }
 
-std::wstring textWithLineFeeds(HWND edit) {
-    std::wstring text = textOf(edit);
+// Of a marked text both ends, of the caret twice its place.
+struct Marking {
+    DWORD from = 0, to = 0;
+};
+
+Marking markingOf(HWND edit) {
+    Marking marking;
+    SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&marking.from),
+                 reinterpret_cast<LPARAM>(&marking.to));
+    return marking;
+}
+
+bool isAllMarked(HWND edit) {
+    const Marking marking = markingOf(edit);
+    return marking.from == 0 && marking.to == static_cast<DWORD>(GetWindowTextLengthW(edit));
+}
+
+std::wstring withLineFeeds(std::wstring text) {
     std::erase(text, L'\r');
     return text;
+}
+
+std::wstring rangeText(size_t from, size_t to) {
+    return L" " + std::to_wstring(from) + L" " + std::to_wstring(to);
+}
+
+// How much both texts begin with alike. A line's end stays whole.
+size_t alikeAtStart(std::wstring_view a, std::wstring_view b) {
+    const size_t count = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
+    return count > 0 && a[count - 1] == L'\r' ? count - 1 : count;
+}
+
+// How much both texts end with alike.
+size_t alikeAtEnd(std::wstring_view a, std::wstring_view b) {
+    const size_t count = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend()).first - a.rbegin();
+    return count > 0 && a[a.size() - count] == L'\n' ? count - 1 : count;
 }
 
 bool isOfCombo(HWND edit) { return hasWindowClass(GetParent(edit), WC_COMBOBOXW); }
@@ -59,12 +94,6 @@ bool leavesText(HWND edit, const KeyStroke& stroke) {
     }
 }
 
-bool caretIsAtEnd(HWND edit) {
-    DWORD from = 0, to = 0;
-    SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
-    return from == to && to == static_cast<DWORD>(GetWindowTextLengthW(edit));
-}
-
 // Whether Space does the same as a click.
 bool isClickedBySpace(HWND window) {
     const bool isPicture = SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_STATIC;
@@ -74,6 +103,15 @@ bool isClickedBySpace(HWND window) {
            kind != BS_GROUPBOX;
 }
 
+// What has come at that place, where nothing else is new.
+std::optional<std::wstring> insertedAt(size_t at, const std::wstring& before, const std::wstring& now) {
+    if (now.size() < before.size() || at > before.size()) return std::nullopt;
+    const size_t count = now.size() - before.size();
+    const bool isAlike = now.compare(0, at, before, 0, at) == 0 &&
+                         now.compare(at + count, now.npos, before, at, before.npos) == 0;
+    return isAlike ? std::optional(now.substr(at, count)) : std::nullopt;
+}
+
 }  // namespace
 
 void KeyRecorder::update() {
@@ -81,24 +119,45 @@ void KeyRecorder::update() {
     // What comes of the text when the box was left is the program's.
     if (m_typing && GetFocus() != m_typing->edit) m_typing.reset();
     if (!m_typing) return;
-    const std::wstring now = textWithLineFeeds(m_typing->edit);
-    const bool isNew = now != m_typing->before || m_typing->isForced;
-    m_journal.setForm(m_typing->step, isNew
-                                          ? L"(ui_type " + m_typing->tile.name + L" " + lispString(now) + L")"
-                                          : std::wstring());
+    const Typed typed = typedBy(*m_typing);
+    const bool isOwn = typed.step == m_typing->step;
+    if (isOwn && m_typing->line) setTyped(*m_typing->line, m_typing->tile);
+    const bool isNothing = isOwn && textOf(m_typing->edit) == m_typing->before;
+    if (!isNothing) setTyped(typed, m_typing->tile);
+    if (!isOwn || isNothing) m_journal.setForm(m_typing->step, {});
 }
 
-void KeyRecorder::endTyping(HWND dialog) {
+void KeyRecorder::setTyped(const Typed& typed, const NamedTile& tile) {
+    m_journal.setForm(typed.step, L"(ui_type " + tile.name + L" " + lispString(withLineFeeds(typed.text)) +
+                                      typed.range + L")");
+}
+
+// A new line that is typed is an event, so in a text that has some only what is new is typed.
+KeyRecorder::Typed KeyRecorder::typedBy(const Typing& typing) const {
+    const std::wstring now = textOf(typing.edit);
+    const std::wstring& before = typing.before;
+    if (typing.line)
+        if (const auto more = insertedAt(typing.line->caret, before, now))
+            return {typing.line->step, typing.line->text + *more, typing.line->range,
+                    typing.line->caret + static_cast<DWORD>(more->size())};
+    const bool hasLines = before.find(L'\n') != before.npos || now.find(L'\n') != now.npos;
+    if (typing.isWhole || !hasLines) return {typing.step, now, {}, static_cast<DWORD>(now.size())};
+    const size_t start = alikeAtStart(before, now);
+    const size_t end =
+        alikeAtEnd(std::wstring_view(before).substr(start), std::wstring_view(now).substr(start));
+    return {typing.step, now.substr(start, now.size() - start - end), rangeText(start, before.size() - end),
+            static_cast<DWORD>(now.size() - end)};
+}
+
+void KeyRecorder::endTyping() {
     update();
     m_typing.reset();
-    // A box or a dialog that a new line has brought up leaves the caret where it is.
-    if (m_singly && dialogOf(m_singly) == dialog) m_singly = nullptr;
     m_told = 0;
 }
 
 void KeyRecorder::windowGone(HWND window) {
     if (m_typing && (m_typing->edit == window || m_typing->dialog == window)) m_typing.reset();
-    if (m_singly == window) m_singly = nullptr;
+    if (m_line.edit == window) m_line = {};
 }
 
 // Where Tab or a mnemonic has led is known when the key was handled. A button that was reached by its
@@ -119,11 +178,37 @@ void KeyRecorder::resolveFocus() {
 
 void KeyRecorder::type(HWND edit, HWND dialog) {
     if (m_typing && m_typing->edit == edit) return;
-    endTyping(dialog);
+    endTyping();
     const NamedTile tile = tileOf(edit, dialog);
     if (!tile) return;
+    const Marking marking = markingOf(edit);
+    const bool goesOn = m_line.edit == edit && m_journal.recording().isLast(m_line.last) &&
+                        marking.from == marking.to && marking.to == m_line.typed->caret;
     const Recording::Place step = m_journal.add(dialog, {Kind::type, tile.name, {}, {}});
-    m_typing = Typing{dialog, edit, tile, textWithLineFeeds(edit), step};
+    m_typing = Typing{
+        dialog, edit, tile, textOf(edit), isAllMarked(edit), step, goesOn ? m_line.typed : std::nullopt};
+}
+
+// What was typed until now is told with the new line behind it, where a session has the caret there too.
+void KeyRecorder::typeLineEnd(HWND edit, HWND dialog) {
+    type(edit, dialog);
+    update();
+    if (!m_typing) return;
+    const Marking marking = markingOf(edit);
+    Typed typed = typedBy(*m_typing);
+    const NamedTile tile = m_typing->tile;
+    Recording::Place last = m_typing->step;
+    const bool isNew = m_journal.recording().at(typed.step).form.empty();
+    // What is taken away is gone before the new line tells of the text.
+    if (typed.text.empty() || marking.from != marking.to || marking.to != typed.caret) {
+        if (!isNew) last = m_journal.add(dialog, {Kind::type, tile.name, {}, {}});
+        typed = {last, {}, rangeText(marking.from, marking.to), marking.from};
+    }
+    typed.text += L'\n';
+    typed.caret += 2;
+    setTyped(typed, tile);
+    m_line = {typed, edit, last};
+    m_typing.reset();
 }
 
 void KeyRecorder::addKey(const MSG& message, HWND dialog, const KeyStroke& stroke) {
@@ -141,18 +226,14 @@ void KeyRecorder::keyDown(const MSG& message, HWND dialog) {
     const KeyStroke stroke = strokeOf(message);
     if (isModifier(message.wParam)) return;
     const bool closes = stroke.alt && stroke.virtualKey == VK_F4;  // told as what comes of it
-    if (closes) return endTyping(dialog);
+    if (closes) return endTyping();
     const HWND window = message.hwnd;
     const bool isEdit = hasWindowClass(window, WC_EDITW);
     const NamedTile tile = tileOf(window, dialog);
     const bool ofGrid = tile && gridOf(tile.window);
     const bool isText = isEdit && !ofGrid && !leavesText(window, stroke);
-    if (isText && window == m_singly) {
-        if (!isPrintable(stroke) && stroke.virtualKey != VK_RETURN) addKey(message, dialog, stroke);
-        return;
-    }
     if (isText) return type(window, dialog);
-    endTyping(dialog);
+    endTyping();
     if (stroke.virtualKey == VK_SPACE && tile && isClickedBySpace(window) && !stroke.alt) {
         m_journal.add(dialog, {Kind::click, tile.name, L"(ui_click " + tile.name + L")", {}});
         m_told = message.lParam & SCAN_CODE;
@@ -168,7 +249,7 @@ void KeyRecorder::keyUp(const MSG& message, HWND dialog) {
     const WPARAM key = message.wParam;
     const bool isHeld = key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
     if (!isHeld || !hasWindowClass(message.hwnd, WC_LISTVIEWW)) return;
-    endTyping(dialog);
+    endTyping();
     m_journal.add(dialog, {Kind::other, {}, keyForm({static_cast<int>(key)}), {}});
 }
 
@@ -177,38 +258,22 @@ void KeyRecorder::character(const MSG& message, HWND dialog) {
     if (m_told && scan == m_told) return;
     const NamedTile tile = tileOf(message.hwnd, dialog);
     const bool isEdit = hasWindowClass(message.hwnd, WC_EDITW);
-    if (!isEdit || gridOf(tile.window) || message.hwnd == m_singly) return addCharacter(message, dialog);
-    if (message.wParam != VK_RETURN && message.wParam != VK_ESCAPE) return type(message.hwnd, dialog);
-    typeControl(message, dialog);
-}
-
-// Enter and Esc as characters end the editing of a box, or bring back its text. Behind what was typed a
-// session has the caret where it was, and goes on key by key; otherwise the text that the new line makes is
-// told in any case.
-void KeyRecorder::typeControl(const MSG& message, HWND dialog) {
-    update();
-    const bool isAtEnd =
-        m_typing && !m_journal.recording().at(m_typing->step).form.empty() && caretIsAtEnd(message.hwnd);
-    endTyping(dialog);
+    if (!isEdit || gridOf(tile.window)) return addCharacter(message, dialog);
+    const bool endsLine = message.wParam == VK_RETURN;
+    if (endsLine && GetWindowLongW(message.hwnd, GWL_STYLE) & ES_MULTILINE)
+        return typeLineEnd(message.hwnd, dialog);
+    if (!endsLine && message.wParam != VK_ESCAPE) return type(message.hwnd, dialog);
+    // They end the editing of a box, or bring back its text.
+    endTyping();
     addCharacter(message, dialog);
-    const bool hasLines = GetWindowLongW(message.hwnd, GWL_STYLE) & ES_MULTILINE;
-    if (!hasLines || message.wParam != VK_RETURN) return;
-    if (isAtEnd) {
-        m_singly = message.hwnd;
-        return;
-    }
-    type(message.hwnd, dialog);
-    if (m_typing) m_typing->isForced = true;
 }
 
 // The whole text of a cell's open editor is marked, and gives way to the character.
 void KeyRecorder::addMarking(HWND editor, HWND dialog) {
-    DWORD from = 0, to = 0;
-    SendMessageW(editor, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
     const std::wstring form = keyForm({.virtualKey = 'A', .control = true});
     const RecordedStep* last = m_journal.recording().last();
     const bool isTold = last && last->form == form;
-    if (!isTold && from == 0 && to > 0 && to == static_cast<DWORD>(GetWindowTextLengthW(editor)))
+    if (!isTold && isAllMarked(editor) && GetWindowTextLengthW(editor) > 0)
         m_journal.add(dialog, {Kind::other, {}, form, {}});
 }
 

@@ -18,24 +18,34 @@ class KeyRecorder {
     void keyDown(const MSG& message, HWND dialog);
     void keyUp(const MSG& message, HWND dialog);
     void character(const MSG& message, HWND dialog);
-    // Something else is about to be done in that dialog: what was typed until now is all.
-    void endTyping(HWND dialog);
+    // Something else is about to be done: what was typed until now is all.
+    void endTyping();
     // What was typed until now was handled.
     void update();
     void windowGone(HWND window);
 
   private:
+    // A step that types into an edit box, and where it leaves the caret.
+    struct Typed {
+        Recording::Place step;
+        std::wstring text;
+        std::wstring range;  // as ui_type takes it: of the text that it takes the place of; empty for all
+        DWORD caret;
+    };
     // An edit box that is being typed into.
     struct Typing {
         HWND dialog, edit;
         NamedTile tile;
         std::wstring before;  // its text at the start
+        bool isWhole;         // all of it was marked
         Recording::Place step;
-        bool isForced = false;  // to be told also where the text is as before
+        std::optional<Typed> line;  // which ends in a new line, and goes on here
     };
 
     void type(HWND edit, HWND dialog);
-    void typeControl(const MSG& message, HWND dialog);
+    void typeLineEnd(HWND edit, HWND dialog);
+    Typed typedBy(const Typing& typing) const;
+    void setTyped(const Typed& typed, const NamedTile& tile);
     void addKey(const MSG& message, HWND dialog, const KeyStroke& stroke);
     void addMarking(HWND editor, HWND dialog);
     void addCharacter(const MSG& message, HWND dialog);
@@ -43,7 +53,12 @@ class KeyRecorder {
 
     Journal& m_journal;
     std::optional<Typing> m_typing;
-    HWND m_singly = nullptr;                  // an edit box whose keys are recorded one by one
+    // The last step that typed a new line, the edit box, and the step after which it can go on.
+    struct {
+        std::optional<Typed> typed;
+        HWND edit;
+        Recording::Place last;
+    } m_line{};
     std::optional<Recording::Place> m_moved;  // a key that may have moved the focus
     HWND m_movedFrom = nullptr;
     bool m_byTab = false;

@@ -4,6 +4,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "host/drive/Tile.h"
 #include "host/drive/WindowClass.h"
@@ -70,6 +71,14 @@ std::wstring placeText(GridPlace at) {
     return L" " + std::to_wstring(at.row) + L" " + std::to_wstring(at.column);
 }
 
+int caretOf(HWND list) { return static_cast<int>(SendMessageW(list, LB_GETCARETINDEX, 0, 0)); }
+
+// The list of a combo box that is open, or a list box that has lost sight of the button.
+bool marksUnderMouse(HWND list) {
+    return IsWindow(list) &&
+           (GetCapture() == list || (hasWindowClass(list, L"ComboLBox") && IsWindowVisible(list)));
+}
+
 bool areSame(GridPlace a, GridPlace b) { return a.row == b.row && a.column == b.column; }
 
 }  // namespace
@@ -79,22 +88,18 @@ void MouseRecorder::add(Press& press, Kind kind, std::wstring form) {
 }
 
 // What was pressed first counts: that may have scrolled what lies under the mouse.
-void MouseRecorder::addPress(Press& press, Kind kind, const std::wstring& once, std::wstring twice,
-                             bool isDouble) {
+void MouseRecorder::addPress(Press& press, Kind kind, Forms forms, bool isDouble) {
     Recording& recording = m_journal.recording();
     if (!isDouble) {
-        add(press, kind, once);
-        m_first = FirstPress{*press.step, once, std::move(twice)};
+        add(press, kind, forms.once);
+        m_first = FirstPress{*press.step, std::move(forms)};
     } else if (m_wasApart) {
-        add(press, Kind::other, once);
+        add(press, Kind::other, std::move(forms.once));
     } else if (m_first && recording.isLast(m_first->step) &&
-               recording.at(m_first->step).form == m_first->once) {
-        m_journal.setForm(m_first->step, m_first->twice);
+               recording.at(m_first->step).form == m_first->forms.once) {
+        m_journal.setForm(m_first->step, m_first->forms.twice);
     } else {
-        // The first press did something else there, as a drag. Of a button, and of a part of an entry, one
-        // press is as good as another.
-        const bool isPick = once.starts_with(L"(ui_pick");
-        add(press, Kind::other, isPick ? std::move(twice) : once);
+        add(press, Kind::other, forms.isPick ? std::move(forms.twice) : std::move(forms.once));
     }
 }
 
@@ -117,6 +122,9 @@ void MouseRecorder::pressed(const MSG& message, HWND dialog) {
         m_first.reset();
     }
     const bool isRight = message.message == WM_RBUTTONDOWN || message.message == WM_RBUTTONDBLCLK;
+    // The second press of a double one does nothing in a tree.
+    const bool isLost = message.message == WM_RBUTTONDBLCLK && hasWindowClass(message.hwnd, WC_TREEVIEWW);
+    if (isLost) return;
     if (isRight) return pressedRight(press);
     pressedLeft(press, isDouble);
     m_down.push_back(std::move(press));
@@ -137,7 +145,7 @@ void MouseRecorder::pressedLeft(Press& press, bool isDouble) {
         press.entry = isDouble ? -1 : headAt(press.window, press.at);
     } else if (isButton(press.tile)) {
         press.held = call(L"ui_hold", press.tile);
-        addPress(press, Kind::click, call(L"ui_click", press.tile), call(L"ui_dblclick", press.tile),
+        addPress(press, Kind::click, {call(L"ui_click", press.tile), call(L"ui_dblclick", press.tile)},
                  isDouble);
     } else if (gridOf(control)) {
         if (press.window == control) pressedCell(press, isDouble);
@@ -150,7 +158,7 @@ void MouseRecorder::pressedLeft(Press& press, bool isDouble) {
 
 void MouseRecorder::pressedPoint(Press& press, const NamedTile& tile, bool isDouble) {
     const std::wstring at = pointText(press.at) + press.keys;
-    addPress(press, Kind::other, call(L"ui_click", tile, at), call(L"ui_dblclick", tile, at), isDouble);
+    addPress(press, Kind::other, {call(L"ui_click", tile, at), call(L"ui_dblclick", tile, at)}, isDouble);
 }
 
 // A press beside the rows of a list control is lost; beside the entries of other lists it may move the focus.
@@ -167,18 +175,19 @@ void MouseRecorder::pressedEntry(Press& press, const Items& items, bool isDouble
     }
     const std::wstring name = L" " + itemName(items, press.entry);
     if (const wchar_t* part = partFunction(control, press.at)) {
-        addPress(press, Kind::other, call(part, press.tile, name), call(part, press.tile, name + L" 2"),
+        addPress(press, Kind::other, {call(part, press.tile, name), call(part, press.tile, name + L" 2")},
                  isDouble);
         press.entry = -1;
         return;
     }
     const std::wstring item = name + press.keys;
-    addPress(press, Kind::other, call(L"ui_pick", press.tile, item), call(L"ui_dblclick", press.tile, item),
-             isDouble);
+    addPress(press, Kind::other,
+             {call(L"ui_pick", press.tile, item), call(L"ui_dblclick", press.tile, item), true}, isDouble);
     if (isDouble) press.entry = -1;
-    // Where nothing lets go of it, it goes on as if the button were down, and takes the next press wherever
-    // that is.
-    if (!isDouble && hasWindowClass(control, WC_LISTBOXW)) press.held = call(L"ui_hold", press.tile, item);
+    if (isDouble || items.tree()) return;
+    // Where nothing lets go of it, a list box goes on as if the button were down, and takes the next press
+    // wherever that is; and rows that were selected before stay so.
+    press.held = call(L"ui_hold", press.tile, item);
 }
 
 void MouseRecorder::pressedCell(Press& press, bool isDouble) {
@@ -186,12 +195,12 @@ void MouseRecorder::pressedCell(Press& press, bool isDouble) {
     if (press.cell && press.cell->onBorder) press.cell.reset();
     if (!press.cell) return;
     const GridPlace at = press.cell->at;
-    const std::wstring pick =
-        at.row == 0 && at.column > 0
-            ? call(L"ui_header", press.tile, L" " + std::to_wstring(at.column) + press.keys)
-            : call(L"ui_pick", press.tile, placeText(at) + press.keys);
-    addPress(press, Kind::other, pick, call(L"ui_dblclick", press.tile, placeText(at) + press.keys),
-             isDouble);
+    const bool isHead = at.row == 0 && at.column > 0;
+    const std::wstring once =
+        isHead ? call(L"ui_header", press.tile, L" " + std::to_wstring(at.column) + press.keys)
+               : call(L"ui_pick", press.tile, placeText(at) + press.keys);
+    addPress(press, Kind::other,
+             {once, call(L"ui_dblclick", press.tile, placeText(at) + press.keys), !isHead}, isDouble);
     press.held = call(L"ui_hold", press.tile, pointText(press.at) + press.keys);  // as a list box
 }
 
@@ -267,14 +276,21 @@ void MouseRecorder::released(const MSG& message, HWND dialog) {
     }
 }
 
+// What the press has set off may have scrolled another entry under the mouse. That marks a list box only
+// where the mouse moves.
 void MouseRecorder::releasedEntry(const Press& press, POINT at) {
     const auto items = itemsOf(press.tile.window);
-    const int entry = items ? items->hit(at) : -1;
+    const bool isBox = hasWindowClass(press.window, WC_LISTBOXW);
+    const int entry = !items ? -1 : isBox ? caretOf(press.window) : items->hit(at);
     if (entry < 0 || entry == press.entry || !press.step || hasWindowClass(press.window, WC_TABCONTROLW))
         return;
-    m_journal.setForm(*press.step, call(L"ui_sweep", press.tile,
-                                        L" " + itemName(*items, press.entry) + L" " +
-                                            itemName(*items, entry) + press.keys));
+    const std::wstring to = L" " + itemName(*items, entry) + press.keys;
+    if (isBox && items->hit(press.at) != press.entry) {
+        m_journal.setForm(*press.step, press.held);
+        m_journal.add(press.dialog, {Kind::other, press.tile.name, call(L"ui_release", press.tile, to), {}});
+        return;
+    }
+    m_journal.setForm(*press.step, call(L"ui_sweep", press.tile, L" " + itemName(*items, press.entry) + to));
 }
 
 // A list that has lost sight of the button goes on marking with the mouse, and scrolls with the time, until
@@ -282,7 +298,7 @@ void MouseRecorder::releasedEntry(const Press& press, POINT at) {
 void MouseRecorder::releasedMarking(const Press& press) {
     const HWND list = press.tile.window;
     const auto items = itemsOf(list);
-    const auto entry = static_cast<int>(SendMessageW(list, LB_GETCARETINDEX, 0, 0));
+    const int entry = caretOf(list);
     if (!items || !press.step || entry < 0 || entry >= items->count()) return;
     const auto anchor = static_cast<int>(SendMessageW(list, LB_GETANCHORINDEX, 0, 0));
     const std::wstring to = L" " + itemName(*items, entry) + press.keys;
@@ -320,6 +336,28 @@ void MouseRecorder::releasedList(HWND dialog, const MSG& message) {
     if (entry >= 0)
         m_journal.add(dialog,
                       {Kind::pick, tile.name, call(L"ui_pick", tile, L" " + itemName(*items, entry)), {}});
+}
+
+void MouseRecorder::moved(const MSG& message) {
+    const bool isList =
+        hasWindowClass(message.hwnd, L"ComboLBox") || hasWindowClass(message.hwnd, WC_LISTBOXW);
+    RECT client;
+    if (!isList || !marksUnderMouse(message.hwnd) || !GetClientRect(message.hwnd, &client)) return;
+    // The list of a combo box doesn't mind a mouse beside it.
+    if (hasWindowClass(message.hwnd, WC_LISTBOXW) || PtInRect(&client, pointOf(message)))
+        m_hovered = message.hwnd;
+}
+
+void MouseRecorder::keyPressed(HWND dialog) {
+    dropUnfinished(dialog);
+    const HWND list = std::exchange(m_hovered, nullptr);
+    if (!list || !marksUnderMouse(list)) return;
+    const NamedTile tile = tileOf(list, dialog);
+    const auto items = tile ? itemsOf(tile.window) : nullptr;
+    const int entry = caretOf(list);
+    if (items && entry >= 0 && entry < items->count())
+        m_journal.add(dialog,
+                      {Kind::other, tile.name, call(L"ui_hover", tile, L" " + itemName(*items, entry)), {}});
 }
 
 // Lists, trees and grids only scroll, and what is picked in them later is scrolled into view by itself.

@@ -19,6 +19,9 @@ class MouseRecorder {
     void pressed(const MSG& message, HWND dialog);
     void released(const MSG& message, HWND dialog);
     void wheelTurned(const MSG& message, HWND dialog);
+    void moved(const MSG& message);
+    // A key is pressed in that dialog: it finds a list where the mouse has led it.
+    void keyPressed(HWND dialog);
     // A key is pressed in that dialog, or it goes. The button of an earlier press came up where nobody saw
     // it, as when the press has brought up a box: it was no click.
     void dropUnfinished(HWND dialog);
@@ -52,19 +55,26 @@ class MouseRecorder {
     void releasedCell(const Press& press, POINT at);
     void releasedList(HWND dialog, const MSG& message);
 
+    struct Forms {
+        std::wstring once, twice;
+        // A second press whose first one did something else, as a drag, is told as a double one. Of a button,
+        // and of a part of an entry, one press is as good as another.
+        bool isPick = false;
+    };
+
     // The press that was recorded last, while the next one may make a double one of it.
     struct FirstPress {
         Recording::Place step;
-        std::wstring once, twice;
+        Forms forms;
     };
 
     void add(Press& press, RecordedStep::Kind kind, std::wstring form);
     // The form `once`, or `twice` in place of it where this is the second press of a double one.
-    void addPress(Press& press, RecordedStep::Kind kind, const std::wstring& once, std::wstring twice,
-                  bool isDouble);
+    void addPress(Press& press, RecordedStep::Kind kind, Forms forms, bool isDouble);
 
     Journal& m_journal;
     std::vector<Press> m_down;
     std::optional<FirstPress> m_first;
+    HWND m_hovered = nullptr;  // a list that marks what lies under the mouse, since the last key
     bool m_wasApart = false;
 };

@@ -49,6 +49,7 @@ LRESULT CALLBACK Recorder::sentHook(int code, WPARAM w, LPARAM l) noexcept {
 void Recorder::taken(const MSG& message) {
     const UINT kind = message.message;
     if (!message.hwnd) return;
+    if (kind == WM_MOUSEMOVE) return m_mouse.moved(message);
     if (!isMouse(kind) && !isKey(kind) && kind != WM_MOUSEWHEEL)
         return told(message.hwnd, kind, message.wParam);
     HWND dialog = dialogOf(message.hwnd);
@@ -67,7 +68,7 @@ void Recorder::taken(const MSG& message) {
 
 void Recorder::takenInput(const MSG& message, HWND dialog) {
     if (isPress(message.message)) {
-        m_keys.endTyping(dialog);
+        m_keys.endTyping();
         return m_mouse.pressed(message, dialog);
     }
     switch (message.message) {
@@ -77,7 +78,7 @@ void Recorder::takenInput(const MSG& message, HWND dialog) {
             return m_mouse.wheelTurned(message, dialog);
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
-            m_mouse.dropUnfinished(dialog);
+            m_mouse.keyPressed(dialog);
             return m_keys.keyDown(message, dialog);
         case WM_KEYUP:
             return m_keys.keyUp(message, dialog);
@@ -101,7 +102,7 @@ void Recorder::told(HWND window, UINT message, WPARAM w) {
     if (!isPluginDialog(window)) return;
     m_journal.dialogSeen(window);
     if (closes) {
-        m_keys.endTyping(window);
+        m_keys.endTyping();
         m_windows.closed(window);
     } else {
         m_windows.sized(window, message, w);

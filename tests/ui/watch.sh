@@ -84,7 +84,7 @@ comes_back() {
 }
 
 comes_back ODD_KINDS '(defun of (tile what) (cdr (assoc what (ui_look tile))))
-(defun state () (list (of "TAB" "selected") (of "TREE" "expanded") (of "TREE" "path") (ui_items "LISTVIEW") (of "LISTVIEW" "selected")))
+(defun state () (list (of "TAB" "selected") (of "TREE" "expanded") (of "TREE" "path") (of "TREE" "first") (ui_items "LISTVIEW") (of "LISTVIEW" "selected")))
 (wex_new_dialog "ODD_KINDS")
 (wex_setaction_oninit "(wex_tab_add \"TAB\" \"one\" \"EDIT\") (wex_tab_add \"TAB\" \"two\" \"COMBO\")
   (foreach name (list \"closed\" \"opened\")
@@ -94,15 +94,17 @@ comes_back ODD_KINDS '(defun of (tile what) (cdr (assoc what (ui_look tile))))
   (wex_listctrl_allowsorting \"LISTVIEW\" T)")
 (wex_listctrl_setcolumns "LISTVIEW" "\tName")
 (wex_start_list "LISTVIEW") (wex_add_list (list "b" "c" "a")) (wex_end_list)' \
-    '(ui_pick "TAB" 1) (ui_expand "TREE" "closed") (ui_expand "TREE" "opened") (ui_pick "TREE" "39")
+    '(ui_pick "TAB" 1) (ui_expand "TREE" "closed") (ui_expand "TREE" "opened") (ui_pick "TREE" "39") (ui_wheel "TREE" 1)
      (ui_header "LISTVIEW" 0) (ui_header "LISTVIEW" 0) (ui_pick "LISTVIEW" "b")' '(equal (of "TAB" "selected") (list 1))'
 
 comes_back EDIT_NONWD_ATTRS '(defun state ()
-  (list (cdr (assoc "current" (ui_look "LST"))) (cdr (assoc "first" (ui_look "LST"))) (cdr (assoc "text" (ui_cell "LST" 90 2))) (cdr (assoc "rect" (ui_look)))))
+  (list (cdr (assoc "current" (ui_look "LST"))) (cdr (assoc "ranges" (ui_look "LST"))) (cdr (assoc "first" (ui_look "LST"))) (cdr (assoc "text" (ui_cell "LST" 90 2))) (cdr (assoc "rect" (ui_look)))))
 (wex_new_dialog "EDIT_NONWD_ATTRS")
+(wex_action_tile "LST" "(princ \"the grid tells\n\")")
 (wex_setaction_oninit "(wex_grid_setrowcolumns \"LST\" 200 5) (wex_grid_setcell \"LST\" 90 2 100 \"old\")")' \
-    '(ui_drag "LEFT" -40 0) (ui_pick "LST" 90 2) (ui_type "LST" "new") (ui_key "ENTER") (ui_pick "LST" 91 1)' \
+    '(ui_drag "LEFT" -40 0) (ui_pick "LST" 90 2) (ui_type "LST" "new") (ui_key "ENTER") (ui_pick "LST" 91 1) (ui_pick "LST" 88 0 "CTRL") (ui_pick "LST" 0 3 "CTRL") (ui_pick "LST" 92 2 93 3 "CTRL")' \
     '(= (cdr (assoc "text" (ui_cell "LST" 90 2))) "new")'
+[ -z "$(sed -n '/EDIT_NONWD_ATTRS was worked/,$p' "$work/printed" | grep 'the grid tells')" ] || fail "an action runs as a grid comes back"
 
 # A dialog in front of another opens again, when an add-on is saved.
 cp "$work/bin/WexDialogs.d/WireGauge.dll" "$work/addon"

@@ -20,6 +20,7 @@ enum class GridQuestion : uintptr_t {
     Show =
         3,    // GridPlace: scrolls that cell into view, as far as it can be; nothing of the selection changes
     Hit = 4,  // GridHit; no cell lies where the answer is 0
+    Select = 5,  // GridTableLook: makes its current cell and its areas those of the grid, which tells nobody
 };
 
 // Row 0 holds the heads of the columns, column 0 those of the rows; data begins at row 1, column 1.
@@ -31,7 +32,10 @@ struct GridPlace {
 // The edges belong to the range. Whole rows reach from column 1 to the last one, whole columns from row 1 to
 // the last one.
 struct GridArea {
+    enum Kind : uint32_t { cells, rows, columns, table };
+
     uint32_t top = 0, left = 0, bottom = 0, right = 0;
+    Kind kind = cells;  // how it was selected
 
     bool contains(GridPlace at) const {
         return at.row >= top && at.row <= bottom && at.column >= left && at.column <= right;

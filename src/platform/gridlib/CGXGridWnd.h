@@ -136,6 +136,7 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     void tell(GridTableLook& table);
     bool tell(GridCellLook& cell);
     bool tell(GridHit& point) const;
+    bool select(const GridTableLook& wanted);
     LRESULT onGetObject(WPARAM w, LPARAM l);
     LRESULT onSelect(WPARAM place, LPARAM flags);
     LRESULT onCellAt(WPARAM x, LPARAM y);

@@ -2,10 +2,43 @@
 #include <oleacc.h>
 
 #include <algorithm>
+#include <span>
+#include <utility>
+#include <vector>
 
 #include "src/platform/gridlib/CGXGridWnd.h"
 #include "src/platform/gridlib/CellKind.h"
 #include "src/platform/gridlib/GridAccessible.h"
+
+namespace {
+
+GridArea::Kind kindOf(const CGXRange& range) {
+    switch (range.kind) {
+        case CGXRange::rows:
+            return GridArea::rows;
+        case CGXRange::columns:
+            return GridArea::columns;
+        case CGXRange::table:
+            return GridArea::table;
+        default:
+            return GridArea::cells;
+    }
+}
+
+CGXRange rangeOf(const GridArea& area) {
+    switch (area.kind) {
+        case GridArea::rows:
+            return CGXRange::ofRows(area.top, area.bottom);
+        case GridArea::columns:
+            return CGXRange::ofColumns(area.left, area.right);
+        case GridArea::table:
+            return CGXRange::ofTable();
+        default:
+            return CGXRange(area.top, area.left, area.bottom, area.right);
+    }
+}
+
+}  // namespace
 
 bool CGXGridWnd::answer(GridQuestion question, void* record) {
     switch (question) {
@@ -26,6 +59,8 @@ bool CGXGridWnd::answer(GridQuestion question, void* record) {
         }
         case GridQuestion::Hit:
             return tell(*static_cast<GridHit*>(record));
+        case GridQuestion::Select:
+            return select(*static_cast<const GridTableLook*>(record));
     }
     return false;
 }
@@ -39,6 +74,17 @@ bool CGXGridWnd::tell(GridHit& point) const {
     return m_table.has(place.row, place.col);
 }
 
+bool CGXGridWnd::select(const GridTableLook& wanted) {
+    const GridPlace at = wanted.current;
+    if (!wanted.hasCurrent || at.row == 0 || !m_table.has(at.row, at.column)) return false;
+    std::vector<CGXRange> ranges;
+    for (const GridArea& area : std::span(wanted.areas, wanted.areaCount))
+        if (m_table.has(area.bottom, area.right)) ranges.push_back(rangeOf(area));
+    m_selection.restore({at.row, at.column}, std::move(ranges));
+    selectionMoved(true);
+    return true;
+}
+
 void CGXGridWnd::tell(GridTableLook& table) {
     table.rows = GetRowCount();
     table.columns = GetColCount();
@@ -50,7 +96,7 @@ void CGXGridWnd::tell(GridTableLook& table) {
         if (const auto cells = m_table.within(range)) {
             const bool isWhole = range.kind == CGXRange::rows || range.kind == CGXRange::table;
             const uint32_t left = isWhole ? std::min(1u, cells->right) : cells->left;
-            m_toldAreas.push_back({cells->top, left, cells->bottom, cells->right});
+            m_toldAreas.push_back({cells->top, left, cells->bottom, cells->right, kindOf(range)});
         }
     table.areas = m_toldAreas.data();
     table.areaCount = static_cast<uint32_t>(m_toldAreas.size());

@@ -1,6 +1,7 @@
 #include "src/platform/gridlib/GridSelection.h"
 
 #include <algorithm>
+#include <utility>
 
 bool GridSelection::contains(uint32_t row, uint32_t col) const {
     return std::any_of(m_ranges.begin(), m_ranges.end(),
@@ -49,6 +50,13 @@ void GridSelection::setCurrent(CellPlace at) {
     m_kind = CGXRange::cells;
     m_current = m_anchor = m_extent = at;
     m_ranges.clear();
+}
+
+void GridSelection::restore(CellPlace current, std::vector<CGXRange> ranges) {
+    setCurrent(current);
+    for (CGXRange& range : ranges) range.top = std::max(range.top, 1u);
+    if (!ranges.empty()) m_kind = ranges.back().kind;
+    m_ranges = std::move(ranges);
 }
 
 void GridSelection::cut(uint32_t rowCount, uint32_t colCount) {

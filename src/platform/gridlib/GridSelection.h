@@ -28,6 +28,8 @@ class GridSelection {
     void all();
     // The current cell, with nothing selected.
     void setCurrent(CellPlace at);
+    // As it was once, with the range that grows last.
+    void restore(CellPlace current, std::vector<CGXRange> ranges);
     // The table has become smaller: what lies outside goes, the current cell moves in.
     void cut(uint32_t rowCount, uint32_t colCount);
 

@@ -32,7 +32,7 @@
 (defun nested ()
   (if before-nested (before-nested))
   (wex_new_dialog "CONFIRM_DELREC")
-  (wex_action_tile "OK" "(princ \"deleted \") (wex_done_dialog 4)")
+  (wex_action_tile "OK" "(princ \"deleted\n\") (wex_done_dialog 4)")
   (prin1 (list "nested" (wex_start_dialog)))
   (terpri))
 (setq before-nested nil before-form nil)

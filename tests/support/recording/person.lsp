@@ -83,5 +83,6 @@
     (append (mapcar '(lambda (i) (list 'act (list 'quote (cadr (assoc form '((kinds act-kinds) (buttons act-buttons) (grid act-grid) (record act-record)))))))
                     (range steps))
             '((leave) (ui_close) (ui_close)))))
+; A key by the real keyboard is lost where the dialog comes up without the focus: then the person presses the close box.
 (defun before-nested ()
-  (ui_session "CONFIRM_DELREC" (list (any '((ui_click "OK") (ui_click "CANCEL") (ui_key "ESC") (ui_key "ENTER") (ui_close))))))
+  (ui_session "CONFIRM_DELREC" (list (any '((ui_click "OK") (ui_click "CANCEL") (ui_key "ESC") (ui_key "ENTER") (ui_close))) '(ui_close))))
