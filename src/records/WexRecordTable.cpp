@@ -165,6 +165,7 @@ void WexRecordTable::forgetChanges() {
 }
 
 size_t WexRecordTable::touch(int32_t n) {
+    if (n < 0) throw WexIndexError();
     const Place place = Locate(n);
     if (!isPage(place.page)) throw WexIndexError();
     const auto page = static_cast<size_t>(place.page);

@@ -28,6 +28,7 @@
         (wex_grid_setrowcolumns "LST" 2 3)
         (want '(0 52513 52513) (down 0 "type"))
         (want '(nil T T) (down 0 "readonly"))
+        (want (list (cell 1 1 "interior") nil) (list (cell 1 0 "interior") (= (cell 1 0 "interior") (cell 0 0 "interior"))))
         (put 1 0 -1 "head")
         (wex_grid_setrowcolumns "LST" 3 3)
         (want '("" "head" "" "") (down 0 "text"))))))
@@ -62,7 +63,8 @@
           (want (cadr way) (cell 1 2 "align")))
         (want nil (wex_grid_setjustification "LST" -1 "R"))
         (wex_grid_setjustification "LST" 2000000000 "R")
-        (want '(0 2 0) (along 1 "align"))))
+        (mapcar '(lambda (row text) (wex_grid_setrow "LST" row text)) '(1 2) '("all" "a\tb"))
+        (want '((0 2 0) (0 2 0)) (list (along 1 "align") (along 2 "align")))))
     (in-grid 0 3 '((wex_grid_setjustification "LST" 1 "R") (want '(0) (down 1 "align"))))))
 
 (test "A value becomes text: numbers, T and nil; a real shows its places and keeps its value"
@@ -98,6 +100,8 @@
         (want nil (= window face))
         (put 1 0 52520 "push")
         (want nil (= window (cell 1 0 "interior")))
+        (put 0 0 2 '(1 2))
+        (want face (cell 0 0 "interior"))
         (put 1 0 2 '(1 2))
         (want (list window "push") (list (cell 1 0 "interior") (cell 1 0 "text")))
         (foreach code '(52500 52513 52533 52000 100)
@@ -128,6 +132,8 @@
       '((want '(1 2 3) (mapcar '(lambda (text) (wex_grid_addrow "LST" text)) '("a\tb\tc" "all" "")))
         (want '("a\tb\tc" "all\tall\tall" " \t \t ") (shown))
         (want '((0 0 0) (1 1 1) (1 1 1)) (mapcar '(lambda (row) (along row "merge")) '(1 2 3)))
+        (ui_pick "LST" 2 2)
+        (want '((2 1 2 2)) (look "LST" "ranges"))
         (want nil (wex_grid_setrow "LST" 1 "x\t\tz"))
         (want "x\tb\tz" (car (shown)))
         (want 4 (wex_grid_addrow "LST" 5))
@@ -149,10 +155,14 @@
         (wex_grid_addrow "LST" "---\tx" T)
         (want '(0 0) (along (car (counts)) "merge"))))))
 
+(setq columns 4)
 (defun listed (lines ending session)
   (setq given lines how ending)
   (in-dialog "EDIT_NONWD_ATTRS"
-    '(progn (wex_setaction_oninit "(wex_grid_setrowcolumns \"LST\" 1 4) (wex_grid_setjustification \"LST\" 2 \"R\")")
+    '(progn (wex_setaction_oninit
+              "(wex_grid_setrowcolumns \"LST\" 2 columns)
+               (mapcar '(lambda (c code) (wex_grid_setjustification \"LST\" c code)) '(0 2 3) '(\"C\" \"R\" \"R\"))
+               (wex_grid_setrowcolumns \"LST\" 1 columns)")
             (wex_start_list "LST")
             (wex_add_list given)
             (apply 'wex_end_list how))
@@ -162,8 +172,13 @@
   '((listed '("a" "a\tb" "a\t b \tc" "---\tx\ty" "" " a \t b" "   " " \tb\tc") '(T)
       '((want '("a\ta\ta\ta" "a\ta\ta\tb" "a\tb\tc\t" "---\tx\ty\t" " \t \t \t " "a\ta\ta\tb" "\t\t\t" " \tb\tc\t") (shown))
         (want '((1 1 1 1) (1 1 1 1) (0 1 1 0) (0 0 0 0)) (mapcar '(lambda (row) (along row "merge")) '(1 2 3 4)))
-        (want '(0 0 2 0) (along 3 "align"))))
+        (want '((0 0 0 0) (0 0 0 2) (1 0 2 0)) (mapcar '(lambda (row) (along row "align")) '(1 2 3)))))
     (listed '("a" "b" "c") nil '((want 3 (car (counts)))))))
+
+(test "A table without columns takes no lines at the start, but those that still wait when a list ends"
+  '((setq columns 1)
+    (listed '("a" "b") nil '((want '(1 0) (counts)) (wex_end_list) (want '((2 0) ("a" "b")) (list (counts) (shown)))))
+    (setq columns 4)))
 
 (test "A line whose key field is empty is folded into the one above, which grows"
   '((listed '("AB\tCD" "\tEF") '(nil 0) '((want '("CD\nEF\tCD\nEF\tCD\nEF\tCD\nEF") (shown)) (want 30 (cell 1 0 "height"))))

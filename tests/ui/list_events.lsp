@@ -99,6 +99,12 @@
         (ui_dblclick "LST1")
         (want '(1) (selected))
         (want nil (told))
+        ; Of several selected rows a double click touches the first one, wherever it was.
+        (ui_pick "LST1" 0)
+        (ui_dblclick "LST1" 2 "CTRL")
+        (wex_set_tile "LST1" "-1")
+        (ui_dblclick "LST1")
+        (want '(0) (selected))
         (ui_rclick "LST1" 2)
         (wex_set_tile "LST1" "-1")
         (ui_dblclick "LST1")

@@ -33,6 +33,8 @@
         (want '("0" 5) (car (reverse notes)))
         (wex_set_tile "DLST" "500000")
         (want '(500000) (selected))
+        (ui_key "DOWN" "DLST")
+        (want '(500001) (selected))
         (want nil (store_log))))))
 
 (test "Typing leads to the record that begins so, in any letter case, and around the end"

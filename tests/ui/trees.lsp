@@ -32,8 +32,8 @@
 (test "Of three images the second is the first; one that is no number is passed over"
   '((in-tree
       '((setq items (mapcar '(lambda (numbers) (apply 'wex_tree_insertparent (append '("TREE" "x") numbers)))
-                            '(nil (4) (4 9) (4 9 5) (4 "9" 5) ("4" 9) (4 9 -1) (4 9 -2)))))
-      '((want '((-1 -1 -1) (4 -1 -1) (4 9 -1) (4 4 5) (4 4 5) (-1 9 -1) (4 4 -1) (4 4 -1)) (mapcar 'images items))
+                            '(nil (4) (4 9) (4 9 5) (4 "9" 5) ("4" 9) (4 9 -1) (4 9 -2) (4 9 0)))))
+      '((want '((-1 -1 -1) (4 -1 -1) (4 9 -1) (4 4 5) (4 4 5) (-1 9 -1) (4 4 -1) (4 4 -1) (4 4 0)) (mapcar 'images items))
         (setq item (car items))
         (want '((4 -1 -1) (4 9 -1) (4 4 5) (4 4 -2) (-1 -1 -1))
               (mapcar '(lambda (numbers) (apply 'wex_tree_setitemimages (append (list "TREE" item) numbers)) (images item))

@@ -26,8 +26,9 @@ TEST(RecordTable, LoadsThePagesThatAreReadAndNoOther) {
     EXPECT_EQ(filled.name(249), L"249");
     EXPECT_EQ(filled.table.m_pages[2].rows.size(), 50u);
     EXPECT_EQ(filled.table.m_pagedUpTo, 250);
+    for (const int n : {-1, -50, 250, INT32_MIN, INT32_MAX}) EXPECT_THROW(filled.table.At(n), WexIndexError);
+    for (const int n : {-50, 400, INT32_MIN}) EXPECT_THROW(filled.table.Remove(n), WexIndexError);
     EXPECT_EQ(filled.table.m_pages[0].state, WexRecordTable::PAGE_NEVER_LOADED);
-    for (const int n : {-1, 250, INT32_MIN, INT32_MAX}) EXPECT_THROW(filled.table.At(n), WexIndexError);
 }
 
 TEST(RecordTable, ARecordBehindAFullPageIsFoundUntilTheNextComes) {
