@@ -67,12 +67,6 @@
         (want T (has-focus "LST1"))
         (want '(("lst1" "0 1" 5)) (told))))))
 
-(test "A double click tells the press, then the row, and then presses OK"
-  '((want 7 (in-single-list
-              '(wex_action_tile "OK" "(note (list $key $value $reason)) (wex_done_dialog 7)")
-              '((ui_dblclick "LST" 1))))
-    (want '(("1" 5) ("1" 10) ("ok" "0" 1)) notes)))
-
 (test "OK without an action is pressed also where the action has ended the dialog already"
   '((want -1 (in-single-list '(wex_action_tile "LST" "(if (= $reason 10) (wex_done_dialog 4))")
                '((ui_dblclick "LST" 2))))

@@ -13,7 +13,7 @@ programs=$PATH
 
 # plays FORM…: works the dialog; the forms end with a step that shows that the dialog goes on.
 plays() {
-    PATH=$programs wine64 build/windows/testbin/wexhost.exe --headless --timeout 30 \
+    PATH=$programs wine64 build/windows/testbin/wexhost.exe --headless --timeout 30 --shots "$work" \
         -e "(setq work \"${folder//\\/\\\\}\" went nil)" \
         -e "(ui_session \"report_generator\" '($* (ui_pick 100 2)
               (setq went (cdr (assoc \"selected\" (ui_look 100)))) (ui_click \"OK\")))" \
@@ -41,9 +41,12 @@ wait_for_jobs() {
 # The same page by the preview's own drawing, at the printer's resolution.
 WEX_PAGE="Z:$work/page.pgm" wine64 build/windows/tests/report_ui_test.exe --gtest_filter='*DrawnFine*' >/dev/null
 
-wants '[alert] Print|[alert] Print|went on' plays '(ui_answer "CANCEL")' '(ui_click 3)' '(ui_click 3)'
+# The preview is drawn anew, with the screen's fonts still, when its tab is turned to.
+wants '[alert] Print|[alert] Print|went on' plays '(ui_answer "CANCEL")' '(ui_click 3)' \
+    '(ui_pick 100 1)' '(ui_pick 100 0)' '(ui_shot "before.png")' '(ui_click 3)' '(ui_pick 100 1)' '(ui_pick 100 0)' '(ui_shot "after.png")'
+cmp "$work/before.png" "$work/after.png"
 wait_for_jobs
-[ "$(find "$work/printer/out" -name '*.pdf' | wc -l)" = 1 ] || { echo "Not one page was printed."; exit 1; }
+[ "$(find "$work/printer/out" -name 'Krvl_Electrical_Report_Table*.pdf' | wc -l)" = 1 ] || { echo "Not one page was printed."; exit 1; }
 tests/support/check-page.py "$work"/printer/out/*.pdf "$work/page.pgm"
 
 wants '[alert] Save As|[alert] Save As|went on' plays \

@@ -72,17 +72,6 @@
         (want nil (look "MFG" "focus"))
         (want 1 (length (remove-if-not '(lambda (id) (look id "focus")) (cdr (assoc "controls" (ui_look))))))))))
 
-(test "The value of a list is an entry's number; one that doesn't exist leaves the selection"
-  '((in-dialog "DISP_ASSYVALS" '(progn (fill "LST" '("a" "b" "c")) (wex_set_tile "LST" "1"))
-      '((wex_set_tile "LST" "99")
-        (want "1" (wex_get_tile "LST"))
-        (wex_set_tile "LST" "-1")
-        (want "1" (wex_get_tile "LST"))
-        (wex_set_tile "LST" 2)
-        (want "2" (wex_get_tile "LST"))
-        (wex_set_tile 112 "abc")
-        (want "0" (wex_get_tile "LST"))))))
-
 (test "wex_enable_dialog and wex_settitlebar work on the window"
   '((in-dialog "ADD_REC" nil
       '((wex_settitlebar "Renamed")

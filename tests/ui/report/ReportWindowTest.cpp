@@ -1,12 +1,11 @@
-// The preview of a report on windows of its own, and what it asks of a printer.
+// Reports drawn at the resolution of a printer, and with texts for which there is no room.
 #include <gtest/gtest.h>
 
 #include <cstdio>
 #include <cstdlib>
 
 #include "src/report/GdiReportSurface.h"
-#include "src/report/SheetLayout.h"
-#include "src/report/WexReportPreview.h"
+#include "src/report/ReportDrawing.h"
 #include "tests/support/Canvas.h"
 
 namespace {
@@ -85,63 +84,6 @@ TEST(ReportSurface, TextsStayInNarrowCellsAndInCellsThatAreNone) {
         EXPECT_TRUE(picture.isBlank({0, 0, 48, 940})) << width;
         EXPECT_TRUE(picture.isBlank({0, 48 + 302, 47, 940})) << width;
     }
-}
-
-// What a printer was asked for, in order.
-class FakePrinter : public PrintJob {
-  public:
-    bool choose(HWND) override { return note(L"choose", true); }
-    HDC createDC() override {
-        // Its resolution is that of the screen, but it is another device.
-        return note(L"dc", CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr));
-    }
-    int startDoc(HDC, const wchar_t* name) override { return note(std::wstring(L"start ") + name, 1); }
-    void startPage(HDC) override { note(L"page", 0); }
-    void endPage(HDC) override { note(L"end page", 0); }
-    void endDoc(HDC) override { note(L"end", 0); }
-
-    std::vector<std::wstring> asked;
-
-  private:
-    template <class Answer>
-    Answer note(const std::wstring& what, Answer answer) {
-        asked.push_back(what);
-        return answer;
-    }
-};
-
-using Asked = std::vector<std::wstring>;
-
-class Preview : public testing::Test {
-  protected:
-    Preview() {
-        parent.CreateEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, RECT{0, 0, 500, 500}, nullptr, 0);
-        bar.CreateEx(0, L"ScrollBar", L"", WS_CHILD | WS_VISIBLE | SBS_VERT, RECT{480, 0, 497, 400},
-                     parent.m_hWnd, 102);
-        preview.m_scrollBar = &bar;
-        // The edge takes a dot at each side.
-        preview.Create({0, 0, 302, 402}, parent.m_hWnd);
-    }
-    void paint() const { RedrawWindow(preview.m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
-
-    CWnd parent;
-    CScrollBar bar;
-    WexReportPreview preview;
-};
-
-TEST_F(Preview, PrintsInTheOrderOfADocumentWithFontsOfItsOwn) {
-    paint();
-    const HFONT screen = preview.m_fontNormal.get();
-    ASSERT_TRUE(screen);
-    FakePrinter printer;
-    EXPECT_TRUE(preview.Print(printer));
-    EXPECT_EQ(printer.asked,
-              (Asked{L"choose", L"dc", L"start Krvl Electrical Report Table", L"page", L"end page", L"end"}));
-    EXPECT_FALSE(preview.m_fontNormal);
-    EXPECT_FALSE(preview.m_fontBold);
-    EXPECT_EQ(preview.m_printing, 0);
-    paint();
-    EXPECT_TRUE(preview.m_fontNormal);
 }
 
 }  // namespace
