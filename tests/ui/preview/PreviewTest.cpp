@@ -139,6 +139,9 @@ TEST_F(PreviewTest, ADragPansUntilTheButtonIsReleased) {
     mouse(WM_LBUTTONUP, 80, 40);
     mouse(WM_MOUSEMOVE, 20, 20);
     EXPECT_EQ(at(130, 90), RED);
+    mouse(WM_LBUTTONDOWN, 80, 40);
+    mouse(WM_LBUTTONUP, 80, 40);
+    EXPECT_EQ(GetCapture(), nullptr);
     // The middle button does the same, and shows the pointer once more.
     mouse(WM_MBUTTONDOWN, 50, 50);
     EXPECT_EQ(GetCapture(), preview.m_hWnd);
@@ -153,6 +156,24 @@ TEST_F(PreviewTest, ADragPansUntilTheButtonIsReleased) {
     preview.setMouseMode(0);
     mouse(WM_MOUSEMOVE, 80, 40);
     EXPECT_FALSE(probe.isPanning());
+}
+
+// A dotted rectangle, 2 pixels from the edge.
+TEST_F(PreviewTest, TheFocusShowsAlsoAfterAPaintAndGoesWithoutATrace) {
+    ASSERT_TRUE(load());
+    const auto edge = [&] {
+        std::vector<COLORREF> colors;
+        for (int y = 50; y < 58; ++y) colors.push_back(at(2, y));
+        return colors;
+    };
+    const auto before = edge();
+    preview.SetFocus();
+    const auto marked = edge();
+    EXPECT_NE(marked, before);
+    preview.Invalidate();
+    EXPECT_EQ(edge(), marked);
+    SetFocus(parent.m_hWnd);
+    EXPECT_EQ(edge(), before);
 }
 
 TEST_F(PreviewTest, ADragZoomAppliesItsLastFactorOnceMore) {
