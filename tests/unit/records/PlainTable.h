@@ -88,7 +88,7 @@ struct PlainTable {
     }
 
     int touch(int n) {
-        if (n < 0) throw OutOfRange();
+        if (n < 0) throw WexIndexError();
         const int page = locate(n).first;
         if (page < 0 || page >= int(pages.size())) throw WexIndexError();
         if (pages[page].state == 0) load(page);
