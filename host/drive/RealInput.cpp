@@ -7,6 +7,7 @@
 namespace {
 
 bool g_isReal = false;
+DWORD g_lastButton = 0;  // the one that moveMouse moved last
 
 // In pixels: how far two clicks have to be from each other.
 constexpr LONG BESIDE = 6;
@@ -29,6 +30,7 @@ void moveMouse(const Spot& spot, DWORD flags) {
     ClientToScreen(spot.window, &at);
     INPUT input{};
     input.type = INPUT_MOUSE;
+    if (flags) g_lastButton = flags;
     input.mi.dx = ofScreen(at.x, GetSystemMetrics(SM_CXSCREEN));
     input.mi.dy = ofScreen(at.y, GetSystemMetrics(SM_CYSCREEN));
     input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
@@ -37,7 +39,7 @@ void moveMouse(const Spot& spot, DWORD flags) {
 
 void repeatLostRelease() {
     const bool isDown = GetAsyncKeyState(VK_LBUTTON) < 0 || GetAsyncKeyState(VK_RBUTTON) < 0;
-    if (!g_isReal || isDown || !GetCapture()) return;
+    if (!g_isReal || isDown || g_lastButton != MOUSEEVENTF_RIGHTUP || !GetCapture()) return;
     INPUT input{};
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = MOUSEEVENTF_RIGHTUP;
