@@ -47,7 +47,7 @@ constexpr std::u16string_view HOST_SIGNATURES[] = {
     u"ui_click tile [x] [y] [keys]",
     u"ui_hold tile [x] [y] [keys]",
     u"ui_release tile [x] [y] [keys]",
-    u"ui_hover tile item [keys]",
+    u"ui_hover tile item [column] [keys]",
     u"ui_dblclick tile [item] [column] [keys]",
     u"ui_rclick tile [item] [column] [keys]",
     u"ui_pick tile item [column] [keys …]",

@@ -121,15 +121,7 @@ Value holdOrRelease(Call& call) {
     return Value::none();
 }
 
-// (ui_hover list item [keys])
-Value hoverEntry(Call& call) {
-    const Tile tile(call, 0);
-    tile.mustBeWorkable();
-    pressWith(&hover, entrySpot(call, tile, call[1], 0), heldKeys(call, 2));
-    return Value::none();
-}
-
-// (ui_dblclick tile [item [column]] [keys])
+// (ui_dblclick tile [item [column]] [keys]); ui_rclick and ui_hover in the same way
 template <Press press>
 Value pressEntry(Call& call) {
     const Tile tile(call, 0);
@@ -272,7 +264,7 @@ constexpr UiFunction FUNCTIONS[] = {
     {u"ui_click", &clickPoint, 1, 4},
     {u"ui_hold", &holdOrRelease<&hold>, 1, 4},
     {u"ui_release", &holdOrRelease<&letGo>, 1, 4},
-    {u"ui_hover", &hoverEntry, 2, 3},
+    {u"ui_hover", &pressEntry<&hover>, 2, 4},
     {u"ui_dblclick", &pressEntry<&doubleClick>, 1, 4},
     {u"ui_rclick", &pressEntry<&rightClick>, 1, 4},
     {u"ui_pick", &pick, 2, 6},

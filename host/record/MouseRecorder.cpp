@@ -73,7 +73,7 @@ std::wstring placeText(GridPlace at) {
 
 int caretOf(HWND list) { return static_cast<int>(SendMessageW(list, LB_GETCARETINDEX, 0, 0)); }
 
-// The list of a combo box that is open, or a list box that has lost sight of the button.
+// The list of a combo box that is open, or a list box or a grid that has lost sight of the button.
 bool marksUnderMouse(HWND list) {
     return IsWindow(list) &&
            (GetCapture() == list || (hasWindowClass(list, L"ComboLBox") && IsWindowVisible(list)));
@@ -81,7 +81,32 @@ bool marksUnderMouse(HWND list) {
 
 bool areSame(GridPlace a, GridPlace b) { return a.row == b.row && a.column == b.column; }
 
+// The cell to which the mouse has dragged the newest area of the grid; nothing where there is none. Whole
+// rows and columns are dragged by their heads.
+std::optional<GridPlace> draggedTo(const GridTableLook& table) {
+    if (!table.hasCurrent || !table.areaCount) return std::nullopt;
+    const GridArea& area = table.areas[table.areaCount - 1];
+    const auto beyond = [](uint32_t from, uint32_t first, uint32_t last) {
+        return from == first ? last : first;
+    };
+    GridPlace to{beyond(table.current.row, area.top, area.bottom),
+                 beyond(table.current.column, area.left, area.right)};
+    if (area.kind == GridArea::table) return std::nullopt;
+    if (area.kind == GridArea::rows) to.column = 0;
+    if (area.kind == GridArea::columns) to.row = 0;
+    return to;
+}
+
 }  // namespace
+
+NamedTile MouseRecorder::cellEditorOf(const Press& press) {
+    const HWND grid = press.tile.window;
+    const int id = GetDlgCtrlID(press.window);
+    const bool isEditor =
+        gridOf(grid) && GetParent(grid) == press.dialog && childOf(grid, id) == press.window;
+    if (!isEditor) return {};
+    return {press.window, L"'(" + press.tile.name + L" " + std::to_wstring(id) + L")"};
+}
 
 void MouseRecorder::add(Press& press, Kind kind, std::wstring form) {
     press.step = m_journal.add(press.dialog, {kind, press.tile.name, std::move(form), {}});
@@ -192,6 +217,8 @@ void MouseRecorder::pressedEntry(Press& press, const Items& items, bool isDouble
 
 void MouseRecorder::pressedCell(Press& press, bool isDouble) {
     press.cell = gridOf(press.tile.window)->hit(press.at);
+    // Beside the cells it leaves the cell that was edited, and ends a drag whose end was lost.
+    if (!press.cell && !isDouble) return pressedPoint(press, press.tile, isDouble);
     if (press.cell && press.cell->onBorder) press.cell.reset();
     if (!press.cell) return;
     const GridPlace at = press.cell->at;
@@ -206,11 +233,7 @@ void MouseRecorder::pressedCell(Press& press, bool isDouble) {
 
 // What is typed into an open cell is recorded by its characters, and they go where the caret was put.
 void MouseRecorder::pressedCellEditor(Press& press, bool isDouble) {
-    const HWND grid = press.tile.window;
-    const int id = GetDlgCtrlID(press.window);
-    if (childOf(grid, id) != press.window || GetParent(grid) != press.dialog) return;
-    const NamedTile editor{press.window, L"'(" + press.tile.name + L" " + std::to_wstring(id) + L")"};
-    pressedPoint(press, editor, isDouble);
+    if (const NamedTile editor = cellEditorOf(press)) pressedPoint(press, editor, isDouble);
 }
 
 // The list of the box is picked from when the button comes up. Of a box to type in only the arrow opens it.
@@ -231,10 +254,16 @@ void MouseRecorder::pressedCombo(Press& press) {
 }
 
 void MouseRecorder::pressedRight(const Press& press) {
-    if (isEdit(press.window)) return;
+    // What is chosen in the menu of an open cell is told, and so is what opens it.
+    if (const NamedTile editor = cellEditorOf(press)) {
+        m_journal.add(press.dialog, {Kind::other, press.tile.name, call(L"ui_rclick", editor), {}});
+        return;
+    }
+    // A list that is open holds the mouse, and the press does nothing.
+    if (isEdit(press.window) || hasWindowClass(press.window, L"ComboLBox")) return;
     std::wstring where;
     const HWND control = press.tile.window;
-    if (const auto grid = gridOf(control)) {
+    if (const auto grid = press.window == control ? gridOf(control) : std::nullopt) {
         if (const auto cell = grid->hit(press.at)) where = placeText(cell->at);
     } else if (const auto items = press.window == control ? itemsOf(control) : nullptr) {
         const int entry = items->hit(press.at);
@@ -339,13 +368,12 @@ void MouseRecorder::releasedList(HWND dialog, const MSG& message) {
 }
 
 void MouseRecorder::moved(const MSG& message) {
-    const bool isList =
-        hasWindowClass(message.hwnd, L"ComboLBox") || hasWindowClass(message.hwnd, WC_LISTBOXW);
+    const bool isPopup = hasWindowClass(message.hwnd, L"ComboLBox");
+    const bool marks = isPopup || hasWindowClass(message.hwnd, WC_LISTBOXW) || gridOf(message.hwnd);
     RECT client;
-    if (!isList || !marksUnderMouse(message.hwnd) || !GetClientRect(message.hwnd, &client)) return;
+    if (!marks || !marksUnderMouse(message.hwnd) || !GetClientRect(message.hwnd, &client)) return;
     // The list of a combo box doesn't mind a mouse beside it.
-    if (hasWindowClass(message.hwnd, WC_LISTBOXW) || PtInRect(&client, pointOf(message)))
-        m_hovered = message.hwnd;
+    if (!isPopup || PtInRect(&client, pointOf(message))) m_hovered = message.hwnd;
 }
 
 void MouseRecorder::keyPressed(HWND dialog) {
@@ -353,11 +381,15 @@ void MouseRecorder::keyPressed(HWND dialog) {
     const HWND list = std::exchange(m_hovered, nullptr);
     if (!list || !marksUnderMouse(list)) return;
     const NamedTile tile = tileOf(list, dialog);
-    const auto items = tile ? itemsOf(tile.window) : nullptr;
-    const int entry = caretOf(list);
-    if (items && entry >= 0 && entry < items->count())
-        m_journal.add(dialog,
-                      {Kind::other, tile.name, call(L"ui_hover", tile, L" " + itemName(*items, entry)), {}});
+    if (!tile) return;
+    std::wstring to;
+    if (const auto grid = gridOf(list)) {
+        if (const auto cell = draggedTo(grid->table())) to = placeText(*cell);
+    } else if (const auto items = itemsOf(tile.window)) {
+        const int entry = caretOf(list);
+        if (entry >= 0 && entry < items->count()) to = L" " + itemName(*items, entry);
+    }
+    if (!to.empty()) m_journal.add(dialog, {Kind::other, tile.name, call(L"ui_hover", tile, to), {}});
 }
 
 // Lists, trees and grids only scroll, and what is picked in them later is scrolled into view by itself.

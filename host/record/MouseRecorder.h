@@ -20,7 +20,7 @@ class MouseRecorder {
     void released(const MSG& message, HWND dialog);
     void wheelTurned(const MSG& message, HWND dialog);
     void moved(const MSG& message);
-    // A key is pressed in that dialog: it finds a list where the mouse has led it.
+    // A key is pressed in that dialog: it finds a list or a grid where the mouse has led it.
     void keyPressed(HWND dialog);
     // A key is pressed in that dialog, or it goes. The button of an earlier press came up where nobody saw
     // it, as when the press has brought up a box: it was no click.
@@ -43,6 +43,8 @@ class MouseRecorder {
         std::optional<int> anchor;  // of a list box that marks with the mouse since an earlier press
     };
 
+    // The editor of a grid's cell where that was pressed; no tile otherwise.
+    static NamedTile cellEditorOf(const Press& press);
     void pressedLeft(Press& press, bool isDouble);
     void pressedRight(const Press& press);
     void pressedPoint(Press& press, const NamedTile& tile, bool isDouble);
@@ -75,6 +77,6 @@ class MouseRecorder {
     Journal& m_journal;
     std::vector<Press> m_down;
     std::optional<FirstPress> m_first;
-    HWND m_hovered = nullptr;  // a list that marks what lies under the mouse, since the last key
+    HWND m_hovered = nullptr;  // a list or grid that marks what lies under the mouse, since the last key
     bool m_wasApart = false;
 };
