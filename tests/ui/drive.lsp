@@ -45,6 +45,12 @@
         (ui_hold "MULTI" "c") (ui_release "MULTI" "e") (want '(2 3 4) (selected "MULTI"))
         (want T (stringp (refused '(ui_sweep "MULTI" 0 11))))))))
 
+(test "The mouse leads the area of a grid to a cell while its button is held"
+  '((in-dialog "EDIT_NONWD_ATTRS" '(wex_setaction_oninit "(wex_grid_setrowcolumns \"LST\" 9 4)")
+      '((ui_hold "LST" 108 30) (ui_hover "LST" 4 3) (want '(4 3) (cddr (car (look "LST" "ranges"))))
+        (ui_hover "LST" 2 3) (want '(2 3) (cddr (car (look "LST" "ranges"))))
+        (ui_release "LST" 108 30) (ui_hover "LST" 4 3) (want nil (equal '(4 3) (cddr (car (look "LST" "ranges")))))))))
+
 ; The box that is left runs the action.
 (defun leave-and-click (action)
   (run-dialog "ADD_REC"
