@@ -79,6 +79,13 @@ bool marksUnderMouse(HWND list) {
            (GetCapture() == list || (hasWindowClass(list, L"ComboLBox") && IsWindowVisible(list)));
 }
 
+// A press there only closes the list of a combo box. The list is a child of the desktop where it opens.
+bool isBesideOpenList(HWND list, POINT at) {
+    RECT client;
+    return hasWindowClass(list, L"ComboLBox") && GetAncestor(list, GA_PARENT) == GetDesktopWindow() &&
+           GetClientRect(list, &client) && !PtInRect(&client, at);
+}
+
 bool areSame(GridPlace a, GridPlace b) { return a.row == b.row && a.column == b.column; }
 
 // The cell to which the mouse has dragged the newest area of the grid; nothing where there is none. Whole
@@ -174,6 +181,7 @@ void MouseRecorder::pressedLeft(Press& press, bool isDouble) {
                  isDouble);
     } else if (gridOf(control)) {
         if (press.window == control) pressedCell(press, isDouble);
+        if (isBesideOpenList(press.window, press.at)) add(press, Kind::other, keyForm({.virtualKey = VK_F4}));
     } else if (const auto items = itemsOf(control)) {
         if (press.window == control) pressedEntry(press, *items, isDouble);
     } else {
@@ -241,11 +249,7 @@ void MouseRecorder::pressedCombo(Press& press) {
     const HWND control = press.tile.window;
     const bool isOpen = SendMessageW(control, CB_GETDROPPEDSTATE, 0, 0);
     if (press.window != control) {
-        // Beside the list that is open: it closes.
-        RECT client;
-        GetClientRect(press.window, &client);
-        const bool isPopup = !(GetWindowLongW(press.window, GWL_STYLE) & WS_CHILD);
-        if (isPopup && !PtInRect(&client, press.at)) add(press, Kind::other, call(L"ui_click", press.tile));
+        if (isBesideOpenList(press.window, press.at)) add(press, Kind::other, keyForm({.virtualKey = VK_F4}));
         return;
     }
     const bool ofChoices = (GetWindowLongW(control, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;

@@ -30,6 +30,6 @@ check() {
 for ((n = first; n < first + count; n += each)); do
     check $n $((n + each > first + count ? first + count - n : each)) "${inputs[$(((n - first) / each % ${#inputs[@]}))]}"
 done
-# A right press beside the open list of a cell, a drag whose end a dialog has taken, and the menu of an open cell.
-[ $# != 0 ] || for n in 710372 710392 710517; do check $n 1 REAL; done
+# Presses beside the open list of a cell, a drag whose end a dialog has taken, and the menu of an open cell.
+[ $# != 0 ] || for n in 710372 720032 710392 710517; do check $n 1 REAL; done
 exit $failed
