@@ -32,7 +32,7 @@ TEST(Runner, ThePromptGoesOnOverLinesAndErrors) {
     EXPECT_EQ(runHost({L"--headless", L"-i"}, "(princ 1)\n").status, 0U);
 }
 
-// As a person types them; part 104 is the command line.
+// As a person types them, into the command line, whose control id is 104.
 TEST(Runner, TheMainFrameRemembersItsLines) {
     const TempFolder folder;
     const auto run = [&](const std::wstring& steps) {
