@@ -75,12 +75,16 @@ PixelRect CSnapDlg::restorePlacement() const {
 void CSnapDlg::savePlacement() const {
     if (!isLive()) return;
     const ProfileSection section(m_registrySection.c_str(), ProfileSection::For::writing);
-    const StoredPlacement store =
-        placementToStore(pixelRect(GetWindowRect()), storedIn(section), displayScale());
-    CWinApp::WriteProfileInt(section, WIDTH_ENTRY, store.width);
-    CWinApp::WriteProfileInt(section, HEIGHT_ENTRY, store.height);
-    CWinApp::WriteProfileInt(section, X_ENTRY, store.x);
-    CWinApp::WriteProfileInt(section, Y_ENTRY, store.y);
+    const StoredPlacement stored = storedIn(section);
+    const StoredPlacement store = placementToStore(pixelRect(GetWindowRect()), stored, displayScale());
+    // An entry of 0 may be one that isn't there.
+    const auto keep = [&section](const wchar_t* entry, int value, int before) {
+        if (value != before || value == 0) CWinApp::WriteProfileInt(section, entry, value);
+    };
+    keep(WIDTH_ENTRY, store.width, stored.width);
+    keep(HEIGHT_ENTRY, store.height, stored.height);
+    keep(X_ENTRY, store.x, stored.x);
+    keep(Y_ENTRY, store.y, stored.y);
 }
 
 void CSnapDlg::onSizing(UINT /*edge*/, RECT* proposed) {

@@ -9,7 +9,6 @@
 #include "src/platform/mfc/ModuleState.h"
 #include "src/platform/mfc/RedrawHold.h"
 #include "src/platform/mfc/ThemeContext.h"
-#include "src/platform/mfc/WindowCreation.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
@@ -18,7 +17,21 @@ namespace {
 // Undocumented: the platform posts it to make the caret blink.
 constexpr UINT WM_SYSTIMER = 0x0118;
 
-INT_PTR CALLBACK unusedDialogProc(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
+// The dialog that is being created.
+CDialog* g_creating = nullptr;
+
+// Joins the window to its dialog at the first message: the font's, sent before there are controls, or without
+// one what a control sends or WM_INITDIALOG. A hook on the creation would cost as much as a control. Later
+// messages come here when the dialog has no use for them.
+INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM w, LPARAM l) noexcept {
+    CDialog* const dialog = std::exchange(g_creating, nullptr);
+    if (!dialog) return FALSE;
+    dialog->SubclassWindow(window);
+    if (message == WM_SETFONT) return FALSE;
+    const LRESULT result = SendMessageW(window, message, w, l);
+    SetWindowLongPtrW(window, DWLP_MSGRESULT, result);
+    return message == WM_INITDIALOG ? result : TRUE;
+}
 
 // A copy of the template, as bytes that can be changed.
 std::vector<BYTE> loadTemplate(HMODULE module, UINT id) {
@@ -84,9 +97,10 @@ bool CDialog::create(HWND owner, First first) {
     if (bytes.empty()) return false;
     if (first == First::hidden) clearVisible(bytes);
     const ThemeContext themed;
-    const WindowCreation creation(*this);
-    CreateDialogIndirectParamW(module, reinterpret_cast<const DLGTEMPLATE*>(bytes.data()), owner,
-                               &unusedDialogProc, 0);
+    g_creating = this;
+    CreateDialogIndirectParamW(module, reinterpret_cast<const DLGTEMPLATE*>(bytes.data()), owner, &dialogProc,
+                               0);
+    g_creating = nullptr;
     return m_created = m_hWnd != nullptr;
 }
 

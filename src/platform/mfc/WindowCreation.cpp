@@ -27,7 +27,7 @@ LRESULT CALLBACK WindowCreation::hook(int code, WPARAM w, LPARAM l) noexcept {
     const LRESULT result = CallNextHookEx(s_hook, code, w, l);
     if (ours) {
         s_wrapper->SubclassWindow(window);
-        // The controls of a dialog are created within; each would pay for the hook.
+        // What the window creates within isn't ours, and each would pay for the hook.
         unhook();
     }
     return result;
