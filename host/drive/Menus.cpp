@@ -84,6 +84,13 @@ Value lookOfItem(Call& call, const MenuItem& item) {
     return list.list();
 }
 
+GUITHREADINFO inputState() {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    return info;
+}
+
 // As a person goes there by the arrow keys, one at a time, and takes it by Enter.
 void goTo(HMENU menu, size_t position, int keysLeft) {
     const HWND focus = GetFocus();
@@ -131,11 +138,9 @@ HMENU openMenu() {
     return reinterpret_cast<HMENU>(SendMessageW(windows.front(), MENU_OF_WINDOW, 0, 0));
 }
 
-bool worksMenu() {
-    GUITHREADINFO info = {};
-    info.cbSize = sizeof info;
-    return GetGUIThreadInfo(GetCurrentThreadId(), &info) && (info.flags & GUI_INMENUMODE);
-}
+bool worksMenu() { return inputState().flags & GUI_INMENUMODE; }
+
+HWND menuOwner() { return inputState().hwndMenuOwner; }
 
 std::vector<MenuItem> menuItems(HMENU menu) {
     std::vector<MenuItem> items;

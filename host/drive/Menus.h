@@ -26,6 +26,8 @@ std::vector<HWND> menuWindows();
 HMENU openMenu();
 // Whether a menu's loop runs: that of a menu bar has no menu open at first.
 bool worksMenu();
+// The window whose menu that is; null without one.
+HWND menuOwner();
 // Texts are read as an assistive program reads them, of items that draw themselves too.
 std::vector<MenuItem> menuItems(HMENU menu);
 

@@ -160,16 +160,15 @@ void KeyRecorder::windowGone(HWND window) {
     if (m_line.edit == window) m_line = {};
 }
 
-// Where Tab or a mnemonic has led is known when the key was handled. A button that was reached by its
-// mnemonic was clicked, and a radio button is clicked by the focus.
+// Where Tab or a mnemonic has led is known when the key was handled. To a button it stays a step of its own:
+// a mnemonic has clicked it, and Tab makes it the one that Enter presses, which the mouse doesn't.
 void KeyRecorder::resolveFocus() {
     if (!m_moved) return;
     RecordedStep& step = m_journal.recording().at(*m_moved);
     m_moved.reset();
     const HWND focus = GetFocus();
     if (focus == m_movedFrom) return;  // what else the key does there comes again
-    const bool isEdit = hasWindowClass(focus, WC_EDITW);
-    if (!isEdit && !(m_byTab && isClickedBySpace(focus))) return;
+    if (!hasWindowClass(focus, WC_EDITW)) return;
     const NamedTile tile = tileOf(focus, dialogOf(focus));
     if (!tile || gridOf(tile.window)) return;
     step.kind = Kind::focus;
@@ -216,8 +215,7 @@ void KeyRecorder::addKey(const MSG& message, HWND dialog, const KeyStroke& strok
     if (form.empty()) return;
     const Recording::Place place = m_journal.add(dialog, {Kind::other, {}, form, {}});
     m_told = message.lParam & SCAN_CODE;
-    m_byTab = stroke.virtualKey == VK_TAB;
-    if (!m_byTab && !stroke.alt) return;
+    if (stroke.virtualKey != VK_TAB && !stroke.alt) return;
     m_moved = place;
     m_movedFrom = GetFocus();
 }

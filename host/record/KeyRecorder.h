@@ -61,7 +61,6 @@ class KeyRecorder {
     } m_line{};
     std::optional<Recording::Place> m_moved;  // a key that may have moved the focus
     HWND m_movedFrom = nullptr;
-    bool m_byTab = false;
     std::wstring m_characters;  // of the last step, where that is characters
     LPARAM m_told = 0;          // of a key that was recorded, whose character isn't
 };

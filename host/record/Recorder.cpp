@@ -61,8 +61,8 @@ void Recorder::taken(const MSG& message) {
     if (!m_journal.knows(dialog)) return;
     if (!menu) return takenInput(message, dialog);
     // What the menu of an edit box does shows in its text.
-    const HWND focus = GetFocus();
-    if (!hasWindowClass(focus, L"Edit") || gridOf(GetParent(focus)))
+    const HWND owner = menuOwner();
+    if (!hasWindowClass(owner, L"Edit") || gridOf(GetParent(owner)))
         m_windows.menuInput(message, menu, dialog);
 }
 
@@ -75,6 +75,7 @@ void Recorder::takenInput(const MSG& message, HWND dialog) {
         case WM_LBUTTONUP:
             return m_mouse.released(message, dialog);
         case WM_MOUSEWHEEL:
+            m_keys.endTyping();
             return m_mouse.wheelTurned(message, dialog);
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
@@ -101,12 +102,11 @@ void Recorder::told(HWND window, UINT message, WPARAM w) {
     }
     if (!isPluginDialog(window)) return;
     m_journal.dialogSeen(window);
-    if (closes) {
-        m_keys.endTyping();
+    m_keys.endTyping();
+    if (closes)
         m_windows.closed(window);
-    } else {
+    else
         m_windows.sized(window, message, w);
-    }
 }
 
 void Recorder::dialogIdle(HWND dialog) {

@@ -51,6 +51,11 @@
         (ui_hover "LST" 2 3) (want '(2 3) (cddr (car (look "LST" "ranges"))))
         (ui_release "LST" 108 30) (ui_hover "LST" 4 3) (want nil (equal '(4 3) (cddr (car (look "LST" "ranges")))))))))
 
+(test "After a lost release of its button a press beside the cells frees the mouse of a grid"
+  '((in-dialog "EDIT_NONWD_ATTRS" '(wex_setaction_oninit "(wex_grid_setrowcolumns \"LST\" 9 4)")
+      '((ui_hold "LST" 108 30) (ui_click "LST" 2000 2000)
+        (want T (stringp (refused '(ui_click "LST" 2000 2000))))))))
+
 ; The box that is left runs the action.
 (defun leave-and-click (action)
   (run-dialog "ADD_REC"

@@ -94,6 +94,7 @@ class CGXGridWnd : public CWnd, public CGXGridCore, private CellEditor::Owner {
     void beginSelection(CellPlace at, bool extend, bool add);
     void dragTo(POINT at);
     void dragBorder(POINT at);
+    Gesture dropGesture();
     void endGesture();
     void fitColumn(uint32_t col);
     void fitRow(uint32_t row);

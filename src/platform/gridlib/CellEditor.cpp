@@ -194,7 +194,9 @@ void CellEditor::place(const RECT& rect) {
     if (!owns(::GetFocus())) m_field->SetFocus();
 }
 
-void CellEditor::dropDown() { m_choice.SendMessage(CB_SHOWDROPDOWN, TRUE); }
+void CellEditor::dropDown() {
+    if (m_field == &m_choice) m_choice.SendMessage(CB_SHOWDROPDOWN, TRUE);
+}
 
 void CellEditor::close() {
     CWnd* field = std::exchange(m_field, nullptr);

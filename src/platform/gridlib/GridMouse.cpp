@@ -86,6 +86,8 @@ void CGXGridWnd::OnLButtonDown(UINT keys, POINT at) {
     if (!isLive()) return;
     ::SetFocus(m_hWnd);
     if (!isLive()) return;
+    // The release of an earlier press may have been lost.
+    dropGesture();
     m_gesture = borderAt(at, m_pressed);
     if (m_gesture != Gesture::none) {
         m_pressedAt = m_gesture == Gesture::sizingColumn ? m_cols.end(m_pressed.col) - at.x
@@ -157,11 +159,15 @@ void CGXGridWnd::onTimer(UINT_PTR) {
     dragTo(at);
 }
 
-void CGXGridWnd::endGesture() {
-    const Gesture ended = std::exchange(m_gesture, Gesture::none);
+CGXGridWnd::Gesture CGXGridWnd::dropGesture() {
+    const Gesture dropped = std::exchange(m_gesture, Gesture::none);
     KillTimer(m_hWnd, TIMER_DRAG);
     if (GetCapture() == m_hWnd) ReleaseCapture();
-    if (ended == Gesture::selecting) tellSelection(false, false);
+    return dropped;
+}
+
+void CGXGridWnd::endGesture() {
+    if (dropGesture() == Gesture::selecting) tellSelection(false, false);
 }
 
 bool CGXGridWnd::hasChoiceArrow(CellPlace place, POINT at) const {
