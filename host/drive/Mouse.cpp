@@ -217,6 +217,11 @@ void post(const Spot& spot, UINT message, WPARAM keys) {
     mouse().post({spot.window, message, keys, MAKELPARAM(spot.point.x, spot.point.y)});
 }
 
+// Who has taken the mouse sees its way there, as that of the real mouse.
+void showWay(const Spot& spot, WPARAM keys) {
+    if (!usesRealInput() && GetCapture() == spot.window) post(spot, WM_MOUSEMOVE, keys);
+}
+
 // The real mouse would make two presses on one point a double one.
 Spot pressSpot(const Spot& spot) { return usesRealInput() ? besideLastClick(spot) : spot; }
 
@@ -233,11 +238,13 @@ bool isInView(const Spot& spot) {
     return GetClientRect(spot.window, &client) && PtInRect(&client, spot.point);
 }
 
-void hold(const Spot& spot, WPARAM keys) { post(pressSpot(spot), WM_LBUTTONDOWN, MK_LBUTTON | keys); }
+void hold(const Spot& spot, WPARAM keys) {
+    showWay(spot, keys);
+    post(pressSpot(spot), WM_LBUTTONDOWN, MK_LBUTTON | keys);
+}
 
-// Who has taken the mouse sees its way there.
 void letGo(const Spot& spot, WPARAM keys) {
-    if (GetCapture() == spot.window) post(spot, WM_MOUSEMOVE, MK_LBUTTON | keys);
+    showWay(spot, MK_LBUTTON | keys);
     post(spot, WM_LBUTTONUP, keys);
 }
 
@@ -250,8 +257,7 @@ void click(const Spot& wanted, WPARAM keys) {
         return post(spot, WM_LBUTTONUP, keys);
     }
     const LPARAM at = MAKELPARAM(spot.point.x, spot.point.y);
-    // Who has taken the mouse sees its way to the next press.
-    if (GetCapture() == spot.window) mouse().post({spot.window, WM_MOUSEMOVE, keys, at});
+    showWay(spot, keys);
     mouse().postClick({spot.window, WM_LBUTTONDOWN, MK_LBUTTON | keys, at},
                       {spot.window, WM_LBUTTONUP, keys, at});
 }
@@ -270,6 +276,7 @@ void doubleClick(const Spot& wanted, WPARAM keys) {
 
 void rightClick(const Spot& wanted, WPARAM keys) {
     const Spot spot = pressSpot(wanted);
+    showWay(spot, keys);
     post(spot, WM_RBUTTONDOWN, MK_RBUTTON | keys);
     post(spot, WM_RBUTTONUP, keys);
 }
