@@ -24,7 +24,7 @@ constexpr uint32_t VISIBLE = 0x10000000;
 constexpr uint32_t GROUP = 0x20000;
 constexpr uint32_t TAB_STOP = 0x10000;
 constexpr uint32_t BUTTON_KIND = 0xF;
-constexpr uint32_t GROUP_BOX = 0x7;
+constexpr uint32_t RADIO_BUTTON = 0x4, GROUP_BOX = 0x7, AUTO_RADIO_BUTTON = 0x9;
 constexpr uint32_t STATIC_KIND = 0x1F;
 constexpr uint32_t NO_PREFIX = 0x80;
 constexpr uint32_t MULTI_LINE_EDIT = 0x4;
@@ -154,7 +154,12 @@ bool isWorked(const DialogTemplateControl& control) {
                        [&](const wchar_t* name) { return equalIgnoringCase(name, control.className); });
 }
 
-// The arrow keys lead from one button of a group to the others; everything else needs the Tab key.
+bool isRadioButton(const DialogTemplateControl& control) {
+    const uint32_t kind = control.style & BUTTON_KIND;
+    return control.className == L"Button" && (kind == RADIO_BUTTON || kind == AUTO_RADIO_BUTTON);
+}
+
+// The arrow keys lead from one radio button of a group to the others; everything else needs the Tab key.
 void checkTabKey(const DialogTemplate& dialog, Words& found) {
     const auto& controls = dialog.controls;
     const auto beginsGroup = [](const DialogTemplateControl& control) {
@@ -167,7 +172,7 @@ void checkTabKey(const DialogTemplate& dialog, Words& found) {
         const auto end = std::find_if(std::next(begin), controls.end(), beginsGroup);
         const bool hasButton = std::any_of(begin, end, hasTabStop);
         for (; begin != end; ++begin) {
-            const bool isReached = begin->style & TAB_STOP || (begin->className == L"Button" && hasButton);
+            const bool isReached = begin->style & TAB_STOP || (isRadioButton(*begin) && hasButton);
             if (isWorked(*begin) && !isReached)
                 found.push_back(nameOf(begin->id) + L" can't be reached by the Tab key: give it WS_TABSTOP");
         }

@@ -83,14 +83,17 @@ TEST(DialogFindings, controlsThatTheTabKeyMisses) {
                        slide = 0x20000;
     DialogTemplateControl picture = control(118, L"Button", L"", shown | group);
     picture.exStyle = slide;
-    expectFindings(findings(L"A,R1,R2,E,R3,L,H,BOX,T,P",
-                            {control(110, L"Button", L"", shown | group | stop | radio),
-                             control(111, L"Button", L"", shown | radio), control(112, L"Edit", L"", shown),
-                             control(113, L"Button", L"", shown | group | radio),
-                             control(114, L"SYSLISTVIEW32", L"", shown | stop), control(115, L"Edit"),
-                             control(116, L"Button", L"", shown | groupBox),
-                             control(117, L"Static", L"", shown), picture}),
-                   {L"control 112 can't be reached by the Tab key", L"control 113 can't be reached"});
+    expectFindings(
+        findings(
+            L"A,R1,R2,E,R3,L,H,BOX,T,P,B,C",
+            {control(110, L"Button", L"", shown | group | stop | radio),
+             control(111, L"Button", L"", shown | radio), control(112, L"Edit", L"", shown),
+             control(113, L"Button", L"", shown | group | radio),
+             control(114, L"SYSLISTVIEW32", L"", shown | stop), control(115, L"Edit"),
+             control(116, L"Button", L"", shown | groupBox), control(117, L"Static", L"", shown), picture,
+             control(119, L"Button", L"", shown | group | stop), control(120, L"Button", L"", shown)}),
+        {L"control 112 can't be reached by the Tab key", L"control 113 can't be reached",
+         L"control 120 can't be reached"});
 }
 
 TEST(DialogFindings, framesThatTheirTabControlCovers) {
