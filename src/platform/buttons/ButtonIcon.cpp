@@ -38,13 +38,23 @@ void takeMask(std::vector<uint32_t>& pixels, const std::vector<uint32_t>& mask) 
         if (!(mask[at] & 0xFFFFFF)) pixels[at] |= 0xFF000000;
 }
 
-HICON greyedCopy(const IconBitmaps& bitmaps, ButtonSize size) {
+uint32_t luma(uint32_t red, uint32_t green, uint32_t blue) {
+    // By ITU-R BT.601.
+    return (red * 299 + green * 587 + blue * 114) / 1000;
+}
+
+bool isDark(COLORREF color) {
+    return color != CLR_INVALID && luma(GetRValue(color), GetGValue(color), GetBValue(color)) < 128;
+}
+
+HICON changedCopy(const IconBitmaps& bitmaps, ButtonSize size, bool disabled, bool onDark) {
     const ClientDC screen(nullptr);
     BITMAPINFO info = {};
     info.bmiHeader = {sizeof(BITMAPINFOHEADER), size.width, -size.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     std::vector<uint32_t> pixels = readPixels(screen, bitmaps.colour.get(), info);
     takeMask(pixels, readPixels(screen, bitmaps.mask.get(), info));
-    greyPixels(pixels);
+    if (onDark) turnLightness(pixels);
+    if (disabled) greyPixels(pixels);
     void* bits = nullptr;
     const UniqueBitmap colour(CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!colour) return nullptr;
@@ -58,9 +68,18 @@ HICON greyedCopy(const IconBitmaps& bitmaps, ButtonSize size) {
 void greyPixels(std::span<uint32_t> pixels) {
     for (uint32_t& pixel : pixels) {
         const uint32_t red = pixel >> 16 & 0xFF, green = pixel >> 8 & 0xFF, blue = pixel & 0xFF;
-        // Luma by ITU-R BT.601.
-        const uint32_t grey = (red * 299 + green * 587 + blue * 114) / 1000;
+        const uint32_t grey = luma(red, green, blue);
         pixel = (pixel >> 25) << 24 | grey << 16 | grey << 8 | grey;
+    }
+}
+
+void turnLightness(std::span<uint32_t> pixels) {
+    for (uint32_t& pixel : pixels) {
+        const uint32_t red = pixel >> 16 & 0xFF, green = pixel >> 8 & 0xFF, blue = pixel & 0xFF;
+        const auto [least, most] = std::minmax({red, green, blue});
+        // Lightness is the middle of the two; added to all three, a difference leaves the hue.
+        const uint32_t shift = 255 - least - most;
+        pixel = (pixel & 0xFF000000) | (red + shift) << 16 | (green + shift) << 8 | (blue + shift);
     }
 }
 
@@ -72,12 +91,15 @@ ButtonIcon::ButtonIcon(HICON icon) : m_icon(icon) {
 }
 
 // Made when it is first seen, which most never are.
-HICON ButtonIcon::greyed() const {
-    if (!m_greyed && m_size.width) m_greyed.reset(greyedCopy(IconBitmaps(m_icon.get()), m_size));
-    return m_greyed.get();
+HICON ButtonIcon::look(bool disabled, bool onDark) const {
+    if (!m_size.width || (!disabled && !onDark)) return m_icon.get();
+    UniqueIcon& copy = m_copies[(disabled ? 1 : 0) + (onDark ? 2 : 0)];
+    if (!copy) copy.reset(changedCopy(IconBitmaps(m_icon.get()), m_size, disabled, onDark));
+    return copy ? copy.get() : m_icon.get();
 }
 
 void ButtonIcon::draw(HDC dc, int x, int y, bool disabled) const {
-    const HICON icon = disabled && greyed() ? greyed() : m_icon.get();
-    if (icon) DrawIconEx(dc, x, y, icon, m_size.width, m_size.height, 0, nullptr, DI_NORMAL);
+    if (!m_icon) return;
+    const HICON icon = look(disabled, isDark(GetPixel(dc, x, y)));
+    DrawIconEx(dc, x, y, icon, m_size.width, m_size.height, 0, nullptr, DI_NORMAL);
 }

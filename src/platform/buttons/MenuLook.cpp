@@ -204,12 +204,8 @@ void MenuLook::drawMark(HDC dc, const RECT& gutter, const RECT& box, const MenuI
 
 void MenuLook::drawIcon(HDC dc, const RECT& box, const MenuItemLook& item) const {
     const int width = box.right - box.left, height = box.bottom - box.top;
-    if (!item.disabled) {
-        DrawIconEx(dc, box.left, box.top, item.icon, width, height, 0, nullptr, DI_NORMAL);
-        return;
-    }
-    const ButtonIcon greyed(static_cast<HICON>(CopyImage(item.icon, IMAGE_ICON, width, height, 0)));
-    greyed.draw(dc, box.left, box.top, true);
+    const ButtonIcon sized(static_cast<HICON>(CopyImage(item.icon, IMAGE_ICON, width, height, 0)));
+    sized.draw(dc, box.left, box.top, item.disabled);
 }
 
 COLORREF MenuLook::textColor(const MenuItemLook& item) const {

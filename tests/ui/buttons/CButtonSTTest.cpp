@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "src/platform/buttons/CXPStyleButtonST.h"
 #include "tests/support/Canvas.h"
@@ -89,6 +90,29 @@ TEST_F(ImageButton, takesTheDefaultLookAndStillDrawsItself) {
     button.SendMessage(BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
     EXPECT_TRUE(dialogCode() & DLGC_DEFPUSHBUTTON);
     EXPECT_EQ(button.GetStyle() & BS_TYPEMASK, DWORD{BS_OWNERDRAW});
+}
+
+// An icon of one color, in the middle of a ground of another.
+COLORREF iconOn(COLORREF ground, bool disabled) {
+    constexpr int SIDE = 16;
+    const std::vector<uint32_t> color(SIDE * SIDE, 0xFF1F5A9A);
+    const std::vector<uint8_t> mask(SIDE * SIDE / 8);
+    const ButtonIcon icon(
+        CreateIcon(nullptr, SIDE, SIDE, 1, 32, mask.data(), reinterpret_cast<const BYTE*>(color.data())));
+    const Canvas canvas(SIDE, SIDE);
+    const UniqueBrush brush(CreateSolidBrush(ground));
+    const RECT all{0, 0, SIDE, SIDE};
+    FillRect(canvas.dc(), &all, brush.get());
+    icon.draw(canvas.dc(), 0, 0, disabled);
+    return canvas.at(SIDE / 2, SIDE / 2);
+}
+
+TEST(ButtonIcon, isAsLightOnADarkGroundAsItIsDarkOnALightOne) {
+    EXPECT_EQ(iconOn(RGB(255, 255, 255), false), RGB(0x1F, 0x5A, 0x9A));
+    EXPECT_EQ(iconOn(RGB(0, 0, 0), false), RGB(0x65, 0xA0, 0xE0));
+    // Half as strong, and still to be seen.
+    EXPECT_GT(GetRValue(iconOn(RGB(0, 0, 0), true)), 60);
+    EXPECT_LT(GetRValue(iconOn(RGB(255, 255, 255), true)), 195);
 }
 
 }  // namespace
