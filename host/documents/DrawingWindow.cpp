@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include <cmath>
+#include <utility>
 
 #include "host/documents/Documents.h"
 #include "host/documents/EmptyDrawing.h"
@@ -145,6 +146,13 @@ void DrawingWindow::paint() {
     }
     m_wasEmpty = empty;
     EndPaint(m_window, &paint);
+    tellFilled(empty);
+}
+
+void DrawingWindow::tellFilled(bool empty) {
+    if (std::exchange(m_toldEmpty, empty) == empty) return;
+    SendMessageW(GetParent(m_window), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(m_window), DRAWING_FILLED),
+                 reinterpret_cast<LPARAM>(m_window));
 }
 
 void DrawingWindow::tellViewport(cad::Drawing& drawing) {

@@ -1,12 +1,15 @@
 // Shows the current drawing in the main frame: a drag of the left or middle button pans, one of the right
 // button or with Shift orbits, the wheel zooms about the pointer, a double click of the middle button shows
-// all. A click of the right button asks the main frame for a menu (WM_CONTEXTMENU).
+// all. A click of the right button asks the main frame for a menu (WM_CONTEXTMENU); that there is something
+// to see from now on, or nothing, is told it by WM_COMMAND with DRAWING_FILLED.
 #pragma once
 
 #include <windows.h>
 
 #include "host/database/Drawing.h"
 #include "host/graphics/GsView.h"
+
+constexpr WORD DRAWING_FILLED = 1;
 
 class DrawingWindow {
   public:
@@ -49,6 +52,7 @@ class DrawingWindow {
     // Nothing where the message isn't dealt with.
     bool handle(UINT message, WPARAM w, LPARAM l);
     void paint();
+    void tellFilled(bool empty);
     // The block that is to be seen; null where no document is open.
     const cad::Block* shownBlock();
     void fit(const cad::Block& block, const HostVector3d& direction);
@@ -69,6 +73,7 @@ class DrawingWindow {
     cad::ObjectId m_asked = 0;
     cad::ObjectId m_shown = 0;
     bool m_wasEmpty = true;
+    bool m_toldEmpty = true;
     int m_style = HOST_STYLE_WIREFRAME_2D;
     Drag m_drag = Drag::none;
     POINT m_last{};

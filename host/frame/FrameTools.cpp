@@ -80,6 +80,11 @@ void FrameTools::enable(UINT command, bool enabled) {
     if (const HWND button = ::GetDlgItem(m_hWnd, static_cast<int>(command))) ::EnableWindow(button, enabled);
 }
 
+void FrameTools::enableViews(bool enabled) {
+    for (const UINT command : {UINT{FIT}, UINT{ZOOM_IN}, UINT{ZOOM_OUT}}) enable(command, enabled);
+    for (UINT at = 0; at < VIEW_COUNT; ++at) enable(FIRST_VIEW + at, enabled);
+}
+
 bool FrameTools::OnCommand(UINT id, UINT notification) {
     if (notification != BN_CLICKED) return false;
     ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, id, 0);

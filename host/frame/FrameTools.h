@@ -17,6 +17,8 @@ class FrameTools : public CWnd {
     // In device pixels.
     static int heightAt(int dpi);
     void enable(UINT command, bool enabled);
+    // All tools of the drawing.
+    void enableViews(bool enabled);
 
   protected:
     bool OnCommand(UINT id, UINT notification) override;

@@ -188,6 +188,11 @@ void MainFrame::createTools() {
     m_tools = std::make_unique<FrameTools>(m_window, TOOLS, m_dpi);
     SetWindowPos(m_tools->m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     m_tools->enable(RUN_AGAIN, !m_settings.programs.empty());
+    enableViews();
+}
+
+void MainFrame::enableViews() {
+    if (m_tools) m_tools->enableViews(!m_drawing->isEmpty());
 }
 
 void MainFrame::rescale(int dpi, const RECT& place) {
@@ -320,7 +325,10 @@ LRESULT MainFrame::handle(UINT message, WPARAM w, LPARAM l) {
         case WM_MOUSEWHEEL:
             return SendMessageW(m_drawing->window(), message, w, l);
         case WM_COMMAND:
-            if (!l) command(LOWORD(w));
+            if (!l)
+                command(LOWORD(w));
+            else if (reinterpret_cast<HWND>(l) == m_drawing->window())
+                enableViews();
             return 0;
         // The output asks for the next one where a tab comes.
         case WM_NEXTDLGCTL:

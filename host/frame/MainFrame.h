@@ -48,6 +48,8 @@ class MainFrame {
 
     void createChildren();
     void createTools();
+    // The tools of the drawing, where there is something to see.
+    void enableViews();
     void createFont();
     void createMenus();
     RECT startingPlace() const;

@@ -78,10 +78,12 @@
     (in-frame
       '((ui_key "ALT+V" line)
         (want '("Ctrl+0" "disabled") (item "Fit"))
+        (want '(nil nil) (list (look (list tools fit) "enabled") (look (list tools isometric) "enabled")))
         (want nil (chosen))
         (ui_key "ESC") (ui_key "ESC")
         (draw_line '(0 0 0) '(10 5 3))
         (ui_key "CTRL+4" line)
+        (want '(T T) (list (look (list tools fit) "enabled") (look (list tools isometric) "enabled")))
         ; The letters of all axes have room.
         (setq lowest (1- (cadddr (look drawing "rect"))) space (ui_pixel drawing 0 0))
         (want nil (apply 'append (mapcar '(lambda (x) (if (/= (ui_pixel drawing x lowest) space) (list x))) (range 140))))
