@@ -12,18 +12,20 @@
 namespace {
 
 int idForNameIn(HMODULE module, const CString& name) {
-    for (int id = FIRST_KEY_LIST_ID; id <= LAST_KEY_LIST_ID; ++id) {
-        const std::wstring_view text = stringView(module, id);
-        if (!text.empty() && equalIgnoringCase(keyListName(text), name)) return id;
-    }
-    return -1;
+    int found = -1;
+    findString(module, FIRST_KEY_LIST_ID, LAST_KEY_LIST_ID, [&](UINT id, std::wstring_view text) {
+        if (!equalIgnoringCase(keyListName(text), name)) return false;
+        found = static_cast<int>(id);
+        return true;
+    });
+    return found;
 }
 
 void addNamesOf(HMODULE module, CStringArray& names) {
-    for (int id = FIRST_KEY_LIST_ID; id <= LAST_KEY_LIST_ID; ++id) {
-        const CString name = keyListName(stringView(module, id));
-        if (!name.IsEmpty()) names.push_back(name);
-    }
+    findString(module, FIRST_KEY_LIST_ID, LAST_KEY_LIST_ID, [&](UINT, std::wstring_view text) {
+        if (const auto name = keyListName(text); !name.empty()) names.emplace_back(name);
+        return false;
+    });
 }
 
 struct FreeModule {

@@ -38,16 +38,32 @@ HMODULE AfxFindResourceHandle(const wchar_t* name, const wchar_t* type) {
     return nullptr;
 }
 
-std::wstring_view stringView(HMODULE module, UINT id) {
-    if (!module) return {};
-    const wchar_t* text = nullptr;
-    // With no buffer the call gives the address of the string in the loaded module.
-    const int length = LoadStringW(module, id, reinterpret_cast<wchar_t*>(&text), 0);
-    return length > 0 ? std::wstring_view(text, length) : std::wstring_view{};
+bool findString(HMODULE module, UINT first, UINT last,
+                const std::function<bool(UINT id, std::wstring_view text)>& take) {
+    // A resource holds 16 strings, each behind its length, and has the number after that of the group. To
+    // look for the resource costs as much as to read it.
+    constexpr UINT GROUP = 16;
+    for (UINT group = first / GROUP; module && group <= last / GROUP; ++group) {
+        const HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(group + 1), RT_STRING);
+        if (!found) continue;
+        const auto* at = static_cast<const wchar_t*>(LockResource(LoadResource(module, found)));
+        const wchar_t* const end = at + SizeofResource(module, found) / sizeof *at;
+        for (UINT id = group * GROUP; id < (group + 1) * GROUP && at < end && *at < end - at; ++id) {
+            const std::wstring_view text(at + 1, *at);
+            at += 1 + text.size();
+            if (!text.empty() && id >= first && id <= last && take(id, text)) return true;
+        }
+    }
+    return false;
 }
 
 CString loadString(HMODULE module, UINT id, int bufferChars) {
-    return stringView(module, id).substr(0, bufferChars - 1);
+    CString loaded;
+    findString(module, id, id, [&](UINT, std::wstring_view text) {
+        loaded = text.substr(0, bufferChars - 1);
+        return true;
+    });
+    return loaded;
 }
 
 HICON loadIcon(UINT id, int width, int height) {

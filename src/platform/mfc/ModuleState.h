@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -46,9 +47,12 @@ class CDynLinkLibrary {
 // The module that holds the resource, by the search; null where none does.
 HMODULE AfxFindResourceHandle(const wchar_t* name, const wchar_t* type);
 
-// A string of the module's string table as it lies there, not NUL-terminated; empty where there is none.
-std::wstring_view stringView(HMODULE module, UINT id);
-// A copy of it as a buffer of that many characters would hold it, the NUL included.
+// The strings of a module's string table that aren't empty and have an id from `first` to `last`, in rising
+// order, as they lie there, not NUL-terminated; until `take` gives true for one: whether it did.
+bool findString(HMODULE module, UINT first, UINT last,
+                const std::function<bool(UINT id, std::wstring_view text)>& take);
+// The string of the module's string table as a buffer of that many characters would hold it, the NUL
+// included; empty where there is none.
 CString loadString(HMODULE module, UINT id, int bufferChars = 1500);
 
 // An icon found by the search, in that size in pixels, or in its own where both are 0. The caller's.
