@@ -181,7 +181,10 @@ void MouseRecorder::pressedLeft(Press& press, bool isDouble) {
                  isDouble);
     } else if (gridOf(control)) {
         if (press.window == control) pressedCell(press, isDouble);
-        if (isBesideOpenList(press.window, press.at)) add(press, Kind::other, keyForm({.virtualKey = VK_F4}));
+        // The field of an open cell with choices opens its list, or closes it.
+        const bool isField = hasWindowClass(press.window, WC_COMBOBOXW);
+        if (isField || isBesideOpenList(press.window, press.at))
+            add(press, Kind::other, keyForm({.virtualKey = VK_F4}));
     } else if (const auto items = itemsOf(control)) {
         if (press.window == control) pressedEntry(press, *items, isDouble);
     } else {
