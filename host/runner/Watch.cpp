@@ -77,7 +77,7 @@ class WatchedFiles {
             if (!isLisp(file)) continue;
             try {
                 const std::u16string name = lispText(file.filename().wstring());
-                lisp.readAll(lisp.fileText(lispText(file.wstring())), {name, 1});
+                lisp.readAll(lisp.fileText(lispText(file.wstring())), {name});
             } catch (const std::exception& error) {
                 return wideFromUtf8(error.what());
             }

@@ -52,9 +52,9 @@ grep -qF '("again" "first text" T (1))' "$work/printed" || fail "the dialog came
 
 # The button is held for some turns of the loop, as by a person.
 # A mistake leaves the old dialog standing; the file that it loads brings another value for what nobody had touched.
-save part.lsp <<<'(setq text "second text"'
+save part.lsp <<<$'(setq words 2)\n(setq text "second text"'
 until_printed 'nothing runs anew until that is mended'
-grep -qF 'part.lsp:1: the list that opens here is not closed' "$work/errors" || fail "the mistake isn't told"
+grep -qF 'part.lsp:2: the list that opens here is not closed' "$work/errors" || fail "the mistake isn't told"
 save form.lsp <<LISP
 $head
 (ui_session "ADD_REC" '((ui_wait (= (ui_text "CAT") "ABC")) (print (ui_text "DESC")) (ui_hold "HELP")
