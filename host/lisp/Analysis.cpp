@@ -80,7 +80,8 @@ const Node* Analyser::node(Value form) {
 const Node* Analyser::list(Value form) {
     Place outer = m_place;
     Symbol* outerForm = m_form;
-    if (form.asCons()->place.line) m_place = form.asCons()->place;
+    // What `read` made of a string counts for where it is evaluated.
+    if (form.asCons()->place.file) m_place = form.asCons()->place;
     Value head = form.car(), arguments = form.cdr();
     const Node* result = nullptr;
     m_form = head.isSymbol() ? head.asSymbol() : nullptr;
