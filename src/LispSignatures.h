@@ -11,18 +11,19 @@
 //   int, text   an integer, a string
 //   mode        a mode of wex_mode_tile
 // and else, joined by "+", the kinds of tile that the function works on: list, combo, listctrl, tree, tab,
-// grid, edit, image. "tile" alone is a tile of any kind.
+// grid, edit, image; or "worked" for all that a person works, "valued" for all that have a value. "tile"
+// alone is a tile of any kind.
 inline constexpr const wchar_t* LISP_SIGNATURES[] = {
     L"wex_new_dialog name:dialog [position]",
     L"wex_start_dialog",
     L"wex_done_dialog [status:int]",
     L"wex_unload_dialog …",
     L"wex_load_dialog …",
-    L"wex_action_tile tile text:action",
+    L"wex_action_tile tile:worked text:action",
     L"wex_set_tile tile value",
     L"wex_mode_tile tile mode:mode",
     L"wex_get_attr …",
-    L"wex_get_tile tile",
+    L"wex_get_tile tile:valued",
     L"wex_start_image tile:image",
     L"wex_vector_image tile:image x1:int y1:int x2:int y2:int color:int",
     L"wex_fill_image tile:image x:int y:int width:int height:int color:int",
@@ -63,10 +64,11 @@ inline constexpr const wchar_t* LISP_SIGNATURES[] = {
     L"wex_tab_add tile:tab title:text [control:tile …]",
     L"wex_grid_setrowheight tile:grid row height:int",
     L"wex_grid_setcolumnwidth tile:grid column width:int",
-    L"wex_tree_insertparent tile:tree text:text [image:int …]",
-    L"wex_tree_insertchild tile:tree parent:int text:text [image:int …]",
-    L"wex_tree_insertparentafter tile:tree previous:int text:text [image:int …]",
-    L"wex_tree_insertchildafter tile:tree parent:int previous:int text:text [image:int …]",
+    L"wex_tree_insertparent tile:tree text:text [image:int [selected:int [alternate:int]]]",
+    L"wex_tree_insertchild tile:tree parent:int text:text [image:int [selected:int [alternate:int]]]",
+    L"wex_tree_insertparentafter tile:tree previous:int text:text [image:int [selected:int [alternate:int]]]",
+    L"wex_tree_insertchildafter tile:tree parent:int previous:int text:text [image:int [selected:int "
+    L"[alternate:int]]]",
     L"wex_tree_setitemdata tile:tree item:int data:int",
     L"wex_tree_getitemdata tile:tree item:int",
     L"wex_tree_setitemtext tile:tree item:int text:text",

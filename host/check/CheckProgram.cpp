@@ -143,7 +143,8 @@ std::vector<const Form*> CheckedProgram::formsAround(uint32_t offset) const {
     const std::vector<Form>* forms = &m_program->files[0]->read.forms;
     while (forms) {
         const auto at = std::find_if(forms->begin(), forms->end(), [=](const Form& form) {
-            return form.begin < offset && (offset < form.end || (offset == form.end && !form.isList()));
+            const bool goesOn = form.isList() || form.isString() ? !form.isClosed : true;
+            return form.begin < offset && (offset < form.end || (offset == form.end && goesOn));
         });
         if (at == forms->end()) break;
         around.push_back(&*at);

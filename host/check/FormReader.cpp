@@ -155,7 +155,8 @@ class StretchReader {
         m_open.pop_back();
         form.items.assign(std::make_move_iterator(first), std::make_move_iterator(m_pending.end()));
         m_pending.erase(first, m_pending.end());
-        form.end = place(end - 1) + 1;
+        // One that is open goes on to the end of the text, behind an escape too.
+        form.end = isClosed ? place(end - 1) + 1 : place(end);
         form.isClosed = isClosed;
         add(std::move(form));
     }
@@ -182,7 +183,7 @@ class StretchReader {
         content->offsets.push_back(
             place(form.isClosed ? m_position - 1 : std::min(m_position, m_text.size() - 1)));
         form.content = std::move(content);
-        form.end = place(m_position - 1) + 1;
+        form.end = form.isClosed ? place(m_position - 1) + 1 : place(m_position);
         if (isOpen && !m_openString) m_openString = begin;
         noteString(begin, isOpen);
         add(std::move(form));

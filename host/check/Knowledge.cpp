@@ -22,6 +22,17 @@ constexpr Kind KINDS[] = {
     {u"frame", u"group box"},
 };
 
+// Sets of kinds that have a name of their own.
+struct NamedKinds {
+    std::u16string_view word;
+    std::u16string_view people;
+    std::u16string_view without;  // as the words of signatures
+};
+constexpr NamedKinds NAMED_KINDS[] = {
+    {u"worked", u"tile that a person works", u"tab+label+frame"},
+    {u"valued", u"tile with a text, a state or entries", u"tree+tab+grid+frame"},
+};
+
 struct NamedRole {
     std::u16string_view word;
     Role role;
@@ -76,19 +87,29 @@ constexpr std::u16string_view HOST_SIGNATURES[] = {
     u"strcat [s:text …]",
 };
 
+// "tree+grid"
+TileKinds kindsOf(std::u16string_view words) {
+    TileKinds kinds = ANY_KIND;
+    while (!words.empty()) {
+        const size_t plus = std::min(words.find(u'+'), words.size());
+        for (size_t i = 0; i < std::size(KINDS); ++i)
+            if (KINDS[i].word == words.substr(0, plus)) kinds |= TileKinds(1) << i;
+        words.remove_prefix(std::min(plus + 1, words.size()));
+    }
+    return kinds;
+}
+
+TileKinds kindsOf(const NamedKinds& named) {
+    return ((TileKinds(1) << std::size(KINDS)) - 1) & ~kindsOf(named.without);
+}
+
 Argument parseArgument(std::u16string_view name, std::u16string_view what) {
     if (what.empty()) what = name == u"tile" ? name : u"";
     for (const NamedRole& role : ROLES)
         if (role.word == what) return {role.role};
-    if (what.empty()) return {};
-    Argument tile{Role::tile};
-    while (!what.empty()) {
-        const size_t plus = std::min(what.find(u'+'), what.size());
-        for (size_t i = 0; i < std::size(KINDS); ++i)
-            if (KINDS[i].word == what.substr(0, plus)) tile.kinds |= TileKinds(1) << i;
-        what.remove_prefix(std::min(plus + 1, what.size()));
-    }
-    return tile;
+    for (const NamedKinds& named : NAMED_KINDS)
+        if (named.word == what) return {Role::tile, kindsOf(named)};
+    return what.empty() ? Argument{} : Argument{Role::tile, kindsOf(what)};
 }
 
 std::u16string nextWord(std::u16string_view& text) {
@@ -179,6 +200,8 @@ TileKinds kindOfWords(std::u16string_view words) {
 }
 
 std::u16string wordsOfKinds(TileKinds kinds) {
+    for (const NamedKinds& named : NAMED_KINDS)
+        if (kindsOf(named) == kinds) return std::u16string(named.people);
     std::u16string words;
     for (size_t i = 0; i < std::size(KINDS); ++i) {
         if (!(kinds & TileKinds(1) << i)) continue;

@@ -67,6 +67,9 @@ TEST(CheckedProgram, TilesOfTheCurrentDialog) {
     EXPECT_EQ(warnings(u"(wex_new_dialog \"FORM\") (foreach key '(\"NAME\" \"KEPP\") (wex_mode_tile key 9))"),
               "1:47 FORM has no tile \"KEPP\"; did you mean \"KEEP\"?\n"
               "1:74 there is no mode 9: the modes are 0, 1, 2, 3, 5, 6 and -1\n");
+    EXPECT_EQ(warnings(u"(wex_new_dialog \"ASK\") (wex_get_tile \"TEXT\") (wex_action_tile \"TEXT\" \"(f)\") "
+                       u"(defun f ())"),
+              "1:63 wex_action_tile works on a tile that a person works, and \"TEXT\" of ASK is a label\n");
     // Who calls it isn't known, or which dialog is meant.
     EXPECT_EQ(warnings(u"(defun c:go () (wex_set_tile \"ANY\" \"\")) (wex_new_dialog (strcat \"FO\" \"RM\"))"
                        u"(wex_set_tile \"ANY\" \"\")"),

@@ -87,6 +87,14 @@ TEST_F(LanguageServerTest, CompletesWhatFitsThePlace) {
     EXPECT_TRUE(has(ask("hover", 1, 0), R"("result":null)"));
 }
 
+TEST_F(LanguageServerTest, CompletesAtTheEndOfWhatIsOpen) {
+    open(
+        R"((wex_new_dialog \"FORM\")\n(wex_action_tile \"OK\" \"(wex_get_tile \\\"\")\n(wex_action_tile \"OK\" \"(wex_ge\")\n(wex_get_tile \"K)");
+    EXPECT_TRUE(has(ask("completion", 1, 39), R"("label":"KEEP")"));
+    EXPECT_TRUE(has(ask("completion", 2, 30), R"("label":"wex_get_tile")"));
+    EXPECT_TRUE(has(ask("completion", 3, 16), R"("label":"KEEP")"));
+}
+
 TEST(MessageReader, TakesMessagesApart) {
     editor::MessageReader reader;
     reader.feed("Content-Length: 2\r\nContent-Type: x\r\n\r\n{}content-length:1\r");
