@@ -4,6 +4,7 @@
 #include "src/grid/CellCode.h"
 #include "src/grid/EditBracket.h"
 #include "src/grid/GridArgument.h"
+#include "src/platform/gridlib/NumberFormat.h"
 #include "src/shell/Module.h"
 #include "src/shell/ValueOf.h"
 
@@ -81,10 +82,11 @@ void warnOfDropped(const HostValue& value, int row, int code, bool hasChoices) {
     const bool isReal = value.type == HV_REAL || value.type == HV_ANGLE || value.type == HV_ORIENT;
     const bool isText = value.type == HV_STRING;
     if (isText && row != 0 && !isCode(code)) warn(WARN_NO_EFFECT, [=] { return noSuch(L"code", code); });
-    if (!isText && code != NO_CODE && isCode(code))
+    const bool isTooPrecise = isReal && code > MOST_PLACES;
+    if (isTooPrecise || (!isText && code != NO_CODE && isCode(code)))
         warn(WARN_NO_EFFECT, [=] {
             return L"code " + std::to_wstring(code) +
-                   (isReal ? L" of a number is its decimal places" : L" is for texts alone");
+                   (isReal ? L" of a number is its decimal places, 15 at most" : L" is for texts alone");
         });
     if (hasChoices && !(isText && row != 0 && code >= FIRST_CONTROL_CODE))
         warn(WARN_UNUSED_ARGUMENT,
@@ -111,11 +113,10 @@ void gridSetCell(LispCall& call) {
     else if (grid)
         warnNoColumns();
     if (!value || column == NO_COLUMN || !hasColumns) return call.retNil();
+    const bool isValue = isCellValue(*value);
+    if (!isValue) call.warnMistyped(*value, L"a string, a number, T or nil");
     const std::optional<CString> choices = call.optionalText();
-    if (isCellValue(*value))
-        warnOfDropped(*value, row, code, choices.has_value());
-    else
-        call.warnMistyped(*value, L"a string, a number, T or nil");
+    if (isValue) warnOfDropped(*value, row, code, choices.has_value());
     setCell(*grid, row, column, code, cellStyle(*value, row, code, choices));
     grid->Redraw(2, true);
     call.retVoid();

@@ -18,6 +18,13 @@ CGXRange rangeOf(int top, int left, int bottom, int right) {
     return {place(top), place(left), place(bottom), place(right)};
 }
 
+// Of a row or a column. A negative one changes nothing.
+std::optional<int> sizeArgument(LispCall& call) {
+    const auto size = call.shortNumber();
+    if (size && *size < 0) call.warnOfArgument([=] { return std::to_wstring(*size) + L" is no size"; });
+    return size;
+}
+
 int lastColumnOf(int columns) { return std::max(columns, 1) - 1; }
 
 // Left where there is no code.
@@ -61,7 +68,7 @@ void gridSetRowColumns(LispCall& call) {
 void gridSetRowHeight(LispCall& call) {
     WexGrid* grid = gridArgument(call);
     const int given = call.wholeNumber();
-    const auto height = call.shortNumber();
+    const auto height = sizeArgument(call);
     if (!grid || call.lacksArgument()) return call.retNil();
     warnUnlessInGrid(*grid, given, 0);
     const auto row = static_cast<uint32_t>(given);
@@ -72,7 +79,7 @@ void gridSetRowHeight(LispCall& call) {
 void gridSetColumnWidth(LispCall& call) {
     WexGrid* grid = gridArgument(call);
     const int given = call.wholeNumber();
-    const auto width = call.shortNumber();
+    const auto width = sizeArgument(call);
     if (!grid || call.lacksArgument()) return call.retNil();
     warnUnlessInGrid(*grid, 0, given);
     const auto column = static_cast<uint32_t>(given);

@@ -21,6 +21,7 @@ std::optional<ItemCall> itemCallFrom(const HostValue* arguments) {
     if (!arguments) return std::nullopt;
     const wchar_t* text = textOf(*arguments);
     call.isText = text;
+    call.isLast = !arguments->next;
     if (text) call.text = text;
     return call;
 }

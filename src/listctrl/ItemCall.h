@@ -11,6 +11,7 @@ struct ItemCall {
     int column = -1;
     CString text;
     bool isText = false;  // otherwise something else stood in its place
+    bool isLast = true;   // otherwise more arguments stand behind it
 
     // One cell is set in a list of that many rows; otherwise the text is a new row.
     bool setsCell(int rowCount) const { return row != -1 && row < rowCount; }

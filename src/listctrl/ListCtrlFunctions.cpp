@@ -92,6 +92,7 @@ void listAddColumn(LispCall& call) {
     const std::optional<CString> title = call.text();
     if (!list || !title) return call.retNil();
     const int given = call.shortOr(-1);
+    if (given < -1) call.warnOfArgument([=] { return noSuch(L"width", given); });
     const double width = (given == -1 ? DEFAULT_WIDTH : given) * displayScale();
     insertColumn(*list, columnCount(*list), *title, static_cast<int>(std::lround(width)));
     call.retVoid();
@@ -104,6 +105,9 @@ void listAddItem(LispCall& call) {
     if (!list || !item) return call.retNil();
     const int rows = rowCount(*list);
     if (item->row != -1 || !item->isText) warnOfItem(*list, *item, rows);
+    if (item->isText && !item->isLast)
+        warn(WARN_UNUSED_ARGUMENT,
+             L"the text is the last argument: what stands behind it counts for nothing");
     if (item->setsCell(rows))
         setCell(*list, item->row, item->column, item->text);
     else
@@ -115,8 +119,9 @@ void listSetColumnWidth(LispCall& call) {
     const CWnd* list = listControlOf(call.tile());
     const int column = columnArgument(call);
     if (!list || column == -1) return call.retNil();
-    if (!list->SendMessage(LVM_SETCOLUMNWIDTH, column, widthParameter(call.shortOr(-1))))
-        warnNoColumn(column);
+    const int width = call.shortOr(-1);
+    if (width < -2) call.warnOfArgument([=] { return noSuch(L"width", width); });
+    if (!list->SendMessage(LVM_SETCOLUMNWIDTH, column, widthParameter(width))) warnNoColumn(column);
     call.retVoid();
 }
 

@@ -39,8 +39,16 @@ void tellWarning(int32_t kind, const CString& words, const CString& wanted,
 }
 
 CString quoted(const CString& name) {
-    const bool isLong = name.size() > MOST_SHOWN;
-    return L"\"" + name.substr(0, MOST_SHOWN) + (isLong ? L"…\"" : L"\"");
+    CString shown = L"\"";
+    for (const wchar_t c : name.substr(0, MOST_SHOWN)) {
+        if (c == L'\n')
+            shown += L"\\n";
+        else if (c == L'\t')
+            shown += L"\\t";
+        else
+            shown += c < L' ' ? L' ' : c;
+    }
+    return shown + (name.size() > MOST_SHOWN ? L"…\"" : L"\"");
 }
 
 CString noSuch(const wchar_t* what, int number) {

@@ -39,7 +39,7 @@ inline void warn(int32_t kind, const wchar_t* words) {
     if (isHeard(kind)) tellWarning(kind, words);
 }
 
-// A name as it stands in a warning.
+// A name as it stands in a warning, on one line.
 CString quoted(const CString& name);
 // "there is no mode 7"
 CString noSuch(const wchar_t* what, int number);

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr wchar_t EDIT_BOXES[] = L"edit boxes";
+constexpr int MOST_PRECISION = 8;  // of the host's converters
 constexpr std::wstring_view EDIT_CLASS[] = {L"Edit"};
 
 void setNotation(LispCall& call, EditMode mode) {
@@ -14,6 +15,8 @@ void setNotation(LispCall& call, EditMode mode) {
     const int unit = call.shortNumber().value_or(-1);
     if (box && !validChars(mode, unit)) call.warnOfArgument([=] { return noSuch(L"unit", unit); });
     const int precision = call.shortNumber().value_or(-1);
+    if (box && (precision < -1 || precision > MOST_PRECISION))
+        call.warnOfArgument([=] { return noSuch(L"precision", precision); });
     if (box && !call.lacksArgument()) box->setNotation(mode, unit, precision);
     call.retNil();
 }

@@ -38,7 +38,8 @@ void setResizing(LispCall& call) {
     if (dialog && code) {
         if (!isAnchorCode(*code))
             call.warnOfArgument([&] { return std::to_wstring(*code) + L" is no sum of anchor weights"; });
-        if (dialog->hasApplied())
+        // No anchor holds a tile at any time.
+        if (dialog->hasApplied() && *code != -1)
             warnRuns(*dialog, L"anchors count from its start action (wex_setaction_oninit)");
         dialog->m_resizable = true;
         if (CCtrlInfo* tile = dialog->tileFor(address)) {

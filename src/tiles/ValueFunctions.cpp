@@ -61,6 +61,10 @@ void applyLiveMode(const CWnd& control, const WexDialog& dialog, const TileAddre
     }
 }
 
+// Of a list it is the operation.
+constexpr std::wstring_view CLASSES_OF_MODE_3[] = {L"Edit", L"ListBox", L"ComboBox", L"SysListView32",
+                                                   L"GXWND"};
+
 bool isMode(int mode) {
     const bool isControls = mode == -1;  // as the template has it
     return isControls || (mode >= MODE_ENABLE && mode <= MODE_HIDE && mode != MODE_NOTHING);
@@ -103,6 +107,8 @@ void modeTile(LispCall& call) {
         if (!isMode(*mode)) call.warnOfArgument([&] { return noSuch(L"mode", *mode); });
         CCtrlInfo* record = dialog->tileFor(tile);
         if (record) record->setMode(*mode);
+        if (*mode == MODE_SELECT_TEXT && !dialog->m_hWnd)
+            warnUnlessOfClass(*dialog, tile, CLASSES_OF_MODE_3, L"edit boxes");
         const CCtrlInfo unrecorded;
         if (const CWnd* control = dialog->itemFor(tile))
             applyLiveMode(*control, *dialog, tile, *mode, (record ? *record : unrecorded).m_editLimit);

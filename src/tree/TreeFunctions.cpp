@@ -83,9 +83,11 @@ void insertItem(LispCall& call, bool underParent, bool behindPrevious) {
     const CString text = call.textOrEmpty();
     if (!canWork(call, tree)) return call.retNil();
     const TreeItemImages images = imageArguments(call.shortOr(-1), call);
+    // 0, or -1 where nothing is selected, is how a program says that there is none before. Asked first, as a
+    // new item may get the handle of one that has gone.
+    if (behindPrevious && after && after != UNKNOWN_ITEM) warnUnlessItem(*tree, after);
     const HTREEITEM made = insertTreeItem(*tree, parent, after, text, images);
     if (!made && parent) warnUnlessItem(*tree, parent);
-    if (!made && behindPrevious) warnUnlessItem(*tree, after);
     call.retLong(handleNumber(made));
 }
 

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int32_t MOST_PLACES = 15;
-
 bool isBlank(wchar_t c) { return c == L' ' || c == L'\t' || c == L'\r' || c == L'\n'; }
 
 }  // namespace

@@ -17,6 +17,8 @@ std::wstring shortestText(double number);
 // number.
 std::optional<double> numberOf(std::wstring_view text);
 
+constexpr int32_t MOST_PLACES = 15;
+
 // `number` with that many decimal places, rounded; 15 at most. Below 0 places, and from 1e15 on, where places
 // no longer tell anything, the shortest text.
 std::wstring textWithPlaces(double number, int32_t places);
