@@ -54,9 +54,8 @@ bool isLisp(const fs::path& file) { return file.extension() == L".lsp"; }
 
 class WatchedFiles {
   public:
-    void add(const fs::path& file) {
-        if (const auto stamp = stampOf(file)) m_stamps.try_emplace(file, *stamp);
-    }
+    // Also one that isn't there yet.
+    void add(const fs::path& file) { m_stamps.try_emplace(file, stampOf(file).value_or(Stamp{})); }
 
     // The files that are others than when it was asked last.
     std::vector<fs::path> changed() {

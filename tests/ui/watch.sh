@@ -30,14 +30,16 @@ head='(load "part.lsp") (setq turns 0)
 (wex_start_list "TYPE") (wex_add_list (list "a" "b" "c")) (wex_end_list)
 (wex_set_tile "DESC" text)'
 save part.lsp <<<'(setq text "first text")'
+# A program that is yet to be written is waited for.
+(cd "$work" && exec 8>&- 9>&- && exec /usr/lib/wine/wine64 bin/wexhost.exe --watch --headless form.lsp) >"$work/printed" 2>"$work/errors" &
+watcher=$!
+until_printed 'it runs again when it is saved'
 save form.lsp <<LISP
 $head
 (ui_session "ADD_REC" '((ui_type "CAT" "abc") (ui_click "KEEP") (ui_pick "TYPE" 1)
                         (princ "one is ready\n") (ui_wait nil)))
 (wex_start_dialog)
 LISP
-(cd "$work" && exec 8>&- 9>&- && exec /usr/lib/wine/wine64 bin/wexhost.exe --watch --headless form.lsp) >"$work/printed" 2>"$work/errors" &
-watcher=$!
 until_printed 'one is ready'
 
 save form.lsp <<LISP
@@ -66,7 +68,7 @@ printf '(setq text ' >"$work/part.lsp"
 printf '"second text")' >>"$work/part.lsp"
 until_printed 'three is ready'
 grep -qF '"second text"' "$work/printed" || fail "the new value doesn't show"
-[ "$(grep -c 'runs anew$' <(tr -d '\r' <"$work/errors"))" = 2 ] || fail "the program was to run anew twice by now"
+[ "$(grep -c 'runs anew$' <(tr -d '\r' <"$work/errors"))" = 3 ] || fail "the program was to run anew three times by now"
 
 # comes_back DIALOG PROGRAM WORK SIGN: what the work leaves is there again after the next save, once the sign holds
 comes_back() {
