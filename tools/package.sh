@@ -27,7 +27,9 @@ while IFS= read -r module; do
     x86_64-w64-mingw32-objcopy --add-gnu-debuglink="$symbols/$(basename "$module").debug" "$folder/$module"
 done < <(cd "$folder" && find . -name '*.dll' -o -name '*.exe' -o -name '*.pgx')
 
-git ls-files examples docs/images | while IFS= read -r file; do install -D -m 644 "$file" "$folder/$file"; done
+# What dialogs are made of and with: an add-on can be built beside them.
+makers="resources/dialogs tools/dialogs cmake/dialogs.cmake cmake/mingw-w64.cmake"
+git ls-files examples docs/images $makers | while IFS= read -r file; do cp --parents "$file" "$folder"; done
 tools/make-pages.py "$folder" README.md docs/*.md
 # The language server reads it.
 cp docs/lisp-functions.md "$folder/docs"

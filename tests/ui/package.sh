@@ -44,11 +44,15 @@ for name in IDD_SCHEM_WIRE2PNL_FORMAT IDD_SU_SCHEM_WIRE2PNL_FORMAT; do
 done
 # Handles of tree items are addresses that cross Lisp as 32 bits.
 ! x86_64-w64-mingw32-objdump -p wexhost.exe | grep HIGH_ENTROPY_VA >/dev/null || fail "the host's memory may lie beyond 32 bits"
-for page in README.html docs/lisp-functions.html; do
+for page in README.html docs/*.html; do
     for link in $(grep -o 'href="[^":#]*\|src="[^":]*' "$page" | sed 's/.*"//'); do
         [ -e "$(dirname "$page")/$link" ] || fail "$page leads to $link, which isn't there"
     done
 done
+
+# An add-on is made as the documents tell.
+(cd examples/addon && ../../tools/dialogs/make-dialogs.py "$work/made" *.dlg) || fail "an add-on's dialogs can't be made"
+grep WIRE_GAUGE "$work/made/keylists.rc" >/dev/null || fail "the add-on's key list wasn't made"
 
 told=$(wine64 wexhost.exe --version | tr -d '\r')
 [ "$told" = "wexhost ${PWD##*-}" ] || fail "--version tells \"$told\""
