@@ -190,7 +190,7 @@ class TabItems : public ControlItems {
             const LONG x = middle(rect).point.x;
             const bool isLeft = x < 0 || IsRectEmpty(&rect);
             if (!isLeft && x < room) return;
-            pressArrow(arrows, !isLeft);
+            scroll(arrows, isLeft ? -1 : 1);
         }
     }
     Spot at(int index, int) const override { return middle(itemRect(index)); }
@@ -201,12 +201,11 @@ class TabItems : public ControlItems {
     }
 
   private:
-    static void pressArrow(HWND arrows, bool right) {
-        Spot spot = middleOf(arrows);
-        spot.point.x += right ? spot.point.x / 2 : -spot.point.x / 2;
-        const LPARAM point = MAKELPARAM(spot.point.x, spot.point.y);
-        SendMessageW(arrows, WM_LBUTTONDOWN, MK_LBUTTON, point);
-        SendMessageW(arrows, WM_LBUTTONUP, 0, point);
+    // What the arrows tell their tabs. A press on them would take the mouse from who holds it.
+    void scroll(HWND arrows, int step) const {
+        const auto first = static_cast<WORD>(LOWORD(SendMessageW(arrows, UDM_GETPOS, 0, 0)) + step);
+        SendMessageW(arrows, UDM_SETPOS, 0, MAKELPARAM(first, 0));
+        send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, first), arrows);
     }
     // Empty where it is scrolled off to the left; elsewhere such a tab may have an edge below 0.
     RECT itemRect(int index) const {

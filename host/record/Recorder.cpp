@@ -117,6 +117,8 @@ void Recorder::dialogIdle(HWND dialog) {
 void Recorder::windowGone(HWND window) {
     m_keys.windowGone(window);
     m_mouse.dropUnfinished(window);
-    if (isSystemDialog(window)) m_mouse.dialogGone();
+    // A dialog that was ended before its loop ran has taken no input.
+    const bool hasRun = m_journal.knows(window) || documents().nameOfWindow(window).empty();
+    if (isSystemDialog(window) && hasRun) m_mouse.dialogGone();
     m_journal.dialogGone(window);
 }

@@ -32,9 +32,10 @@ for ((n = first; n < first + count; n += each)); do
     check $n $((n + each > first + count ? first + count - n : each)) "${inputs[$(((n - first) / each % ${#inputs[@]}))]}"
 done
 if [ $# = 0 ]; then
-    # Presses beside the open list of a cell, a drag whose end a dialog has taken, the menu of an open cell, F4 in a
-    # cell without choices, and the right button after a lost release.
-    for n in 710372 720032 710392 710517 760102 870112; do check $n 1 REAL; done
+    # Presses beside the open list of a cell, a drag whose end a dialog has taken, the menu of an open cell, F4 in a cell
+    # without choices, the right button after a lost release, a tab that is scrolled to meanwhile, and a double press
+    # around a dialog that never ran.
+    for n in 710372 720032 710392 710517 760102 870112 1010315 1010580; do check $n 1 REAL; done
     # A menu where the focus is in an edit box, typing on both sides of a turn of the wheel, and Enter where Tab has led.
     for n in 770122 770229 820146; do check $n 1 POSTED; done
     # Long work: a press on the field of an open cell with choices.
