@@ -87,6 +87,8 @@ class LanguageServer::Session {
         if (method == "textDocument/didOpen") open(params);
         if (method == "textDocument/didChange") change(params);
         if (method == "textDocument/didClose") close(params);
+        // A program that loads the file, or calls what it defines, may now be right or wrong.
+        if (method == "textDocument/didSave") forgetChecks();
     }
 
     std::vector<std::string> replies;
@@ -99,7 +101,7 @@ class LanguageServer::Session {
         constexpr int INCREMENTAL = 2;
         return {{"capabilities",
                  {{"positionEncoding", "utf-16"},
-                  {"textDocumentSync", {{"openClose", true}, {"change", INCREMENTAL}}},
+                  {"textDocumentSync", {{"openClose", true}, {"change", INCREMENTAL}, {"save", true}}},
                   {"completionProvider", {{"triggerCharacters", {"(", "\""}}}},
                   {"hoverProvider", true}}},
                 {"serverInfo", {{"name", "wexhost"}}}};
@@ -258,17 +260,16 @@ const check::CheckedProgram& LanguageServer::checked(const std::string& uri, Doc
 }
 
 std::vector<std::string> LanguageServer::findings() {
-    // A document that is checked before another one doesn't know its functions yet.
+    // A document that is checked before another one doesn't know its functions yet, and is checked twice.
     const auto isNew = [](const auto& entry) { return !entry.second.checked; };
-    if (std::count_if(m_documents.begin(), m_documents.end(), isNew) > 1) {
+    const bool twice = std::count_if(m_documents.begin(), m_documents.end(), isNew) > 1;
+    if (twice)
         for (auto& [uri, document] : m_documents) checked(uri, document);
-        for (auto& [uri, document] : m_documents)
-            if (document.isToBeTold) document.checked.reset();
-    }
     std::vector<std::string> messages;
     for (auto& [uri, document] : m_documents) {
         if (!document.isToBeTold) continue;
         document.isToBeTold = false;
+        if (twice) document.checked.reset();
         Json found = Json::array();
         const std::u16string name = lisp::fromUtf8(uri);
         for (const check::Finding& finding : checked(uri, document).findings())

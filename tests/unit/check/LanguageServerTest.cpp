@@ -26,12 +26,10 @@ class LanguageServerTest : public testing::Test {
         for (const std::string& message : m_server.findings()) all += message;
         return all;
     }
-    void open(const std::string& text) {
+    void open(const std::string& text, const std::string& name = "a") {
         take(R"({"jsonrpc":"2.0","id":0,"method":"initialize","params":{}})");
-        take(
-            R"({"jsonrpc":"2.0","method":"textDocument/didOpen","params":{"textDocument":{"uri":"file:///a.lsp",)"
-            R"("languageId":"lisp","version":1,"text":")" +
-            text + R"("}}})");
+        take(R"({"jsonrpc":"2.0","method":"textDocument/didOpen","params":{"textDocument":{"uri":"file:///)" +
+             name + R"(.lsp","languageId":"lisp","version":1,"text":")" + text + R"("}}})");
     }
     std::string ask(const std::string& method, int line, int character) {
         return take(R"({"jsonrpc":"2.0","id":5,"method":"textDocument/)" + method +
@@ -71,6 +69,18 @@ TEST_F(LanguageServerTest, ChangesAreCountedInUtf16) {
     EXPECT_TRUE(
         has(take(R"({"method":"textDocument/didClose","params":{"textDocument":{"uri":"file:///a.lsp"}}})"),
             R"("diagnostics":[])"));
+}
+
+TEST_F(LanguageServerTest, ASaveHasOtherDocumentsCheckedAnew) {
+    open("(helper)");
+    open("", "b");
+    EXPECT_TRUE(has(findings(), "there is no function helper"));
+    take(
+        R"-({"method":"textDocument/didChange","params":{"textDocument":{"uri":"file:///b.lsp","version":2},)-"
+        R"-("contentChanges":[{"text":"(defun helper ())"}]}})-");
+    EXPECT_FALSE(has(findings(), "a.lsp"));
+    take(R"({"method":"textDocument/didSave","params":{"textDocument":{"uri":"file:///b.lsp"}}})");
+    EXPECT_TRUE(has(findings(), R"("diagnostics":[],"uri":"file:///a.lsp")"));
 }
 
 TEST_F(LanguageServerTest, CompletesWhatFitsThePlace) {
