@@ -67,8 +67,8 @@ inline constexpr const wchar_t* LISP_SIGNATURES[] = {
     L"wex_tree_insertparent tile:tree text:text [image:int [selected:int [alternate:int]]]",
     L"wex_tree_insertchild tile:tree parent:int text:text [image:int [selected:int [alternate:int]]]",
     L"wex_tree_insertparentafter tile:tree previous:int text:text [image:int [selected:int [alternate:int]]]",
-    L"wex_tree_insertchildafter tile:tree parent:int previous:int text:text [image:int [selected:int "
-    L"[alternate:int]]]",
+    (L"wex_tree_insertchildafter tile:tree parent:int previous:int text:text [image:int [selected:int "
+     L"[alternate:int]]]"),
     L"wex_tree_setitemdata tile:tree item:int data:int",
     L"wex_tree_getitemdata tile:tree item:int",
     L"wex_tree_setitemtext tile:tree item:int text:text",
