@@ -43,8 +43,9 @@ uint32_t luma(uint32_t red, uint32_t green, uint32_t blue) {
     return (red * 299 + green * 587 + blue * 114) / 1000;
 }
 
+// Half as light is what themes show under the pointer and pressed; icons are seen there as they are.
 bool isDark(COLORREF color) {
-    return color != CLR_INVALID && luma(GetRValue(color), GetGValue(color), GetBValue(color)) < 128;
+    return color != CLR_INVALID && luma(GetRValue(color), GetGValue(color), GetBValue(color)) < 85;
 }
 
 HICON changedCopy(const IconBitmaps& bitmaps, ButtonSize size, bool disabled, bool onDark) {
