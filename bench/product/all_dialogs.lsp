@@ -22,6 +22,8 @@
                      (cons (open-named (car dialog)) (cadr so-far))
                      (cons (open-bare (cadr dialog)) (caddr so-far))))
             known times)))
+; The sum of all dialogs' least times, of their second ones and so on. A round takes longer than the machine keeps its
+; speed; a dialog's own times are taken in turns of some milliseconds.
 (defun sums (which)
   (mapcar '(lambda (i) (apply '+ (mapcar '(lambda (of-dialog) (nth i (apply which (list of-dialog)))) times))) (range rounds)))
 
@@ -29,6 +31,7 @@
 (one-round)
 (setq times (mapcar '(lambda (dialog) nil) known))
 (repeat rounds (one-round))
+(setq times (mapcar '(lambda (of-dialog) (list (car of-dialog) (sort (cadr of-dialog) '<) (sort (caddr of-dialog) '<))) times))
 (versus (strcat "open_close_all_" (itoa (length known))) (sums 'cadr) (sums 'caddr))
 
 (defun excess (of-dialog) (- (median (cadr of-dialog)) (median (caddr of-dialog))))
