@@ -67,9 +67,8 @@ class CGsPreviewCtrl : public CStatic {
     // 0: the mouse does nothing; 1: the gadget is shown; 2: a pan holds the mouse only until it first moves.
     void setMouseMode(int mode) { m_mouseMode = mode; }
 
-    // The menu of views and styles, where WM_CONTEXTMENU with that `l` asks for it: at the pointer, or at the
-    // upper left corner; nothing where nothing is shown.
-    void showMenu(LPARAM l);
+    // The menu of views and styles, below the upper left corner; nothing where nothing is shown.
+    void showMenu();
 
     bool PreTranslateMessage(MSG& message) override;
 

@@ -34,12 +34,13 @@ bool isSame(const HostVector3d& a, const HostVector3d& b) { return a.x == b.x &&
 
 }  // namespace
 
+// By the keyboard alone: the right button belongs to the view.
 LRESULT CGsPreviewCtrl::onContextMenu(WPARAM, LPARAM l) {
-    showMenu(l);
+    if (isFromKeyboard(l)) showMenu();
     return 0;
 }
 
-void CGsPreviewCtrl::showMenu(LPARAM l) {
+void CGsPreviewCtrl::showMenu() {
     if (!m_view || m_blockName.empty()) return;
     if (m_chosenFor != m_blockName) {
         m_chosenFor = m_blockName;
@@ -55,7 +56,7 @@ void CGsPreviewCtrl::showMenu(LPARAM l) {
     BCMenu& styles = menu.addMenu(MenuTextId::style);
     for (UINT at = 0; at < std::size(STYLES); ++at)
         TileMenu::addChoice(styles, FIRST_STYLE + at, STYLES[at].text, m_style == STYLES[at].type);
-    const UINT command = menu.choose(*this, l, RECT{});
+    const UINT command = menu.choose(*this, -1, RECT{});
     if (command >= FIRST_STYLE)
         setShownStyle(STYLES[command - FIRST_STYLE].type);
     else if (command >= FIRST_VIEW)

@@ -218,9 +218,9 @@ void WexReportTab::pressed(int id) {
     }
 }
 
-// That of the page that shows. The drawing gets the right button itself.
+// That of the page that shows; the sheet's by the right button, too.
 LRESULT WexReportTab::onContextMenu(WPARAM, LPARAM l) {
-    if (isFromKeyboard(l) && IsWindowVisible(m_drawing.m_hWnd)) m_drawing.showMenu(l);
+    if (isFromKeyboard(l) && IsWindowVisible(m_drawing.m_hWnd)) m_drawing.showMenu();
     const RECT sheet = m_preview.GetWindowRect();
     const POINT at = {static_cast<short>(LOWORD(l)), static_cast<short>(HIWORD(l))};
     if (!showsPreview() || (!isFromKeyboard(l) && !PtInRect(&sheet, at))) return 0;

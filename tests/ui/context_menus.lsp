@@ -115,7 +115,7 @@
         (want '("Top") (chosen))
         (ui_shot "menu-drawing.png")
         (ui_menu "Isometric")
-        (ui_rclick '(100 103))
+        (ui_key "SHIFT+F10" 100)
         (ui_menu "View")
         (want '("Isometric") (chosen))
         (ui_key "ESC") (ui_key "ESC")
