@@ -34,7 +34,7 @@ bool isSame(const HostVector3d& a, const HostVector3d& b) { return a.x == b.x &&
 
 }  // namespace
 
-// By the keyboard alone: the right button belongs to the view.
+// By the keyboard alone: the right button belongs to the view, whose double click a menu would take.
 LRESULT CGsPreviewCtrl::onContextMenu(WPARAM, LPARAM l) {
     if (isFromKeyboard(l)) showMenu();
     return 0;

@@ -108,6 +108,8 @@
         (ui_key "ESC")
         (want nil (ui_menu))
         (ui_pick 100 1)
+        (ui_rclick '(100 103))
+        (want nil (ui_menu))
         (ui_key "SHIFT+F10" 100)
         (want '("Fit" nil "View" "Style") (texts))
         (ui_menu "View")

@@ -1,6 +1,4 @@
 // A modal run: who owns it, when it shows, what ends it and with what.
-#include <vector>
-
 #include "src/platform/mfc/CWinApp.h"
 #include "src/platform/mfc/Controls.h"
 #include "tests/ui/mfc/Support.h"
@@ -101,27 +99,14 @@ TEST_F(ModalTest, MissingTemplateOrDestroyedWindowGivesMinusOne) {
     EXPECT_EQ(TestDialog(&owner).DoModal(), -1) << "the program's own resources are not searched";
 }
 
-// What a dialog hears.
-class Hearing : public TestDialog {
-  public:
-    using TestDialog::TestDialog;
-    std::vector<UINT> heard;
-
-  protected:
-    LRESULT WindowProc(UINT message, WPARAM w, LPARAM l) override {
-        heard.push_back(message);
-        return TestDialog::WindowProc(message, w, l);
-    }
-};
-
 TEST_F(ModalTest, DialogWithoutAFontHearsItsControlsWhileTheyAreMade) {
-    Hearing dialog(&owner, 2);
+    Noting<TestDialog> dialog(&owner, 2);
     int begins = 0;
     dialog.init = [&] { ++begins; };
     owner.steps = {[&] { dialog.click(IDOK); }};
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(begins, 1);
-    EXPECT_EQ(dialog.heard.front(), UINT{WM_MEASUREITEM});
+    EXPECT_EQ(dialog.seen.front(), UINT{WM_MEASUREITEM});
 }
 
 TEST_F(ModalTest, IdlenessIsToldOnceInAPeriod) {

@@ -5,6 +5,7 @@
 
 #include <deque>
 #include <functional>
+#include <vector>
 
 #include "src/platform/mfc/CDialog.h"
 #include "src/platform/mfc/ModuleState.h"
@@ -86,6 +87,20 @@ class TestDialog : public CDialog {
     void onPaint() {
         run(paint);
         Default();
+    }
+};
+
+// Notes the messages that its window gets.
+template <class Base>
+class Noting : public Base {
+  public:
+    using Base::Base;
+    std::vector<UINT> seen;
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM w, LPARAM l) override {
+        seen.push_back(message);
+        return Base::WindowProc(message, w, l);
     }
 };
 

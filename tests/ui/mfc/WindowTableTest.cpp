@@ -116,23 +116,11 @@ TEST_F(WindowTableTest, UnsubclassedWindowWorksOnWithItsOwnProcedure) {
     EXPECT_EQ(again.GetWindowText(), L"through");
 }
 
-// Notes the messages of its creation, the first two of them.
-class Noting : public CWnd {
-  public:
-    std::vector<UINT> seen;
-
-  protected:
-    LRESULT WindowProc(UINT message, WPARAM w, LPARAM l) override {
-        seen.push_back(message);
-        return CWnd::WindowProc(message, w, l);
-    }
-};
-
 TEST_F(WindowTableTest, CreatedWindowBelongsToItsObjectFromTheFirstMessageToTheLast) {
     const WindowClass frame(L"MfcTestFrame", nullptr);
     HWND window = nullptr;
     {
-        Noting noting;
+        Noting<CWnd> noting;
         ASSERT_TRUE(noting.CreateEx(0, L"MfcTestFrame", L"", WS_CHILD, RECT{1, 2, 31, 42}, owner.m_hWnd, 7));
         window = noting.m_hWnd;
         EXPECT_EQ(std::count(noting.seen.begin(), noting.seen.end(), UINT{WM_NCCREATE}), 1);
@@ -143,7 +131,7 @@ TEST_F(WindowTableTest, CreatedWindowBelongsToItsObjectFromTheFirstMessageToTheL
     }
     EXPECT_FALSE(IsWindow(window));
 
-    Noting failing;
+    Noting<CWnd> failing;
     EXPECT_FALSE(failing.CreateEx(0, L"NoSuchClass", L"", WS_CHILD, RECT{}, owner.m_hWnd, 7));
     CWnd next;
     ASSERT_TRUE(next.CreateEx(0, L"Static", L"", WS_CHILD, RECT{}, owner.m_hWnd, 8));
